@@ -1,0 +1,24 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Every library the program stands on, found once. The packages that bring them are in packaging/packages.txt.
+set(CMAKE_AUTOMOC OFF) # only the targets that hold widgets ask for it
+find_package(Threads REQUIRED)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Network PrintSupport Svg Test)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(AGG REQUIRED IMPORTED_TARGET libagg)
+pkg_check_modules(JPEG REQUIRED IMPORTED_TARGET libjpeg)
+pkg_check_modules(TURBO REQUIRED IMPORTED_TARGET libturbojpeg)
+pkg_check_modules(TIFF REQUIRED IMPORTED_TARGET libtiff-4)
+pkg_check_modules(PNG REQUIRED IMPORTED_TARGET libpng)
+pkg_check_modules(DEFLATE REQUIRED IMPORTED_TARGET libdeflate)
+pkg_check_modules(EXIV2 REQUIRED IMPORTED_TARGET exiv2)
+pkg_check_modules(MAGICK REQUIRED IMPORTED_TARGET Magick++)
+pkg_check_modules(CLIPPER REQUIRED IMPORTED_TARGET polyclipping)
+pkg_check_modules(SOUND REQUIRED IMPORTED_TARGET libcanberra)
+
+# The packages of the two OpenCV modules bring no CMake file of their own.
+find_path(CV_INCLUDE opencv2/imgproc.hpp PATH_SUFFIXES opencv4 REQUIRED)
+find_library(CV_CORE opencv_core REQUIRED)
+find_library(CV_IMGPROC opencv_imgproc REQUIRED)
+add_library(zp_opencv INTERFACE)
+target_include_directories(zp_opencv SYSTEM INTERFACE ${CV_INCLUDE})
+target_link_libraries(zp_opencv INTERFACE ${CV_IMGPROC} ${CV_CORE})
