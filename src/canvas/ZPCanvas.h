@@ -13,6 +13,7 @@
 #include <QWidget>
 #include <atomic>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <thread>
@@ -25,7 +26,7 @@ class QSlider;
 class QSpinBox;
 class QProgressBar;
 class ColorWell;
-class ScrollView;
+class QPainter;
 namespace zp
 {
 class PointerFeed;
@@ -94,6 +95,8 @@ public:
     void setZoom(float factor, std::optional<zp::Point> anchor = std::nullopt);
     zp::Rect visibleRect() const;                        ///< the part of the image on screen
     void selectionOutlineNeedsDisplay();                 ///< dirties what the marching ants cover
+    /// The visible picture with its overlays into @p painter's device, whose canvas origin is at device pixel @p origin.
+    void drawRect(QPainter& painter, const QRect& deviceRect, QPoint origin, double deviceScale);
 
     // ---- canvas: files (ZPCanvas+Files.cpp) and resize (ZPCanvas+Resize.cpp) ------------------------------------
     void newImageWithSize(zp::Size size);
@@ -295,6 +298,10 @@ public:
     std::unique_ptr<QTimer> mFirstSnapshotTimer;
     std::atomic<bool> mSmartFillRunning{false};
     zp::Point mLastPointer;                              ///< image coordinates of the last mouse event
+    bool mPointerInside = false;                         ///< the pointer is over the canvas
+    /// Held while pixels are written off the main thread (a stamp, a segment), and by the main thread while it draws
+    /// from them during a stroke. Never held across a wait.
+    std::mutex mPixelLock;
     _ZPFilters mAdjustFilters;                           ///< the last settings sent by the adjust dialog
     std::uint64_t mSelectionPathVersion = 0;             ///< counts up when the outline is known to have changed
     /// Rooms keep what they must remember beside the fields here, one slot a room, made on first use.
@@ -305,6 +312,8 @@ signals:
     void zoomChanged();
     void pointerMoved(QPointF imagePoint); ///< image coordinates; also outside the image
     void paintColorChanged();
+    void brushSizeChanged(float size);
+    void toolOptionsChanged(int toolIndex); ///< the options of this tool are on show
     void busyChanged(bool busy);          ///< a snapshot is being written
 
 protected:
@@ -316,5 +325,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void resetSelectionState();
+    void startFollowingPointer(); ///< the brush outline and the polygon's open edge follow the pointer
+    void autoscroll(zp::Point point); ///< scrolls the point into view
 };
