@@ -31,7 +31,7 @@ namespace zp
 {
 class PointerFeed;
 class BrushTip;
-class SnapshotStore;
+struct ScreenTarget;
 class SnapshotEncoder;
 } // namespace zp
 
@@ -327,4 +327,9 @@ protected:
 private:
     void startFollowingPointer(); ///< the brush outline and the polygon's open edge follow the pointer
     void autoscroll(zp::Point point); ///< scrolls the point into view
+    void updateGestureOutlines();     ///< the marquee and the polygon's open edge, from where the pointer is
+    zp::PixelBox overlayBox() const;  ///< image pixels that the stroke being drawn and the floating image may cover
+    bool composeOverlays(zp::PixelBox box); ///< the picture's part with those drawn over it, into the scratch bitmap
+    void drawOverlays(const zp::ScreenTarget& target, double deviceScale);
+    void drawOutlines(const zp::ScreenTarget& target, double deviceScale);
 };
