@@ -42,7 +42,8 @@ public:
     bool isEmpty() const { return mKinds.empty(); }
     PathElement elementAt(int index) const { return mKinds[std::size_t(index)]; }
     /// The element's own points: 1 for a move or line, 3 for a curve (control, control, end), for a close the start of
-    /// its subpath. @return the kind. O(1) amortised when walked in order, else O(1) for paths without curves.
+    /// its subpath. @return the kind. O(1) amortised; the first call after a change builds an index of 4 bytes an
+    /// element.
     PathElement elementAt(int index, std::array<Point, 3>& points) const;
     /// Rewrites the points of an element (1 or 3 of them; a close has none to rewrite).
     void setAssociatedPoints(std::span<const Point> points, int index);
@@ -95,9 +96,15 @@ private:
     LineCap mCap = LineCap::Butt;
     float mFlatness = 0.6f, mLineWidth = 1, mMiterLimit = 10, mDashPhase = 0;
     std::vector<float> mDash;
-    bool mHasCurves = false;
+    std::size_t mSubpathStart = 0; ///< index of the last subpath's first point
     mutable bool mBoundsKnown = false;
     mutable Rect mBounds;
+    /// Where each element's points start, as far as anyone asked; for a close, where its subpath starts.
+    mutable std::vector<std::uint32_t> mOffsets;
+    mutable std::uint32_t mOffsetSubpath = 0;
+
+    void reopen();
+    std::size_t pointIndex(std::size_t element) const;
 };
 
 } // namespace zp
