@@ -45,7 +45,7 @@ bool isFolder(const std::string& path);
 bool createFolder(const std::string& path, unsigned mode = 0777);
 /// A file, a link (never its target), or a folder with its contents; links inside are removed, not followed.
 bool removeItem(const std::string& path);
-/// By renaming, or by copying where that is impossible. @return success
+/// By renaming, or by copying where that is impossible; never over an item that is there. @return success
 bool moveItem(const std::string& from, const std::string& to);
 bool copyItem(const std::string& from, const std::string& to);
 /// Names of the entries, "." and ".." left out, sorted without regard to case, dot files first. Empty when unreadable.
@@ -62,7 +62,8 @@ std::optional<FileAttributes> fileAttributes(const std::string& path);
 /// The whole file, or nothing when it cannot be read or is larger than @p limit.
 std::optional<std::string> readWholeFile(const std::string& path, std::uint64_t limit = std::uint64_t{4} << 30);
 /// Writes beside the target and takes its place when complete (through a symbolic link, the link's target): a failure
-/// leaves what was there. An existing file's permissions are kept. @param error why it failed, in plain words, if given
+/// leaves what was there. An existing file's permissions are kept; a write-protected one is left alone; a device is
+/// written to. The bytes are on the disk when it returns. @param error why it failed, in plain words, if given
 bool writeFileSafely(const std::string& path, const void* bytes, std::size_t count, std::string* error = nullptr);
 
 /// The file a link points to, chains resolved; nothing when the path is no link or the chain is broken or endless.
