@@ -106,8 +106,10 @@ public:
     void saveImage();
     void saveImageAsTIFF();
     void saveImageAsJPEG();
+    void saveImageAsPNG();
     void saveImageAsTIFF(const std::string& path);
     void saveImageAsJPEG(const std::string& path);
+    void saveImageAsPNG(const std::string& path);
     void saveImageToPath(const std::string& path);
     void quickSave(const std::string& path);
     void openWithPreview();

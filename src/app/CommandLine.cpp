@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The command line and the colour scheme.
+#include "app/CommandLine.h"
+#include <QApplication>
+#include <QPalette>
+#include <QSettings>
+#include <filesystem>
+
+namespace zp
+{
+
+namespace
+{
+
+const char* const kHelp = R"(Usage: zelpane [OPTION…] [FILE]
+       zelpane --script FILE [--show | --offscreen] [--no-start-choice] [IMAGE]
+       zelpane --batch SRC DST [OPTION…]     (zelpane --batch --help says more)
+
+A bitmap image editor.
+
+  --script FILE       play automation commands from FILE, "-" for standard input
+  --show              with --script: the windows are on screen
+  --offscreen         needs no display
+  --no-start-choice   do not ask for a new or an existing image at the start
+  --help              this text
+  --version           the version
+)";
+
+} // namespace
+
+CommandLine parseCommandLine(int argc, char** argv)
+{
+    CommandLine line;
+    bool optionsEnded = false;
+    for (int i = 1; i < argc; ++i) {
+        const std::string word = argv[i];
+        if (optionsEnded || word == "-" || word.empty() || word[0] != '-') {
+            if (word.empty()) continue;
+            std::error_code failed;
+            const std::filesystem::path path = std::filesystem::absolute(word, failed);
+            line.files.push_back(failed ? word : path.string());
+        } else if (word == "--") {
+            optionsEnded = true;
+        } else if (word == "--help" || word == "-h") {
+            line.answer = kHelp;
+        } else if (word == "--version") {
+            line.answer = "Zelpane " ZP_VERSION "\n";
+        } else if (word == "--script") {
+            if (++i >= argc) {
+                line.error = "--script needs a file.";
+                return line;
+            }
+            line.script = argv[i];
+        } else if (word == "--offscreen") {
+            line.offscreen = true;
+        } else if (word == "--show") {
+            line.show = true;
+        } else if (word == "--no-start-choice") {
+            line.startChoice = false;
+        } else {
+            line.error = "unknown option " + word;
+            return line;
+        }
+    }
+    return line;
+}
+
+void applyColorScheme()
+{
+    QString scheme = qEnvironmentVariable("ZELPANE_SCHEME");
+    if (scheme.isEmpty()) scheme = QSettings().value("colorScheme", "auto").toString();
+    // A desktop that brings a dark palette of its own is left alone.
+    const bool desktopIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    const bool dark = scheme == "dark" || (scheme != "light" && desktopIsDark);
+    QPalette p;
+    const auto set = [&p](QPalette::ColorRole role, const char* colour, const char* disabled = nullptr) {
+        p.setColor(role, QColor(colour));
+        if (disabled) p.setColor(QPalette::Disabled, role, QColor(disabled));
+    };
+    set(QPalette::Window, dark ? "#2b2b2e" : "#f4f4f5");
+    set(QPalette::WindowText, dark ? "#e8e8ea" : "#1f1f23", dark ? "#77777d" : "#a3a3a9");
+    set(QPalette::Base, dark ? "#1f1f22" : "#ffffff");
+    set(QPalette::AlternateBase, dark ? "#262629" : "#f7f7f8");
+    set(QPalette::Text, dark ? "#e8e8ea" : "#1f1f23", dark ? "#77777d" : "#a3a3a9");
+    set(QPalette::PlaceholderText, dark ? "#77777d" : "#97979e");
+    set(QPalette::Button, dark ? "#3a3a3e" : "#fbfbfc");
+    set(QPalette::ButtonText, dark ? "#e8e8ea" : "#1f1f23", dark ? "#77777d" : "#a3a3a9");
+    set(QPalette::BrightText, "#ffffff");
+    set(QPalette::ToolTipBase, dark ? "#3a3a3e" : "#ffffff");
+    set(QPalette::ToolTipText, dark ? "#e8e8ea" : "#1f1f23");
+    set(QPalette::Light, dark ? "#4a4a4f" : "#ffffff");
+    set(QPalette::Midlight, dark ? "#424246" : "#ebebee");
+    set(QPalette::Mid, dark ? "#1a1a1c" : "#c9c9ce");
+    set(QPalette::Dark, dark ? "#161618" : "#a9a9b0");
+    set(QPalette::Shadow, dark ? "#0c0c0d" : "#77777d");
+    set(QPalette::Highlight, dark ? "#4f8ef7" : "#2f6fe4", dark ? "#4a4a4f" : "#d4d4d9");
+    set(QPalette::HighlightedText, "#ffffff", dark ? "#77777d" : "#7d7d84");
+    set(QPalette::Link, dark ? "#7fb0ff" : "#2160d0");
+    set(QPalette::LinkVisited, dark ? "#b79bff" : "#6c4bb8");
+    QApplication::setPalette(p);
+}
+
+} // namespace zp

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The menu bar: every command by its action's name, with the shortcut Linux users expect.
+#pragma once
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <functional>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+/// Builds the menus and keeps their items validated. Items carry their action's name as the dynamic property "action".
+class MainMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Answers whether the command can be chosen now, and may give the item another title.
+    using Validator = std::function<bool(const QString& action, QString* title)>;
+    using Performer = std::function<void(QAction* item)>;
+    MainMenu(QMenuBar* bar, Validator validate, Performer perform);
+
+    QAction* item(const QString& action) const { return mItems.value(action); }
+    const QList<QAction*>& items() const { return mOrder; }
+    QMenu* menu(const QString& title) const { return mMenus.value(title); }
+    QString menuTitleOf(QAction* item) const;
+    /// Enabled states and titles as they are now.
+    void validate();
+    /// Chooses the item if it is enabled. @return an error in a word or two, empty when chosen
+    QString choose(const QString& action);
+    QMenu* recentMenu() const { return mRecent; }
+
+private:
+    void choose(QAction* item);
+    Validator mValidate;
+    Performer mPerform;
+    QHash<QString, QAction*> mItems;
+    QHash<QString, QMenu*> mMenus;
+    QList<QAction*> mOrder;
+    QMenu* mRecent = nullptr;
+};
+
+/// Removes what a desktop appended behind "Adjust…": looks at the last item twice and removes it when it is another.
+void cleanUpEditMenu(QMenu* menu);

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Controllers of the new-image, resize and save-name dialogs.
+#include "app/SizeDialogs.h"
+#include "app/SizeArithmetic.h"
+#include "canvas/FileNames.h"
+#include "canvas/ZPCanvas.h"
+#include "platform/Folders.h"
+#include "platform/ImageImporter.h"
+#include "platform/Panels.h"
+#include "platform/Pasteboard.h"
+#include "ui_Name.h"
+#include "ui_New.h"
+#include "ui_Resize.h"
+#include <QDialog>
+#include <QDoubleValidator>
+#include <QFile>
+#include <QSignalBlocker>
+
+using namespace zp;
+
+namespace
+{
+
+/// A float as its field shows it: no more digits than single precision has.
+QString percentText(float value) { return QString::number(double(value), 'g', 7); }
+
+class NewDialog : public QDialog
+{
+public:
+    explicit NewDialog(QWidget* parent) : QDialog(parent)
+    {
+        ui.setupUi(this);
+        for (QSpinBox* field : {ui.mNew_Width, ui.mNew_Height})
+            connect(field, &QSpinBox::valueChanged, this, [this] { updateFileSize(); });
+        connect(ui.mNew_NewButton, &QPushButton::clicked, this, &QDialog::accept);
+        connect(ui.mNew_CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    }
+    void updateFileSize()
+    {
+        ui.mNew_FileSize->setText(QString::fromStdString(fileSizeEstimate(ui.mNew_Width->value(), ui.mNew_Height->value())));
+    }
+    Ui::New ui;
+};
+
+class ResizeDialog : public QDialog
+{
+public:
+    ResizeDialog(QWidget* parent, Size original) : QDialog(parent), mOriginal(original)
+    {
+        ui.setupUi(this);
+        for (QLineEdit* field : {ui.mResize_Width_P, ui.mResize_Height_P}) {
+            auto* number = new QDoubleValidator(field);
+            number->setLocale(QLocale::c());
+            field->setValidator(number);
+            connect(field, &QLineEdit::textEdited, this, [this, field] { resizeSet(field->property("tag").toInt()); });
+        }
+        for (QSpinBox* field : {ui.mResize_Width, ui.mResize_Height})
+            connect(field, &QSpinBox::valueChanged, this, [this, field] { resizeSet(field->property("tag").toInt()); });
+        connect(ui.mResize_OKButton, &QPushButton::clicked, this, &QDialog::accept);
+        connect(ui.mResize_CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+        show(ResizeFields{int(original.width), int(original.height), 100, 100}, 0);
+    }
+
+    Ui::Resize ui;
+
+private:
+    void resizeSet(int tag)
+    {
+        const ResizeFields now{ui.mResize_Width->value(), ui.mResize_Height->value(), ui.mResize_Width_P->text().toFloat(),
+                               ui.mResize_Height_P->text().toFloat()};
+        show(linkedResizeFields(now, tag, mOriginal.width, mOriginal.height, ui.mResize_KeepAspectRatio->isChecked()), tag);
+    }
+    void show(const ResizeFields& f, int changed)
+    {
+        const QSignalBlocker quietWidth(ui.mResize_Width), quietHeight(ui.mResize_Height);
+        // The field under the user's hands keeps its text as typed.
+        if (changed != int(ResizeTag::Width)) ui.mResize_Width->setValue(f.width);
+        if (changed != int(ResizeTag::Height)) ui.mResize_Height->setValue(f.height);
+        if (changed != int(ResizeTag::WidthPercent)) ui.mResize_Width_P->setText(percentText(f.widthPercent));
+        if (changed != int(ResizeTag::HeightPercent)) ui.mResize_Height_P->setText(percentText(f.heightPercent));
+        ui.mResize_FileSize->setText(QString::fromStdString(fileSizeEstimate(ui.mResize_Width->value(), ui.mResize_Height->value())));
+    }
+    Size mOriginal;
+};
+
+class NameDialog : public QDialog
+{
+public:
+    explicit NameDialog(QWidget* parent) : QDialog(parent)
+    {
+        ui.setupUi(this);
+        connect(ui.mName_SaveButton, &QPushButton::clicked, this, &NameDialog::save);
+        connect(ui.mName_CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    }
+    std::string typedPath() const { return pathByAppending(libraryFolder(), QFile::encodeName(ui.mName_Name_Field->text()).toStdString()); }
+    Ui::Name ui;
+
+private:
+    void save()
+    {
+        if (ui.mName_Name_Field->text().isEmpty()) {
+            runAlert(tr("Please enter a proper file name."), tr("File extension must be .tiff."), {tr("OK")});
+            return;
+        }
+        // The name is tested as typed, not with the extension that it will get.
+        if (fileExists(typedPath()) &&
+            runAlert(tr("File already exists"), tr("Do you want to overwrite the existing file?"), {tr("Yes"), tr("No")}) != 0)
+            return;
+        accept();
+    }
+};
+
+} // namespace
+
+void runNewDialog(ZPCanvas& canvas, QWidget* parent, const std::function<void()>& beforeActing)
+{
+    NewDialog dialog(parent);
+    static QSize last(640, 480); // the dialog opens with what was asked for last
+    dialog.ui.mNew_Width->setValue(last.width());
+    dialog.ui.mNew_Height->setValue(last.height());
+    if (Pasteboard::general().hasImageData()) {
+        const std::vector<std::uint8_t> data = Pasteboard::general().imageData();
+        if (const ImportedImage pasted = importImage(data); pasted.bitmap) {
+            dialog.ui.mNew_Width->setValue(pasted.bitmap->pixelsWide());
+            dialog.ui.mNew_Height->setValue(pasted.bitmap->pixelsHigh());
+        }
+    }
+    dialog.updateFileSize();
+    dialog.ui.mNew_Width->selectAll();
+    centerWindow(&dialog, parent);
+    if (dialog.exec() != QDialog::Accepted) return;
+    const Size size{float(dialog.ui.mNew_Width->value()), float(dialog.ui.mNew_Height->value())};
+    last = QSize(dialog.ui.mNew_Width->value(), dialog.ui.mNew_Height->value());
+    beforeActing();
+    canvas.newImageWithSize(size);
+    canvas.setImagePath("");
+}
+
+void runResizeDialog(ZPCanvas& canvas, QWidget* parent)
+{
+    ResizeDialog dialog(parent, canvas.imageSize());
+    dialog.ui.mResize_Width->selectAll();
+    centerWindow(&dialog, parent);
+    if (dialog.exec() != QDialog::Accepted) return;
+    canvas.setImageSize({float(dialog.ui.mResize_Width->value()), float(dialog.ui.mResize_Height->value())},
+                        dialog.ui.mResize_ScaleImage->isChecked());
+}
+
+void runNameDialog(ZPCanvas& canvas, QWidget* parent, const std::function<void()>& afterSaving)
+{
+    NameDialog dialog(parent);
+    dialog.ui.mName_Name_Field->setText(QFile::decodeName(QByteArray::fromStdString(proposedQuickSaveName(libraryFolder()))));
+    dialog.ui.mName_Name_Field->selectAll();
+    centerWindow(&dialog, parent);
+    if (dialog.exec() != QDialog::Accepted) return;
+    canvas.quickSave(pathWithExtension(dialog.typedPath(), "tiff"));
+    afterSaving();
+}

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The application's delegate: start-up, quitting, the menu commands and the dialogs they open.
+#pragma once
+#include <QObject>
+#include <QStringList>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+class MainMenu;
+class MainWindow;
+class QAction;
+class ZPCanvas;
+
+/// Lives for the whole run, on the main thread.
+class ZPAppController : public QObject
+{
+    Q_OBJECT
+
+public:
+    ZPAppController();
+    ~ZPAppController() override;
+
+    void applicationWillFinishLaunching();
+    /// Also called at launch, before applicationDidFinishLaunching. @return true
+    bool application(const std::string& openFile);
+    /// The launch sequence. @param startChoice false leaves the start alert out, as a held Shift key does
+    void applicationDidFinishLaunching(bool startChoice);
+    /// Asks whether to quit. @return the answer
+    bool applicationShouldTerminate();
+    void applicationWillTerminate();
+
+    bool validateMenuItem(const QString& action, QString* title);
+    /// Carries a menu command out; the item is its sender.
+    void perform(QAction* item);
+
+    MainWindow& window() const { return *mWindow; }
+    MainMenu& menu() const { return *mMenu; }
+    ZPCanvas& canvas() const { return *mCanvas; }
+
+    /// Asks, and ends the event loop when the answer is yes.
+    void terminate();
+    void openDocument();
+    void newDocument();
+    void quickSave();
+    void about();
+    void prefs();
+    void help();
+    void imageEditor();
+    void fileManager();
+    void showWindows();
+    void imageProcessor();
+    void runPageLayout();
+
+    std::int32_t mWidthC = 0, mHeightC = 0;
+    bool mLaunchFromDocument = false;
+
+private:
+    void buildCommands();
+    void bringWindowToFront();
+    void openPath(const std::string& path);
+    void noteRecentFile(const std::string& path);
+    void fillRecentMenu();
+    void offerRecovery();
+    void migratePreferences();
+    void placeSampleImage();
+
+    std::unique_ptr<MainWindow> mWindow;
+    MainMenu* mMenu = nullptr;
+    ZPCanvas* mCanvas = nullptr;
+    std::map<QString, std::function<void(QAction*)>> mCommands;
+    bool mTerminated = false;
+};
