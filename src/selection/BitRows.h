@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// A picture of one bit a pixel, 64 pixels to a word: the form in which outlines are found and combined.
+#pragma once
+#include "platform/BitmapView.h"
+#include "platform/PixelMemory.h"
+#include <cstddef>
+#include <cstdint>
+
+namespace zp
+{
+
+/// Bit x % 64 of word x / 64 is pixel x; the bits from width on are always 0, and there is at least one of them.
+class BitRows
+{
+public:
+    BitRows() = default;
+    /// All pixels 0. @throw std::bad_alloc
+    BitRows(int width, int height);
+    /// 1 for every pixel of the mask that is selected at all (its byte is below 255). Time: one pass over the mask.
+    static BitRows ofSelected(ConstMaskView mask);
+
+    int width() const { return mWidth; }
+    int height() const { return mHeight; }
+    std::size_t wordsPerRow() const { return mWordsPerRow; }
+    std::uint64_t* row(int y) { return words() + mWordsPerRow * std::size_t(y); }
+    const std::uint64_t* row(int y) const
+    {
+        return reinterpret_cast<const std::uint64_t*>(mBytes.get()) + mWordsPerRow * std::size_t(y);
+    }
+    bool at(int x, int y) const { return row(y)[x >> 6] >> (x & 63) & 1; }
+
+private:
+    std::uint64_t* words() { return reinterpret_cast<std::uint64_t*>(mBytes.get()); }
+    PixelMemory mBytes;
+    int mWidth = 0, mHeight = 0;
+    std::size_t mWordsPerRow = 0;
+};
+
+/// Packs one row of mask bytes: bit x is set where bytes[x] is not 255. Writes (width + 64) / 64 words.
+void packSelectedBits(const std::uint8_t* bytes, int width, std::uint64_t* words);
+/// The same without vector instructions, for comparison.
+void packSelectedBitsPlain(const std::uint8_t* bytes, int width, std::uint64_t* words);
+
+} // namespace zp

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The mask tracer's public face: bits in, path out.
+#include "selection/ZPPathBuilder.h"
+#include "selection/OutlineTracer.h"
+
+ZPPathBuilder::ZPPathBuilder(zp::ConstMaskView mask)
+    : mWidth(std::uint32_t(mask.isEmpty() ? 0 : mask.width)),
+      mHeight(std::uint32_t(mask.isEmpty() ? 0 : mask.height)),
+      mMaskData(zp::BitRows::ofSelected(mask))
+{
+}
+
+zp::BezierPath ZPPathBuilder::path() const
+{
+    zp::BezierPath path;
+    path.setWindingRule(zp::WindingRule::EvenOdd);
+    zp::traceOutline(mMaskData, {0, 1}, [&path](std::span<const zp::Point> corners) {
+        path.moveTo(corners[0]);
+        for (const zp::Point corner : corners.subspan(1)) path.lineTo(corner);
+        path.lineTo(corners[0]);
+        path.closePath();
+    });
+    return path;
+}
