@@ -186,7 +186,8 @@ bool makeAlias(const std::string& target, const std::string& folder, const std::
     const std::string stem = pathWithoutExtension(name);
     constexpr std::size_t kLongestName = 255;
     for (int number = 1; number < 100000; ++number) {
-        const std::string tail = number == 1 ? dotted : " " + std::to_string(number) + dotted;
+        std::string tail = dotted;
+        if (number > 1) tail.insert(0, std::to_string(number)).insert(0, 1, ' ');
         std::string first = stem;
         while (first.size() > 1 && first.size() + tail.size() > kLongestName) {
             // Whole characters only: the bytes that follow a first one go with it.
