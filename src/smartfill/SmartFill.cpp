@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The smart fill run: lists, order of the steps, candidates, progress.
+#include "smartfill/SmartFill.h"
+#include "platform/Log.h"
+#include "smartfill/KnownPixels.h"
+#include "smartfill/SmartFillMatch.h"
+#include "smartfill/SmartFillRandom.h"
+#include <algorithm>
+#include <ctime>
+#include <utility>
+
+namespace zp
+{
+namespace
+{
+
+constexpr int kRandomTries = 200;
+constexpr std::int64_t kStepsPerProgress = 1024; // a power of two: a point is where the low bits are zero
+
+/// One run's workspace.
+class SmartFillRun
+{
+public:
+    SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, MatchSearch search);
+
+    bool hasHole() const { return !mFillList.empty(); }
+    bool hasSource() const { return !mSourceList.empty(); }
+    /// @return false when it was cancelled
+    bool run(const SmartFillHooks& hooks);
+    void copyTarget(SmartFillPicture& picture) const;
+
+private:
+    void measureClearance();
+    void shuffle();
+    void step(std::int64_t t, PixelPoint pixel);
+    int coherenceCandidates(std::int32_t stamp);
+
+    MatchLayout mLayout;
+    SmartFillRandom mRandom;
+    MatchSearch mSearch;
+    std::vector<std::uint32_t> mTarget;    ///< the pixels being synthesised; padded like everything with an index
+    std::vector<std::uint32_t> mSource;    ///< an unchanging copy
+    std::vector<std::uint8_t> mClear;      ///< see MatchSource::clear
+    std::vector<std::int32_t> mFilledFrom; ///< index of the source pixel a pixel was filled from; -1: not filled
+    std::vector<std::int32_t> mStamps;     ///< the step in which a source pixel was last a coherence candidate
+    std::vector<PixelPoint> mFillList;     ///< without its revisits, which repeat its beginnings
+    std::vector<std::int32_t> mSourceList;
+    KnownPixels mKnown;
+    MatchSource mMatchSource;
+    Neighbourhood mNear;
+    std::int32_t mCandidates[kRandomTries + 8];
+};
+
+SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, MatchSearch search)
+    : mLayout(picture.width, picture.height),
+      mRandom(seed),
+      mSearch(search),
+      mSource(mLayout.size()),
+      mClear(mLayout.size() + 3),
+      mFilledFrom(mLayout.size(), -1),
+      mStamps(mLayout.size(), -1),
+      mKnown(mLayout)
+{
+    for (int y = 0; y < picture.height; ++y) {
+        const std::size_t row = std::size_t(y) * std::size_t(picture.width);
+        std::copy_n(picture.pixels.data() + row, picture.width, mSource.data() + mLayout.index(0, y));
+        for (int x = 0; x < picture.width; ++x) {
+            const std::uint8_t mask = picture.mask[row + std::size_t(x)];
+            if (mask)
+                mFillList.push_back({x, y});
+            else
+                mKnown.set(x, y);
+            if (mask == 255) continue;
+            mSourceList.push_back(mLayout.index(x, y));
+            mClear[std::size_t(mLayout.index(x, y))] = 255;
+        }
+    }
+    mTarget = mSource;
+    measureClearance();
+    mMatchSource = {mLayout, mSource.data(), mClear.data()};
+}
+
+/// From "a source pixel or not" to the size of the square around it: one pass down, one back up.
+void SmartFillRun::measureClearance()
+{
+    const std::ptrdiff_t stride = mLayout.stride;
+    const auto grow = [](std::uint8_t* p, std::ptrdiff_t a, std::ptrdiff_t b, std::ptrdiff_t c, std::ptrdiff_t d) {
+        if (*p) *p = std::uint8_t(std::min({int(*p), p[a] + 1, p[b] + 1, p[c] + 1, p[d] + 1}));
+    };
+    for (int y = 0; y < mLayout.height; ++y) {
+        std::uint8_t* row = mClear.data() + mLayout.index(0, y);
+        for (int x = 0; x < mLayout.width; ++x) grow(row + x, -1, -stride - 1, -stride, -stride + 1);
+    }
+    for (int y = mLayout.height; y-- > 0;) {
+        std::uint8_t* row = mClear.data() + mLayout.index(0, y);
+        for (int x = mLayout.width; x-- > 0;) grow(row + x, 1, stride + 1, stride, stride - 1);
+    }
+}
+
+void SmartFillRun::shuffle()
+{
+    mRandom.begin(kSmartFillShuffleStream);
+    const auto count = std::uint32_t(mFillList.size());
+    for (auto& pixel : mFillList) std::swap(pixel, mFillList[mRandom.below(count)]);
+}
+
+bool SmartFillRun::run(const SmartFillHooks& hooks)
+{
+    shuffle();
+    // The list of steps is the fill list, then its first three quarters again, then three quarters of that, down to one
+    // pixel; it is worked off from its end. So the first few pixels are placed coarsely and often, before the rest.
+    std::vector<std::int64_t> rounds{std::int64_t(mFillList.size())};
+    std::int64_t total = rounds[0];
+    while (3 * rounds.back() >= 4) {
+        rounds.push_back(3 * rounds.back() / 4);
+        total += rounds.back();
+    }
+    std::int64_t t = total;
+    for (; !rounds.empty(); rounds.pop_back()) {
+        for (std::int64_t i = rounds.back(); i-- > 0;) {
+            --t;
+            if (t % kStepsPerProgress == 0) {
+                const float progress = 1.0f - float(t) / float(total);
+                logLine("update progress: %f", double(progress));
+                if (hooks.progress) hooks.progress(progress);
+                if (hooks.cancelled && hooks.cancelled()) return false;
+            }
+            step(t, mFillList[std::size_t(i)]);
+        }
+    }
+    return true;
+}
+
+/// The source pixels that would continue what the neighbours were filled from. @return how many
+int SmartFillRun::coherenceCandidates(std::int32_t stamp)
+{
+    int count = 0;
+    for (int k = 0; k < mNear.count; ++k) {
+        const std::int32_t from = mFilledFrom[std::size_t(mNear.index[k])];
+        if (from < 0) continue;
+        std::int32_t candidate = from - mNear.delta[k];
+        if (mNear.far) {
+            const int x = mLayout.x(from) - mNear.dx[k], y = mLayout.y(from) - mNear.dy[k];
+            if (x < 0 || y < 0 || x >= mLayout.width || y >= mLayout.height) continue;
+            candidate = mLayout.index(x, y);
+        }
+        if (!mClear[std::size_t(candidate)] || mStamps[std::size_t(candidate)] == stamp) continue;
+        mStamps[std::size_t(candidate)] = stamp;
+        mCandidates[count++] = candidate;
+    }
+    return count;
+}
+
+void SmartFillRun::step(std::int64_t t, PixelPoint pixel)
+{
+    mKnown.set(pixel.x, pixel.y);
+    mKnown.collect(pixel.x, pixel.y, mNear);
+    for (int k = 0; k < mNear.count; ++k) mNear.value[k] = mTarget[std::size_t(mNear.index[k])];
+
+    BestMatch best;
+    mSearch(mMatchSource, mNear, mCandidates, coherenceCandidates(std::int32_t(t)), best);
+    if (best.error) {
+        const std::uint32_t key = mRandom.keyOf(std::uint64_t(t));
+        const auto length = std::uint32_t(mSourceList.size());
+        for (std::uint32_t i = 0; i < kRandomTries; ++i)
+            mCandidates[i] = mSourceList[SmartFillRandom::scaled(SmartFillRandom::mix(key, i), length)];
+        mSearch(mMatchSource, mNear, mCandidates, kRandomTries, best);
+    }
+    const auto index = std::size_t(mLayout.index(pixel.x, pixel.y));
+    mTarget[index] = mSource[std::size_t(best.source)];
+    mFilledFrom[index] = best.source;
+}
+
+void SmartFillRun::copyTarget(SmartFillPicture& picture) const
+{
+    for (int y = 0; y < picture.height; ++y)
+        std::copy_n(mTarget.data() + mLayout.index(0, y), picture.width,
+                    picture.pixels.data() + std::size_t(y) * std::size_t(picture.width));
+}
+
+void logStart(const SmartFillHooks& hooks)
+{
+    logLine("update progress: 0.0");
+    if (hooks.progress) hooks.progress(0.0f);
+}
+
+SmartFillStatus fillAfterStart(SmartFillPicture& picture, std::uint64_t seed, const SmartFillHooks& hooks,
+                               MatchSearch search)
+{
+    SmartFillRun run(picture, seed, search);
+    logLine("image and mask fetched");
+    if (!run.hasHole()) return SmartFillStatus::Filled;
+    if (!run.hasSource()) return SmartFillStatus::NoSource;
+    if (!run.run(hooks)) return SmartFillStatus::Cancelled;
+    run.copyTarget(picture);
+    return SmartFillStatus::Filled;
+}
+
+} // namespace
+
+SmartFillStatus fillSmartFillPicture(SmartFillPicture& picture, std::uint64_t seed, const SmartFillHooks& hooks,
+                                     SmartFillSpeed speed)
+{
+    logStart(hooks);
+    return fillAfterStart(picture, seed, hooks, speed == SmartFillSpeed::Best ? bestMatchSearch() : searchPortable);
+}
+
+SmartFillStatus runSmartFill(BitmapView bitmap, ConstMaskView mask, const SmartFillArea& area,
+                             const SmartFillHooks& hooks, std::uint64_t seed)
+{
+    logStart(hooks);
+    SmartFillPicture picture = fetchSmartFillPicture(bitmap, mask, area);
+    const SmartFillStatus status =
+        fillAfterStart(picture, seed ? seed : std::uint64_t(std::time(nullptr)), hooks, bestMatchSearch());
+    if (status == SmartFillStatus::Filled) writeBackSmartFill(bitmap, picture, area);
+    return status;
+}
+
+} // namespace zp
