@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The alpha run-length format at memory speed: alpha gathered row by row into the cache, runs compared in blocks.
+#include "undo/AlphaRLE.h"
+#include "platform/Simd.h"
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstring>
+
+namespace zp
+{
+
+namespace
+{
+
+constexpr std::size_t kBlock = 64;
+/// Alpha bytes gathered at a time: half a first-level cache, and a multiple of the block.
+constexpr int kPiece = 16384;
+
+ZP_MULTIVERSION void gatherAlpha(const std::uint8_t* __restrict pixels, std::uint8_t* __restrict alpha, int count)
+{
+    for (int i = 0; i < count; ++i) alpha[i] = pixels[std::ptrdiff_t{4} * i];
+}
+
+// The three below look at one block; the compiler turns each into a few vector instructions.
+// "Differs" is accumulated instead of left early, since a loop with two ways out is not vectorised.
+
+ZP_MULTIVERSION std::size_t equalBlocks(const std::uint8_t* bytes, std::size_t count, std::uint8_t value)
+{
+    std::size_t i = 0;
+    for (; i + kBlock <= count; i += kBlock) {
+        std::uint8_t differs = 0;
+        for (std::size_t k = 0; k < kBlock; ++k) differs |= std::uint8_t(bytes[i + k] ^ value);
+        if (differs) break;
+    }
+    return i;
+}
+
+/// How many whole blocks from the start hold no byte equal to the one before it (the byte before bytes[0] included).
+ZP_MULTIVERSION std::size_t pairlessBlocks(const std::uint8_t* bytes, std::size_t count)
+{
+    std::size_t i = 0;
+    for (; i + kBlock <= count; i += kBlock) {
+        std::uint8_t pair = 0;
+        for (std::size_t k = 0; k < kBlock; ++k) pair |= std::uint8_t(bytes[i + k] == bytes[i + k - 1]);
+        if (pair) break;
+    }
+    return i;
+}
+
+std::uint64_t load64(const std::uint8_t* bytes)
+{
+    std::uint64_t word;
+    std::memcpy(&word, bytes, sizeof word);
+    return word;
+}
+
+/// How many bytes from the start equal @p value.
+std::size_t runLength(const std::uint8_t* bytes, std::size_t count, std::uint8_t value)
+{
+    const std::uint64_t repeated = 0x0101010101010101u * value;
+    // Most runs of real edges are short: look at one word before going to blocks.
+    std::size_t i = 0;
+    const auto words = [&](std::size_t limit) {
+        for (; i + 8 <= limit; i += 8) {
+            const std::uint64_t difference = load64(bytes + i) ^ repeated;
+            if (difference) {
+                if constexpr (std::endian::native == std::endian::little)
+                    i += std::size_t(std::countr_zero(difference)) / 8;
+                else
+                    i += std::size_t(std::countl_zero(difference)) / 8;
+                return true;
+            }
+        }
+        return false;
+    };
+    if (words(std::min<std::size_t>(count, 16))) return i;
+    i += equalBlocks(bytes + i, count - i, value);
+    if (words(count)) return i;
+    while (i < count && bytes[i] == value) ++i;
+    return i;
+}
+
+/// Index of the first byte that equals the one before it, bytes[-1] included; @p count when there is none.
+std::size_t firstPair(const std::uint8_t* bytes, std::size_t count)
+{
+    std::size_t i = 0;
+    for (; i < std::min<std::size_t>(count, 8); ++i)
+        if (bytes[i] == bytes[std::ptrdiff_t(i) - 1]) return i;
+    i += pairlessBlocks(bytes + i, count - i);
+    while (i < count && bytes[i] != bytes[std::ptrdiff_t(i) - 1]) ++i;
+    return i;
+}
+
+ZP_MULTIVERSION void fillAlpha(std::uint32_t* row, int count, std::uint32_t keep, std::uint32_t value)
+{
+    for (int i = 0; i < count; ++i) row[i] = (row[i] & keep) | value;
+}
+
+ZP_MULTIVERSION void copyAlpha(std::uint8_t* __restrict pixels, const std::uint8_t* __restrict alpha, int count)
+{
+    for (int i = 0; i < count; ++i) pixels[std::ptrdiff_t{4} * i] = alpha[i];
+}
+
+/// A place in the alpha plane to which runs and copies are written, over the ends of rows.
+class PlaneWriter
+{
+public:
+    explicit PlaneWriter(BitmapView pixels) : mPixels(pixels) {}
+    bool full() const { return mRow >= mPixels.height; }
+    std::int64_t written() const { return std::int64_t{mRow} * mPixels.width + mColumn; }
+
+    void fill(std::uint8_t value, std::int64_t count)
+    {
+        const std::uint32_t alphaByte = std::bit_cast<std::uint32_t>(std::array<std::uint8_t, 4>{255, 0, 0, 0});
+        const std::uint32_t alpha = std::bit_cast<std::uint32_t>(std::array<std::uint8_t, 4>{value, 0, 0, 0});
+        forEachStretch(count, [&](int stretch) { fillAlpha(mPixels.row(mRow) + mColumn, stretch, ~alphaByte, alpha); });
+    }
+    void copy(const std::uint8_t* bytes, std::int64_t count)
+    {
+        forEachStretch(count, [&](int stretch) {
+            copyAlpha(mPixels.pixel(mColumn, mRow), bytes, stretch);
+            bytes += stretch;
+        });
+    }
+
+private:
+    template <class F>
+    void forEachStretch(std::int64_t count, F&& f)
+    {
+        while (count > 0 && !full()) {
+            const int stretch = int(std::min<std::int64_t>(count, mPixels.width - mColumn));
+            f(stretch);
+            count -= stretch;
+            mColumn += stretch;
+            if (mColumn == mPixels.width) {
+                mColumn = 0;
+                ++mRow;
+            }
+        }
+    }
+    BitmapView mPixels;
+    int mColumn = 0, mRow = 0;
+};
+
+} // namespace
+
+void AlphaRLEEncoder::append(const std::uint8_t* bytes, std::size_t count)
+{
+    // Worst case: every two bytes become three; and a count left open by the piece before.
+    std::array<std::uint8_t, kPiece + kPiece / 2 + 3> output;
+    for (; count > kPiece; bytes += kPiece, count -= kPiece)
+        mOut.insert(mOut.end(), output.data(), appendPiece(bytes, kPiece, output.data()));
+    mOut.insert(mOut.end(), output.data(), appendPiece(bytes, count, output.data()));
+}
+
+std::uint8_t* AlphaRLEEncoder::appendPiece(const std::uint8_t* bytes, std::size_t count, std::uint8_t* to)
+{
+    const std::uint8_t* const end = bytes + count;
+
+    while (bytes != end) {
+        if (mRun != kNone) {
+            const auto value = std::uint8_t(mRun);
+            const std::size_t room = std::min<std::size_t>(std::size_t(255 - mCopies), std::size_t(end - bytes));
+            const std::size_t same = runLength(bytes, room, value);
+            bytes += same;
+            mCopies += int(same);
+            if (mCopies == 255) {
+                *to++ = 255;
+                mRun = mPrevious = kNone;
+            } else if (bytes != end) {
+                *to++ = std::uint8_t(mCopies);
+                mRun = kNone;
+                mPrevious = *to++ = *bytes++;
+            }
+            continue;
+        }
+        if (mPrevious != kNone && *bytes == mPrevious) {
+            *to++ = *bytes++;
+            mRun = mPrevious;
+            mCopies = 0;
+            continue;
+        }
+        // Literals up to the next pair. The first is not compared with the one before: either there is none, or it
+        // differs.
+        const std::size_t literals = 1 + firstPair(bytes + 1, std::size_t(end - bytes) - 1);
+        std::memcpy(to, bytes, literals);
+        to += literals;
+        bytes += literals;
+        mPrevious = bytes[-1];
+    }
+    return to;
+}
+
+void AlphaRLEEncoder::finish()
+{
+    if (mRun != kNone) mOut.push_back(std::uint8_t(mCopies));
+    mRun = mPrevious = kNone;
+}
+
+std::vector<std::uint8_t> encodeAlphaRLE(ConstBitmapView pixels)
+{
+    std::vector<std::uint8_t> file;
+    if (pixels.isEmpty()) return file;
+    file.reserve(std::size_t{512} * 1024);
+    AlphaRLEEncoder encoder(file);
+    alignas(64) std::array<std::uint8_t, kPiece> piece;
+    for (int y = 0; y < pixels.height; ++y)
+        for (int x = 0; x < pixels.width; x += kPiece) {
+            const int count = std::min(kPiece, pixels.width - x);
+            gatherAlpha(pixels.pixel(x, y), piece.data(), count);
+            encoder.append(piece.data(), std::size_t(count));
+        }
+    encoder.finish();
+    return file;
+}
+
+std::int64_t decodeAlphaRLE(std::span<const std::uint8_t> file, BitmapView pixels)
+{
+    if (pixels.isEmpty()) return 0;
+    PlaneWriter plane(pixels);
+    const std::uint8_t* from = file.data();
+    const std::uint8_t* const end = from + file.size();
+    while (from != end && !plane.full()) {
+        // A count was just read, or this is the start: the first literal pairs with nothing before it.
+        const std::size_t left = std::size_t(end - from);
+        const std::size_t literals = 1 + firstPair(from + 1, left - 1);
+        if (literals == left) {
+            plane.copy(from, std::int64_t(literals));
+            break;
+        }
+        // The pair's two bytes and their copies are one run; neighbouring runs of the same value (an opaque plane is
+        // nothing else) are joined, so that they are filled along whole rows.
+        const std::uint8_t value = from[literals];
+        plane.copy(from, std::int64_t(literals) - 1);
+        from += literals + 1;
+        // At the end of the file its end mark is taken for a count, and its low 8 bits are 255.
+        std::int64_t run = 2 + (from != end ? *from++ : 255);
+        while (end - from >= 3 && from[0] == value && from[1] == value) {
+            run += 2 + from[2];
+            from += 3;
+        }
+        plane.fill(value, run);
+    }
+    return plane.written();
+}
+
+std::uint8_t* AlphaCursor::next()
+{
+    if (mRow >= mPixels.height) return nullptr;
+    if (++mColumn >= mPixels.width) {
+        mColumn = 0;
+        if (++mRow >= mPixels.height) return nullptr;
+    }
+    return mPixels.width > 0 ? mPixels.pixel(mColumn, mRow) : nullptr;
+}
+
+} // namespace zp

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The alpha plane as a run-length file, to and from memory, and the two byte cursors that define it.
+///
+/// The format has no header: the alpha bytes in raster order as literals; whenever two literals in a row are equal, the
+/// next byte of the file counts the further copies (0 to 255). After a count pairing starts afresh: the literal behind
+/// it never pairs with the one before it. An opaque picture costs 3 bytes for every 257 pixels.
+#pragma once
+#include "platform/BitmapView.h"
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace zp
+{
+
+/// Encodes bytes that arrive in pieces; the pieces' borders leave no trace in the output.
+class AlphaRLEEncoder
+{
+public:
+    /// Output is appended to @p out, which must outlive the encoder.
+    explicit AlphaRLEEncoder(std::vector<std::uint8_t>& out) : mOut(out) {}
+    /// Time: runs and stretches without pairs at memory speed, 64 bytes a step.
+    void append(const std::uint8_t* bytes, std::size_t count);
+    /// Writes the count that is still open, if any. Call once, after the last piece.
+    void finish();
+
+private:
+    static constexpr int kNone = -1;
+    std::uint8_t* appendPiece(const std::uint8_t* bytes, std::size_t count, std::uint8_t* to);
+    std::vector<std::uint8_t>& mOut;
+    int mPrevious = kNone; ///< the literal a following one may pair with
+    int mRun = kNone;      ///< the byte whose copies are being counted
+    int mCopies = 0;
+};
+
+/// The whole alpha plane of @p pixels as the file's bytes; nothing for an empty view.
+/// One linear pass over the pixels. Any thread that may read them. Throws std::bad_alloc.
+std::vector<std::uint8_t> encodeAlphaRLE(ConstBitmapView pixels);
+
+/// Decodes a file into the alpha bytes of @p pixels; colour bytes keep their values. Bytes beyond the plane are
+/// dropped; a file that ends early leaves the rest of the plane as it was; one that ends right behind a pair stands for
+/// 255 further copies. @return how many alpha bytes were written One linear pass. Any thread that owns the pixels.
+std::int64_t decodeAlphaRLE(std::span<const std::uint8_t> file, BitmapView pixels);
+
+/// Walks the alpha bytes of a picture one at a time in raster order: the read cursor and the write cursor are two of
+/// these. Positions itself before the first pixel; a default one, and one over an empty view, stands at the end.
+class AlphaCursor
+{
+public:
+    AlphaCursor() = default;
+    explicit AlphaCursor(BitmapView pixels) : mPixels(pixels), mColumn(-1) {}
+    /// Moves on by one pixel. @return its alpha byte, null when the rows are exhausted (and from then on)
+    std::uint8_t* next();
+    /// getc without reset: the next alpha byte, or -1 when the rows are exhausted.
+    std::int32_t get()
+    {
+        const std::uint8_t* byte = next();
+        return byte ? *byte : -1;
+    }
+    /// putc: stores the low 8 bits as the next alpha byte; dropped when the rows are exhausted.
+    void put(std::int32_t value)
+    {
+        if (std::uint8_t* byte = next()) *byte = std::uint8_t(value);
+    }
+    /// The value that resets the write cursor instead of being stored.
+    static constexpr std::int32_t kPutReset = -10;
+
+private:
+    BitmapView mPixels;
+    int mColumn = -1, mRow = 0;
+};
+
+} // namespace zp
