@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Small services of the desktop for windows: settings, remembered frames, and paths that cross between Qt and bytes.
+#pragma once
+#include <QString>
+#include <QStringList>
+#include <string>
+#include <vector>
+
+class QMimeData;
+class QSettings;
+class QUrl;
+class QWidget;
+
+namespace zp
+{
+
+/// The user's settings file ("zelpane.ini" in the configuration folder). Main thread. Opened at first use; reopened
+/// when the configuration folder has changed since.
+QSettings& settings();
+
+/// Restores the frame that was saved under @p name, and saves it from now on whenever the window is hidden. A frame
+/// that lies on no screen is not restored. @return whether a frame was restored
+bool setFrameAutosaveName(QWidget* window, const QString& name);
+
+/// A path for Qt and for people; bytes that are not UTF-8 are shown as replacements, so it may not lead back.
+QString textFromPath(const std::string& path);
+/// The bytes of a text that a person typed.
+std::string pathFromText(const QString& text);
+/// The file system's own bytes of a local file's address, whatever their encoding; empty for other addresses.
+std::string pathFromUrl(const QUrl& url);
+QUrl urlFromPath(const std::string& path);
+/// Local files of a drop or a paste (text/uri-list), in their order, other addresses left out.
+std::vector<std::string> pathsFromMimeData(const QMimeData* data);
+/// Whether pathsFromMimeData would give any.
+bool hasPaths(const QMimeData* data);
+
+} // namespace zp
