@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Reads lines, runs them one after the other, answers each.
+#include "script/ScriptDriver.h"
+#include "app/MainWindow.h"
+#include "app/ZPAppController.h"
+#include "canvas/ZPCanvas.h"
+#include "platform/Panels.h"
+#include "script/ScriptWords.h"
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QJsonDocument>
+#include <QThread>
+#include <QTimer>
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace zp;
+
+namespace
+{
+
+constexpr int kPollMilliseconds = 2;
+/// How long a closed modal window's loop may take to unwind before the next command goes on without it.
+constexpr int kUnwindMilliseconds = 5000;
+
+} // namespace
+
+ScriptDriver::ScriptDriver(ZPAppController& controller, std::string script)
+    : mController(controller), mCanvas(controller.canvas()), mScript(std::move(script))
+{
+    addMenuCommands();
+    addInputCommands();
+    addOperations();
+    addLookCommands();
+    setPanelsAutomated(true);
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible()) mFront.emplace_back(window);
+    qApp->installEventFilter(this);
+}
+
+ScriptDriver::~ScriptDriver()
+{
+    // The reader of standard input may be blocked in a read for ever; it owns nothing but its own copy of the queue's
+    // address, which ends with the process.
+    if (mReader.joinable()) mReader.detach();
+}
+
+bool ScriptDriver::isReadable(const std::string& script)
+{
+    if (script == "-") return true;
+    struct stat status {};
+    return ::stat(script.c_str(), &status) == 0 && !S_ISDIR(status.st_mode) && ::access(script.c_str(), R_OK) == 0;
+}
+
+void ScriptDriver::start()
+{
+    if (mScript == "-") {
+        mReader = std::thread([this] {
+            std::string line;
+            while (std::getline(std::cin, line)) addLine(line);
+            const std::lock_guard lock(mLinesLock);
+            mEnded = true;
+        });
+    } else {
+        std::ifstream file(mScript, std::ios::binary);
+        std::string line;
+        while (std::getline(file, line)) mLines.push_back(line);
+        mEnded = true;
+    }
+    goOn();
+}
+
+void ScriptDriver::addLine(std::string line)
+{
+    const std::lock_guard lock(mLinesLock);
+    mLines.push_back(std::move(line));
+}
+
+void ScriptDriver::goOn()
+{
+    // Two rounds of the event loop, so that what the last command caused has been handled.
+    QTimer::singleShot(0, this, [this] { QTimer::singleShot(0, this, &ScriptDriver::runNext); });
+}
+
+void ScriptDriver::runNext()
+{
+    if (mBusy || mFinished) return;
+    std::string line;
+    {
+        const std::lock_guard lock(mLinesLock);
+        if (mLines.empty()) {
+            if (!mEnded) {
+                QTimer::singleShot(kPollMilliseconds, this, &ScriptDriver::runNext);
+                return;
+            }
+        } else {
+            line = std::move(mLines.front());
+            mLines.pop_front();
+            ++mLineNumber;
+            mBusy = true;
+        }
+    }
+    if (mBusy) {
+        execute(line);
+    } else {
+        finish();
+    }
+}
+
+void ScriptDriver::execute(const std::string& text)
+{
+    std::string line = text;
+    mMayFail = !line.empty() && line[0] == '-';
+    if (mMayFail) line.erase(0, 1);
+    const auto words = splitScriptLine(line);
+    if (!words) return fail("unbalanced quotes");
+    if (words->empty()) {
+        mBusy = false;
+        return goOn();
+    }
+    ++mCommandNumber;
+    const auto command = mCommands.find(words->front());
+    if (command == mCommands.end()) return fail(QString("unknown command %1").arg(QString::fromStdString(words->front())));
+    try {
+        command->second(*words);
+    } catch (const Failure& failure) {
+        fail(failure.error);
+    }
+}
+
+void ScriptDriver::answer(const QJsonObject& fields)
+{
+    QByteArray json = QJsonDocument(fields).toJson(QJsonDocument::Compact);
+    json = fields.isEmpty() ? QByteArray("{\"ok\":true}") : "{\"ok\":true," + json.mid(1);
+    json += '\n';
+    std::fwrite(json.constData(), 1, std::size_t(json.size()), stdout);
+    std::fflush(stdout);
+    mBusy = false;
+    goOn();
+}
+
+void ScriptDriver::fail(const QString& error)
+{
+    const QByteArray reason = QJsonDocument(QJsonObject{{"error", error}}).toJson(QJsonDocument::Compact);
+    const QByteArray json = "{\"ok\":false," + reason.mid(1) + '\n';
+    std::fwrite(json.constData(), 1, std::size_t(json.size()), stdout);
+    std::fflush(stdout);
+    mBusy = false;
+    if (mScript != "-" && !mMayFail) {
+        std::fprintf(stderr, "%s:%d: %s\n", mScript.c_str(), mLineNumber, qUtf8Printable(error));
+        mStatus = 1;
+        return finish();
+    }
+    goOn();
+}
+
+void ScriptDriver::finish()
+{
+    if (std::exchange(mFinished, true)) return;
+    // Modal loops that are still open end first, the innermost one at once, the others as it unwinds.
+    for (QWidget* window : windowsInFront())
+        if (window->isModal()) window->close();
+    QTimer::singleShot(0, this, [] { QCoreApplication::exit(0); });
+}
+
+int ScriptDriver::visibleModals() const
+{
+    int count = 0;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->isModal()) ++count;
+    return count;
+}
+
+void ScriptDriver::startWork(std::function<QJsonObject()> work)
+{
+    mWorkResult.reset();
+    mWorkError.reset();
+    const int before = visibleModals();
+    const std::uint64_t number = mCommandNumber;
+    QTimer::singleShot(0, this, [this, work = std::move(work), number] {
+        std::optional<QJsonObject> result;
+        std::optional<QString> error;
+        try {
+            result = work();
+        } catch (const Failure& failure) {
+            error = failure.error;
+        }
+        // A command that stood in a modal loop was answered long ago.
+        if (number != mCommandNumber) return;
+        mWorkResult = result;
+        mWorkError = error;
+    });
+    QTimer::singleShot(0, this, [this, before] { watchWork(before); });
+}
+
+void ScriptDriver::watchWork(int modalsBefore)
+{
+    struct Watch {
+        QElapsedTimer clock;
+        int quietRounds = 0;
+    };
+    auto watch = std::make_shared<Watch>();
+    watch->clock.start();
+    auto look = std::make_shared<std::function<void()>>();
+    *look = [this, modalsBefore, watch, look] {
+        const int modals = visibleModals();
+        // A modal window that has closed but whose loop still stands higher up: its command goes on when that unwinds.
+        const bool unwinding = QThread::currentThread()->loopLevel() > 1 + modals && watch->clock.elapsed() < kUnwindMilliseconds;
+        if ((mWorkResult || mWorkError) && !unwinding) {
+            const auto result = std::exchange(mWorkResult, std::nullopt);
+            const auto error = std::exchange(mWorkError, std::nullopt);
+            *look = nullptr;
+            return error ? fail(*error) : answer(result.value_or(QJsonObject{}));
+        }
+        if (!mWorkResult && !mWorkError && modals > modalsBefore && !unwinding && ++watch->quietRounds > 1) {
+            ++mCommandNumber; // what the command returns later is nobody's answer
+            *look = nullptr;
+            return answer({});
+        }
+        QTimer::singleShot(watch->clock.elapsed() < 20 ? 0 : kPollMilliseconds, this, [look] {
+            const auto keep = look;
+            if (*keep) (*keep)();
+        });
+    };
+    const auto keep = look;
+    (*keep)();
+}
+
+void ScriptDriver::waitUntil(std::function<bool()> done, double seconds, bool failAtEnd)
+{
+    auto clock = std::make_shared<QElapsedTimer>();
+    clock->start();
+    auto look = std::make_shared<std::function<void()>>();
+    *look = [this, done = std::move(done), seconds, failAtEnd, clock, look] {
+        if (done()) {
+            *look = nullptr;
+            return answer({});
+        }
+        if (double(clock->elapsed()) > seconds * 1000) {
+            *look = nullptr;
+            return failAtEnd ? fail("timed out") : answer({});
+        }
+        QTimer::singleShot(kPollMilliseconds, this, [look] {
+            const auto keep = look;
+            if (*keep) (*keep)();
+        });
+    };
+    const auto keep = look;
+    (*keep)();
+}
+
+void ScriptDriver::addImmediate(const char* name, Command command)
+{
+    mCommands[name] = [this, command = std::move(command)](const Words& words) { answer(command(words)); };
+}
+
+void ScriptDriver::addWork(const char* name, Command command)
+{
+    mCommands[name] = [this, command = std::move(command)](const Words& words) {
+        startWork([command, words] { return command(words); });
+    };
+}
+
+bool ScriptDriver::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate) {
+        auto* widget = qobject_cast<QWidget*>(watched);
+        if (widget && widget->isWindow()) {
+            std::erase_if(mFront, [widget](const QPointer<QWidget>& w) { return !w || w == widget; });
+            mFront.insert(mFront.begin(), widget);
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+std::vector<QWidget*> ScriptDriver::windowsInFront() const
+{
+    std::vector<QWidget*> windows;
+    for (const bool modal : {true, false})
+        for (const QPointer<QWidget>& window : mFront)
+            if (window && window->isVisible() && window->isModal() == modal && !window->objectName().isEmpty() &&
+                window->windowType() != Qt::ToolTip && window->windowType() != Qt::Popup)
+                windows.push_back(window);
+    return windows;
+}
+
+std::vector<QWidget*> ScriptDriver::reachableWindows() const
+{
+    std::vector<QWidget*> windows = windowsInFront();
+    // A modal window keeps the others from the user's hands.
+    if (!windows.empty() && windows.front()->isModal()) windows.resize(1);
+    return windows;
+}

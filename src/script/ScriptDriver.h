@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Plays automation commands: one line in, one JSON answer out, on the main thread from the event loop.
+#pragma once
+#include <QJsonObject>
+#include <QObject>
+#include <QPointer>
+#include <deque>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+class QWidget;
+class ZPAppController;
+class ZPCanvas;
+
+/// Commands go on inside a modal window's own loop: whatever may open one is started from a timer of its own, and
+/// answered when it has ended or when the window is up.
+class ScriptDriver : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param script a file's path, or "-" for standard input
+    ScriptDriver(ZPAppController& controller, std::string script);
+    ~ScriptDriver() override;
+    static bool isReadable(const std::string& script);
+    void start();
+    /// 0 done, 1 a command failed.
+    int exitStatus() const { return mStatus; }
+
+    using Words = std::vector<std::string>;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Failure {
+        QString error;
+    };
+    using Command = std::function<QJsonObject(const Words&)>;
+
+    // sequencing (ScriptDriver.cpp)
+    void addLine(std::string line);
+    void runNext();
+    void execute(const std::string& line);
+    void answer(const QJsonObject& fields);
+    void fail(const QString& error);
+    void goOn();
+    void finish();
+    /// Runs @p work from a timer of its own; the command is answered when it ended or a modal window came up.
+    void startWork(std::function<QJsonObject()> work);
+    void watchWork(int modalsBefore);
+    /// Polls until @p done or the time is over.
+    void waitUntil(std::function<bool()> done, double seconds, bool failAtEnd);
+
+    // what commands do; each throws Failure
+    void addMenuCommands();
+    void addInputCommands();
+    void addOperations();
+    void addLookCommands();
+    void addImmediate(const char* name, Command command);
+    void addWork(const char* name, Command command);
+
+    std::vector<QWidget*> windowsInFront() const;
+    std::vector<QWidget*> reachableWindows() const;
+    QWidget* outlet(const std::string& name) const;
+    int visibleModals() const;
+    void sendMouse(int type, const Words& words);
+    void sendKey(const std::string& key);
+
+    ZPAppController& mController;
+    ZPCanvas& mCanvas;
+    std::string mScript;
+    std::map<std::string, std::function<void(const Words&)>> mCommands;
+    std::map<std::string, Command> mOperations;
+    mutable std::vector<QPointer<QWidget>> mFront; ///< top-level windows, the one shown or activated last first
+
+    std::mutex mLinesLock; ///< guards the two below
+    std::deque<std::string> mLines;
+    bool mEnded = false;
+    std::thread mReader;
+
+    int mLineNumber = 0;
+    bool mMayFail = false, mBusy = false, mFinished = false;
+    int mStatus = 0;
+    std::uint64_t mCommandNumber = 0;
+    std::optional<QJsonObject> mWorkResult;
+    std::optional<QString> mWorkError;
+    bool mButtonDown = false;
+};
