@@ -97,6 +97,7 @@ bool ZPCanvas::anyWorkerRunning() const
 
 void ZPCanvas::waitForWorkers()
 {
+    finishStroke(); // its threads wait for the button to go up
     for (std::thread* worker : {&mPollWorker, &mDrawWorker, &mSnapshotWorker})
         if (worker->joinable() && worker->get_id() != std::this_thread::get_id()) worker->join();
 }

@@ -123,6 +123,9 @@ public:
     void mouseUp(zp::Point point);
     /// @param character the first character of the key's text, or the platform's arrow code points 0xF700 to 0xF703
     void keyDown(char32_t character);
+    /// Ends a brush stroke in progress, as if the button were let go: returns when all its points are painted and its
+    /// snapshot is asked for. Without one does nothing.
+    void finishStroke();
     void pollThread(); ///< body of the capture thread
     void drawThread(); ///< body of the drawing thread
     std::uint32_t colorAtPoint(zp::Point point) const;
@@ -327,6 +330,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    friend struct ZPToolActions; ///< what the mouse does, tool by tool (src/tools)
     void startFollowingPointer(); ///< the brush outline and the polygon's open edge follow the pointer
     void autoscroll(zp::Point point); ///< scrolls the point into view
     void updateGestureOutlines();     ///< the marquee and the polygon's open edge, from where the pointer is
