@@ -48,7 +48,7 @@ private:
     KnownPixels mKnown;
     MatchSource mMatchSource;
     Neighbourhood mNear;
-    std::int32_t mCandidates[kRandomTries + 8];
+    std::int32_t mCandidates[kNeighbours];
 };
 
 SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, MatchSearch search)
@@ -77,7 +77,7 @@ SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, 
     }
     mTarget = mSource;
     measureClearance();
-    mMatchSource = {mLayout, mSource.data(), mClear.data()};
+    mMatchSource = {mLayout, mSource.data(), mClear.data(), mSourceList.data(), std::uint32_t(mSourceList.size())};
 }
 
 /// From "a source pixel or not" to the size of the square around it: one pass down, one back up.
@@ -158,14 +158,8 @@ void SmartFillRun::step(std::int64_t t, PixelPoint pixel)
     for (int k = 0; k < mNear.count; ++k) mNear.value[k] = mTarget[std::size_t(mNear.index[k])];
 
     BestMatch best;
-    mSearch(mMatchSource, mNear, mCandidates, coherenceCandidates(std::int32_t(t)), best);
-    if (best.error) {
-        const std::uint32_t key = mRandom.keyOf(std::uint64_t(t));
-        const auto length = std::uint32_t(mSourceList.size());
-        for (std::uint32_t i = 0; i < kRandomTries; ++i)
-            mCandidates[i] = mSourceList[SmartFillRandom::scaled(SmartFillRandom::mix(key, i), length)];
-        mSearch(mMatchSource, mNear, mCandidates, kRandomTries, best);
-    }
+    mSearch.among(mMatchSource, mNear, mCandidates, coherenceCandidates(std::int32_t(t)), best);
+    if (best.error) mSearch.atRandom(mMatchSource, mNear, mRandom.keyOf(std::uint64_t(t)), kRandomTries, best);
     const auto index = std::size_t(mLayout.index(pixel.x, pixel.y));
     mTarget[index] = mSource[std::size_t(best.source)];
     mFilledFrom[index] = best.source;
@@ -202,7 +196,7 @@ SmartFillStatus fillSmartFillPicture(SmartFillPicture& picture, std::uint64_t se
                                      SmartFillSpeed speed)
 {
     logStart(hooks);
-    return fillAfterStart(picture, seed, hooks, speed == SmartFillSpeed::Best ? bestMatchSearch() : searchPortable);
+    return fillAfterStart(picture, seed, hooks, speed == SmartFillSpeed::Best ? bestMatchSearch() : kPortableSearch);
 }
 
 SmartFillStatus runSmartFill(BitmapView bitmap, ConstMaskView mask, const SmartFillArea& area,

@@ -2,6 +2,7 @@
 /// The robust distance, the memory layout, and the plain version of the comparison.
 #include "smartfill/SmartFillMatch.h"
 #include "smartfill/SmartFill.h"
+#include "smartfill/SmartFillRandom.h"
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -62,26 +63,41 @@ std::int32_t errorOf(const MatchSource& source, const Neighbourhood& near, std::
 
 } // namespace
 
+namespace
+{
+
+void compare(const MatchSource& source, const Neighbourhood& near, std::int32_t c, BestMatch& best)
+{
+    std::int32_t error;
+    if (source.clear[c] > near.reach) {
+        error = errorOf(source, near, c, best.error, [](int) { return true; });
+    } else if (!near.far) {
+        error = errorOf(source, near, c, best.error, [&](int k) { return source.clear[c + near.delta[k]] != 0; });
+    } else {
+        const MatchLayout& layout = source.layout;
+        const int x = layout.x(c), y = layout.y(c);
+        error = errorOf(source, near, c, best.error, [&](int k) {
+            const int qx = x + near.dx[k], qy = y + near.dy[k];
+            return qx >= 0 && qy >= 0 && qx < layout.width && qy < layout.height && source.clear[layout.index(qx, qy)] != 0;
+        });
+    }
+    if (error < best.error) best = {error, c};
+}
+
+} // namespace
+
 void searchPortable(const MatchSource& source, const Neighbourhood& near, const std::int32_t* candidates, int count,
                     BestMatch& best)
 {
-    for (int i = 0; i < count && best.error; ++i) {
-        const std::int32_t c = candidates[i];
-        std::int32_t error;
-        if (source.clear[c] > near.reach) {
-            error = errorOf(source, near, c, best.error, [](int) { return true; });
-        } else if (!near.far) {
-            error = errorOf(source, near, c, best.error, [&](int k) { return source.clear[c + near.delta[k]] != 0; });
-        } else {
-            const MatchLayout& layout = source.layout;
-            const int x = layout.x(c), y = layout.y(c);
-            error = errorOf(source, near, c, best.error, [&](int k) {
-                const int qx = x + near.dx[k], qy = y + near.dy[k];
-                return qx >= 0 && qy >= 0 && qx < layout.width && qy < layout.height &&
-                       source.clear[layout.index(qx, qy)] != 0;
-            });
-        }
-        if (error < best.error) best = {error, c};
+    for (int i = 0; i < count && best.error; ++i) compare(source, near, candidates[i], best);
+}
+
+void searchRandomPortable(const MatchSource& source, const Neighbourhood& near, std::uint32_t key, int tries,
+                          BestMatch& best)
+{
+    for (int i = 0; i < tries && best.error; ++i) {
+        const std::uint32_t number = SmartFillRandom::mix(key, std::uint32_t(i));
+        compare(source, near, source.list[SmartFillRandom::scaled(number, source.listLength)], best);
     }
 }
 

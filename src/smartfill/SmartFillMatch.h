@@ -43,6 +43,8 @@ struct MatchSource {
     /// How many pixels around (square) are all source pixels: 0 = not a source pixel, 1 = alone, up to 255. Readable
     /// for three bytes after the end.
     const std::uint8_t* clear = nullptr;
+    const std::int32_t* list = nullptr; ///< all source pixels, row by row
+    std::uint32_t listLength = 0;
 };
 
 struct BestMatch {
@@ -50,14 +52,21 @@ struct BestMatch {
     std::int32_t source = -1;
 };
 
-/// Compares the candidates (indices of source pixels) in order; one with an error below best's takes its place. Ends
-/// early on error 0. Any version gives the same answer: errors are whole numbers, so the order of adding is free.
-using MatchSearch = void (*)(const MatchSource&, const Neighbourhood&, const std::int32_t* candidates, int count,
-                             BestMatch& best);
+/// One way of searching. A candidate with an error below best's takes its place; candidates come in order, and the
+/// search ends early on error 0. All ways give the same answer: errors are whole numbers, so the order of adding is free.
+struct MatchSearch {
+    /// Compares @p candidates, indices of source pixels.
+    void (*among)(const MatchSource&, const Neighbourhood&, const std::int32_t* candidates, int count, BestMatch& best);
+    /// Compares @p tries source pixels chosen by the numbers of the random stream with @p key.
+    void (*atRandom)(const MatchSource&, const Neighbourhood&, std::uint32_t key, int tries, BestMatch& best);
+};
 
 void searchPortable(const MatchSource& source, const Neighbourhood& near, const std::int32_t* candidates, int count,
                     BestMatch& best);
-/// The fastest version this processor runs.
+void searchRandomPortable(const MatchSource& source, const Neighbourhood& near, std::uint32_t key, int tries,
+                          BestMatch& best);
+inline constexpr MatchSearch kPortableSearch{searchPortable, searchRandomPortable};
+/// The fastest way this processor knows.
 MatchSearch bestMatchSearch();
 
 /// robustDistance of 0 to 255; differences of bytes reach no further, and it is symmetric.

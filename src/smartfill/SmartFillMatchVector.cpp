@@ -5,7 +5,7 @@
 // The compiler's own header gives unused lanes from a variable set to itself, and warns of it.
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #include <immintrin.h>
-#define ZP_VBMI __attribute__((target("avx512f,avx512bw,avx512dq,avx512vl,avx512vbmi,bmi,bmi2,popcnt,lzcnt")))
+#define ZP_VBMI __attribute__((target("avx512f,avx512bw,avx512dq,avx512vl,avx512vbmi,avx512vnni,bmi,bmi2,popcnt,lzcnt")))
 #endif
 
 namespace zp
@@ -40,67 +40,136 @@ ZP_VBMI inline DistancePlanes distancePlanes()
     return planes;
 }
 
+struct PlaneBytes {
+    __m512i low, high;
+};
+
+ZP_VBMI inline PlaneBytes lookUp(const DistancePlanes& planes, __m512i difference)
+{
+    const __mmask64 large = _mm512_movepi8_mask(difference);
+    return {_mm512_mask_blend_epi8(large, _mm512_permutex2var_epi8(planes.low[0], difference, planes.low[1]),
+                                   _mm512_permutex2var_epi8(planes.low[2], difference, planes.low[3])),
+            _mm512_mask_blend_epi8(large, _mm512_permutex2var_epi8(planes.high[0], difference, planes.high[1]),
+                                   _mm512_permutex2var_epi8(planes.high[2], difference, planes.high[3]))};
+}
+
 /// Eight partial sums of the distances between the pixels of @p a and @p b in the lanes of @p used.
 ZP_VBMI inline __m512i distances(const DistancePlanes& planes, __m512i a, __m512i b, __mmask16 used)
 {
     const __m512i difference = _mm512_maskz_or_epi32(used, _mm512_subs_epu8(a, b), _mm512_subs_epu8(b, a));
-    const __mmask64 large = _mm512_movepi8_mask(difference);
-    const __m512i low =
-        _mm512_mask_blend_epi8(large, _mm512_permutex2var_epi8(planes.low[0], difference, planes.low[1]),
-                               _mm512_permutex2var_epi8(planes.low[2], difference, planes.low[3]));
-    const __m512i high =
-        _mm512_mask_blend_epi8(large, _mm512_permutex2var_epi8(planes.high[0], difference, planes.high[1]),
-                               _mm512_permutex2var_epi8(planes.high[2], difference, planes.high[3]));
+    const PlaneBytes bytes = lookUp(planes, difference);
     const __m512i zero = _mm512_setzero_si512();
-    return _mm512_add_epi64(_mm512_sad_epu8(low, zero), _mm512_slli_epi64(_mm512_sad_epu8(high, zero), 8));
+    return _mm512_add_epi64(_mm512_sad_epu8(bytes.low, zero), _mm512_slli_epi64(_mm512_sad_epu8(bytes.high, zero), 8));
 }
 
 ZP_VBMI inline std::int32_t total(__m512i sums) { return std::int32_t(_mm512_reduce_add_epi64(sums)); }
 
-ZP_VBMI void searchVector(const MatchSource& source, const Neighbourhood& near, const std::int32_t* candidates,
-                          int count, BestMatch& best)
+/// What a step compares its candidates with, in registers.
+struct Lanes {
+    std::uint32_t used;
+    __mmask16 first, second;
+    __m512i deltaA, deltaB, valueA, valueB;
+};
+
+ZP_VBMI inline Lanes lanesOf(const Neighbourhood& near)
+{
+    Lanes l;
+    l.used = std::uint32_t(((std::uint64_t{1} << near.count) - 1) & ~std::uint64_t{1}); // the pixel itself counts for nothing
+    l.first = __mmask16(l.used);
+    l.second = __mmask16(l.used >> 16);
+    l.deltaA = _mm512_maskz_load_epi32(l.first, near.delta);
+    l.deltaB = _mm512_maskz_load_epi32(l.second, near.delta + 16);
+    l.valueA = _mm512_maskz_load_epi32(l.first, near.value);
+    l.valueB = _mm512_maskz_load_epi32(l.second, near.value + 16);
+    return l;
+}
+
+/// One candidate, neighbours side by side.
+ZP_VBMI inline void compare(const MatchSource& source, const Neighbourhood& near, const Lanes& l,
+                            const DistancePlanes& planes, std::int32_t c, BestMatch& best)
+{
+    const std::uint32_t* const pixels = source.pixels + c;
+    std::int32_t error;
+    if (source.clear[c] > near.reach) {
+        error = total(distances(planes, _mm512_i32gather_epi32(l.deltaA, pixels, 4), l.valueA, l.first));
+        if (error >= best.error) return;
+        if (l.second) error += total(distances(planes, _mm512_i32gather_epi32(l.deltaB, pixels, 4), l.valueB, l.second));
+    } else {
+        const std::uint8_t* const clear = source.clear + c;
+        const __m512i lowByte = _mm512_set1_epi32(255), zero = _mm512_setzero_si512();
+        const __mmask16 hereA = _mm512_mask_test_epi32_mask(l.first, _mm512_i32gather_epi32(l.deltaA, clear, 1), lowByte);
+        const __mmask16 hereB = _mm512_mask_test_epi32_mask(l.second, _mm512_i32gather_epi32(l.deltaB, clear, 1), lowByte);
+        error = kMissingPenalty * __builtin_popcount(l.used & ~(hereA | std::uint32_t(hereB) << 16));
+        if (error >= best.error) return;
+        const __m512i a = distances(planes, _mm512_mask_i32gather_epi32(zero, hereA, l.deltaA, pixels, 4), l.valueA, hereA);
+        const __m512i b = distances(planes, _mm512_mask_i32gather_epi32(zero, hereB, l.deltaB, pixels, 4), l.valueB, hereB);
+        error += total(_mm512_add_epi64(a, b));
+    }
+    if (error < best.error) best = {error, c};
+}
+
+ZP_VBMI void searchVector(const MatchSource& source, const Neighbourhood& near, const std::int32_t* candidates, int count,
+                          BestMatch& best)
 {
     if (near.far) { // a handful of steps
         searchPortable(source, near, candidates, count, best);
         return;
     }
     const DistancePlanes planes = distancePlanes();
-    const std::uint32_t lanes = near.count >= 1 ? ((std::uint64_t{1} << near.count) - 1) & ~std::uint32_t{1} : 0;
-    const __mmask16 first = __mmask16(lanes), second = __mmask16(lanes >> 16);
-    const __m512i zero = _mm512_setzero_si512();
-    const __m512i deltaA = _mm512_maskz_load_epi32(first, near.delta),
-                  deltaB = _mm512_maskz_load_epi32(second, near.delta + 16);
-    const __m512i valueA = _mm512_maskz_load_epi32(first, near.value),
-                  valueB = _mm512_maskz_load_epi32(second, near.value + 16);
-    for (int i = 0; i < count && best.error; ++i) {
-        const std::int32_t c = candidates[i];
-        const std::uint32_t* const pixels = source.pixels + c;
-        std::int32_t error;
-        if (source.clear[c] > near.reach) {
-            const __m512i a = distances(planes, _mm512_i32gather_epi32(deltaA, pixels, 4), valueA, first);
-            error = total(a);
-            if (error >= best.error || !second) {
-                if (error < best.error) best = {error, c};
-                continue;
-            }
-            error += total(distances(planes, _mm512_i32gather_epi32(deltaB, pixels, 4), valueB, second));
-        } else {
-            const std::uint8_t* const clear = source.clear + c;
-            const __m512i lowByte = _mm512_set1_epi32(255);
-            const __mmask16 hereA =
-                _mm512_mask_test_epi32_mask(first, _mm512_i32gather_epi32(deltaA, clear, 1), lowByte);
-            const __mmask16 hereB =
-                _mm512_mask_test_epi32_mask(second, _mm512_i32gather_epi32(deltaB, clear, 1), lowByte);
-            error =
-                kMissingPenalty * (__builtin_popcount(lanes) - __builtin_popcount(hereA) - __builtin_popcount(hereB));
-            if (error >= best.error) continue;
-            const __m512i a =
-                distances(planes, _mm512_mask_i32gather_epi32(zero, hereA, deltaA, pixels, 4), valueA, hereA);
-            const __m512i b =
-                distances(planes, _mm512_mask_i32gather_epi32(zero, hereB, deltaB, pixels, 4), valueB, hereB);
-            error += total(_mm512_add_epi64(a, b));
+    const Lanes lanes = lanesOf(near);
+    for (int i = 0; i < count && best.error; ++i) compare(source, near, lanes, planes, candidates[i], best);
+}
+
+/// SmartFillRandom::mix for sixteen indices at once.
+ZP_VBMI inline __m512i mix(std::uint32_t key, __m512i index)
+{
+    __m512i x = _mm512_xor_si512(_mm512_set1_epi32(int(key)), _mm512_mullo_epi32(index, _mm512_set1_epi32(int(0x9E3779B9u))));
+    x = _mm512_mullo_epi32(_mm512_xor_si512(x, _mm512_srli_epi32(x, 16)), _mm512_set1_epi32(int(0x7FEB352Du)));
+    x = _mm512_mullo_epi32(_mm512_xor_si512(x, _mm512_srli_epi32(x, 15)), _mm512_set1_epi32(int(0x846CA68Bu)));
+    return _mm512_xor_si512(x, _mm512_srli_epi32(x, 16));
+}
+
+/// SmartFillRandom::scaled for sixteen numbers at once.
+ZP_VBMI inline __m512i scaled(__m512i number, std::uint32_t length)
+{
+    const __m512i by = _mm512_set1_epi64(length);
+    const __m512i even = _mm512_srli_epi64(_mm512_mul_epu32(number, by), 32);
+    const __m512i odd = _mm512_mul_epu32(_mm512_srli_epi64(number, 32), by);
+    return _mm512_mask_blend_epi32(0xAAAA, even, odd);
+}
+
+ZP_VBMI void searchRandomVector(const MatchSource& source, const Neighbourhood& near, std::uint32_t key, int tries,
+                                BestMatch& best)
+{
+    if (near.far) {
+        searchRandomPortable(source, near, key, tries, best);
+        return;
+    }
+    const DistancePlanes planes = distancePlanes();
+    const Lanes lanes = lanesOf(near);
+    const __m512i zero = _mm512_setzero_si512(), ones = _mm512_set1_epi8(1);
+    alignas(64) std::int32_t candidates[16];
+    for (int i = 0; i < tries && best.error; i += 16) {
+        const __m512i index = _mm512_add_epi32(_mm512_set1_epi32(i), _mm512_set_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
+        __mmask16 alive = tries - i >= 16 ? __mmask16(0xFFFF) : __mmask16((1u << (tries - i)) - 1);
+        const __m512i place = _mm512_i32gather_epi32(scaled(mix(key, index), source.listLength), source.list, 4);
+        // Sixteen candidates side by side, one neighbour after the other, until only a few are left. A neighbour without a
+        // counterpart costs more than any difference, so taking whatever lies there is a lower bound.
+        __m512i low = zero, high = zero;
+        for (int k = 1; k < near.count && (alive & (alive - 1)); ++k) {
+            const __m512i there = _mm512_i32gather_epi32(place, source.pixels + near.delta[k], 4);
+            const __m512i value = _mm512_set1_epi32(int(near.value[k]));
+            const __m512i difference = _mm512_or_si512(_mm512_subs_epu8(there, value), _mm512_subs_epu8(value, there));
+            const PlaneBytes bytes = lookUp(planes, difference);
+            low = _mm512_dpbusd_epi32(low, bytes.low, ones);
+            high = _mm512_dpbusd_epi32(high, bytes.high, ones);
+            const __m512i error = _mm512_add_epi32(low, _mm512_slli_epi32(high, 8));
+            alive = _mm512_mask_cmplt_epi32_mask(alive, error, _mm512_set1_epi32(best.error));
         }
-        if (error < best.error) best = {error, c};
+        if (!alive) continue;
+        _mm512_store_si512(candidates, place);
+        for (unsigned left = alive; left && best.error; left &= left - 1)
+            compare(source, near, lanes, planes, candidates[__builtin_ctz(left)], best);
     }
 }
 
@@ -108,12 +177,13 @@ ZP_VBMI void searchVector(const MatchSource& source, const Neighbourhood& near, 
 
 MatchSearch bestMatchSearch()
 {
-    static const bool vector = __builtin_cpu_supports("avx512vbmi") && __builtin_cpu_supports("avx512vl") &&
-                               __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512dq");
-    return vector ? searchVector : searchPortable;
+    static const bool vector = __builtin_cpu_supports("avx512vbmi") && __builtin_cpu_supports("avx512vnni") &&
+                               __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512bw") &&
+                               __builtin_cpu_supports("avx512dq");
+    return vector ? MatchSearch{searchVector, searchRandomVector} : kPortableSearch;
 }
 #else
-MatchSearch bestMatchSearch() { return searchPortable; }
+MatchSearch bestMatchSearch() { return kPortableSearch; }
 #endif
 
 } // namespace zp
