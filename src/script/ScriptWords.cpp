@@ -1,9 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Words of the automation language.
 #include "script/ScriptWords.h"
+#include <cctype>
 
 namespace zp
 {
+
+namespace
+{
+
+/// "#3", "#ff8000", "#ff800080": an item's number or a colour as an argument, not the beginning of a comment.
+bool isNumberOrColour(const std::string& line, std::size_t at)
+{
+    std::size_t end = at + 1;
+    bool decimal = true;
+    for (; end < line.size() && std::isxdigit(static_cast<unsigned char>(line[end])); ++end)
+        decimal = decimal && std::isdigit(static_cast<unsigned char>(line[end]));
+    if (end < line.size() && line[end] != ' ' && line[end] != '\t' && line[end] != '\r') return false;
+    const std::size_t digits = end - at - 1;
+    return (decimal && digits > 0) || digits == 6 || digits == 8;
+}
+
+} // namespace
 
 std::optional<std::vector<std::string>> splitScriptLine(const std::string& line)
 {
@@ -15,7 +33,7 @@ std::optional<std::vector<std::string>> splitScriptLine(const std::string& line)
             ++i;
             continue;
         }
-        if (line[i] == '#') break;
+        if (line[i] == '#' && (words.empty() || !isNumberOrColour(line, i))) break;
         std::string word;
         bool quoted = false;
         for (; i < line.size() && (quoted || !blank(line[i])); ++i) {
