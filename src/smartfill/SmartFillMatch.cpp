@@ -78,7 +78,8 @@ void compare(const MatchSource& source, const Neighbourhood& near, std::int32_t 
         const int x = layout.x(c), y = layout.y(c);
         error = errorOf(source, near, c, best.error, [&](int k) {
             const int qx = x + near.dx[k], qy = y + near.dy[k];
-            return qx >= 0 && qy >= 0 && qx < layout.width && qy < layout.height && source.clear[layout.index(qx, qy)] != 0;
+            return qx >= 0 && qy >= 0 && qx < layout.width && qy < layout.height &&
+                   source.clear[layout.index(qx, qy)] != 0;
         });
     }
     if (error < best.error) best = {error, c};
@@ -95,9 +96,16 @@ void searchPortable(const MatchSource& source, const Neighbourhood& near, const 
 void searchRandomPortable(const MatchSource& source, const Neighbourhood& near, std::uint32_t key, int tries,
                           BestMatch& best)
 {
-    for (int i = 0; i < tries && best.error; ++i) {
-        const std::uint32_t number = SmartFillRandom::mix(key, std::uint32_t(i));
-        compare(source, near, source.list[SmartFillRandom::scaled(number, source.listLength)], best);
+    // All are drawn first, so that their cache misses overlap.
+    constexpr int kBatch = 256;
+    std::int32_t candidates[kBatch];
+    for (int start = 0; start < tries && best.error; start += kBatch) {
+        const int count = std::min(kBatch, tries - start);
+        for (int i = 0; i < count; ++i) {
+            const std::uint32_t number = SmartFillRandom::mix(key, std::uint32_t(start + i));
+            candidates[i] = source.list[SmartFillRandom::scaled(number, source.listLength)];
+        }
+        searchPortable(source, near, candidates, count, best);
     }
 }
 

@@ -53,7 +53,8 @@ struct BestMatch {
 };
 
 /// One way of searching. A candidate with an error below best's takes its place; candidates come in order, and the
-/// search ends early on error 0. All ways give the same answer: errors are whole numbers, so the order of adding is free.
+/// search ends early on error 0. All ways give the same answer: errors are whole numbers, so the order of adding is
+/// free.
 struct MatchSearch {
     /// Compares @p candidates, indices of source pixels.
     void (*among)(const MatchSource&, const Neighbourhood&, const std::int32_t* candidates, int count, BestMatch& best);

@@ -5,7 +5,8 @@
 // The compiler's own header gives unused lanes from a variable set to itself, and warns of it.
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #include <immintrin.h>
-#define ZP_VBMI __attribute__((target("avx512f,avx512bw,avx512dq,avx512vl,avx512vbmi,avx512vnni,bmi,bmi2,popcnt,lzcnt")))
+#define ZP_VBMI                                                                                                        \
+    __attribute__((target("avx512f,avx512bw,avx512dq,avx512vl,avx512vbmi,avx512vnni,bmi,bmi2,popcnt,lzcnt")))
 #endif
 
 namespace zp
@@ -74,7 +75,8 @@ struct Lanes {
 ZP_VBMI inline Lanes lanesOf(const Neighbourhood& near)
 {
     Lanes l;
-    l.used = std::uint32_t(((std::uint64_t{1} << near.count) - 1) & ~std::uint64_t{1}); // the pixel itself counts for nothing
+    l.used = std::uint32_t(((std::uint64_t{1} << near.count) - 1) &
+                           ~std::uint64_t{1}); // the pixel itself counts for nothing
     l.first = __mmask16(l.used);
     l.second = __mmask16(l.used >> 16);
     l.deltaA = _mm512_maskz_load_epi32(l.first, near.delta);
@@ -93,23 +95,28 @@ ZP_VBMI inline void compare(const MatchSource& source, const Neighbourhood& near
     if (source.clear[c] > near.reach) {
         error = total(distances(planes, _mm512_i32gather_epi32(l.deltaA, pixels, 4), l.valueA, l.first));
         if (error >= best.error) return;
-        if (l.second) error += total(distances(planes, _mm512_i32gather_epi32(l.deltaB, pixels, 4), l.valueB, l.second));
+        if (l.second)
+            error += total(distances(planes, _mm512_i32gather_epi32(l.deltaB, pixels, 4), l.valueB, l.second));
     } else {
         const std::uint8_t* const clear = source.clear + c;
         const __m512i lowByte = _mm512_set1_epi32(255), zero = _mm512_setzero_si512();
-        const __mmask16 hereA = _mm512_mask_test_epi32_mask(l.first, _mm512_i32gather_epi32(l.deltaA, clear, 1), lowByte);
-        const __mmask16 hereB = _mm512_mask_test_epi32_mask(l.second, _mm512_i32gather_epi32(l.deltaB, clear, 1), lowByte);
+        const __mmask16 hereA =
+            _mm512_mask_test_epi32_mask(l.first, _mm512_i32gather_epi32(l.deltaA, clear, 1), lowByte);
+        const __mmask16 hereB =
+            _mm512_mask_test_epi32_mask(l.second, _mm512_i32gather_epi32(l.deltaB, clear, 1), lowByte);
         error = kMissingPenalty * __builtin_popcount(l.used & ~(hereA | std::uint32_t(hereB) << 16));
         if (error >= best.error) return;
-        const __m512i a = distances(planes, _mm512_mask_i32gather_epi32(zero, hereA, l.deltaA, pixels, 4), l.valueA, hereA);
-        const __m512i b = distances(planes, _mm512_mask_i32gather_epi32(zero, hereB, l.deltaB, pixels, 4), l.valueB, hereB);
+        const __m512i a =
+            distances(planes, _mm512_mask_i32gather_epi32(zero, hereA, l.deltaA, pixels, 4), l.valueA, hereA);
+        const __m512i b =
+            distances(planes, _mm512_mask_i32gather_epi32(zero, hereB, l.deltaB, pixels, 4), l.valueB, hereB);
         error += total(_mm512_add_epi64(a, b));
     }
     if (error < best.error) best = {error, c};
 }
 
-ZP_VBMI void searchVector(const MatchSource& source, const Neighbourhood& near, const std::int32_t* candidates, int count,
-                          BestMatch& best)
+ZP_VBMI void searchVector(const MatchSource& source, const Neighbourhood& near, const std::int32_t* candidates,
+                          int count, BestMatch& best)
 {
     if (near.far) { // a handful of steps
         searchPortable(source, near, candidates, count, best);
@@ -123,7 +130,8 @@ ZP_VBMI void searchVector(const MatchSource& source, const Neighbourhood& near, 
 /// SmartFillRandom::mix for sixteen indices at once.
 ZP_VBMI inline __m512i mix(std::uint32_t key, __m512i index)
 {
-    __m512i x = _mm512_xor_si512(_mm512_set1_epi32(int(key)), _mm512_mullo_epi32(index, _mm512_set1_epi32(int(0x9E3779B9u))));
+    __m512i x =
+        _mm512_xor_si512(_mm512_set1_epi32(int(key)), _mm512_mullo_epi32(index, _mm512_set1_epi32(int(0x9E3779B9u))));
     x = _mm512_mullo_epi32(_mm512_xor_si512(x, _mm512_srli_epi32(x, 16)), _mm512_set1_epi32(int(0x7FEB352Du)));
     x = _mm512_mullo_epi32(_mm512_xor_si512(x, _mm512_srli_epi32(x, 15)), _mm512_set1_epi32(int(0x846CA68Bu)));
     return _mm512_xor_si512(x, _mm512_srli_epi32(x, 16));
@@ -138,38 +146,72 @@ ZP_VBMI inline __m512i scaled(__m512i number, std::uint32_t length)
     return _mm512_mask_blend_epi32(0xAAAA, even, odd);
 }
 
+constexpr int kMostTries = 208;
+
+/// Candidates still in the race, with what the neighbours so far add up to.
+struct Contenders {
+    int count;
+    alignas(64) std::int32_t place[kMostTries + 16], error[kMostTries + 16];
+};
+
+/// Adds neighbour @p k to all contenders and drops those that reach @p limit, keeping the order. A neighbour without a
+/// counterpart costs more than any difference, so taking whatever lies there gives a lower bound.
+ZP_VBMI inline void addNeighbour(const MatchSource& source, const Neighbourhood& near, const DistancePlanes& planes,
+                                 int k, std::int32_t limit, Contenders& c)
+{
+    const std::uint32_t* const pixels = source.pixels + near.delta[k];
+    const __m512i value = _mm512_set1_epi32(int(near.value[k])), ones = _mm512_set1_epi8(1),
+                  zero = _mm512_setzero_si512();
+    const __m512i limits = _mm512_set1_epi32(limit);
+    int kept = 0;
+    for (int i = 0; i < c.count; i += 16) {
+        const __mmask16 used = c.count - i >= 16 ? __mmask16(0xFFFF) : __mmask16((1u << (c.count - i)) - 1);
+        const __m512i place = _mm512_load_si512(c.place + i);
+        const __m512i there = _mm512_mask_i32gather_epi32(zero, used, place, pixels, 4);
+        const __m512i difference = _mm512_or_si512(_mm512_subs_epu8(there, value), _mm512_subs_epu8(value, there));
+        const PlaneBytes bytes = lookUp(planes, difference);
+        const __m512i high = _mm512_slli_epi32(_mm512_dpbusd_epi32(zero, bytes.high, ones), 8);
+        const __m512i low = _mm512_dpbusd_epi32(_mm512_load_si512(c.error + i), bytes.low, ones);
+        const __m512i error = _mm512_add_epi32(low, high);
+        const __mmask16 alive = _mm512_mask_cmplt_epi32_mask(used, error, limits);
+        _mm512_storeu_si512(c.place + kept, _mm512_maskz_compress_epi32(alive, place));
+        _mm512_storeu_si512(c.error + kept, _mm512_maskz_compress_epi32(alive, error));
+        kept += __builtin_popcount(alive);
+    }
+    c.count = kept;
+}
+
 ZP_VBMI void searchRandomVector(const MatchSource& source, const Neighbourhood& near, std::uint32_t key, int tries,
                                 BestMatch& best)
 {
-    if (near.far) {
+    if (near.far || tries > kMostTries) {
         searchRandomPortable(source, near, key, tries, best);
         return;
     }
     const DistancePlanes planes = distancePlanes();
     const Lanes lanes = lanesOf(near);
-    const __m512i zero = _mm512_setzero_si512(), ones = _mm512_set1_epi8(1);
-    alignas(64) std::int32_t candidates[16];
-    for (int i = 0; i < tries && best.error; i += 16) {
-        const __m512i index = _mm512_add_epi32(_mm512_set1_epi32(i), _mm512_set_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
-        __mmask16 alive = tries - i >= 16 ? __mmask16(0xFFFF) : __mmask16((1u << (tries - i)) - 1);
-        const __m512i place = _mm512_i32gather_epi32(scaled(mix(key, index), source.listLength), source.list, 4);
-        // Sixteen candidates side by side, one neighbour after the other, until only a few are left. A neighbour without a
-        // counterpart costs more than any difference, so taking whatever lies there is a lower bound.
-        __m512i low = zero, high = zero;
-        for (int k = 1; k < near.count && (alive & (alive - 1)); ++k) {
-            const __m512i there = _mm512_i32gather_epi32(place, source.pixels + near.delta[k], 4);
-            const __m512i value = _mm512_set1_epi32(int(near.value[k]));
-            const __m512i difference = _mm512_or_si512(_mm512_subs_epu8(there, value), _mm512_subs_epu8(value, there));
-            const PlaneBytes bytes = lookUp(planes, difference);
-            low = _mm512_dpbusd_epi32(low, bytes.low, ones);
-            high = _mm512_dpbusd_epi32(high, bytes.high, ones);
-            const __m512i error = _mm512_add_epi32(low, _mm512_slli_epi32(high, 8));
-            alive = _mm512_mask_cmplt_epi32_mask(alive, error, _mm512_set1_epi32(best.error));
+    alignas(64) std::int32_t places[kMostTries];
+    const __m512i upTo15 = _mm512_set_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
+    for (int i = 0; i < tries; i += 16) {
+        const __m512i number = mix(key, _mm512_add_epi32(_mm512_set1_epi32(i), upTo15));
+        _mm512_store_si512(places + i, _mm512_i32gather_epi32(scaled(number, source.listLength), source.list, 4));
+    }
+    // Without an error to beat there is nothing to drop anyone by: the first few give one.
+    constexpr int kFew = 16;
+    constexpr int kLeftToCompare = 8;
+    Contenders c;
+    for (int start = 0, end = best.error == kWorstError ? kFew : tries; start < tries; start = end, end = tries) {
+        c.count = end - start;
+        for (int i = 0; i < c.count; i += 16) {
+            _mm512_store_si512(c.place + i, _mm512_loadu_si512(places + start + i));
+            _mm512_store_si512(c.error + i, _mm512_setzero_si512());
         }
-        if (!alive) continue;
-        _mm512_store_si512(candidates, place);
-        for (unsigned left = alive; left && best.error; left &= left - 1)
-            compare(source, near, lanes, planes, candidates[__builtin_ctz(left)], best);
+        for (int k = 1; k < near.count && c.count > kLeftToCompare; ++k)
+            addNeighbour(source, near, planes, k, best.error, c);
+        for (int i = 0; i < c.count; ++i) {
+            compare(source, near, lanes, planes, c.place[i], best);
+            if (!best.error) return;
+        }
     }
 }
 
