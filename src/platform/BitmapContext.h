@@ -14,9 +14,10 @@ namespace zp
 enum class CompositingOperation : int { Clear = 0, Copy = 1, SourceOver = 2, SourceIn = 3 };
 enum class Interpolation : int { Default = 0, None = 1 };
 
-/// A context over a view. Coordinates are the bitmap's own: pixel (x, y) covers [x, x+1) by [y, y+1), y grows downwards,
-/// row 0 on top; the current transform maps what is drawn into them. Everything is cut to the bitmap, however large or
-/// broken the coordinates are (NaN draws nothing). One thread at a time; different contexts are independent.
+/// A context over a view. Coordinates are the bitmap's own: pixel (x, y) covers [x, x+1) by [y, y+1), y grows
+/// downwards, row 0 on top; the current transform maps what is drawn into them. Everything is cut to the bitmap,
+/// however large or broken the coordinates are (NaN draws nothing). One thread at a time; different contexts are
+/// independent.
 class BitmapContext
 {
 public:
@@ -43,20 +44,24 @@ public:
     void setColor(Color color);
     void setShouldAntialias(bool on);
     void setInterpolation(Interpolation interpolation);
+    /// Off (the state at first): a scaled or turned image ends in a smooth edge of its own. On: it goes on a pixel
+    /// beyond its rectangle, for images whose outline a clip path draws; two soft edges on top of each other would be
+    /// thin.
+    void setImageEdgesExtend(bool on);
 
     /// Fills by the path's winding rule in the current colour, source-over.
     void fill(const BezierPath& path);
     /// Fills with the copy operation, so that a clear colour erases.
     void fillRect(Rect rect, CompositingOperation operation = CompositingOperation::Copy);
-    /// Strokes with the path's width, joins, caps and dash in the current colour, source-over. A zero-length subpath with
-    /// round caps draws a dot.
+    /// Strokes with the path's width, joins, caps and dash in the current colour, source-over. A zero-length subpath
+    /// with round caps draws a dot.
     void stroke(const BezierPath& path);
     /// One-pixel-wide frame just inside the rectangle.
     void frameRect(Rect rect);
 
-    /// Draws the part @p source of @p image (in its pixels) into @p destination with the given opacity. At unit scale on
-    /// whole pixels a copy, or a source-over of opaque pixels at fraction 1, changes no byte of the pixels. Reduced, the
-    /// pixels are averaged; enlarged or turned, interpolated smoothly (Default) or taken from the nearest (None).
+    /// Draws the part @p source of @p image (in its pixels) into @p destination with the given opacity. At unit scale
+    /// on whole pixels a copy, or a source-over of opaque pixels at fraction 1, changes no byte of the pixels. Reduced,
+    /// the pixels are averaged; enlarged or turned, interpolated smoothly (Default) or taken from the nearest (None).
     /// @param fraction values above 1 count as 1, below 0 as 0
     void drawImage(ConstBitmapView image, Rect destination, Rect source,
                    CompositingOperation operation = CompositingOperation::SourceOver, float fraction = 1);

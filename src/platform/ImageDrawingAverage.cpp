@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Averages over a grid of cells: rows of pixels are summed first, while they are in cache, then columns.
+#include "platform/ImageDrawingSampler.h"
+#include "platform/Simd.h"
+#include "platform/WorkPool.h"
+#include <algorithm>
+#include <cmath>
+
+namespace zp
+{
+
+namespace
+{
+/// Weights of a cell add up to this; alpha or colour times it fits 32 bits after each of the two passes.
+constexpr std::uint32_t kUnity = 65536;
+
+/// The pixels of one line that a cell covers, and how much each counts.
+struct Cell {
+    int first = 0, count = 0;
+    std::uint32_t weights = 0; ///< index of the first weight
+};
+
+struct Cells {
+    std::vector<Cell> cells;
+    std::vector<std::uint32_t> weights;
+
+    Cells(double start, double step, int count, int low, int high)
+    {
+        cells.reserve(std::size_t(count));
+        for (int i = 0; i < count; ++i) {
+            // Both ends from the grid's start, so that neighbours meet without a gap.
+            const double a = std::clamp(start + i * step, double(low), double(high));
+            const double b = std::clamp(start + (i + 1) * step, double(low), double(high));
+            Cell cell;
+            cell.weights = std::uint32_t(weights.size());
+            const double extent = b - a;
+            if (!(extent > 1e-9)) {
+                // Beyond the border: the nearest pixel goes on.
+                cell.first = std::clamp(int(a), low, high - 1);
+                cell.count = 1;
+                weights.push_back(kUnity);
+                cells.push_back(cell);
+                continue;
+            }
+            cell.first = int(std::floor(a));
+            cell.count = std::max(1, int(std::ceil(b)) - cell.first);
+            std::uint32_t before = 0;
+            for (int k = 0; k < cell.count; ++k) {
+                // Rounded as running totals, so that they add up exactly.
+                const double until = std::min(double(cell.first + k + 1), b) - a;
+                const auto total = k == cell.count - 1 ? kUnity : std::uint32_t(until / extent * kUnity + 0.5);
+                weights.push_back(total - before);
+                before = total;
+            }
+            cells.push_back(cell);
+        }
+    }
+};
+
+ZP_MULTIVERSION void startSum(std::uint32_t* sum, const std::uint8_t* row, std::uint32_t weight, int count)
+{
+    for (int i = 0; i < count; ++i) sum[i] = row[i] * weight;
+}
+ZP_MULTIVERSION void addToSum(std::uint32_t* sum, const std::uint8_t* row, std::uint32_t weight, int count)
+{
+    for (int i = 0; i < count; ++i) sum[i] += row[i] * weight;
+}
+/// To eight bits below the point.
+ZP_MULTIVERSION void finishSum(std::uint32_t* sum, int count)
+{
+    for (int i = 0; i < count; ++i) sum[i] = (sum[i] + 128) >> 8;
+}
+
+using Quad = std::uint32_t __attribute__((vector_size(16)));
+
+std::uint32_t averageOf(const std::uint32_t* sums, const std::uint32_t* weights, int count)
+{
+    Quad total{1u << 23, 1u << 23, 1u << 23, 1u << 23};
+    for (int i = 0; i < count; ++i) {
+        Quad v;
+        __builtin_memcpy(&v, sums + 4 * i, sizeof v);
+        total += v * weights[i];
+    }
+    total >>= 24;
+    return total[0] | total[1] << 8 | total[2] << 16 | total[3] << 24;
+}
+} // namespace
+
+void averageOverGrid(ConstBitmapView image, PixelBox part, const AveragingGrid& grid, std::uint8_t* out,
+                     std::ptrdiff_t outRowBytes)
+{
+    if (grid.columns <= 0 || grid.rows <= 0) return;
+    const Cells columns(grid.left, grid.stepX, grid.columns, part.x0, part.x1);
+    const Cells rows(grid.top, grid.stepY, grid.rows, part.y0, part.y1);
+    int low = part.x1, high = part.x0;
+    for (const Cell& c : columns.cells) low = std::min(low, c.first), high = std::max(high, c.first + c.count);
+    const int bytes = 4 * (high - low);
+    const double pixelsPerRow = double(high - low) * std::max(1.0, grid.stepY);
+    const int grain = std::max(1, int(300'000 / pixelsPerRow));
+    parallelBands(grid.rows, grain, [&](int first, int last) {
+        std::vector<std::uint32_t> sums(static_cast<std::size_t>(bytes));
+        for (int r = first; r < last; ++r) {
+            const Cell& row = rows.cells[std::size_t(r)];
+            const std::uint32_t* const weight = &rows.weights[row.weights];
+            startSum(sums.data(), image.pixel(low, row.first), weight[0], bytes);
+            for (int k = 1; k < row.count; ++k)
+                if (weight[k]) addToSum(sums.data(), image.pixel(low, row.first + k), weight[k], bytes);
+            finishSum(sums.data(), bytes);
+            auto* const to = reinterpret_cast<std::uint32_t*>(out + outRowBytes * r);
+            for (int c = 0; c < grid.columns; ++c) {
+                const Cell& column = columns.cells[std::size_t(c)];
+                to[c] = averageOf(&sums[4 * std::size_t(column.first - low)], &columns.weights[column.weights],
+                                  column.count);
+            }
+        }
+    });
+}
+
+} // namespace zp
