@@ -241,12 +241,11 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
         const int done = int(s.info.output_scanline);
         if (done == 0) return Decoded::failure(sentence(s));
         for (int y = done; y < out.height; ++y) std::memset(out.rowData(y), 0, std::size_t(out.rowBytes));
-    } else {
-        finish(s);
     }
+    if (options.properties) collectProperties(s.info, s.bitmap->properties); // finishing forgets the markers
+    if (complete) finish(s);
     if (!complete || s.errors.num_warnings > 0)
         s.bitmap->properties.warnings.emplace_back("The JPEG data is damaged; what could be read is shown.");
-    if (options.properties) collectProperties(s.info, s.bitmap->properties);
     result.bitmap = std::move(s.bitmap);
     return result;
 }

@@ -105,9 +105,26 @@ int orientationOf(Magick::Image& image)
 /// Whether the alpha that the reader reports means transparency in this kind of file.
 bool alphaCounts(Format format) { return format != Format::PICT && format != Format::PCX; }
 
+/// A true-colour TGA file may carry a colour map that nothing uses, which the reader stumbles over: the file without
+/// it.
+std::vector<std::uint8_t> withoutUnusedMap(Bytes tga)
+{
+    const std::size_t head = 18 + std::size_t{tga[0]};
+    const std::size_t map = (std::size_t{tga[5]} | std::size_t{tga[6]} << 8) * ((std::size_t{tga[7]} + 7) / 8);
+    if (head + map >= tga.size()) return {};
+    std::vector<std::uint8_t> out(tga.begin(), tga.begin() + std::ptrdiff_t(head));
+    out.insert(out.end(), tga.begin() + std::ptrdiff_t(head + map), tga.end());
+    out[1] = 0;
+    std::fill(out.begin() + 3, out.begin() + 8, std::uint8_t{0});
+    return out;
+}
+
 Decoded read(Bytes bytes, Format format, const ImportOptions& options)
 {
-    const Magick::Blob blob(bytes.data(), bytes.size());
+    std::vector<std::uint8_t> changed;
+    if (format == Format::TGA && bytes[1] == 1 && (bytes[2] & 7) != 1) changed = withoutUnusedMap(bytes);
+    const Magick::Blob blob(changed.empty() ? bytes.data() : changed.data(),
+                            changed.empty() ? bytes.size() : changed.size());
     const auto prepare = [&](Magick::Image& image) {
         image.quiet(true); // warnings are no exceptions
         image.magick(readerFor(format));

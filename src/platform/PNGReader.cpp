@@ -2,6 +2,7 @@
 /// PNG files straight into A, R, G, B rows.
 #include "platform/Codec.h"
 #include "platform/MetadataBlocks.h"
+#include "platform/PNGChunks.h"
 #include <csetjmp>
 #include <cstring>
 #include <png.h>
@@ -12,15 +13,13 @@ namespace
 {
 
 /// A chunk may unpack to this much: profiles and packets of real files are smaller, bombs are not.
-constexpr png_alloc_size_t kMaxChunkBytes = 8 << 20;
-constexpr png_uint_32 kMaxChunks = 200;
+constexpr png_alloc_size_t kMaxUnpackedBytes = 8 << 20;
 
 /// Everything that lives across libpng's long jumps. The functions that set the jump own no object themselves.
 struct Session {
     png_structp png = nullptr;
     png_infop info = nullptr;
-    Bytes bytes;
-    std::size_t at = 0;
+    PNGChunks chunks;
     char message[200] = {};
     bool warned = false; ///< damage that libpng passed over
     std::shared_ptr<BitmapRep> bitmap;
@@ -50,10 +49,7 @@ void onWarning(png_structp png, png_const_charp message)
 
 void onRead(png_structp png, png_bytep out, png_size_t count)
 {
-    auto* s = static_cast<Session*>(png_get_io_ptr(png));
-    if (count > s->bytes.size() - s->at) png_error(png, "the file ends too early");
-    std::memcpy(out, s->bytes.data() + s->at, count);
-    s->at += count;
+    if (!static_cast<Session*>(png_get_io_ptr(png))->chunks.read(out, count)) png_error(png, "the file ends too early");
 }
 
 bool readHeader(Session& s)
@@ -65,11 +61,10 @@ bool readHeader(Session& s)
     if (!s.info) png_error(s.png, "out of memory");
     png_set_read_fn(s.png, &s, onRead);
     png_set_user_limits(s.png, 0x7FFFFFFF, 0x7FFFFFFF); // sizes are checked where all readers check them
-    png_set_chunk_malloc_max(s.png, kMaxChunkBytes);
-    png_set_chunk_cache_max(s.png, kMaxChunks);
+    png_set_chunk_malloc_max(s.png, kMaxUnpackedBytes);
     png_set_benign_errors(s.png, 1);
     png_set_crc_action(s.png, PNG_CRC_ERROR_QUIT, PNG_CRC_WARN_DISCARD);
-    // No text but what is looked for; the profile's checks of libpng would refuse harmless ones, ours come later.
+    // libpng's checks of profiles would refuse harmless ones; ours come later.
     png_set_option(s.png, PNG_SKIP_sRGB_CHECK_PROFILE, PNG_OPTION_ON);
     png_read_info(s.png, s.info);
     return true;
@@ -159,7 +154,7 @@ std::string sentence(const Session& s) { return "The PNG data cannot be read: " 
 Decoded decodePNG(Bytes bytes, const ImportOptions& options)
 {
     Session s;
-    s.bytes = bytes;
+    s.chunks.open(bytes);
     if (!readHeader(s)) return Decoded::failure(sentence(s));
     Decoded result;
     const auto width = png_get_image_width(s.png, s.info), height = png_get_image_height(s.png, s.info);
@@ -178,7 +173,8 @@ Decoded decodePNG(Bytes bytes, const ImportOptions& options)
     s.rows = s.rowStore.data();
     for (int y = 0; y < out.height; ++y) s.rows[y] = out.rowData(y);
     const bool complete = readRows(s);
-    if (!complete && s.pass == 0 && s.rowsDone == 0) return Decoded::failure(sentence(s));
+    const bool corrupt = std::strstr(s.message, "CRC") && !s.chunks.endsTooEarly();
+    if (!complete && ((s.pass == 0 && s.rowsDone == 0) || corrupt)) return Decoded::failure(sentence(s));
     if (!complete && !interlaced)
         for (int y = s.rowsDone; y < out.height; ++y) std::memset(out.rowData(y), 0, std::size_t(out.rowBytes));
     if (transparent)

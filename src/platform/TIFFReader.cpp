@@ -34,25 +34,31 @@ std::string checkLayout(const TIFFLayout& layout)
     return {};
 }
 
-/// Strips or tiles straight into the rows. @return how many of them could not be read
-std::uint64_t decodeChunks(Bytes bytes, const TIFFLayout& layout, BitmapView out)
+struct ChunkFaults {
+    std::uint64_t damaged = 0, empty = 0; ///< the second are among the first: nothing of them could be decoded
+};
+
+/// Strips or tiles straight into the rows.
+ChunkFaults decodeChunks(Bytes bytes, const TIFFLayout& layout, BitmapView out)
 {
     const auto across = std::uint64_t((layout.width + layout.chunkWidth - 1) / layout.chunkWidth);
     const auto down = std::uint64_t((layout.height + layout.chunkHeight - 1) / layout.chunkHeight);
     const unsigned planes = layout.separatePlanes ? layout.neededSamples() : 1;
-    std::atomic<std::uint64_t> failed{0};
+    std::atomic<std::uint64_t> failed{0}, empty{0};
 
     const auto decodeBand = [&](int first, int last) {
         TIFFSource source(bytes); // a handle of its own: libtiff's are not to be shared by threads
         TIFFLayout own;
         if (!source.isOpen() || !own.read(source.handle())) {
             failed += std::uint64_t(last - first) * across;
+            empty += std::uint64_t(last - first) * across;
             return;
         }
         const std::size_t chunkBytes = std::size_t(layout.chunkRowBytes) * std::size_t(layout.chunkHeight);
         const auto buffer = allocatePixelsUninitialized(chunkBytes * planes);
         if (!buffer) {
             failed += std::uint64_t(last - first) * across;
+            empty += std::uint64_t(last - first) * across;
             return;
         }
         SampleConverter converter(layout);
@@ -61,25 +67,26 @@ std::uint64_t decodeChunks(Bytes bytes, const TIFFLayout& layout, BitmapView out
                 const int x = int(column) * layout.chunkWidth, y = int(row) * layout.chunkHeight;
                 const int width = std::min(layout.chunkWidth, layout.width - x);
                 const int height = std::min(layout.chunkHeight, layout.height - y);
-                std::int64_t least = std::int64_t(chunkBytes);
+                bool whole = true;
                 for (unsigned plane = 0; plane < planes; ++plane) {
                     const std::uint64_t index = (plane * down + row) * across + column;
-                    std::uint8_t* target = &buffer[plane * chunkBytes];
-                    std::int64_t got = source.readChunk(index, target, std::int64_t(chunkBytes), layout.tiled);
-                    if (got < 0) got = 0;
-                    least = std::min(least, got);
-                    std::memset(target + got, 0, chunkBytes - std::size_t(got));
+                    std::uint8_t* target = buffer.get() + plane * chunkBytes;
+                    std::memset(target, 0, chunkBytes); // a damaged chunk is decoded as far as it goes
+                    const std::int64_t got = source.readChunk(index, target, std::int64_t(chunkBytes), layout.tiled);
+                    whole &= got >= layout.chunkRowBytes * height;
                 }
-                const int whole = int(least / layout.chunkRowBytes);
-                if (whole < height && layout.chunkRowBytes * height > least) ++failed;
-                for (int i = 0; i < height; ++i) {
-                    std::uint8_t* to = out.pixel(x, y + i);
-                    if (least == 0)
-                        std::memset(to, 0, std::size_t(width) * 4);
-                    else
-                        converter.convertRow(&buffer[std::size_t(i) * std::size_t(layout.chunkRowBytes)], chunkBytes,
-                                             to, width);
+                if (!whole) {
+                    ++failed;
+                    const std::uint8_t* from = buffer.get();
+                    if (std::all_of(from, from + chunkBytes * planes, [](std::uint8_t b) { return b == 0; })) {
+                        ++empty;
+                        for (int i = 0; i < height; ++i) std::memset(out.pixel(x, y + i), 0, std::size_t(width) * 4);
+                        continue;
+                    }
                 }
+                for (int i = 0; i < height; ++i)
+                    converter.convertRow(buffer.get() + std::size_t(i) * std::size_t(layout.chunkRowBytes), chunkBytes,
+                                         out.pixel(x, y + i), width);
             }
         }
     };
@@ -89,7 +96,7 @@ std::uint64_t decodeChunks(Bytes bytes, const TIFFLayout& layout, BitmapView out
         decodeBand(0, rows);
     else
         parallelBands(rows, std::max(1, rows / (2 * workerCount())), decodeBand);
-    return failed;
+    return {failed, empty};
 }
 
 /// libtiff's own conversion, for colours that are not red, green, blue, grey, palette or inks.
@@ -167,13 +174,13 @@ Decoded decodeTIFF(Bytes bytes, const ImportOptions& options)
     if (!bitmap) return Decoded::failure("There is not enough memory for this picture.");
     ImageProperties& properties = bitmap->properties;
     if (SampleConverter::handles(layout)) {
-        const std::uint64_t failed = decodeChunks(bytes, layout, bitmap->view());
-        const std::uint64_t all = layout.chunkCount() / (layout.separatePlanes ? layout.samples : 1);
-        if (failed >= all && layout.nothingReadable(source, all)) {
-            const std::string why = tidyMessage(source.message());
-            return Decoded::failure("The TIFF data cannot be read: " + why + ".");
+        const ChunkFaults faults = decodeChunks(bytes, layout, bitmap->view());
+        if (faults.empty >= layout.chunkCount() / (layout.separatePlanes ? layout.samples : 1)) {
+            std::vector<std::uint8_t> first(std::size_t(layout.chunkRowBytes) * std::size_t(layout.chunkHeight));
+            source.readChunk(0, first.data(), std::int64_t(first.size()), layout.tiled); // for its message
+            return Decoded::failure("The TIFF data cannot be read: " + tidyMessage(source.message()) + ".");
         }
-        if (failed) properties.warnings.emplace_back("The TIFF data is damaged; what could be read is shown.");
+        if (faults.damaged) properties.warnings.emplace_back("The TIFF data is damaged; what could be read is shown.");
     } else {
         std::string error;
         if (!decodeByLibrary(source, layout, bitmap->view(), error)) return Decoded::failure(error);

@@ -77,12 +77,4 @@ std::uint64_t TIFFLayout::chunkCount() const
     return across * down * (separatePlanes ? samples : 1);
 }
 
-bool TIFFLayout::nothingReadable(TIFFSource& source, std::uint64_t chunks) const
-{
-    std::vector<std::uint8_t> buffer(std::size_t(chunkRowBytes) * std::size_t(chunkHeight));
-    for (std::uint64_t i = 0; i < chunks; ++i)
-        if (source.readChunk(i, buffer.data(), std::int64_t(buffer.size()), tiled) > 0) return false;
-    return true;
-}
-
 } // namespace zp::codec

@@ -109,8 +109,6 @@ struct TIFFLayout {
     bool hasAlpha() const { return samples > colourSamples() && alphaKind != EXTRASAMPLE_UNSPECIFIED; }
     unsigned neededSamples() const { return colourSamples() + (hasAlpha() ? 1 : 0); }
     std::uint64_t chunkCount() const;
-    /// Reads chunks one by one until one gives a byte.
-    bool nothingReadable(TIFFSource& source, std::uint64_t chunks) const;
 };
 
 } // namespace zp::codec
