@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The rules by which names of picture files are chosen and changed.
+#pragma once
+#include <functional>
+#include <string>
+
+namespace zp
+{
+
+/// What saving to a path writes.
+enum class SaveFormat {
+    None,      ///< an extension that is not saved to: nothing happens
+    TIFF,      ///< "tiff", "tif"
+    JPEG,      ///< "jpg", "JPG"
+    PNG,       ///< "png"
+    Photoshop, ///< "psd": can be opened, not saved
+};
+
+/// By the extension, letter case counting: "jpeg", "TIF" and "PNG" are none of them.
+SaveFormat saveFormatForPath(const std::string& path);
+/// "tiff", "jpg" or "png"; empty for what is not written.
+const char* extensionFor(SaveFormat format);
+/// Where an image of that format is written when asked for @p path: the extension is always replaced.
+std::string writtenPath(const std::string& path, SaveFormat format);
+
+/// What a save panel proposes.
+struct SaveProposal {
+    std::string folder, name;
+};
+/// An image with a file: its folder and name with the format's extension. Without: the pictures folder in @p home and
+/// "My Great Image".
+SaveProposal saveProposal(const std::string& imagePath, SaveFormat format, const std::string& home);
+
+/// The first of "My Great Image 1.tiff", "My Great Image 2.tiff", … in @p folder that @p exists denies; the 99th is
+/// given even if it exists. @return the whole path
+std::string quickSavePath(const std::string& folder, const std::function<bool(const std::string&)>& exists);
+
+} // namespace zp
