@@ -164,6 +164,21 @@ void BezierPath::append(const BezierPath& other)
     mPoints.insert(mPoints.end(), other.mPoints.begin(), other.mPoints.end());
 }
 
+void BezierPath::appendPolygon(std::span<const Point> points)
+{
+    if (points.empty()) return;
+    moveTo(points[0]);
+    mKinds.insert(mKinds.end(), points.size() - 1, PathElement::LineTo);
+    mPoints.insert(mPoints.end(), points.begin() + 1, points.end());
+    mKinds.push_back(PathElement::ClosePath);
+}
+
+void BezierPath::reserve(std::size_t elements, std::size_t points)
+{
+    mKinds.reserve(elements);
+    mPoints.reserve(points);
+}
+
 void BezierPath::removeAllPoints()
 {
     mKinds.clear();

@@ -36,7 +36,11 @@ public:
     void appendRect(Rect r);
     void appendOvalInRect(Rect r);
     void append(const BezierPath& other);
+    /// A closed subpath through the points: move, lines, close. The same as those calls, in one copy; nothing when empty.
+    void appendPolygon(std::span<const Point> points);
     void removeAllPoints();
+    /// Room for so many in all, to spare growing by steps.
+    void reserve(std::size_t elements, std::size_t points);
 
     int elementCount() const { return int(mKinds.size()); }
     bool isEmpty() const { return mKinds.empty(); }

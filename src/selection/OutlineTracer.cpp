@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The border as corners linked across and down: found by exclusive or of neighbouring rows, walked without a search.
+/// The border as corners linked across and down: found between neighbouring rows, walked without a search.
 #include "selection/OutlineTracer.h"
-#include <bit>
+#include "platform/Simd.h"
+#include "selection/OutlineCorners.h"
+#include <cstring>
 #include <new>
 
 namespace zp
@@ -14,126 +16,119 @@ namespace
 // come in pairs and the other end of corner i is i ^ 1, the left end always even. The other end of its vertical piece
 // is its link. A crossing, where two pixels touch only diagonally, takes two entries, one for each horizontal piece:
 // the first (odd) also has the vertical piece above it, the second the one below.
-constexpr std::uint32_t kCrossing = 0x80000000; ///< flag of a link: this corner is half of a crossing
-constexpr std::uint32_t kWalked = 0x40000000;   ///< flag of an even corner's link: its horizontal piece is used up
-constexpr std::uint32_t kIndex = 0x3fffffff;    ///< the link proper
-constexpr std::uint32_t kNone = kIndex;         ///< crossings only: the vertical piece is used up
+constexpr std::uint32_t kWalked = 0x80000000; ///< flag of an even corner's link: its horizontal piece is used up
+constexpr std::uint32_t kIndex = 0x7fffffff;  ///< the link proper
+constexpr std::uint32_t kNone = kIndex;       ///< crossings only: the vertical piece is used up
 
-/// Coordinates packed to 32 bits, or, for pictures larger than that allows, to 64.
-struct SmallCorner {
-    std::uint32_t place, link;
-    void set(std::uint32_t x, std::uint32_t y) { place = x | y << 16; }
-    std::uint32_t x() const { return place & 0xffff; }
-    std::uint32_t y() const { return place >> 16; }
+/// Column in the low half, row in the high half, the crossing's flag on top: for pictures of up to 32,767 a side.
+struct SmallPlace {
+    using Value = std::uint32_t;
+    static constexpr int kLargest = 0x7fff;
+    static constexpr Value kCrossing = 0x80000000;
+    static Value row(int y) { return Value(y) << 16; }
+    static Value column(FoundCorner found) { return (found.x & 0x7fff) | (found.x & FoundCorner::kCrossing) << 1; }
+    static int x(Value place) { return int(place & 0x7fff); }
+    static int y(Value place) { return int(place >> 16 & 0x7fff); }
 };
-struct LargeCorner {
-    std::uint32_t px, py, link;
-    void set(std::uint32_t x, std::uint32_t y) { px = x, py = y; }
-    std::uint32_t x() const { return px; }
-    std::uint32_t y() const { return py; }
-};
-
-/// Calls f(word index, corners, crossings, vertical lines above) for every word of the line between two rows that has
-/// any corner. Bit x of each belongs to the point at the left border of pixel x.
-template <class F>
-inline void forEachCornerWord(const std::uint64_t* above, const std::uint64_t* below, std::size_t words, F&& f)
-{
-    std::uint64_t lastAbove = 0, lastLine = 0; // the bit left of the word, in bit 0
-    for (std::size_t w = 0; w < words; ++w) {
-        const std::uint64_t line = above[w] ^ below[w];
-        const std::uint64_t lineLeft = line << 1 | lastLine;
-        const std::uint64_t vertical = above[w] ^ (above[w] << 1 | lastAbove);
-        lastLine = line >> 63;
-        lastAbove = above[w] >> 63;
-        const std::uint64_t ends = line ^ lineLeft, crossings = line & lineLeft & vertical;
-        if (ends | crossings) f(w, ends, crossings, vertical);
+struct LargePlace {
+    using Value = std::uint64_t;
+    static constexpr int kLargest = 0x3ffffffe;
+    static constexpr Value kCrossing = Value{1} << 63;
+    static Value row(int y) { return Value(unsigned(y)) << 32; }
+    static Value column(FoundCorner found)
+    {
+        return (found.x & FoundCorner::kColumn) | Value(found.x & FoundCorner::kCrossing) << 33;
     }
-}
+    static int x(Value place) { return int(std::uint32_t(place)); }
+    static int y(Value place) { return int(place >> 32 & 0x7fffffff); }
+};
 
+template <class Place>
+struct Corner {
+    typename Place::Value place;
+    std::uint32_t link;
+};
+
+/// The rows above and below each line of a picture, empty ones outside it.
 class RowPairs
 {
 public:
-    explicit RowPairs(const BitRows& bits) : mBits(bits), mEmpty(bits.wordsPerRow()) {}
-    const std::uint64_t* above(int y) const { return y > 0 ? mBits.row(y - 1) : mEmpty.data(); }
-    const std::uint64_t* below(int y) const { return y < mBits.height() ? mBits.row(y) : mEmpty.data(); }
+    explicit RowPairs(const BitRows& bits) : mBits(bits), mEmpty(bits.wordsPerRow() + 1) {}
+    const std::uint64_t* above(int y) const { return y > 0 ? mBits.row(y - 1) : mEmpty.data() + 1; }
+    const std::uint64_t* below(int y) const { return y < mBits.height() ? mBits.row(y) : mEmpty.data() + 1; }
 
 private:
     const BitRows& mBits;
     std::vector<std::uint64_t> mEmpty;
 };
 
-template <class Corner>
-void collectCorners(const BitRows& bits, Corner* corners)
+/// @param counts  corners on each line
+/// @param corners room for all of them and one more
+template <class Place>
+void collectCorners(const BitRows& bits, const std::vector<std::uint32_t>& counts, Corner<Place>* corners,
+                    std::uint32_t total)
 {
     const RowPairs rows(bits);
+    std::vector<FoundCorner> found(2 * (std::size_t(bits.width()) + 1) + 16);
     // Per column, the corner whose vertical piece is open downwards.
     std::vector<std::uint32_t> open(std::size_t(bits.width()) + 1);
-    Corner spare{}; // takes the writes of corners that close nothing, so that no branch is needed
-    std::uint32_t count = 0;
+    std::uint32_t next = 0;
     for (int y = 0; y <= bits.height(); ++y) {
-        forEachCornerWord(rows.above(y), rows.below(y), bits.wordsPerRow(),
-                          [&](std::size_t w, std::uint64_t ends, std::uint64_t crossings, std::uint64_t vertical) {
-                              for (std::uint64_t todo = ends | crossings; todo; todo &= todo - 1) {
-                                  const int bit = std::countr_zero(todo);
-                                  const std::size_t x = w * 64 + std::size_t(bit);
-                                  if (crossings >> bit & 1) [[unlikely]] {
-                                      corners[count].set(std::uint32_t(x), std::uint32_t(y));
-                                      corners[count].link = open[x] | kCrossing;
-                                      corners[open[x]].link = (corners[open[x]].link & kCrossing) | count;
-                                      ++count;
-                                      corners[count].set(std::uint32_t(x), std::uint32_t(y));
-                                      corners[count].link = kCrossing;
-                                      open[x] = count++;
-                                      continue;
-                                  }
-                                  const bool closes = vertical >> bit & 1;
-                                  corners[count].set(std::uint32_t(x), std::uint32_t(y));
-                                  corners[count].link = open[x];
-                                  Corner& partner = closes ? corners[open[x]] : spare;
-                                  partner.link = (partner.link & kCrossing) | count;
-                                  open[x] = count++;
-                              }
-                          });
+        const std::uint32_t count = counts[std::size_t(y)];
+        if (count == 0) continue;
+        findCorners(rows.above(y), rows.below(y), bits.wordsPerRow(), found.data());
+        const typename Place::Value row = Place::row(y);
+        for (std::uint32_t i = 0; i < count; ++i, ++next) {
+            const FoundCorner f = found[i];
+            std::uint32_t& opened = open[f.x & FoundCorner::kColumn];
+            const std::uint32_t old = opened;
+            opened = next;
+            corners[next].place = row | Place::column(f);
+            corners[next].link = old;
+            // A corner that ends no piece links the spare one at the end instead: which it is cannot be foreseen.
+            const std::uint32_t ends = std::uint32_t(0) - (f.x >> 31);
+            corners[(old & ends) | (total & ~ends)].link = next;
+        }
     }
 }
 
-template <class Corner>
+template <class Place>
 class Walk
 {
 public:
-    Walk(const BitRows& bits, Corner* corners, Point offset) : mBits(bits), mCorners(corners), mOffset(offset) {}
+    Walk(const BitRows& bits, Corner<Place>* corners) : mBits(bits), mCorners(corners), mLoop(1024) {}
 
     bool unused(std::uint32_t even) const { return !(mCorners[even].link & kWalked); }
 
     /// The loop that starts with the horizontal piece of the even corner @p start.
-    const std::vector<Point>& loopFrom(std::uint32_t start)
+    std::span<const typename Place::Value> loopFrom(std::uint32_t start)
     {
-        mLoop.clear();
-        emit(start);
+        std::size_t count = 0;
         std::uint32_t at = start;
         bool down = lowerRightIsSet(start);
+        mLoop[count++] = mCorners[start].place;
         for (;;) {
+            if (count + 2 > mLoop.size()) mLoop.resize(mLoop.size() * 2);
             at = down ? alongVertical(at) : alongHorizontal(at);
-            if (!(mCorners[at].link & kCrossing)) [[likely]] {
-                if (at == start) return mLoop;
-                emit(at);
+            const typename Place::Value place = mCorners[at].place;
+            if (!(place & Place::kCrossing)) [[likely]] {
+                if (at == start) break;
+                mLoop[count++] = place;
                 down = !down;
                 continue;
             }
             const bool wasVertical = down;
-            if (!leaveCrossing(at, down)) return mLoop; // only the start has nothing left when one comes back to it
-            if (down != wasVertical) emit(at);
+            if (!leaveCrossing(at, down)) break; // only the start has nothing left when one comes back to it
+            if (down != wasVertical) mLoop[count++] = place;
         }
+        mLoop[count++] = mCorners[start].place;
+        return {mLoop.data(), count};
     }
 
 private:
-    void emit(std::uint32_t i)
-    {
-        mLoop.push_back({float(mCorners[i].x()) + mOffset.x, float(mCorners[i].y()) + mOffset.y});
-    }
     bool lowerRightIsSet(std::uint32_t i) const
     {
-        const int x = int(mCorners[i].x()), y = int(mCorners[i].y());
+        const int x = Place::x(mCorners[i].place), y = Place::y(mCorners[i].place);
         return y < mBits.height() && mBits.at(x, y); // the bit right of the picture exists and is 0
     }
     std::uint32_t alongHorizontal(std::uint32_t i)
@@ -144,8 +139,8 @@ private:
     std::uint32_t alongVertical(std::uint32_t i)
     {
         const std::uint32_t other = mCorners[i].link & kIndex;
-        if (mCorners[i].link & kCrossing) mCorners[i].link |= kNone;
-        if (mCorners[other].link & kCrossing) mCorners[other].link |= kNone;
+        if (mCorners[i].place & Place::kCrossing) mCorners[i].link |= kNone;
+        if (mCorners[other].place & Place::kCrossing) mCorners[other].link |= kNone;
         return other;
     }
     /// Chooses the half of the crossing and the direction to go on with. @return false when nothing is left
@@ -164,22 +159,34 @@ private:
     }
 
     const BitRows& mBits;
-    Corner* mCorners;
-    Point mOffset;
-    std::vector<Point> mLoop;
+    Corner<Place>* mCorners;
+    std::vector<typename Place::Value> mLoop;
 };
 
-template <class Corner>
-void trace(const BitRows& bits, Point offset, std::size_t count,
+template <class Place>
+void toPoints(const typename Place::Value* places, std::size_t count, Point offset, Point* points)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        points[i] = {float(Place::x(places[i])) + offset.x, float(Place::y(places[i])) + offset.y};
+}
+
+template <class Place>
+void trace(const BitRows& bits, Point offset, const std::vector<std::uint32_t>& counts, std::uint32_t total,
            const std::function<void(std::span<const Point>)>& loop)
 {
-    const PixelMemory memory = allocatePixelsUninitialized(count * sizeof(Corner));
+    const PixelMemory memory = allocatePixelsUninitialized((std::size_t(total) + 1) * sizeof(Corner<Place>));
     if (!memory) throw std::bad_alloc();
-    Corner* corners = reinterpret_cast<Corner*>(memory.get());
-    collectCorners(bits, corners);
-    Walk<Corner> walk(bits, corners, offset);
-    for (std::uint32_t i = 0; i < count; i += 2)
-        if (walk.unused(i)) loop(walk.loopFrom(i));
+    auto* corners = reinterpret_cast<Corner<Place>*>(memory.get());
+    collectCorners(bits, counts, corners, total);
+    Walk<Place> walk(bits, corners);
+    std::vector<Point> points;
+    for (std::uint32_t i = 0; i < total; i += 2) {
+        if (!walk.unused(i)) continue;
+        const auto places = walk.loopFrom(i);
+        if (points.size() < places.size()) points.resize(places.size() * 2);
+        toPoints<Place>(places.data(), places.size(), offset, points.data());
+        loop({points.data(), places.size()});
+    }
 }
 
 } // namespace
@@ -189,19 +196,20 @@ void traceOutline(const BitRows& bits, Point offset, const std::function<void(st
 {
     if (bits.height() == 0) return;
     const RowPairs rows(bits);
-    std::size_t count = 0;
-    for (int y = 0; y <= bits.height(); ++y)
-        forEachCornerWord(rows.above(y), rows.below(y), bits.wordsPerRow(),
-                          [&](std::size_t, std::uint64_t ends, std::uint64_t crossings, std::uint64_t) {
-                              count += std::size_t(std::popcount(ends)) + 2 * std::size_t(std::popcount(crossings));
-                          });
-    if (count == 0) return;
-    if (count >= kIndex) throw std::bad_alloc();
-    if (expect) expect(count);
-    if (bits.width() <= 0xffff && bits.height() <= 0xffff)
-        trace<SmallCorner>(bits, offset, count, loop);
+    std::vector<std::uint32_t> counts(std::size_t(bits.height()) + 1);
+    std::size_t total = 0;
+    for (int y = 0; y <= bits.height(); ++y) {
+        counts[std::size_t(y)] = std::uint32_t(countCorners(rows.above(y), rows.below(y), bits.wordsPerRow()));
+        total += counts[std::size_t(y)];
+    }
+    if (total == 0) return;
+    if (total >= kIndex || bits.width() > LargePlace::kLargest || bits.height() > LargePlace::kLargest)
+        throw std::bad_alloc();
+    if (expect) expect(total);
+    if (bits.width() <= SmallPlace::kLargest && bits.height() <= SmallPlace::kLargest)
+        trace<SmallPlace>(bits, offset, counts, std::uint32_t(total), loop);
     else
-        trace<LargeCorner>(bits, offset, count, loop);
+        trace<LargePlace>(bits, offset, counts, std::uint32_t(total), loop);
 }
 
 } // namespace zp

@@ -20,7 +20,7 @@ namespace zp
 ///
 /// @param bits    any size up to 2^31 - 2 a side
 /// @param offset  added to the corners; (0, 0) puts the upper left corner of pixel (x, y) at (x, y)
-/// @param loop    called once per loop with its corners, the first one not repeated; the memory is reused
+/// @param loop    called once per loop with its corners and then the first one once more; the memory is reused
 /// @param expect  if given, called once before with the number of corners of all loops together (an upper bound)
 /// @throw std::bad_alloc also when there are more than 2^30 corners
 /// Time: one pass over the words and O(corners). Any thread.

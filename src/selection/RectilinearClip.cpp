@@ -125,7 +125,8 @@ bool clipRectilinear(gpc_op operation, const gpc_polygon& subject, const gpc_pol
     combine(operation, inSubject, inClip);
 
     PolygonWriter writer(result);
-    traceOutline(inSubject, {}, [&](std::span<const Point> corners) {
+    traceOutline(inSubject, {}, [&](std::span<const Point> closed) {
+        const std::span<const Point> corners = closed.first(closed.size() - 1);
         double twiceArea = 0;
         Point last = corners.back();
         for (const Point p : corners) {

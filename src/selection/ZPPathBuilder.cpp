@@ -14,11 +14,9 @@ zp::BezierPath ZPPathBuilder::path() const
 {
     zp::BezierPath path;
     path.setWindingRule(zp::WindingRule::EvenOdd);
-    zp::traceOutline(mMaskData, {0, 1}, [&path](std::span<const zp::Point> corners) {
-        path.moveTo(corners[0]);
-        for (const zp::Point corner : corners.subspan(1)) path.lineTo(corner);
-        path.lineTo(corners[0]);
-        path.closePath();
-    });
+    // A loop of four corners or more takes two elements and one point beyond its corners.
+    zp::traceOutline(
+        mMaskData, {0, 1}, [&path](std::span<const zp::Point> corners) { path.appendPolygon(corners); },
+        [&path](std::size_t count) { path.reserve(count + count / 2, count + count / 4); });
     return path;
 }
