@@ -2,11 +2,15 @@
 /// The smart fill run: lists, order of the steps, candidates, progress.
 #include "smartfill/SmartFill.h"
 #include "platform/Log.h"
+#include "platform/PixelMemory.h"
 #include "smartfill/KnownPixels.h"
 #include "smartfill/SmartFillMatch.h"
 #include "smartfill/SmartFillRandom.h"
 #include <algorithm>
 #include <ctime>
+#include <memory>
+#include <new>
+#include <span>
 #include <utility>
 
 namespace zp
@@ -16,6 +20,12 @@ namespace
 
 constexpr int kRandomTries = 200;
 constexpr std::int64_t kStepsPerProgress = 1024; // a power of two: a point is where the low bits are zero
+
+/// A pixel being synthesised; both parts are always wanted together.
+struct TargetPixel {
+    std::uint32_t value;
+    std::int32_t filledFrom; ///< index of the source pixel it was filled from; -1: not filled
+};
 
 /// One run's workspace.
 class SmartFillRun
@@ -38,13 +48,15 @@ private:
     MatchLayout mLayout;
     SmartFillRandom mRandom;
     MatchSearch mSearch;
-    std::vector<std::uint32_t> mTarget;    ///< the pixels being synthesised; padded like everything with an index
-    std::vector<std::uint32_t> mSource;    ///< an unchanging copy
-    std::vector<std::uint8_t> mClear;      ///< see MatchSource::clear
-    std::vector<std::int32_t> mFilledFrom; ///< index of the source pixel a pixel was filled from; -1: not filled
-    std::vector<std::int32_t> mStamps;     ///< the step in which a source pixel was last a coherence candidate
-    std::vector<PixelPoint> mFillList;     ///< without its revisits, which repeat its beginnings
-    std::vector<std::int32_t> mSourceList;
+    // All with an index in the padded layout, in one block of memory: steps read them at random, and a block of huge
+    // pages spares most address translations.
+    PixelMemory mMemory;
+    std::span<std::uint32_t> mSource;    ///< never changed
+    std::span<std::int32_t> mSourceList; ///< by number, not by index: all source pixels, row by row
+    std::span<TargetPixel> mTarget;
+    std::span<std::int32_t> mStamps;   ///< the step in which a source pixel was last a coherence candidate
+    std::span<std::uint8_t> mClear;    ///< see MatchSource::clear
+    std::vector<PixelPoint> mFillList; ///< without its revisits, which repeat its beginnings
     KnownPixels mKnown;
     MatchSource mMatchSource;
     Neighbourhood mNear;
@@ -52,30 +64,42 @@ private:
 };
 
 SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, MatchSearch search)
-    : mLayout(picture.width, picture.height),
-      mRandom(seed),
-      mSearch(search),
-      mSource(mLayout.size()),
-      mClear(mLayout.size() + 3),
-      mFilledFrom(mLayout.size(), -1),
-      mStamps(mLayout.size(), -1),
-      mKnown(mLayout)
+    : mLayout(picture.width, picture.height), mRandom(seed), mSearch(search), mKnown(mLayout)
 {
+    const std::size_t size = mLayout.size();
+    const auto sources =
+        std::size_t(std::count_if(picture.mask.begin(), picture.mask.end(), [](auto m) { return m != 255; }));
+    const auto hole = picture.mask.size() - std::size_t(std::count(picture.mask.begin(), picture.mask.end(), 0));
+    mMemory = allocatePixelsUninitialized(size * (sizeof(TargetPixel) + 9) + sources * 4 + 64);
+    if (!mMemory) throw std::bad_alloc();
+    std::uint8_t* next = mMemory.get();
+    const auto take = [&]<class T>(std::span<T>& span, std::size_t count, T value) {
+        span = {reinterpret_cast<T*>(next), count};
+        next += count * sizeof(T);
+        std::uninitialized_fill(span.begin(), span.end(), value);
+    };
+    take(mTarget, size, TargetPixel{0, -1});
+    take(mSource, size, 0u);
+    take(mSourceList, sources, 0);
+    take(mStamps, size, -1);
+    take(mClear, size + 3, std::uint8_t{0});
+    mFillList.reserve(hole);
+
+    std::size_t source = 0, pixel = 0;
     for (int y = 0; y < picture.height; ++y) {
-        const std::size_t row = std::size_t(y) * std::size_t(picture.width);
-        std::copy_n(picture.pixels.data() + row, picture.width, mSource.data() + mLayout.index(0, y));
-        for (int x = 0; x < picture.width; ++x) {
-            const std::uint8_t mask = picture.mask[row + std::size_t(x)];
+        for (int x = 0; x < picture.width; ++x, ++pixel) {
+            const std::int32_t index = mLayout.index(x, y);
+            const std::uint8_t mask = picture.mask[pixel];
+            mSource[std::size_t(index)] = mTarget[std::size_t(index)].value = picture.pixels[pixel];
             if (mask)
                 mFillList.push_back({x, y});
             else
                 mKnown.set(x, y);
             if (mask == 255) continue;
-            mSourceList.push_back(mLayout.index(x, y));
-            mClear[std::size_t(mLayout.index(x, y))] = 255;
+            mSourceList[source++] = index;
+            mClear[std::size_t(index)] = 255;
         }
     }
-    mTarget = mSource;
     measureClearance();
     mMatchSource = {mLayout, mSource.data(), mClear.data(), mSourceList.data(), std::uint32_t(mSourceList.size())};
 }
@@ -131,12 +155,14 @@ bool SmartFillRun::run(const SmartFillHooks& hooks)
     return true;
 }
 
-/// The source pixels that would continue what the neighbours were filled from. @return how many
+/// Reads the neighbours' values, and gathers the source pixels that would continue what they were filled from.
+/// @return how many of these there are
 int SmartFillRun::coherenceCandidates(std::int32_t stamp)
 {
     int count = 0;
     for (int k = 0; k < mNear.count; ++k) {
-        const std::int32_t from = mFilledFrom[std::size_t(mNear.index[k])];
+        const auto [value, from] = mTarget[std::size_t(mNear.index[k])];
+        mNear.value[k] = value;
         if (from < 0) continue;
         std::int32_t candidate = from - mNear.delta[k];
         if (mNear.far) {
@@ -155,21 +181,18 @@ void SmartFillRun::step(std::int64_t t, PixelPoint pixel)
 {
     mKnown.set(pixel.x, pixel.y);
     mKnown.collect(pixel.x, pixel.y, mNear);
-    for (int k = 0; k < mNear.count; ++k) mNear.value[k] = mTarget[std::size_t(mNear.index[k])];
-
+    const int coherent = coherenceCandidates(std::int32_t(t));
     BestMatch best;
-    mSearch.among(mMatchSource, mNear, mCandidates, coherenceCandidates(std::int32_t(t)), best);
+    mSearch.among(mMatchSource, mNear, mCandidates, coherent, best);
     if (best.error) mSearch.atRandom(mMatchSource, mNear, mRandom.keyOf(std::uint64_t(t)), kRandomTries, best);
-    const auto index = std::size_t(mLayout.index(pixel.x, pixel.y));
-    mTarget[index] = mSource[std::size_t(best.source)];
-    mFilledFrom[index] = best.source;
+    mTarget[std::size_t(mLayout.index(pixel.x, pixel.y))] = {mSource[std::size_t(best.source)], best.source};
 }
 
 void SmartFillRun::copyTarget(SmartFillPicture& picture) const
 {
-    for (int y = 0; y < picture.height; ++y)
-        std::copy_n(mTarget.data() + mLayout.index(0, y), picture.width,
-                    picture.pixels.data() + std::size_t(y) * std::size_t(picture.width));
+    for (const PixelPoint p : mFillList)
+        picture.pixels[std::size_t(p.y) * std::size_t(picture.width) + std::size_t(p.x)] =
+            mTarget[std::size_t(mLayout.index(p.x, p.y))].value;
 }
 
 void logStart(const SmartFillHooks& hooks)

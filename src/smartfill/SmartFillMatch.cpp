@@ -30,9 +30,9 @@ const std::int32_t* robustDistanceTable()
 
 MatchLayout::MatchLayout(int w, int h) : width(w), height(h)
 {
-    // Sixteen holds the neighbourhoods of all but the first few hundredths of the steps; a small rectangle needs less,
-    // since no neighbour is further away than its sides.
-    border = std::min(16, std::max({w, h, 1}));
+    // Holds the neighbourhoods of all but the first few thousandths of the steps; a small rectangle needs less, since
+    // no neighbour is further away than its sides.
+    border = std::min(48, std::max({w, h, 1}));
     stride = width + 2 * border;
 }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The comparison of sixteen neighbours at a time, for processors that look bytes up in registers (AVX-512 VBMI).
 #include "smartfill/SmartFillMatch.h"
+#include "smartfill/SmartFillRandom.h"
+#include <algorithm>
+#include <utility>
 #if defined(__x86_64__) && defined(__GNUC__)
 // The compiler's own header gives unused lanes from a variable set to itself, and warns of it.
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
@@ -127,14 +130,13 @@ ZP_VBMI void searchVector(const MatchSource& source, const Neighbourhood& near, 
     for (int i = 0; i < count && best.error; ++i) compare(source, near, lanes, planes, candidates[i], best);
 }
 
-/// SmartFillRandom::mix for sixteen indices at once.
-ZP_VBMI inline __m512i mix(std::uint32_t key, __m512i index)
+/// SmartFillRandom::mix for sixteen indices at once, which come multiplied by its stride.
+ZP_VBMI inline __m512i mix(std::uint32_t key, __m512i strides)
 {
-    __m512i x =
-        _mm512_xor_si512(_mm512_set1_epi32(int(key)), _mm512_mullo_epi32(index, _mm512_set1_epi32(int(0x9E3779B9u))));
-    x = _mm512_mullo_epi32(_mm512_xor_si512(x, _mm512_srli_epi32(x, 16)), _mm512_set1_epi32(int(0x7FEB352Du)));
-    x = _mm512_mullo_epi32(_mm512_xor_si512(x, _mm512_srli_epi32(x, 15)), _mm512_set1_epi32(int(0x846CA68Bu)));
-    return _mm512_xor_si512(x, _mm512_srli_epi32(x, 16));
+    __m512i x = _mm512_xor_si512(_mm512_set1_epi32(int(key)), strides);
+    x = _mm512_mullo_epi32(_mm512_xor_si512(x, _mm512_srli_epi32(x, 16)),
+                           _mm512_set1_epi32(int(SmartFillRandom::kMultiplier)));
+    return _mm512_xor_si512(x, _mm512_srli_epi32(x, 15));
 }
 
 /// SmartFillRandom::scaled for sixteen numbers at once.
@@ -150,69 +152,77 @@ constexpr int kMostTries = 208;
 
 /// Candidates still in the race, with what the neighbours so far add up to.
 struct Contenders {
-    int count;
+    int count = 0;
     alignas(64) std::int32_t place[kMostTries + 16], error[kMostTries + 16];
 };
 
-/// Adds neighbour @p k to all contenders and drops those that reach @p limit, keeping the order. A neighbour without a
-/// counterpart costs more than any difference, so taking whatever lies there gives a lower bound.
-ZP_VBMI inline void addNeighbour(const MatchSource& source, const Neighbourhood& near, const DistancePlanes& planes,
-                                 int k, std::int32_t limit, Contenders& c)
+/// Neighbour @p k of a step, ready to be compared with that of sixteen candidates.
+struct Probe {
+    const std::uint32_t* pixels;
+    __m512i value;
+};
+
+ZP_VBMI inline Probe probeOf(const MatchSource& source, const Neighbourhood& near, int k)
 {
-    const std::uint32_t* const pixels = source.pixels + near.delta[k];
-    const __m512i value = _mm512_set1_epi32(int(near.value[k])), ones = _mm512_set1_epi8(1),
-                  zero = _mm512_setzero_si512();
-    const __m512i limits = _mm512_set1_epi32(limit);
-    int kept = 0;
-    for (int i = 0; i < c.count; i += 16) {
-        const __mmask16 used = c.count - i >= 16 ? __mmask16(0xFFFF) : __mmask16((1u << (c.count - i)) - 1);
-        const __m512i place = _mm512_load_si512(c.place + i);
-        const __m512i there = _mm512_mask_i32gather_epi32(zero, used, place, pixels, 4);
-        const __m512i difference = _mm512_or_si512(_mm512_subs_epu8(there, value), _mm512_subs_epu8(value, there));
-        const PlaneBytes bytes = lookUp(planes, difference);
-        const __m512i high = _mm512_slli_epi32(_mm512_dpbusd_epi32(zero, bytes.high, ones), 8);
-        const __m512i low = _mm512_dpbusd_epi32(_mm512_load_si512(c.error + i), bytes.low, ones);
-        const __m512i error = _mm512_add_epi32(low, high);
-        const __mmask16 alive = _mm512_mask_cmplt_epi32_mask(used, error, limits);
-        _mm512_storeu_si512(c.place + kept, _mm512_maskz_compress_epi32(alive, place));
-        _mm512_storeu_si512(c.error + kept, _mm512_maskz_compress_epi32(alive, error));
-        kept += __builtin_popcount(alive);
-    }
-    c.count = kept;
+    return {source.pixels + near.delta[k], _mm512_set1_epi32(int(near.value[k]))};
 }
+
+/// Adds the probe's distance to the @p used candidates' errors and keeps those below the limit, in order. A neighbour
+/// without a counterpart costs more than any difference, so taking whatever lies there gives a lower bound.
+ZP_VBMI inline void keepBelow(const DistancePlanes& planes, const Probe& probe, __m512i limits, __mmask16 used,
+                              __m512i place, __m512i error, Contenders& c)
+{
+    const __m512i zero = _mm512_setzero_si512(), ones = _mm512_set1_epi8(1);
+    const __m512i there = _mm512_mask_i32gather_epi32(zero, used, place, probe.pixels, 4);
+    const __m512i difference =
+        _mm512_or_si512(_mm512_subs_epu8(there, probe.value), _mm512_subs_epu8(probe.value, there));
+    const PlaneBytes bytes = lookUp(planes, difference);
+    const __m512i high = _mm512_slli_epi32(_mm512_dpbusd_epi32(zero, bytes.high, ones), 8);
+    error = _mm512_add_epi32(_mm512_dpbusd_epi32(error, bytes.low, ones), high);
+    const __mmask16 alive = _mm512_mask_cmplt_epi32_mask(used, error, limits);
+    _mm512_storeu_si512(c.place + c.count, _mm512_maskz_compress_epi32(alive, place));
+    _mm512_storeu_si512(c.error + c.count, _mm512_maskz_compress_epi32(alive, error));
+    c.count += __builtin_popcount(alive);
+}
+
+__mmask16 firstLanes(int count) { return count >= 16 ? __mmask16(0xFFFF) : __mmask16((1u << count) - 1); }
 
 ZP_VBMI void searchRandomVector(const MatchSource& source, const Neighbourhood& near, std::uint32_t key, int tries,
                                 BestMatch& best)
 {
-    if (near.far || tries > kMostTries) {
+    if (near.far || tries > kMostTries || near.count < 2) {
         searchRandomPortable(source, near, key, tries, best);
         return;
     }
     const DistancePlanes planes = distancePlanes();
     const Lanes lanes = lanesOf(near);
-    alignas(64) std::int32_t places[kMostTries];
     const __m512i upTo15 = _mm512_set_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
-    for (int i = 0; i < tries; i += 16) {
-        const __m512i number = mix(key, _mm512_add_epi32(_mm512_set1_epi32(i), upTo15));
-        _mm512_store_si512(places + i, _mm512_i32gather_epi32(scaled(number, source.listLength), source.list, 4));
-    }
-    // Without an error to beat there is nothing to drop anyone by: the first few give one.
-    constexpr int kFew = 16;
-    constexpr int kLeftToCompare = 8;
+    const __m512i strides = _mm512_mullo_epi32(upTo15, _mm512_set1_epi32(int(SmartFillRandom::kStride)));
+    const auto draw = [&](int i) ZP_VBMI {
+        const __m512i number =
+            mix(key, _mm512_add_epi32(strides, _mm512_set1_epi32(int(SmartFillRandom::kStride * std::uint32_t(i)))));
+        return _mm512_i32gather_epi32(scaled(number, source.listLength), source.list, 4);
+    };
     Contenders c;
-    for (int start = 0, end = best.error == kWorstError ? kFew : tries; start < tries; start = end, end = tries) {
-        c.count = end - start;
-        for (int i = 0; i < c.count; i += 16) {
-            _mm512_store_si512(c.place + i, _mm512_loadu_si512(places + start + i));
-            _mm512_store_si512(c.error + i, _mm512_setzero_si512());
-        }
-        for (int k = 1; k < near.count && c.count > kLeftToCompare; ++k)
-            addNeighbour(source, near, planes, k, best.error, c);
-        for (int i = 0; i < c.count; ++i) {
-            compare(source, near, lanes, planes, c.place[i], best);
-            if (!best.error) return;
-        }
+    int next = 0;
+    if (best.error == kWorstError) { // nothing to drop anyone by: the first few make a start
+        _mm512_store_si512(c.place, draw(0));
+        next = std::min(tries, 16);
+        for (int i = 0; i < next; ++i) compare(source, near, lanes, planes, c.place[i], best);
     }
+    const Probe nearest = probeOf(source, near, 1);
+    __m512i limits = _mm512_set1_epi32(best.error);
+    for (; next < tries; next += 16)
+        keepBelow(planes, nearest, limits, firstLanes(tries - next), draw(next), _mm512_setzero_si512(), c);
+    constexpr int kLeftToCompare = 8;
+    for (int k = 2; k < near.count && c.count > kLeftToCompare; ++k) {
+        const Probe probe = probeOf(source, near, k);
+        const int count = std::exchange(c.count, 0);
+        for (int i = 0; i < count; i += 16)
+            keepBelow(planes, probe, limits, firstLanes(count - i), _mm512_load_si512(c.place + i),
+                      _mm512_load_si512(c.error + i), c);
+    }
+    for (int i = 0; i < c.count && best.error; ++i) compare(source, near, lanes, planes, c.place[i], best);
 }
 
 } // namespace

@@ -31,14 +31,15 @@ public:
         z = (z ^ (z >> 27)) * 0x94D049BB133111EBu;
         return std::uint32_t(z >> 32);
     }
-    /// Number @p index of the stream with @p key, over the whole 32-bit range.
+    /// Number @p index of the stream with @p key, over the whole 32-bit range; its high bits are the good ones. A key
+    /// is already well mixed, so one multiplication is enough to part neighbouring indices.
     static constexpr std::uint32_t mix(std::uint32_t key, std::uint32_t index)
     {
-        std::uint32_t x = key ^ (index * 0x9E3779B9u);
-        x = (x ^ (x >> 16)) * 0x7FEB352Du;
-        x = (x ^ (x >> 15)) * 0x846CA68Bu;
-        return x ^ (x >> 16);
+        std::uint32_t x = key ^ (index * kStride);
+        x = (x ^ (x >> 16)) * kMultiplier;
+        return x ^ (x >> 15);
     }
+    static constexpr std::uint32_t kStride = 0x9E3779B9u, kMultiplier = 0x846CA68Bu;
     /// A 32-bit number brought into 0 to length - 1 by its high bits: as even as a remainder, without the division.
     static constexpr std::uint32_t scaled(std::uint32_t number, std::uint32_t length)
     {
