@@ -5,6 +5,7 @@
 #include "tools/FillSeed.h"
 #include "tools/FloodFill.h"
 #include "tools/PixelCompare.h"
+#include "tools/TileRegion.h"
 
 using namespace zp;
 
@@ -22,7 +23,7 @@ void ZPCanvas::floodFillScanlineStackFast(Point point)
     const std::uint32_t target = mBitmapRep->view().row(seed->y)[seed->x];
     // On purpose before the tolerance is refreshed: what counts as "has this colour already" is the last fill's.
     if (compareColor(fillWord, target)) return beep();
-    floodFillColumns(mBitmapRep->view(), walls, *seed, fillWord, tol2(true), sharedFillStack());
+    floodFill(mBitmapRep->view(), walls, *seed, fillWord, tol2(true), sharedFillStack(), sharedTileRegion());
 }
 
 void ZPCanvas::floodFillScanlineStack(Point point)

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The fast magic wand: the same search as the flood fill, marking mask bytes.
+#include "tools/MagicWand.h"
+#include "tools/StackProof.h"
+#include "tools/TileRegion.h"
+
+namespace zp
+{
+
+ColumnFillResult magicWand(ConstBitmapView pixels, MaskView mask, PixelPoint seed, std::uint32_t target, int tolerance,
+                           FillStack& stack, TileRegion& tiles)
+{
+    const TileQuery query{target, tolerance, false};
+    const TileKernels& kernels = tiles.kernels();
+    stack.clear();
+    const bool neverFull = stackNeverFills(pixels.width, pixels.height, stack);
+    tiles.find(pixels, mask, seed, query, [&](PixelBox box) {
+        if (!neverFull) return false;
+        for (int y = box.y0; y < box.y1; ++y) kernels.clearRow(mask.row(y) + box.x0, ~std::uint64_t{0});
+        return true;
+    });
+    if (!neverFull && tiles.columnScanPushes() > std::size_t(stack.capacity()))
+        return magicWandColumns(pixels, mask, seed, target, tolerance, stack);
+    const PixelBox box = tiles.box();
+    tiles.visitRows(box.y0, box.y1, [&](int x, int y, std::uint64_t bits) { kernels.clearRow(mask.row(y) + x, bits); });
+    return {box, true};
+}
+
+} // namespace zp

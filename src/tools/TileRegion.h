@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Finds the connected region of matching pixels with one bit a pixel, in tiles of 64 by 64 that are looked at on
+/// demand.
+#pragma once
+#include "platform/BitmapView.h"
+#include "tools/PixelBits.h"
+#include "tools/TileKernels.h"
+
+namespace zp
+{
+
+/// Work space for fills: finds a region, keeps its bits until the next one is looked for.
+///
+/// A tile's match bits are made when the region first reaches the tile. Within a tile whole words spread: along a row
+/// by a carry, to the rows above and below by an AND. What crosses a border wakes the neighbour, in the order of first
+/// come. Space: reserved once for the largest picture; 272 bytes a kilopixel are touched, only where the region has
+/// been. Not thread-safe.
+class TileRegion
+{
+public:
+    explicit TileRegion(TileVectors vectors = TileVectors::Best);
+
+    /// Looks for the 4-connected region of open pixels around @p seed (see TileQuery); finds nothing when the seed
+    /// itself is not open.
+    /// @param mask      the picture's size, or empty
+    /// @param fullTile  called as fullTile(box) for tiles that turn out to be open altogether, while their pixels are
+    ///                  still in the cache; when it answers true, visitRows leaves the tile out
+    /// Allocates nothing. Time: O(region and its border).
+    template <class FullTile>
+    void find(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query, FullTile&& fullTile)
+    {
+        if (!begin(pixels, mask, seed, query)) return;
+        while (Tile* tile = nextTile()) {
+            if (tile->allOpen) {
+                takeWhole(*tile);
+                tile->done = fullTile(boxOf(*tile));
+            } else {
+                spread(*tile, 0);
+            }
+        }
+    }
+
+    /// Box of the region found last; empty when there was none.
+    PixelBox box() const;
+    /// How many pushes the column-wise scan makes on this region: one, and one for every place where a vertical run
+    /// touches one beside it. The stack never holds more at a time.
+    std::size_t columnScanPushes() const;
+    /// f(x, y, bits) for every 64-pixel word of rows [firstRow, lastRow) that has bits of the region; x is a multiple
+    /// of 64.
+    template <class F>
+    void visitRows(int firstRow, int lastRow, F&& f) const
+    {
+        for (int y = firstRow; y < lastRow; ++y) {
+            const Tile* tile = mTiles + std::size_t(y / kTileSide) * std::size_t(mColumns) + std::size_t(mReached.x0);
+            for (int column = mReached.x0; column < mReached.x1; ++column, ++tile) {
+                if (tile->generation != mGeneration || tile->done) continue;
+                if (const std::uint64_t bits = tile->region[std::size_t(y % kTileSide)]) f(column * kTileSide, y, bits);
+            }
+        }
+    }
+    const TileKernels& kernels() const { return *mKernels; }
+
+private:
+    struct alignas(64) Tile {
+        std::uint32_t generation;  ///< of which search the rest speaks; any other: nothing is known yet
+        std::uint16_t column, row; ///< counted in tiles
+        bool loaded, queued, allOpen, done;
+        std::uint64_t fromLeft, fromRight;  ///< bit y: the region comes in at that end of row y
+        std::uint64_t fromAbove, fromBelow; ///< bit x: at the top (bottom) of column x
+        std::uint64_t leftOpen, rightOpen;  ///< bit y: the row's first (last) pixel is open and not reached yet
+        TileRows open;                      ///< open and not reached yet
+        TileRows region;                    ///< reached
+    };
+
+    bool begin(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query);
+    Tile* nextTile();
+    void takeWhole(Tile& tile);
+    /// Takes all that can be reached inside the tile. @p dirty: rows into which something comes already, in mComing.
+    void spread(Tile& tile, std::uint64_t dirty);
+    void wakeNeighbours(Tile& tile, std::uint64_t left, std::uint64_t right, std::uint64_t up, std::uint64_t down);
+    Tile& touch(Tile* tile, int column, int row);
+    void enqueue(Tile& tile);
+    void load(Tile& tile);
+    PixelBox boxOf(const Tile& tile) const;
+
+    const TileKernels* mKernels;
+    ReservedMemory mTileMemory, mQueueMemory;
+    Tile* mTiles;
+    std::uint32_t* mQueue; ///< a ring of tile numbers; a tile is in it at most once
+    std::uint32_t mQueueSize = 0, mHead = 0, mTail = 0;
+    std::uint32_t mGeneration = 0;
+    int mColumns = 0, mRows = 0;
+    PixelBox mReached; ///< in tiles
+    ConstBitmapView mPixels;
+    ConstMaskView mMask;
+    TileQuery mQuery;
+    TileRows mComing{}; ///< within spread(): what comes into each row; zero between calls
+};
+
+/// The process's one work space. Main thread.
+TileRegion& sharedTileRegion();
+
+} // namespace zp
