@@ -8,13 +8,14 @@ namespace zp
 
 /// The settings of one chain; the neutral ones skip their filter altogether, so that all neutral is an exact copy.
 struct FilterSettings {
-    float hueAngle = 0;                                ///< radians about the grey axis
+    float hueAngle = 0;                                 ///< radians about the grey axis
     float saturation = 1, brightness = 0, contrast = 1; ///< colour controls: factor, added, factor about mid grey
-    float unsharpIntensity = 0, unsharpRadius = 2.5f;  ///< unsharp mask; radius is the Gaussian's sigma in pixels
-    float blurRadius = 0;                              ///< Gaussian blur, sigma in pixels
+    float unsharpIntensity = 0, unsharpRadius = 2.5f;   ///< unsharp mask; radius is the Gaussian's sigma in pixels
+    float blurRadius = 0;                               ///< Gaussian blur, sigma in pixels
     bool isNeutral() const
     {
-        return hueAngle == 0 && saturation == 1 && brightness == 0 && contrast == 1 && unsharpIntensity == 0 && blurRadius == 0;
+        return hueAngle == 0 && saturation == 1 && brightness == 0 && contrast == 1 && unsharpIntensity == 0 &&
+               blurRadius == 0;
     }
     friend bool operator==(const FilterSettings&, const FilterSettings&) = default;
 };
