@@ -33,6 +33,10 @@ public:
     void setSize(Size size) { mSize = size; }
     bool isFlipped() const { return mFlipped; }
     void setFlipped(bool flipped) { mFlipped = flipped; }
+    /// Where the representations' near corner lies in the image's own coordinates: the origin, except for a picture
+    /// lifted from between whole pixels, whose pixels begin a little before it.
+    Point pixelOrigin() const { return mPixelOrigin; }
+    void setPixelOrigin(Point origin) { mPixelOrigin = origin; }
     ImageCacheMode cacheMode() const { return mCacheMode; }
     void setCacheMode(ImageCacheMode mode) { mCacheMode = mode; }
 
@@ -58,6 +62,7 @@ public:
 
 private:
     Size mSize;
+    Point mPixelOrigin;
     bool mFlipped = false;
     ImageCacheMode mCacheMode = ImageCacheMode::Default;
     std::vector<ImageRepresentation> mRepresentations;

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// A watermark over a picture.
+#pragma once
+#include "platform/BitmapRep.h"
+#include "platform/Geometry.h"
+
+namespace zp
+{
+
+/// The size a picture has in points: its pixels, at 72 of them an inch when it says no resolution of its own.
+Size sizeInPoints(const BitmapRep& picture);
+
+/// Draws @p watermark over @p size pixels of the image, source-over, its lower left corner @p point away from the
+/// image's lower left corner, y upwards. What falls outside is cut.
+/// @param alpha 0 to 1; values above count as 1
+void drawWatermark(BitmapView image, ConstBitmapView watermark, Size size, Point point, float alpha);
+
+} // namespace zp
