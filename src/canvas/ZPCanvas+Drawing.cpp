@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QThread>
 #include <mutex>
 
 using namespace zp;

@@ -38,7 +38,7 @@ ConstBitmapView brushShape(ZPCanvas& canvas)
     ToolState& state = toolState(canvas);
     const int index = canvas.mBrushPopUp ? std::max(0, canvas.mBrushPopUp->currentIndex()) : 0;
     if (index != state.brushShapeIndex) {
-        const std::string name = "B" + std::to_string(index + 1) + ".png";
+        const std::string name = QString("B%1.png").arg(index + 1).toStdString();
         ImportOptions options;
         options.properties = false;
         state.brushShape = importImageFile(resourcePath(name), options).bitmap;
