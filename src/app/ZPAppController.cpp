@@ -22,6 +22,7 @@
 #include "smartfill/ZPSmartFill.h"
 #include "tools/TextToolHook.h"
 #include "tools/ZPTextEditor.h"
+#include "undo/SnapshotStore.h"
 #include <QAction>
 #include <QApplication>
 #include <QFile>
@@ -80,8 +81,8 @@ void ZPAppController::applicationDidFinishLaunching(bool startChoice)
     ColorWell::setPanelShowsAlpha(true);
     mWindow->setToolImages();
     cleanUpEditMenu(mMenu->menu("Edit"));
-    offerRecovery();
-    // A document opened by the launch has its undo folder already; another one must not take it away.
+    // What a crashed program left in the folder is moved aside first, so that it can still be offered below. A document
+    // opened by this launch has its folder already, and maybe its first snapshot.
     if (!mLaunchFromDocument) mCanvas->resetUndo();
     mWidthC = 0;
     mHeightC = 0;
@@ -89,7 +90,8 @@ void ZPAppController::applicationDidFinishLaunching(bool startChoice)
     if (!fileExists(libraryFolder())) createFolder(libraryFolder());
     placeSampleImage();
     centerWindow(mWindow.get());
-    if (startChoice && !mLaunchFromDocument && !(currentKeyModifiers() & kShiftKey)) {
+    const bool recovered = offerRecovery();
+    if (startChoice && !recovered && !mLaunchFromDocument && !(currentKeyModifiers() & kShiftKey)) {
         switch (runAlert(tr("What would you like to do? Create a new image or open an existing image."), "",
                          {tr("New…"), tr("Open…"), tr("Cancel")})) {
         case 0: newDocument(); break;
@@ -145,7 +147,7 @@ void ZPAppController::applicationWillTerminate()
 {
     mCanvas->mIsMouseDown = 0;
     mCanvas->waitForWorkers();
-    endUndoSession();
+    SnapshotStore::shared().remove();
     const char* state = mMenu->item("retina:")->isChecked() ? "YES" : "NO";
     std::ofstream flag(resourcePath("2xRetina.txt"), std::ios::binary | std::ios::trunc);
     flag << state;

@@ -62,7 +62,7 @@ private:
     void openPath(const std::string& path);
     void noteRecentFile(const std::string& path);
     void fillRecentMenu();
-    void offerRecovery();
+    bool offerRecovery(); ///< after a crash; whether a picture was brought back
     void migratePreferences();
     void placeSampleImage();
 
