@@ -7,6 +7,9 @@
 namespace zp
 {
 
+/// The EXIF comment of every picture that the program made or opened.
+inline constexpr const char* kEditedComment = "Edited by Zelpane -- simple, yet powerful image editing";
+
 /// What saving to a path writes.
 enum class SaveFormat {
     None,      ///< an extension that is not saved to: nothing happens

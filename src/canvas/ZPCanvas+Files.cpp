@@ -19,12 +19,11 @@ using namespace zp;
 namespace
 {
 
-constexpr const char* kComment = "Edited by Zelpane -- simple, yet powerful image editing";
 constexpr double kJPEGFactor = 0.7;
 
 void markAsEdited(ImageProperties& properties)
 {
-    properties.userComment = kComment;
+    properties.userComment = kEditedComment;
     logLine("newExif: %s", exifDescription(properties).c_str());
 }
 

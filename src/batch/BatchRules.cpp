@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Names, sizes and positions of a batch run.
+#include "batch/BatchRules.h"
+#include "platform/Folders.h"
+#include <algorithm>
+#include <cmath>
+
+namespace zp
+{
+
+bool isBatchSource(const std::string& name)
+{
+    const std::string extension = pathExtension(name);
+    return extension == "tiff" || extension == "jpg";
+}
+
+Size fittedSize(Size image, float boxWidth, float boxHeight)
+{
+    const float ratio = image.width / image.height;
+    if (ratio > boxWidth / boxHeight) return {boxWidth, boxWidth / ratio};
+    return {ratio * boxHeight, boxHeight};
+}
+
+Size wholePixels(Size size)
+{
+    const auto whole = [](float side) { return side >= 1 ? std::floor(side) : 1.0f; };
+    return {whole(size.width), whole(size.height)};
+}
+
+std::string batchOutput(const std::string& folder, const std::string& sourceName, const char* extension)
+{
+    return folder + "/" + pathWithoutExtension(lastPathComponent(sourceName)) + "." + extension;
+}
+
+BatchFolderFault checkBatchFolders(const std::string& source, const std::string& destination)
+{
+    if (source.empty()) return BatchFolderFault::NoSource;
+    if (destination.empty()) return BatchFolderFault::NoDestination;
+    if (source == destination) return BatchFolderFault::Same;
+    if (!fileExists(source) || !fileExists(destination)) return BatchFolderFault::Missing;
+    return BatchFolderFault::None;
+}
+
+const char* batchFaultText(BatchFolderFault fault)
+{
+    switch (fault) {
+    case BatchFolderFault::NoSource:
+        return "Choose a source folder.";
+    case BatchFolderFault::NoDestination:
+        return "Choose a destination folder.";
+    case BatchFolderFault::Same:
+        return "Source and destination folder cannot be the same.";
+    case BatchFolderFault::Missing:
+        return "Error: Source or destination folder does not exist.";
+    case BatchFolderFault::None:
+        break;
+    }
+    return "";
+}
+
+std::vector<std::string> shardOf(std::vector<std::string> names, unsigned number, unsigned count)
+{
+    std::sort(names.begin(), names.end());
+    if (count <= 1) return names;
+    std::vector<std::string> share;
+    for (std::size_t i = number - 1; i < names.size(); i += count) share.push_back(std::move(names[i]));
+    return share;
+}
+
+Point watermarkPosition(WatermarkPlace place, Size image, Size watermark)
+{
+    const float right = image.width - watermark.width, top = image.height - watermark.height;
+    switch (place) {
+    case WatermarkPlace::LowerRight:
+        return {right, 0};
+    case WatermarkPlace::UpperLeft:
+        return {0, top};
+    case WatermarkPlace::UpperRight:
+        return {right, top};
+    case WatermarkPlace::Center:
+        return {right / 2, top / 2};
+    default:
+        return {0, 0};
+    }
+}
+
+} // namespace zp
