@@ -149,10 +149,11 @@ ZP_VBMI inline __m512i scaled(__m512i number, std::uint32_t length)
 }
 
 constexpr int kMostTries = 208;
+/// Comparing so few in full costs less than one more round.
+constexpr int kLeftToCompare = 8;
 
 /// Candidates still in the race, with what the neighbours so far add up to.
 struct Contenders {
-    int count = 0;
     alignas(64) std::int32_t place[kMostTries + 16], error[kMostTries + 16];
 };
 
@@ -167,25 +168,26 @@ ZP_VBMI inline Probe probeOf(const MatchSource& source, const Neighbourhood& nea
     return {source.pixels + near.delta[k], _mm512_set1_epi32(int(near.value[k]))};
 }
 
-/// Adds the probe's distance to the @p used candidates' errors and keeps those below the limit, in order. A neighbour
-/// without a counterpart costs more than any difference, so taking whatever lies there gives a lower bound.
-ZP_VBMI inline void keepBelow(const DistancePlanes& planes, const Probe& probe, __m512i limits, __mmask16 used,
-                              __m512i place, __m512i error, Contenders& c)
+/// Adds the probe's distance to the candidates' errors and keeps those of @p used that stay below the limit, in order,
+/// from @p kept on. A neighbour without a counterpart costs more than any difference, so taking whatever lies there
+/// gives a lower bound. @return where the next ones are kept
+ZP_VBMI inline int keepBelow(const DistancePlanes& planes, const Probe& probe, __m512i limits, __mmask16 used,
+                             __m512i place, __m512i error, Contenders& c, int kept)
 {
     const __m512i zero = _mm512_setzero_si512(), ones = _mm512_set1_epi8(1);
-    const __m512i there = _mm512_mask_i32gather_epi32(zero, used, place, probe.pixels, 4);
+    const __m512i there = _mm512_i32gather_epi32(place, probe.pixels, 4);
     const __m512i difference =
         _mm512_or_si512(_mm512_subs_epu8(there, probe.value), _mm512_subs_epu8(probe.value, there));
     const PlaneBytes bytes = lookUp(planes, difference);
     const __m512i high = _mm512_slli_epi32(_mm512_dpbusd_epi32(zero, bytes.high, ones), 8);
     error = _mm512_add_epi32(_mm512_dpbusd_epi32(error, bytes.low, ones), high);
     const __mmask16 alive = _mm512_mask_cmplt_epi32_mask(used, error, limits);
-    _mm512_storeu_si512(c.place + c.count, _mm512_maskz_compress_epi32(alive, place));
-    _mm512_storeu_si512(c.error + c.count, _mm512_maskz_compress_epi32(alive, error));
-    c.count += __builtin_popcount(alive);
+    _mm512_storeu_si512(c.place + kept, _mm512_maskz_compress_epi32(alive, place));
+    _mm512_storeu_si512(c.error + kept, _mm512_maskz_compress_epi32(alive, error));
+    return kept + __builtin_popcount(alive);
 }
 
-__mmask16 firstLanes(int count) { return count >= 16 ? __mmask16(0xFFFF) : __mmask16((1u << count) - 1); }
+inline __mmask16 firstLanes(int count) { return count >= 16 ? __mmask16(0xFFFF) : __mmask16((1u << count) - 1); }
 
 ZP_VBMI void searchRandomVector(const MatchSource& source, const Neighbourhood& near, std::uint32_t key, int tries,
                                 BestMatch& best)
@@ -195,34 +197,40 @@ ZP_VBMI void searchRandomVector(const MatchSource& source, const Neighbourhood& 
         return;
     }
     const DistancePlanes planes = distancePlanes();
-    const Lanes lanes = lanesOf(near);
     const __m512i upTo15 = _mm512_set_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
     const __m512i strides = _mm512_mullo_epi32(upTo15, _mm512_set1_epi32(int(SmartFillRandom::kStride)));
-    const auto draw = [&](int i) ZP_VBMI {
+    // Draws and comparisons are loops of their own: each gather then waits for its own cache misses only.
+    alignas(64) std::int32_t places[kMostTries];
+    for (int i = 0; i < tries; i += 16) {
         const __m512i number =
             mix(key, _mm512_add_epi32(strides, _mm512_set1_epi32(int(SmartFillRandom::kStride * std::uint32_t(i)))));
-        return _mm512_i32gather_epi32(scaled(number, source.listLength), source.list, 4);
-    };
-    Contenders c;
+        _mm512_store_si512(places + i, _mm512_i32gather_epi32(scaled(number, source.listLength), source.list, 4));
+    }
     int next = 0;
     if (best.error == kWorstError) { // nothing to drop anyone by: the first few make a start
-        _mm512_store_si512(c.place, draw(0));
-        next = std::min(tries, 16);
-        for (int i = 0; i < next; ++i) compare(source, near, lanes, planes, c.place[i], best);
+        const Lanes lanes = lanesOf(near);
+        for (next = 0; next < std::min(tries, 16); ++next) compare(source, near, lanes, planes, places[next], best);
     }
-    const Probe nearest = probeOf(source, near, 1);
-    __m512i limits = _mm512_set1_epi32(best.error);
-    for (; next < tries; next += 16)
-        keepBelow(planes, nearest, limits, firstLanes(tries - next), draw(next), _mm512_setzero_si512(), c);
-    constexpr int kLeftToCompare = 8;
-    for (int k = 2; k < near.count && c.count > kLeftToCompare; ++k) {
+    const __m512i limits = _mm512_set1_epi32(best.error);
+    Contenders c;
+    int count = 0;
+    for (const Probe nearest = probeOf(source, near, 1); next < tries; next += 16)
+        count = keepBelow(planes, nearest, limits, firstLanes(tries - next), _mm512_load_si512(places + next),
+                          _mm512_setzero_si512(), c, count);
+    for (int k = 2; k < near.count && count > kLeftToCompare; ++k) {
         const Probe probe = probeOf(source, near, k);
-        const int count = std::exchange(c.count, 0);
-        for (int i = 0; i < count; i += 16)
-            keepBelow(planes, probe, limits, firstLanes(count - i), _mm512_load_si512(c.place + i),
-                      _mm512_load_si512(c.error + i), c);
+        // Lanes beyond the count hold what was dropped or nothing: they must not be followed into memory.
+        int kept = 0;
+        for (int i = 0; i < count; i += 16) {
+            const __mmask16 used = firstLanes(count - i);
+            kept = keepBelow(planes, probe, limits, used, _mm512_maskz_load_epi32(used, c.place + i),
+                             _mm512_load_si512(c.error + i), c, kept);
+        }
+        count = kept;
     }
-    for (int i = 0; i < c.count && best.error; ++i) compare(source, near, lanes, planes, c.place[i], best);
+    if (!count) return;
+    const Lanes lanes = lanesOf(near);
+    for (int i = 0; i < count && best.error; ++i) compare(source, near, lanes, planes, c.place[i], best);
 }
 
 } // namespace
