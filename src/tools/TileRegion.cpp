@@ -4,6 +4,7 @@
 #include "platform/BitmapRep.h"
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace zp
 {
@@ -12,6 +13,7 @@ namespace
 {
 
 constexpr std::uint64_t kAll = ~std::uint64_t{0};
+constexpr std::uint64_t kBothEnds = std::uint64_t{1} << 63 | 1;
 
 /// Tiles of the largest picture: its area, and a strip of part tiles along two sides.
 constexpr std::size_t kMostTiles =
@@ -158,45 +160,49 @@ void TileRegion::spread(Tile& tile, std::uint64_t dirty)
     tile.fromLeft = tile.fromRight = tile.fromAbove = tile.fromBelow = 0;
 
     std::uint64_t leftOut = 0, rightOut = 0, upOut = 0, downOut = 0;
-    const auto takeRow = [&](int y) {
-        const auto row = std::size_t(y);
-        const std::uint64_t open = tile.open[row];
-        const std::uint64_t taken = spreadBoth(open, mComing[row]);
-        mComing[row] = 0;
-        tile.open[row] = open & ~taken;
-        tile.region[row] |= taken;
-        leftOut |= (taken & 1) << y;
-        rightOut |= (taken >> 63) << y;
-        dirty &= ~(std::uint64_t{1} << y);
-        if (y < kTileSide - 1) {
-            const std::uint64_t below = taken & tile.open[row + 1];
-            mComing[row + 1] |= below;
-            dirty |= std::uint64_t{below != 0} << (y + 1);
-        } else {
-            downOut |= taken;
-        }
-        if (y > 0) {
-            const std::uint64_t above = taken & tile.open[row - 1];
-            mComing[row - 1] |= above;
-            dirty |= std::uint64_t{above != 0} << (y - 1);
-        } else {
-            upOut |= taken;
+    // From a row on in one direction, as far as something goes on. What is taken goes from row to row in a register, so
+    // that a corridor costs a few operations a row; what turns back, or comes from elsewhere, waits in mComing.
+    const auto sweep = [&]<int Step>(int y) {
+        constexpr int kLastRow = Step > 0 ? kTileSide - 1 : 0, kFirstRow = kTileSide - 1 - kLastRow;
+        std::uint64_t coming = 0;
+        for (;; y += Step) {
+            const auto row = std::size_t(y);
+            if (const std::uint64_t bit = std::uint64_t{1} << y; dirty & bit) {
+                coming |= std::exchange(mComing[row], 0);
+                dirty &= ~bit;
+            }
+            const std::uint64_t open = tile.open[row], taken = spreadBoth(open, coming);
+            tile.open[row] = open & ~taken;
+            tile.region[row] |= taken;
+            if (taken & kBothEnds) {
+                leftOut |= (taken & 1) << y;
+                rightOut |= (taken >> 63) << y;
+            }
+            if (y != kFirstRow) {
+                if (const std::uint64_t back = taken & tile.open[row - Step]) {
+                    mComing[row - Step] |= back;
+                    dirty |= std::uint64_t{1} << (y - Step);
+                }
+            } else {
+                (Step > 0 ? upOut : downOut) |= taken;
+            }
+            if (y == kLastRow) {
+                (Step > 0 ? downOut : upOut) |= taken;
+                return y;
+            }
+            coming = taken & tile.open[row + Step];
+            if (!coming && !(dirty >> (y + Step) & 1)) return y;
         }
     };
-    // Up and down in turns, each as far as there is something to take: a row is seldom taken in more than a few parts.
+    // Down and up in turns: a row is seldom taken in more than a few parts.
     while (dirty) {
-        for (int y = std::countr_zero(dirty);;) {
-            takeRow(y);
-            const std::uint64_t ahead = y < kTileSide - 1 ? dirty >> (y + 1) : 0;
-            if (!ahead) break;
-            y += 1 + std::countr_zero(ahead);
+        for (std::uint64_t ahead = dirty; ahead;) {
+            const int y = sweep.template operator()<1>(std::countr_zero(ahead));
+            ahead = dirty & ~((std::uint64_t{2} << y) - 1);
         }
-        if (!dirty) break;
-        for (int y = 63 - std::countl_zero(dirty);;) {
-            takeRow(y);
-            const std::uint64_t ahead = y > 0 ? dirty << (64 - y) : 0;
-            if (!ahead) break;
-            y -= 1 + std::countl_zero(ahead);
+        for (std::uint64_t ahead = dirty; ahead;) {
+            const int y = sweep.template operator()<-1>(63 - std::countl_zero(ahead));
+            ahead = dirty & ((std::uint64_t{1} << y) - 1);
         }
     }
     tile.leftOpen &= ~leftOut;
