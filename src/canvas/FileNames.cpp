@@ -49,12 +49,11 @@ SaveProposal saveProposal(const std::string& imagePath, SaveFormat format, const
     return {folderOfPath(imagePath), writtenPath(lastPathComponent(imagePath), format)};
 }
 
-std::string quickSavePath(const std::string& folder, const std::function<bool(const std::string&)>& exists)
+std::string proposedQuickSaveName(const std::string& folder)
 {
     for (int i = 1;; ++i) {
-        const std::string path =
-            pathByAppending(folder, std::string(kProposedName) + " " + std::to_string(i) + ".tiff");
-        if (i == kLastNumber || !exists(path)) return path;
+        std::string name = std::string(kProposedName) + " " + std::to_string(i) + ".tiff";
+        if (i == kLastNumber || !fileExists(pathByAppending(folder, name))) return name;
     }
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The rules by which names of picture files are chosen and changed.
 #pragma once
-#include <functional>
 #include <string>
 
 namespace zp
@@ -34,8 +33,8 @@ struct SaveProposal {
 /// "My Great Image".
 SaveProposal saveProposal(const std::string& imagePath, SaveFormat format, const std::string& home);
 
-/// The first of "My Great Image 1.tiff", "My Great Image 2.tiff", … in @p folder that @p exists denies; the 99th is
-/// given even if it exists. @return the whole path
-std::string quickSavePath(const std::string& folder, const std::function<bool(const std::string&)>& exists);
+/// The first of "My Great Image 1.tiff", "My Great Image 2.tiff", … that does not exist in @p folder; the 99th is given
+/// even if it exists.
+std::string proposedQuickSaveName(const std::string& folder);
 
 } // namespace zp
