@@ -2,6 +2,7 @@
 /// Building, measuring and flattening outlines.
 #include "platform/BezierPath.h"
 #include "platform/BezierFlatten.h"
+#include <cstring>
 #include <limits>
 
 namespace zp
@@ -177,6 +178,12 @@ void BezierPath::reserve(std::size_t elements, std::size_t points)
 {
     mKinds.reserve(elements);
     mPoints.reserve(points);
+}
+
+bool BezierPath::hasSameElements(const BezierPath& other) const
+{
+    return mKinds == other.mKinds && mPoints.size() == other.mPoints.size() &&
+           (mPoints.empty() || std::memcmp(mPoints.data(), other.mPoints.data(), mPoints.size() * sizeof(Point)) == 0);
 }
 
 void BezierPath::removeAllPoints()

@@ -63,6 +63,8 @@ public:
         }
     }
 
+    /// Whether both have the same elements with the same points, to the bit; settings are not compared. A reading pass.
+    bool hasSameElements(const BezierPath& other) const;
     /// Tight bounding box (of the curves, not of their control points), a lone move included; zero when empty.
     /// Remembered until the path changes.
     Rect bounds() const;
