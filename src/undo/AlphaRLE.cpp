@@ -2,6 +2,7 @@
 /// The alpha run-length format at memory speed: alpha gathered row by row into the cache, runs compared in blocks.
 #include "undo/AlphaRLE.h"
 #include "platform/Simd.h"
+#include "platform/WorkPool.h"
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -16,6 +17,8 @@ namespace
 constexpr std::size_t kBlock = 64;
 /// Alpha bytes gathered at a time: half a first-level cache, and a multiple of the block.
 constexpr int kPiece = 16384;
+/// Pixels from which a second core is worth waking.
+constexpr std::int64_t kWorthSharing = 1 << 20;
 
 ZP_MULTIVERSION void gatherAlpha(const std::uint8_t* __restrict pixels, std::uint8_t* __restrict alpha, int count)
 {
@@ -198,20 +201,76 @@ void AlphaRLEEncoder::finish()
     mRun = mPrevious = kNone;
 }
 
+void AlphaRLEEncoder::appendRun(std::uint8_t byte, std::int64_t count)
+{
+    std::array<std::uint8_t, kPiece> bytes;
+    bytes.fill(byte);
+    for (; count > 0; count -= kPiece) append(bytes.data(), std::size_t(std::min<std::int64_t>(count, kPiece)));
+}
+
+void AlphaRLEEncoder::append(const AlphaRLEEncoder& next)
+{
+    finish();
+    mOut.insert(mOut.end(), next.mOut.begin(), next.mOut.end());
+    mPrevious = next.mPrevious;
+    mRun = next.mRun;
+    mCopies = next.mCopies;
+}
+
+namespace
+{
+
+/// Rows of the plane encoded by themselves: first the copies of the byte before them, then all from the first that
+/// differs. An opaque band is nothing but copies.
+struct Band {
+    std::uint8_t before = 0;
+    std::int64_t copies = 0;
+    std::vector<std::uint8_t> bytes;
+    AlphaRLEEncoder encoder{bytes};
+
+    Band() = default;
+    Band(const Band&) = delete;
+    Band& operator=(const Band&) = delete;
+
+    void encode(ConstBitmapView pixels, int first, int last)
+    {
+        bool copying = first > 0;
+        if (copying) before = pixels.pixel(pixels.width - 1, first - 1)[0];
+        alignas(64) std::array<std::uint8_t, kPiece> piece;
+        for (int y = first; y < last; ++y)
+            for (int x = 0; x < pixels.width; x += kPiece) {
+                const auto count = std::size_t(std::min(kPiece, pixels.width - x));
+                gatherAlpha(pixels.pixel(x, y), piece.data(), int(count));
+                const std::size_t same = copying ? runLength(piece.data(), count, before) : 0;
+                copies += std::int64_t(same);
+                copying = copying && same == count;
+                if (same < count) encoder.append(piece.data() + same, count - same);
+            }
+    }
+};
+
+} // namespace
+
 std::vector<std::uint8_t> encodeAlphaRLE(ConstBitmapView pixels)
 {
     std::vector<std::uint8_t> file;
     if (pixels.isEmpty()) return file;
-    file.reserve(std::size_t{512} * 1024);
-    AlphaRLEEncoder encoder(file);
-    alignas(64) std::array<std::uint8_t, kPiece> piece;
-    for (int y = 0; y < pixels.height; ++y)
-        for (int x = 0; x < pixels.width; x += kPiece) {
-            const int count = std::min(kPiece, pixels.width - x);
-            gatherAlpha(pixels.pixel(x, y), piece.data(), count);
-            encoder.append(piece.data(), std::size_t(count));
-        }
-    encoder.finish();
+    const std::int64_t count = std::int64_t{pixels.width} * pixels.height;
+    const int bands = count < kWorthSharing ? 1 : std::min(pixels.height, 2 * workerCount());
+    std::vector<Band> parts(static_cast<std::size_t>(bands));
+    parallelFor(bands, [&](int i) {
+        const auto row = [&](int band) { return int(std::int64_t{pixels.height} * band / bands); };
+        parts[std::size_t(i)].encode(pixels, row(i), row(i + 1));
+    });
+    std::size_t size = 1024;
+    for (const Band& part : parts) size += part.bytes.size() + std::size_t(part.copies / 257 * 3);
+    file.reserve(size);
+    AlphaRLEEncoder whole(file);
+    for (const Band& part : parts) {
+        whole.appendRun(part.before, part.copies);
+        if (!part.bytes.empty()) whole.append(part.encoder);
+    }
+    whole.finish();
     return file;
 }
 

@@ -22,6 +22,11 @@ public:
     explicit AlphaRLEEncoder(std::vector<std::uint8_t>& out) : mOut(out) {}
     /// Time: runs and stretches without pairs at memory speed, 64 bytes a step.
     void append(const std::uint8_t* bytes, std::size_t count);
+    /// The same byte @p count times.
+    void appendRun(std::uint8_t byte, std::int64_t count);
+    /// Goes on with what @p next encoded by itself, its output included. What next began with must differ from the last
+    /// byte here: at such a place nothing of what came before has any influence on what follows.
+    void append(const AlphaRLEEncoder& next);
     /// Writes the count that is still open, if any. Call once, after the last piece.
     void finish();
 
@@ -35,7 +40,7 @@ private:
 };
 
 /// The whole alpha plane of @p pixels as the file's bytes; nothing for an empty view.
-/// One linear pass over the pixels. Any thread that may read them. Throws std::bad_alloc.
+/// One linear pass over the pixels, on all cores. Any thread that may read them. Throws std::bad_alloc.
 std::vector<std::uint8_t> encodeAlphaRLE(ConstBitmapView pixels);
 
 /// Decodes a file into the alpha bytes of @p pixels; colour bytes keep their values. Bytes beyond the plane are

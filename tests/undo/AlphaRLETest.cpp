@@ -224,6 +224,25 @@ TEST(AlphaRLE, RandomFilesDecodeAsTheReferenceDoes)
     }
 }
 
+TEST(AlphaRLE, LargePlanesAreTheSameWhereverTheyAreDivided)
+{
+    std::mt19937 random(31);
+    for (int round = 0; round < 12; ++round) {
+        const int width = 700 + int(random() % 700), height = 1700 + int(random() % 300);
+        Plane plane(width, height);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x) plane.view().pixel(x, y)[0] = 255;
+        // Few changes: long runs go over the borders of the parts; many: something differs at every border.
+        for (int i = 0; i < (round % 4 == 0 ? 0 : round % 4 == 1 ? 3 : 1 << (6 + round)); ++i)
+            plane.view().pixel(int(random() % unsigned(width)), int(random() % unsigned(height)))[0] =
+                std::uint8_t(random());
+        if (round % 3 == 0)
+            for (int x = 0; x < width; ++x)
+                plane.view().pixel(x, height / 4)[0] = plane.view().pixel(x, height / 2)[0] = 7;
+        ASSERT_TRUE(encodeAlphaRLE(plane.view()) == referenceEncode(plane.view())) << "round " << round;
+    }
+}
+
 TEST(AlphaRLE, PiecesOfAnySizeGiveTheSameFile)
 {
     std::mt19937 random(99);
