@@ -54,7 +54,7 @@ QSettings& settings()
 {
     static std::unique_ptr<QSettings> opened;
     const QString path =
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/zelpane/zelpane.ini";
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/zelpane/zelpane.conf";
     if (!opened || opened->fileName() != path) opened = std::make_unique<QSettings>(path, QSettings::IniFormat);
     return *opened;
 }

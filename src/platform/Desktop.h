@@ -14,8 +14,8 @@ class QWidget;
 namespace zp
 {
 
-/// The user's settings file ("zelpane.ini" in the configuration folder). Main thread. Opened at first use; reopened
-/// when the configuration folder has changed since.
+/// The user's settings file ("zelpane.conf" in the configuration folder, shared with QSettings of the application).
+/// Main thread. Opened at first use; reopened when the configuration folder has changed since.
 QSettings& settings();
 
 /// Restores the frame that was saved under @p name, and saves it from now on whenever the window is hidden. A frame
