@@ -3,15 +3,18 @@
 #include "platform/Log.h"
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <condition_variable>
 #include <cstdarg>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <deque>
 #include <memory>
 #include <mutex>
 #include <poll.h>
+#include <string_view>
 #include <thread>
 #include <unistd.h>
 
@@ -24,7 +27,9 @@ constexpr std::size_t kLineBytes = 1000;
 constexpr std::size_t kKeptLines = 200'000;
 constexpr std::size_t kChunkBytes = std::size_t{1} << 18;
 /// Lines waiting for a slow terminal or pipe; what does not fit is counted and left out there, but kept in the ring.
-constexpr std::size_t kPendingBytes = std::size_t{1} << 20;
+constexpr std::size_t kPendingBytes = std::size_t{256} << 10;
+/// The least time between two batches for standard error: a thread that logs without end fills no disk.
+constexpr std::chrono::milliseconds kBatchPause{100};
 constexpr int kPatienceAtExit = 500; ///< milliseconds to wait for a reader that does not read
 
 /// Packed lines: two bytes of length, then the text. Chunks are made as lines come and used again when they grow old.
@@ -90,6 +95,13 @@ private:
 class Log
 {
 public:
+    /// ZELPANE_LOG=0 keeps the lines off standard error; they can still be taken.
+    Log()
+    {
+        const char* const setting = std::getenv("ZELPANE_LOG");
+        mQuiet = setting && std::string_view(setting) == "0";
+    }
+
     static Log& shared()
     {
         static Log log;
@@ -110,6 +122,7 @@ public:
     {
         const std::scoped_lock lock(mMutex);
         mRing.add(text, length);
+        if (mQuiet) return;
         if (mPending.size() + length + 1 > kPendingBytes) {
             ++mLeftOut;
             return;
@@ -146,6 +159,7 @@ private:
             const bool written = send(batch);
             lock.lock();
             if (!written && mStopping) return;
+            mWork.wait_for(lock, kBatchPause, [&] { return mStopping; });
         }
     }
 
@@ -172,7 +186,7 @@ private:
     Ring mRing;
     std::string mPending;
     std::size_t mLeftOut = 0;
-    bool mStarted = false, mStopping = false;
+    bool mStarted = false, mStopping = false, mQuiet = false;
     std::thread mWriter;
 };
 } // namespace
