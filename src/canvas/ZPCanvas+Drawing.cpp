@@ -3,10 +3,12 @@
 #include "canvas/AntsPainter.h"
 #include "canvas/ScreenRenderer.h"
 #include "canvas/ZPCanvas.h"
+#include "imageops/Adjustment.h"
 #include "platform/BitmapContext.h"
 #include "platform/Log.h"
 #include "platform/ScrollView.h"
 #include "selection/FloatingImage.h"
+#include "selection/OutlineSimplifier.h"
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QImage>
@@ -21,17 +23,18 @@ namespace
 {
 
 constexpr std::uint32_t kGrayWord = 0xFF808080;
-/// Half a pixel of ants and a frame of anti-aliasing around what an outline covers, in screen pixels.
-constexpr float kOutlineMargin = 2;
+/// What a line of ants may touch beside the outline itself, in device pixels.
+constexpr int kOutlineMargin = 3;
 
 /// What the drawing remembers from one redraw to the next.
 struct DrawingState {
-    QImage buffer;                      ///< screen words of the part being redrawn; grows, never shrinks
-    std::mutex pendingLock;             ///< guards the two below
-    Rect pending;                       ///< asked for by workers, not yet handed to Qt
+    QImage buffer;          ///< screen words of the part being redrawn; grows, never shrinks
+    std::mutex pendingLock; ///< guards the two below
+    Rect pending;           ///< asked for by workers, not yet handed to Qt
     bool pendingPosted = false;
-    std::shared_ptr<BitmapRep> scratch; ///< the picture under overlays, with them
-    QPointF brushOutline{-1, -1};       ///< where the brush outline was drawn last
+    std::shared_ptr<BitmapRep> scratch;                ///< the picture under overlays, with them
+    QPointF brushOutline{-1, -1};                      ///< where the brush outline was drawn last
+    OutlineDrawing selectionOutline, auxOutline, ring; ///< what of each outline is on screen
 };
 
 DrawingState& stateOf(ZPCanvas& canvas)
@@ -51,34 +54,22 @@ double zoomNumber(const QString& title)
     return number.toDouble();
 }
 
-/// Lines of a path in device pixels, one polyline a subpath.
-template <class F>
-void forEachPolyline(const BezierPath& path, const AffineTransform& toDevice, F&& f)
+/// Image coordinates to the canvas's device pixels.
+AffineTransform toDevicePixels(double deviceScale)
 {
-    const BezierPath flat = path.flattened(float(0.25 / std::max(1e-6, std::hypot(toDevice.m11, toDevice.m12))));
-    std::vector<DevicePoint> line;
-    const auto map = [&](Point p) {
-        return DevicePoint{toDevice.m11 * p.x + toDevice.m21 * p.y + toDevice.tX,
-                           toDevice.m12 * p.x + toDevice.m22 * p.y + toDevice.tY};
-    };
-    flat.forEach([&](PathElement kind, const Point* p) {
-        if (kind == PathElement::MoveTo) {
-            if (line.size() > 1) f(line);
-            line.clear();
-            line.push_back(map(*p));
-        } else if (kind == PathElement::LineTo) {
-            line.push_back(map(*p));
-        } else if (kind == PathElement::ClosePath && !line.empty()) {
-            line.push_back(line.front());
-        }
-    });
-    if (line.size() > 1) f(line);
+    AffineTransform map;
+    map.scale(deviceScale, deviceScale);
+    return map;
 }
 
-void drawAnts(const ScreenTarget& target, const BezierPath& path, const AffineTransform& toDevice, const DashStyle& style)
+void drawAnts(const ScreenTarget& target, OutlineDrawing& outline, const BezierPath& path,
+              const AffineTransform& toDevice, const DashStyle& style)
 {
-    forEachPolyline(path, toDevice,
-                    [&](const std::vector<DevicePoint>& line) { drawDashedLine(target, line, 0, style); });
+    outline.setPath(path, toDevice);
+    outline.visit(
+        target.box,
+        [&](std::span<const DevicePoint> line, double start) { drawDashedLine(target, line, start, style); },
+        style.width + 1);
 }
 
 /// A view addressed like the whole picture, of which only @p box exists in @p scratch. Reading outside is not allowed.
@@ -184,8 +175,7 @@ void ZPCanvas::startFollowingPointer()
             DrawingState& state = stateOf(*this);
             const float margin = mSize * 0.5f + 3 / effectiveZoom();
             for (const QPointF p : {state.brushOutline, QPointF(mLastPointer.x, mLastPointer.y)})
-                setNeedsDisplayInRect(
-                    makeRect(float(p.x()) - margin, float(p.y()) - margin, 2 * margin, 2 * margin));
+                setNeedsDisplayInRect(makeRect(float(p.x()) - margin, float(p.y()) - margin, 2 * margin, 2 * margin));
             state.brushOutline = QPointF(mLastPointer.x, mLastPointer.y);
         }
     });
@@ -194,50 +184,23 @@ void ZPCanvas::startFollowingPointer()
 void ZPCanvas::selectionOutlineNeedsDisplay()
 {
     if (!mSelectionPath) return;
-    // The outline's own area, not its box: squares of the screen that the line passes through.
-    constexpr int kTile = 64;
-    const double z = effectiveZoom();
     const QRect shown = visibleRegion().boundingRect();
     if (shown.isEmpty()) return;
-    const int columns = shown.width() / kTile + 1, rows = shown.height() / kTile + 1;
-    std::vector<std::uint8_t> touched(std::size_t(columns) * std::size_t(rows));
-    AffineTransform toTiles;
-    toTiles.scale(1.0 / kTile, 1.0 / kTile);
-    toTiles.translate(-shown.x(), -shown.y());
-    toTiles.scale(z, z);
-    const auto mark = [&](const BezierPath& path) {
-        forEachPolyline(path, toTiles, [&](const std::vector<DevicePoint>& line) {
-            for (std::size_t i = 1; i < line.size(); ++i) {
-                DevicePoint a = line[i - 1], b = line[i];
-                const double reach = double(kOutlineMargin) / kTile;
-                if (std::max(a.x, b.x) < -reach || std::min(a.x, b.x) > columns + reach || std::max(a.y, b.y) < -reach ||
-                    std::min(a.y, b.y) > rows + reach || !std::isfinite(a.x + a.y + b.x + b.y))
-                    continue;
-                // In pieces of half a tile, so that a long slanting line does not dirty its whole box.
-                const int pieces = std::clamp(int(std::ceil(std::max(std::abs(b.x - a.x), std::abs(b.y - a.y)) * 2)), 1, 100'000);
-                for (int piece = 0; piece < pieces; ++piece) {
-                    const double t0 = double(piece) / pieces, t1 = double(piece + 1) / pieces;
-                    const double x0 = a.x + (b.x - a.x) * t0, x1 = a.x + (b.x - a.x) * t1;
-                    const double y0 = a.y + (b.y - a.y) * t0, y1 = a.y + (b.y - a.y) * t1;
-                    const int c0 = std::max(0, int(std::floor(std::min(x0, x1) - reach))),
-                              c1 = std::min(columns - 1, int(std::floor(std::max(x0, x1) + reach)));
-                    const int r0 = std::max(0, int(std::floor(std::min(y0, y1) - reach))),
-                              r1 = std::min(rows - 1, int(std::floor(std::max(y0, y1) + reach)));
-                    for (int r = r0; r <= r1; ++r)
-                        for (int c = c0; c <= c1; ++c) touched[std::size_t(r) * std::size_t(columns) + std::size_t(c)] = 1;
-                }
-            }
-        });
-    };
-    mark(*mSelectionPath);
-    if (mAuxSelectionPath) mark(*mAuxSelectionPath);
+    // The outline's own area, not its box.
+    const double ratio = devicePixelRatioF(), deviceScale = double(effectiveZoom()) * ratio;
+    const PixelBox visible{int(std::floor(shown.left() * ratio)), int(std::floor(shown.top() * ratio)),
+                           int(std::ceil((shown.right() + 1) * ratio)), int(std::ceil((shown.bottom() + 1) * ratio))};
+    DrawingState& state = stateOf(*this);
     QRegion dirty;
-    for (int r = 0; r < rows; ++r)
-        for (int c = 0; c < columns; ++c) {
-            const int first = c;
-            while (c < columns && touched[std::size_t(r) * std::size_t(columns) + std::size_t(c)]) ++c;
-            if (c > first) dirty += QRect(shown.x() + first * kTile, shown.y() + r * kTile, (c - first) * kTile, kTile);
+    const auto mark = [&](OutlineDrawing& outline, const BezierPath& path) {
+        outline.setPath(path, toDevicePixels(deviceScale));
+        for (const PixelBox& box : outline.dirtyBoxes(visible, kOutlineMargin)) {
+            const int x0 = int(std::floor(box.x0 / ratio)), y0 = int(std::floor(box.y0 / ratio));
+            dirty += QRect(x0, y0, int(std::ceil(box.x1 / ratio)) - x0, int(std::ceil(box.y1 / ratio)) - y0);
         }
+    };
+    mark(state.selectionOutline, *mSelectionPath);
+    if (mAuxSelectionPath) mark(state.auxOutline, *mAuxSelectionPath);
     update(dirty);
 }
 
@@ -273,7 +236,8 @@ void ZPCanvas::updateGestureOutlines()
     if (keys & kCommandKey) {
         // A square of the smaller extent, growing from the press towards the pointer.
         const float side = float(std::min(std::abs(int(mPt2.x - mPt1.x)), std::abs(int(mPt2.y - mPt1.y))));
-        marquee = makeRect(mPt2.x > mPt1.x ? mPt1.x : mPt1.x - side, mPt2.y > mPt1.y ? mPt1.y : mPt1.y - side, side, side);
+        marquee =
+            makeRect(mPt2.x > mPt1.x ? mPt1.x : mPt1.x - side, mPt2.y > mPt1.y ? mPt1.y : mPt1.y - side, side, side);
     }
     mSelectionPath = keys & kControlKey ? BezierPath::withOvalInRect(marquee) : BezierPath::withRect(marquee);
     mSelectionPath->setLineWidth(1 / effectiveZoom());
@@ -294,8 +258,7 @@ bool ZPCanvas::composeOverlays(PixelBox box)
     const ConstBitmapView image = std::as_const(*mBitmapRep).view().part(box);
     BitmapView copy = state.scratch->view();
     copy.width = box.width(), copy.height = box.height();
-    for (int y = 0; y < copy.height; ++y)
-        std::memcpy(copy.rowData(y), image.rowData(y), std::size_t(copy.width) * 4);
+    for (int y = 0; y < copy.height; ++y) std::memcpy(copy.rowData(y), image.rowData(y), std::size_t(copy.width) * 4);
 
     BitmapContext context(copy);
     AffineTransform shift;
@@ -319,6 +282,7 @@ bool ZPCanvas::composeOverlays(PixelBox box)
         context.restoreGraphicsState();
     }
     if (floating) {
+        prepareAdjustment(*this, box);
         if (mSelectionImage->representations().size() >= 2) {
             logLine(mTransform ? "more than one rep 2" : "more than one rep 1");
             for (const ImageRepresentation& r : mSelectionImage->representations())
@@ -358,15 +322,17 @@ void ZPCanvas::drawOverlays(const ScreenTarget& target, double deviceScale)
     const auto first = [deviceScale](int edge, int low) { return std::max(low, int(std::floor(edge * deviceScale))); };
     const auto last = [deviceScale](int edge, int high) { return std::min(high, int(std::ceil(edge * deviceScale))); };
     const PixelBox& box = target.box;
-    const PixelBox part{first(overlay.x0, box.x0), first(overlay.y0, box.y0), last(overlay.x1, box.x1), last(overlay.y1, box.y1)};
+    const PixelBox part{first(overlay.x0, box.x0), first(overlay.y0, box.y0), last(overlay.x1, box.x1),
+                        last(overlay.y1, box.y1)};
     if (part.isEmpty()) return;
     const auto under = [deviceScale](int edge, double margin) { return int(std::floor(edge / deviceScale + margin)); };
-    const PixelBox pixels = PixelBox{under(part.x0, -1), under(part.y0, -1), under(part.x1, 2), under(part.y1, 2)}.intersected(
-        PixelBox{0, 0, width, height});
+    const PixelBox pixels =
+        PixelBox{under(part.x0, -1), under(part.y0, -1), under(part.x1, 2), under(part.y1, 2)}.intersected(
+            PixelBox{0, 0, width, height});
     if (!composeOverlays(pixels)) return;
     renderToScreen(windowOnto(*stateOf(*this).scratch, pixels, width, height),
-                   target.pixels + target.stride * (part.y0 - box.y0) + (part.x0 - box.x0), target.stride, part, deviceScale,
-                   palette().color(QPalette::Mid).rgb() | 0xFF000000);
+                   target.pixels + target.stride * (part.y0 - box.y0) + (part.x0 - box.x0), target.stride, part,
+                   deviceScale, palette().color(QPalette::Mid).rgb() | 0xFF000000);
 }
 
 void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origin, double deviceScale)
@@ -384,8 +350,8 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
     const QRect mine = deviceRect.translated(-origin);
     const PixelBox box{mine.left(), mine.top(), mine.left() + mine.width(), mine.top() + mine.height()};
     if (state.buffer.width() < mine.width() || state.buffer.height() < mine.height())
-        state.buffer = QImage(std::max(mine.width(), state.buffer.width()), std::max(mine.height(), state.buffer.height()),
-                              QImage::Format_RGB32);
+        state.buffer = QImage(std::max(mine.width(), state.buffer.width()),
+                              std::max(mine.height(), state.buffer.height()), QImage::Format_RGB32);
     auto* words = reinterpret_cast<std::uint32_t*>(state.buffer.bits());
     const std::ptrdiff_t stride = state.buffer.bytesPerLine() / 4;
     const std::uint32_t outside = palette().color(QPalette::Mid).rgb() | 0xFF000000;
@@ -403,9 +369,10 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
         drawOverlays(target, deviceScale);
     }
     if (brushAtWork) {
-        logLine("dirty rect: %s", stringFromRect(makeRect(float(box.x0 / deviceScale), float(box.y0 / deviceScale),
-                                                          float(box.width() / deviceScale), float(box.height() / deviceScale)))
-                                      .c_str());
+        logLine("dirty rect: %s",
+                stringFromRect(makeRect(float(box.x0 / deviceScale), float(box.y0 / deviceScale),
+                                        float(box.width() / deviceScale), float(box.height() / deviceScale)))
+                    .c_str());
         logLine("mImage drawInRect rect: %f", double(clock.nsecsElapsed()) * 1e-9);
         mDo = false;
     }
@@ -418,15 +385,15 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
 void ZPCanvas::drawOutlines(const ScreenTarget& target, double deviceScale)
 {
     const int lineWidth = std::max(1, int(std::floor(devicePixelRatioF())));
-    AffineTransform toDevice;
-    toDevice.scale(deviceScale, deviceScale);
+    const AffineTransform toDevice = toDevicePixels(deviceScale);
+    DrawingState& state = stateOf(*this);
     if (mSelectionPath) {
         const double pixelsPerPoint = deviceScale / effectiveZoom();
         DashStyle ants{5 * pixelsPerPoint, double(mSelectionPhase) * pixelsPerPoint, lineWidth};
         AffineTransform placed = toDevice;
         if (mTransform) {
-            // A free transform shows the outline centred on the record's position, turned and scaled; the outline itself
-            // moves to the transform's origin. The short value of pi belongs to this mode.
+            // A free transform shows the outline centred on the record's position, turned and scaled; the outline
+            // itself moves to the transform's origin. The short value of pi belongs to this mode.
             const Rect b = mSelectionPath->bounds();
             AffineTransform toOrigin;
             toOrigin.translate(-b.center().x, -b.center().y);
@@ -439,17 +406,18 @@ void ZPCanvas::drawOutlines(const ScreenTarget& target, double deviceScale)
             free.translate(px * std::cos(angle) + py * std::sin(angle), py * std::cos(angle) - px * std::sin(angle));
             placed.prepend(free);
         }
-        drawAnts(target, *mSelectionPath, placed, ants);
+        drawAnts(target, state.selectionOutline, *mSelectionPath, placed, ants);
         if (mAuxSelectionPath) {
             ants.phase = 0;
-            drawAnts(target, *mAuxSelectionPath, toDevice, ants);
+            drawAnts(target, state.auxOutline, *mAuxSelectionPath, toDevice, ants);
         }
     }
     const bool brushTool = mTool == 3 || mTool == 4 || mTool == 5 || mTool == 9;
     if (brushTool && mPointerInside) {
         const float r = mSize * 0.5f;
-        const BezierPath ring = BezierPath::withOvalInRect(makeRect(mLastPointer.x - r, mLastPointer.y - r, mSize, mSize));
+        const BezierPath ring =
+            BezierPath::withOvalInRect(makeRect(mLastPointer.x - r, mLastPointer.y - r, mSize, mSize));
         const DashStyle ringStyle{3, 0, lineWidth, 0xFF202020, 0xFFF0F0F0};
-        drawAnts(target, ring, toDevice, ringStyle);
+        drawAnts(target, state.ring, ring, toDevice, ringStyle);
     }
 }

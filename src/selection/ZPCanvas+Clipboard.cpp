@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Copy, cut, paste, delete and crop, and the two clean-ups of transparency.
 #include "canvas/ZPCanvas.h"
+#include "imageops/Adjustment.h"
 #include "platform/ImageEncoder.h"
 #include "platform/ImageImporter.h"
 #include "platform/Log.h"
@@ -25,6 +26,7 @@ std::shared_ptr<const BitmapRep> pictureToCopy(ZPCanvas& canvas)
                    : nullptr;
     if (!canvas.mSelectionImage) canvas.floatSelection();
     if (!canvas.mSelectionImage) return nullptr;
+    finishPendingAdjustment(canvas);
     if (canvas.mSelectionImage->representations().size() >= 2) {
         logLine("more than one rep");
         for (const ImageRepresentation& r : canvas.mSelectionImage->representations())

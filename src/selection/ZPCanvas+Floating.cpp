@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The floating selection: lifted, scaled and turned, anchored.
 #include "canvas/ZPCanvas.h"
+#include "imageops/Adjustment.h"
 #include "platform/BitmapContext.h"
 #include "platform/Log.h"
 #include "platform/Sounds.h"
@@ -41,6 +42,7 @@ void ZPCanvas::anchorSelection()
     if (!mSelectionPath || !mSelectionImage) return;
     waitForWorkers();
     if (mImage && !mImage->representations().empty()) {
+        finishPendingAdjustment(*this);
         logRepresentations(*mSelectionImage);
         BitmapContext context(mImage->representations().front().bitmap->view());
         context.addClip(*mSelectionPath);

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The adjustment of a floating selection: its settings, and the filtered pixels that are computed as they are needed.
+#pragma once
+#include "platform/Filters.h"
+#include "platform/Geometry.h"
+#include "selection/TransformRecord.h"
+
+class ZPCanvas;
+
+namespace zp
+{
+
+/// The dialog's whole numbers as the filters take them: hue in hundredths of a radian, the colour controls in per cent,
+/// sharpness above zero as per cent of an unsharp mask's intensity, below zero as twentieths of a blur's radius.
+FilterSettings filterSettings(const _ZPFilters& filters);
+
+/// Computes what is still missing of the floating image's filtered pixels. Before anyone but the screen reads them:
+/// anchoring, copying, writing them out. Costs nothing when none are missing. Main thread.
+void finishPendingAdjustment(ZPCanvas& canvas);
+
+/// Same, but only what drawing the pixels @p box of the image needs. Main thread.
+void prepareAdjustment(ZPCanvas& canvas, PixelBox box);
+
+} // namespace zp
