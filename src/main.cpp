@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Start-up: reads the command line and hands control to the application's event loop.
 #include "app/CommandLine.h"
+#include "app/MainWindow.h"
 #include "app/SingleInstance.h"
 #include "app/ZPAppController.h"
-#include "app/MainWindow.h"
 #include "batch/BatchCommandLine.h"
 #include "platform/KeyModifiers.h"
 #include "platform/Panels.h"

@@ -101,7 +101,12 @@ void BM_DragFloatingSixMegapixels(benchmark::State& state)
     }
     canvas.selectNone();
 }
-BENCHMARK(BM_DragFloatingSixMegapixels)->Arg(25)->Arg(100)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(40);
+BENCHMARK(BM_DragFloatingSixMegapixels)
+    ->Arg(25)
+    ->Arg(100)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Iterations(40);
 
 const std::vector<std::uint8_t>& jpegBytes()
 {
@@ -117,7 +122,8 @@ void BM_OpenJPEG(benchmark::State& state)
 {
     const QTemporaryDir folder;
     const std::string path = folder.path().toStdString() + "/photo.jpg";
-    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(jpegBytes().data()), std::streamsize(jpegBytes().size()));
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(jpegBytes().data()), std::streamsize(jpegBytes().size()));
     ZPCanvas& canvas = *view().canvas;
     for (auto _ : state) canvas.openIt(path);
     state.counters["loaded"] = canvas.imageLoaded();

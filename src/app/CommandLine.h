@@ -11,8 +11,8 @@ struct CommandLine {
     std::vector<std::string> files; ///< to open, absolute
     std::string script;             ///< file of automation commands, "-" for standard input; empty: none
     bool offscreen = false, show = false, startChoice = true;
-    std::string answer;             ///< text to print and end with (help, version)
-    std::string error;              ///< why the command line makes no sense
+    std::string answer; ///< text to print and end with (help, version)
+    std::string error;  ///< why the command line makes no sense
 };
 
 CommandLine parseCommandLine(int argc, char** argv);

@@ -64,7 +64,8 @@ const Row kRows[] = {
     {"Selection", "Select None", "selectNone:", "Ctrl+D", "Drops the selection"},
     {"Selection", "Select Inverse", "selectInverse:", "Ctrl+Shift+I", "Selects what is not selected"},
     {"Selection", "", "", "", ""},
-    {"Selection", "Float Selection", "anchorSelection:", "Ctrl+L", "Lifts the selected pixels, or puts them back (Return)"},
+    {"Selection", "Float Selection", "anchorSelection:", "Ctrl+L",
+     "Lifts the selected pixels, or puts them back (Return)"},
     {"Selection", "", "", "", ""},
     {"Selection", "Save Selection…", "saveSelection:", "", "Keeps the outline under a name (key s: the default name)"},
     {"Selection", "Load Selection…", "loadSelection:", "", "Brings a kept outline back"},
@@ -115,7 +116,8 @@ MainMenu::MainMenu(QMenuBar* bar, Validator validate, Performer perform)
         item->setProperty("menu", row.menu);
         item->setToolTip(tr(row.tip));
         if (*row.shortcut) item->setShortcut(QKeySequence(row.shortcut));
-        if (qstrcmp(row.action, "redo:") == 0) item->setShortcuts({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
+        if (qstrcmp(row.action, "redo:") == 0)
+            item->setShortcuts({QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")});
         if (qstrcmp(row.action, "zoomIn:") == 0) item->setShortcuts({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")});
         if (qstrcmp(row.action, "terminate:") == 0) item->setMenuRole(QAction::QuitRole);
         mItems.insert(row.action, item);

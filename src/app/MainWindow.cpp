@@ -129,7 +129,8 @@ void MainWindow::setUpToolOptions()
     mUi->mBrushPopUp->setIconSize({20, 20});
     connect(mUi->mBrushPopUp, &QComboBox::activated, this, &MainWindow::giveFocusBack);
 
-    connect(mUi->mToleranceSlider, &QSlider::valueChanged, this, [this] { mCanvas->toleranceSlider(mUi->mToleranceSlider); });
+    connect(mUi->mToleranceSlider, &QSlider::valueChanged, this,
+            [this] { mCanvas->toleranceSlider(mUi->mToleranceSlider); });
     connect(mUi->mToleranceSlider, &QSlider::sliderReleased, this, &MainWindow::giveFocusBack);
     connect(mUi->mToleranceField, &QSpinBox::valueChanged, mUi->mToleranceSlider, &QSlider::setValue);
     for (QSpinBox* field : {mUi->mSizeField, mUi->mToleranceField})
@@ -228,7 +229,8 @@ void MainWindow::showToolOptions(int tool)
     const bool sized = tool == 3 || tool == 4 || tool == 5 || tool == 8 || tool == 9;
     // The size is also the width of the Stroke command, so it stays reachable with every selection tool.
     const bool showSize = sized || tool == 0 || tool == 1;
-    for (QWidget* w : std::initializer_list<QWidget*>{mUi->sizeLabel, mUi->mSizeSlider, mUi->mSizeField}) w->setVisible(showSize);
+    for (QWidget* w : std::initializer_list<QWidget*>{mUi->sizeLabel, mUi->mSizeSlider, mUi->mSizeField})
+        w->setVisible(showSize);
     for (const Switch& s : mSwitches) {
         const bool used = std::find(s.tools.begin(), s.tools.end(), tool) != s.tools.end();
         s.button->setVisible(used);
@@ -262,7 +264,8 @@ void MainWindow::showZoom()
     int nearest = 0;
     const double wanted = std::log(double(mCanvas->mZoom));
     for (int i = 1; i < int(std::size(kZoomTitles)); ++i)
-        if (std::abs(std::log(zoomOfTitle(kZoomTitles[i])) - wanted) < std::abs(std::log(zoomOfTitle(kZoomTitles[nearest])) - wanted))
+        if (std::abs(std::log(zoomOfTitle(kZoomTitles[i])) - wanted) <
+            std::abs(std::log(zoomOfTitle(kZoomTitles[nearest])) - wanted))
             nearest = i;
     const QSignalBlocker quiet(mUi->mZoomPopUp);
     mUi->mZoomPopUp->setCurrentIndex(nearest);
@@ -282,8 +285,9 @@ void MainWindow::showTitle()
                              .arg(int(size.height))
                              .arg(double(mCanvas->mZoom) * 100, 0, 'g', 4));
     const std::string& path = mCanvas->mImagePath;
-    setWindowTitle(path.empty() ? tr("Untitled — Zelpane")
-                                : QString("%1 — Zelpane").arg(QString::fromStdString(displayName(lastPathComponent(path)))));
+    setWindowTitle(path.empty()
+                       ? tr("Untitled — Zelpane")
+                       : QString("%1 — Zelpane").arg(QString::fromStdString(displayName(lastPathComponent(path)))));
 }
 
 void MainWindow::zoomIn()
@@ -337,5 +341,6 @@ void MainWindow::dropEvent(QDropEvent* event)
 void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && !mToolButtons.empty() && !mToolButtons[0]->icon().isNull()) setToolImages();
+    if (event->type() == QEvent::PaletteChange && !mToolButtons.empty() && !mToolButtons[0]->icon().isNull())
+        setToolImages();
 }

@@ -35,7 +35,7 @@ public:
     void showZoom();
     void showTitle();
 
-    std::function<bool()> mayClose;                           ///< asked before the window closes
+    std::function<bool()> mayClose; ///< asked before the window closes
     std::function<void(const std::string&)> openDroppedFile;
 
 protected:

@@ -63,7 +63,8 @@ void SingleInstance::take()
             received->clear();
             socket->write("ok");
             socket->flush();
-            QMetaObject::invokeMethod(this, [this, files] { mOpen(files); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this, files] { mOpen(files); }, Qt::QueuedConnection);
         });
     }
 }

@@ -20,6 +20,7 @@ enum class ResizeTag : int { Width = 100, Height = 101, WidthPercent = 102, Heig
 
 /// The other fields after one was changed. @p originalWidth and height: the current image's. A tag that is none of the
 /// four changes nothing. Percentages are not rounded.
-ResizeFields linkedResizeFields(ResizeFields fields, int tag, float originalWidth, float originalHeight, bool keepAspect);
+ResizeFields linkedResizeFields(ResizeFields fields, int tag, float originalWidth, float originalHeight,
+                                bool keepAspect);
 
 } // namespace zp

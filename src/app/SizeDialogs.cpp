@@ -37,7 +37,8 @@ public:
     }
     void updateFileSize()
     {
-        ui.mNew_FileSize->setText(QString::fromStdString(fileSizeEstimate(ui.mNew_Width->value(), ui.mNew_Height->value())));
+        ui.mNew_FileSize->setText(
+            QString::fromStdString(fileSizeEstimate(ui.mNew_Width->value(), ui.mNew_Height->value())));
     }
     Ui::New ui;
 };
@@ -66,9 +67,10 @@ public:
 private:
     void resizeSet(int tag)
     {
-        const ResizeFields now{ui.mResize_Width->value(), ui.mResize_Height->value(), ui.mResize_Width_P->text().toFloat(),
-                               ui.mResize_Height_P->text().toFloat()};
-        show(linkedResizeFields(now, tag, mOriginal.width, mOriginal.height, ui.mResize_KeepAspectRatio->isChecked()), tag);
+        const ResizeFields now{ui.mResize_Width->value(), ui.mResize_Height->value(),
+                               ui.mResize_Width_P->text().toFloat(), ui.mResize_Height_P->text().toFloat()};
+        show(linkedResizeFields(now, tag, mOriginal.width, mOriginal.height, ui.mResize_KeepAspectRatio->isChecked()),
+             tag);
     }
     void show(const ResizeFields& f, int changed)
     {
@@ -78,7 +80,8 @@ private:
         if (changed != int(ResizeTag::Height)) ui.mResize_Height->setValue(f.height);
         if (changed != int(ResizeTag::WidthPercent)) ui.mResize_Width_P->setText(percentText(f.widthPercent));
         if (changed != int(ResizeTag::HeightPercent)) ui.mResize_Height_P->setText(percentText(f.heightPercent));
-        ui.mResize_FileSize->setText(QString::fromStdString(fileSizeEstimate(ui.mResize_Width->value(), ui.mResize_Height->value())));
+        ui.mResize_FileSize->setText(
+            QString::fromStdString(fileSizeEstimate(ui.mResize_Width->value(), ui.mResize_Height->value())));
     }
     Size mOriginal;
 };
@@ -92,7 +95,10 @@ public:
         connect(ui.mName_SaveButton, &QPushButton::clicked, this, &NameDialog::save);
         connect(ui.mName_CancelButton, &QPushButton::clicked, this, &QDialog::reject);
     }
-    std::string typedPath() const { return pathByAppending(libraryFolder(), QFile::encodeName(ui.mName_Name_Field->text()).toStdString()); }
+    std::string typedPath() const
+    {
+        return pathByAppending(libraryFolder(), QFile::encodeName(ui.mName_Name_Field->text()).toStdString());
+    }
     Ui::Name ui;
 
 private:
@@ -104,7 +110,8 @@ private:
         }
         // The name is tested as typed, not with the extension that it will get.
         if (fileExists(typedPath()) &&
-            runAlert(tr("File already exists"), tr("Do you want to overwrite the existing file?"), {tr("Yes"), tr("No")}) != 0)
+            runAlert(tr("File already exists"), tr("Do you want to overwrite the existing file?"),
+                     {tr("Yes"), tr("No")}) != 0)
             return;
         accept();
     }
@@ -149,7 +156,8 @@ void runResizeDialog(ZPCanvas& canvas, QWidget* parent)
 void runNameDialog(ZPCanvas& canvas, QWidget* parent, const std::function<void()>& afterSaving)
 {
     NameDialog dialog(parent);
-    dialog.ui.mName_Name_Field->setText(QFile::decodeName(QByteArray::fromStdString(proposedQuickSaveName(libraryFolder()))));
+    dialog.ui.mName_Name_Field->setText(
+        QFile::decodeName(QByteArray::fromStdString(proposedQuickSaveName(libraryFolder()))));
     dialog.ui.mName_Name_Field->selectAll();
     centerWindow(&dialog, parent);
     if (dialog.exec() != QDialog::Accepted) return;

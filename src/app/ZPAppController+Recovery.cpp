@@ -13,12 +13,13 @@ bool ZPAppController::offerRecovery()
 {
     const std::optional<RecoverableWork> work = findRecoverableWork();
     if (!work) return false;
-    const QString name = work->imagePath.empty() ? tr("An image that was never saved")
-                                                 : QString::fromStdString(displayName(lastPathComponent(work->imagePath)));
-    const int answer =
-        runAlert(tr("Zelpane ended unexpectedly. Do you want to recover your last image?"),
-                 tr("%1, %2 × %3 pixels, as it was after the last change.").arg(name).arg(work->width).arg(work->height),
-                 {tr("Recover"), tr("Discard")});
+    const QString name = work->imagePath.empty()
+                             ? tr("An image that was never saved")
+                             : QString::fromStdString(displayName(lastPathComponent(work->imagePath)));
+    const int answer = runAlert(
+        tr("Zelpane ended unexpectedly. Do you want to recover your last image?"),
+        tr("%1, %2 × %3 pixels, as it was after the last change.").arg(name).arg(work->width).arg(work->height),
+        {tr("Recover"), tr("Discard")});
     if (answer != 0) {
         discardRecoverableWork();
         return false;

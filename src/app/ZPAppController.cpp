@@ -94,9 +94,14 @@ void ZPAppController::applicationDidFinishLaunching(bool startChoice)
     if (startChoice && !recovered && !mLaunchFromDocument && !(currentKeyModifiers() & kShiftKey)) {
         switch (runAlert(tr("What would you like to do? Create a new image or open an existing image."), "",
                          {tr("New…"), tr("Open…"), tr("Cancel")})) {
-        case 0: newDocument(); break;
-        case 1: openDocument(); break;
-        default: break;
+        case 0:
+            newDocument();
+            break;
+        case 1:
+            openDocument();
+            break;
+        default:
+            break;
         }
     }
     NotificationCenter& center = NotificationCenter::defaultCenter();
@@ -198,7 +203,8 @@ void ZPAppController::openDocument()
 {
     PanelRequest request;
     request.types = {"tiff", "jpg", "png", "psd"};
-    request.directory = mCanvas->mImagePath.empty() ? pathByAppending(homeFolder(), "Pictures") : folderOfPath(mCanvas->mImagePath);
+    request.directory =
+        mCanvas->mImagePath.empty() ? pathByAppending(homeFolder(), "Pictures") : folderOfPath(mCanvas->mImagePath);
     if (const std::optional<std::string> path = runOpenPanel(request)) {
         centerWindow(mWindow.get());
         openPath(*path);
@@ -224,8 +230,8 @@ void ZPAppController::prefs() { ZPPrefs::sharedPrefs()->showWindow(); }
 
 void ZPAppController::help()
 {
-    runAlert(tr("Read the User's Guide"),
-             tr("You can find the User's Guide in the same folder as this application."), {tr("OK")});
+    runAlert(tr("Read the User's Guide"), tr("You can find the User's Guide in the same folder as this application."),
+             {tr("OK")});
 }
 
 void ZPAppController::imageEditor()

@@ -2,8 +2,8 @@
 /// Marching ants as screen pixels: alternating dashes along polylines, plotted without anti-aliasing.
 #pragma once
 #include "platform/Geometry.h"
-#include <cstdint>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 
 namespace zp
@@ -18,9 +18,9 @@ struct ScreenTarget {
 
 /// How a dashed line looks, in device pixels.
 struct DashStyle {
-    double dash = 5;   ///< length of a dark and of a light dash
-    double phase = 0;  ///< where in the pattern the line begins
-    int width = 1;     ///< of the line; a square pen whose near corner is the pixel
+    double dash = 5;  ///< length of a dark and of a light dash
+    double phase = 0; ///< where in the pattern the line begins
+    int width = 1;    ///< of the line; a square pen whose near corner is the pixel
     std::uint32_t dark = 0xFF000000, light = 0xFFFFFFFF;
     bool drawLight = true;
 };

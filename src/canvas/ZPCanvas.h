@@ -71,8 +71,8 @@ public:
     bool isOpaque() const { return true; }
     /// (0, 0, image width, image height), what the product calls the view's bounds.
     zp::Rect bounds() const;
-    void tool(QComboBox* sender);             ///< shows and hides the tool options; does not store the tool
-    void toleranceSlider(QSlider* sender);    ///< copies the slider's value into the field
+    void tool(QComboBox* sender);          ///< shows and hides the tool options; does not store the tool
+    void toleranceSlider(QSlider* sender); ///< copies the slider's value into the field
     void selectionTimerFired();
     /// mZoom, halved in 2x retina mode.
     float effectiveZoom() const { return m2xRetina ? mZoom * 0.5f : mZoom; }
@@ -87,15 +87,16 @@ public:
     void updateViewGeometry();
 
     // ---- canvas: drawing (ZPCanvas+Drawing.cpp) -----------------------------------------------------------------
-    void setNeedsDisplay(bool flag = true);              ///< any thread
-    void setNeedsDisplayInRect(zp::Rect imageRect);      ///< any thread
-    void displayNow();                                   ///< redraws at once
+    void setNeedsDisplay(bool flag = true);         ///< any thread
+    void setNeedsDisplayInRect(zp::Rect imageRect); ///< any thread
+    void displayNow();                              ///< redraws at once
     void zoom(QComboBox* sender);
     /// Zoom to a factor with the image point @p anchor staying where it is on screen.
     void setZoom(float factor, std::optional<zp::Point> anchor = std::nullopt);
-    zp::Rect visibleRect() const;                        ///< the part of the image on screen
-    void selectionOutlineNeedsDisplay();                 ///< dirties what the marching ants cover
-    /// The visible picture with its overlays into @p painter's device, whose canvas origin is at device pixel @p origin.
+    zp::Rect visibleRect() const;        ///< the part of the image on screen
+    void selectionOutlineNeedsDisplay(); ///< dirties what the marching ants cover
+    /// The visible picture with its overlays into @p painter's device, whose canvas origin is at device pixel @p
+    /// origin.
     void drawRect(QPainter& painter, const QRect& deviceRect, QPoint origin, double deviceScale);
 
     // ---- canvas: files (ZPCanvas+Files.cpp) and resize (ZPCanvas+Resize.cpp) ------------------------------------
@@ -158,10 +159,10 @@ public:
     void clearSelectionMaskINVERT();
     void selectionPathToMask();
     void selectionPathToMaskINVERT();
-    void selectAll();            ///< selectAll:
-    void selectNone();           ///< without the sound
-    void selectNoneWithSound();  ///< selectNone:
-    void selectInverse();        ///< selectInverse:
+    void selectAll();           ///< selectAll:
+    void selectNone();          ///< without the sound
+    void selectNoneWithSound(); ///< selectNone:
+    void selectInverse();       ///< selectInverse:
     /// Restarts the marching ants' clock (0.2 s); stopSelectionTimer drops it.
     void restartSelectionTimer();
     void stopSelectionTimer();
@@ -234,7 +235,8 @@ public:
     /// Enabled state (and, for anchorSelection:, the title) of a menu item by its action's name.
     bool validateMenuItem(const QString& action, QString* title = nullptr);
 
-    // ==== fields, in the product's order ==============================================================================
+    // ==== fields, in the product's order
+    // ==============================================================================
     zp::Color mColor = zp::kBlack;
     std::int32_t mTool = 0;
     float mSize = 20;
@@ -295,31 +297,32 @@ public:
     bool mDontTakeSnapshot = false;
     bool m2xRetina = false;
 
-    // ==== beside the product's fields: what this platform needs =======================================================
+    // ==== beside the product's fields: what this platform needs
+    // =======================================================
     std::string mLastFileError;
-    std::shared_ptr<zp::PointerFeed> mPointerFeed;       ///< lock-free: mouse events in, capture thread out (src/tools)
+    std::shared_ptr<zp::PointerFeed> mPointerFeed; ///< lock-free: mouse events in, capture thread out (src/tools)
     std::shared_ptr<zp::SnapshotEncoder> mSnapshotEncoder; ///< keeps the last snapshot's strips (src/undo)
     std::thread mPollWorker, mDrawWorker, mSnapshotWorker;
     std::unique_ptr<QTimer> mFirstSnapshotTimer;
     std::atomic<bool> mSmartFillRunning{false};
-    zp::Point mLastPointer;                              ///< image coordinates of the last mouse event
-    bool mPointerInside = false;                         ///< the pointer is over the canvas
+    zp::Point mLastPointer;      ///< image coordinates of the last mouse event
+    bool mPointerInside = false; ///< the pointer is over the canvas
     /// Held while pixels are written off the main thread (a stamp, a segment), and by the main thread while it draws
     /// from them during a stroke. Never held across a wait.
     std::mutex mPixelLock;
-    _ZPFilters mAdjustFilters;                           ///< the last settings sent by the adjust dialog
-    std::uint64_t mSelectionPathVersion = 0;             ///< counts up when the outline is known to have changed
+    _ZPFilters mAdjustFilters;               ///< the last settings sent by the adjust dialog
+    std::uint64_t mSelectionPathVersion = 0; ///< counts up when the outline is known to have changed
     /// Rooms keep what they must remember beside the fields here, one slot a room, made on first use.
     std::shared_ptr<void> mDrawingState, mToolState, mSelectionState, mUndoState, mAdjustState;
 
 signals:
-    void imageReplaced();                 ///< after another bitmap was installed
+    void imageReplaced(); ///< after another bitmap was installed
     void zoomChanged();
     void pointerMoved(QPointF imagePoint); ///< image coordinates; also outside the image
     void paintColorChanged();
     void brushSizeChanged(float size);
     void toolOptionsChanged(int toolIndex); ///< the options of this tool are on show
-    void busyChanged(bool busy);          ///< a snapshot is being written
+    void busyChanged(bool busy);            ///< a snapshot is being written
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -330,8 +333,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    friend struct ZPToolActions; ///< what the mouse does, tool by tool (src/tools)
-    void startFollowingPointer(); ///< the brush outline and the polygon's open edge follow the pointer
+    friend struct ZPToolActions;      ///< what the mouse does, tool by tool (src/tools)
+    void startFollowingPointer();     ///< the brush outline and the polygon's open edge follow the pointer
     void autoscroll(zp::Point point); ///< scrolls the point into view
     void updateGestureOutlines();     ///< the marquee and the polygon's open edge, from where the pointer is
     zp::PixelBox overlayBox() const;  ///< image pixels that the stroke being drawn and the floating image may cover

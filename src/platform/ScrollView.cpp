@@ -63,7 +63,8 @@ bool ScrollView::handlePan(QEvent* event)
         mPanning = false;
         QApplication::restoreOverrideCursor();
         return true;
-    default: return false;
+    default:
+        return false;
     }
 }
 

@@ -93,7 +93,8 @@ QString setValue(QWidget* widget, const std::string& word)
     bool isNumber = false;
     const double number = text(word).toDouble(&isNumber);
     if (auto* box = qobject_cast<QComboBox*>(widget)) {
-        const int index = !word.empty() && word[0] == '#' ? text(word.substr(1)).toInt(&isNumber) : box->findText(text(word));
+        const int index =
+            !word.empty() && word[0] == '#' ? text(word.substr(1)).toInt(&isNumber) : box->findText(text(word));
         if (index < 0 || index >= box->count()) return QString("no item %1").arg(text(word));
         box->setCurrentIndex(index);
         emit box->activated(index);

@@ -52,7 +52,8 @@ ScriptDriver::~ScriptDriver()
 bool ScriptDriver::isReadable(const std::string& script)
 {
     if (script == "-") return true;
-    struct stat status {};
+    struct stat status {
+    };
     return ::stat(script.c_str(), &status) == 0 && !S_ISDIR(status.st_mode) && ::access(script.c_str(), R_OK) == 0;
 }
 
@@ -124,7 +125,8 @@ void ScriptDriver::execute(const std::string& text)
     }
     ++mCommandNumber;
     const auto command = mCommands.find(words->front());
-    if (command == mCommands.end()) return fail(QString("unknown command %1").arg(QString::fromStdString(words->front())));
+    if (command == mCommands.end())
+        return fail(QString("unknown command %1").arg(QString::fromStdString(words->front())));
     try {
         command->second(*words);
     } catch (const Failure& failure) {
@@ -209,7 +211,8 @@ void ScriptDriver::watchWork(int modalsBefore)
     *look = [this, modalsBefore, watch, look] {
         const int modals = visibleModals();
         // A modal window that has closed but whose loop still stands higher up: its command goes on when that unwinds.
-        const bool unwinding = QThread::currentThread()->loopLevel() > 1 + modals && watch->clock.elapsed() < kUnwindMilliseconds;
+        const bool unwinding =
+            QThread::currentThread()->loopLevel() > 1 + modals && watch->clock.elapsed() < kUnwindMilliseconds;
         if ((mWorkResult || mWorkError) && !unwinding) {
             const auto result = std::exchange(mWorkResult, std::nullopt);
             const auto error = std::exchange(mWorkError, std::nullopt);

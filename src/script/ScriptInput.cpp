@@ -134,7 +134,8 @@ void ScriptDriver::addInputCommands()
         auto quiet = std::make_shared<int>(0);
         waitUntil(
             [this, quiet] {
-                const bool busy = mCanvas.anyWorkerRunning() || mCanvas.snapshotTimerPending() || mCanvas.mSmartFillRunning;
+                const bool busy =
+                    mCanvas.anyWorkerRunning() || mCanvas.snapshotTimerPending() || mCanvas.mSmartFillRunning;
                 // Quiet for a few rounds of the event loop: the end of one worker may be the start of the next.
                 *quiet = busy ? 0 : *quiet + 1;
                 return *quiet > 3;
@@ -218,7 +219,8 @@ void ScriptDriver::addOperations()
         return QJsonObject{};
     };
     mOperations["adjust_set:"] = [this, number](const Words& w) {
-        mCanvas.adjust_set({int(number(w, 0)), int(number(w, 1)), int(number(w, 2)), int(number(w, 3)), int(number(w, 4))});
+        mCanvas.adjust_set(
+            {int(number(w, 0)), int(number(w, 1)), int(number(w, 2)), int(number(w, 3)), int(number(w, 4))});
         return QJsonObject{};
     };
     mOperations["restoreSnapshot:"] = [this, number](const Words& w) {

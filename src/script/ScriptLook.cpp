@@ -49,34 +49,45 @@ QJsonValue pathFields(const std::optional<BezierPath>& path)
     QJsonArray elements;
     path->forEach([&](PathElement kind, const Point* p) {
         switch (kind) {
-        case PathElement::MoveTo: elements.append(QJsonArray{"M", double(p->x), double(p->y)}); break;
-        case PathElement::LineTo: elements.append(QJsonArray{"L", double(p->x), double(p->y)}); break;
-        case PathElement::CurveTo:
-            elements.append(QJsonArray{"C", double(p[0].x), double(p[0].y), double(p[1].x), double(p[1].y), double(p[2].x),
-                                       double(p[2].y)});
+        case PathElement::MoveTo:
+            elements.append(QJsonArray{"M", double(p->x), double(p->y)});
             break;
-        case PathElement::ClosePath: elements.append(QJsonArray{"Z"}); break;
+        case PathElement::LineTo:
+            elements.append(QJsonArray{"L", double(p->x), double(p->y)});
+            break;
+        case PathElement::CurveTo:
+            elements.append(QJsonArray{"C", double(p[0].x), double(p[0].y), double(p[1].x), double(p[1].y),
+                                       double(p[2].x), double(p[2].y)});
+            break;
+        case PathElement::ClosePath:
+            elements.append(QJsonArray{"Z"});
+            break;
         }
     });
     const Rect b = path->bounds();
-    return QJsonObject{{"elements", elements},
-                       {"bounds", QJsonArray{double(b.origin.x), double(b.origin.y), double(b.size.width), double(b.size.height)}},
-                       {"winding", path->windingRule() == WindingRule::EvenOdd ? "evenodd" : "nonzero"},
-                       {"flatness", double(path->flatness())},
-                       {"lineWidth", double(path->lineWidth())}};
+    return QJsonObject{
+        {"elements", elements},
+        {"bounds", QJsonArray{double(b.origin.x), double(b.origin.y), double(b.size.width), double(b.size.height)}},
+        {"winding", path->windingRule() == WindingRule::EvenOdd ? "evenodd" : "nonzero"},
+        {"flatness", double(path->flatness())},
+        {"lineWidth", double(path->lineWidth())}};
 }
 
 QJsonObject stateFields(ZPCanvas& c)
 {
     const _ZPTransform& t = c.mTransformRecord;
-    const QJsonObject record{{"position", pair(t.position)}, {"scale", double(t.scale)},  {"rotate", double(t.rotate)},
-                             {"oldPos", pair(t.oldPos)},     {"oldSize", pair(t.oldSize)}};
+    const QJsonObject record{{"position", pair(t.position)},
+                             {"scale", double(t.scale)},
+                             {"rotate", double(t.rotate)},
+                             {"oldPos", pair(t.oldPos)},
+                             {"oldSize", pair(t.oldSize)}};
     QJsonValue floatingSize = QJsonValue::Null;
     if (c.mSelectionImage) floatingSize = pair(c.mSelectionImage->size());
     return QJsonObject{
         {"mTool", c.mTool},
         {"mSize", double(c.mSize)},
-        {"mColor", QJsonArray{double(c.mColor.red), double(c.mColor.green), double(c.mColor.blue), double(c.mColor.alpha)}},
+        {"mColor",
+         QJsonArray{double(c.mColor.red), double(c.mColor.green), double(c.mColor.blue), double(c.mColor.alpha)}},
         {"mZoom", double(c.mZoom)},
         {"m2xRetina", c.m2xRetina},
         {"mImagePath", text(displayName(c.mImagePath))},
@@ -116,7 +127,8 @@ void ScriptDriver::addLookCommands()
     const auto pixelPosition = [this](const Words& w) {
         if (w.size() != 3) throw Failure{text(w[0]) + " X Y"};
         const int x = int(std::floor(text(w[1]).toDouble())), y = int(std::floor(text(w[2]).toDouble()));
-        if (!mCanvas.mBitmapRep || x < 0 || y < 0 || x >= mCanvas.mBitmapRep->pixelsWide() || y >= mCanvas.mBitmapRep->pixelsHigh())
+        if (!mCanvas.mBitmapRep || x < 0 || y < 0 || x >= mCanvas.mBitmapRep->pixelsWide() ||
+            y >= mCanvas.mBitmapRep->pixelsHigh())
             throw Failure{"outside the image"};
         return PixelPoint{x, y};
     };
@@ -186,7 +198,8 @@ void ScriptDriver::addLookCommands()
             if (!window) throw Failure{"no such window"};
             picture = window->grab();
         }
-        if (picture.isNull() || !picture.save(QFile::decodeName(file(w, 1).c_str()), "PNG")) throw Failure{"cannot write the file"};
+        if (picture.isNull() || !picture.save(QFile::decodeName(file(w, 1).c_str()), "PNG"))
+            throw Failure{"cannot write the file"};
         return QJsonObject{};
     });
     addImmediate("pasteboard", [file, written](const Words& w) {
@@ -217,8 +230,9 @@ void ScriptDriver::addLookCommands()
         ZPFileManager* library = ZPFileManager::sharedFileManager();
         QJsonArray rows;
         for (const QStringList& row : library->rows()) rows.append(QJsonArray::fromStringList(row));
-        return QJsonObject{
-            {"columns", QJsonArray::fromStringList(library->columns())}, {"rows", rows}, {"selected", library->selectedRow()}};
+        return QJsonObject{{"columns", QJsonArray::fromStringList(library->columns())},
+                           {"rows", rows},
+                           {"selected", library->selectedRow()}};
     });
     addImmediate("select-row", [](const Words& w) {
         if (w.size() != 2) throw Failure{"select-row N"};

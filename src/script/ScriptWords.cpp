@@ -39,7 +39,8 @@ std::optional<std::vector<std::string>> splitScriptLine(const std::string& line)
         for (; i < line.size() && (quoted || !blank(line[i])); ++i) {
             if (line[i] == '"') {
                 quoted = !quoted;
-            } else if (quoted && line[i] == '\\' && i + 1 < line.size() && (line[i + 1] == '"' || line[i + 1] == '\\')) {
+            } else if (quoted && line[i] == '\\' && i + 1 < line.size() &&
+                       (line[i + 1] == '"' || line[i + 1] == '\\')) {
                 word += line[++i];
             } else {
                 word += line[i];

@@ -84,23 +84,26 @@ TEST(Driver, FailuresOfStandardInputEndNothing)
 TEST(Driver, PlaysTheExampleOfTheManual)
 {
     Session s(QStringList{});
-    s.play({"answer \"New…\"", "set mNew_Width 320", "set mNew_Height 240", "click new_new:", "wait", "set mColorWell #ffffff",
-            "menu selectAll:", "menu fill:", "wait", "set mColorWell #ff0000", "modifiers control", "press 100 60", "drag 220 180",
-            "release 220 180", "modifiers", "menu fill:", "wait"});
+    s.play({"answer \"New…\"", "set mNew_Width 320", "set mNew_Height 240", "click new_new:", "wait",
+            "set mColorWell #ffffff", "menu selectAll:", "menu fill:", "wait", "set mColorWell #ff0000",
+            "modifiers control", "press 100 60", "drag 220 180", "release 220 180", "modifiers", "menu fill:", "wait"});
     EXPECT_EQ(s.pixel(160, 120), (std::vector<int>{255, 255, 0, 0}));
     EXPECT_EQ(s.pixel(105, 65), (std::vector<int>{255, 255, 255, 255}));
     EXPECT_EQ(s.state()["mUndoIndex"], 2);
     s.must("send saveImageAsTIFF: " + s.file("disc.tiff"));
     EXPECT_TRUE(QFileInfo::exists(s.file("disc.tiff")));
     s.must("write-bitmap " + s.file("disc.pam"));
-    EXPECT_EQ(QFileInfo(s.file("disc.pam")).size() % (320 * 240 * 4), QByteArray("P7\nWIDTH 320\nHEIGHT 240\nDEPTH 4\nMAXVAL 255\nTUPLTYPE ARGB_PREMULTIPLIED\nENDHDR\n").size());
+    EXPECT_EQ(
+        QFileInfo(s.file("disc.pam")).size() % (320 * 240 * 4),
+        QByteArray("P7\nWIDTH 320\nHEIGHT 240\nDEPTH 4\nMAXVAL 255\nTUPLTYPE ARGB_PREMULTIPLIED\nENDHDR\n").size());
 }
 
 TEST(Driver, ABrushStrokePaintsFromEndToEnd)
 {
     Session s;
     s.newImage(200, 100);
-    s.play({"key 4", "set mSizeField 20", "set mColorWell #0000ff", "press 30 50", "drag 60 50", "drag 120 50", "release 170 50", "wait"});
+    s.play({"key 4", "set mSizeField 20", "set mColorWell #0000ff", "press 30 50", "drag 60 50", "drag 120 50",
+            "release 170 50", "wait"});
     EXPECT_EQ(s.state()["mTool"], 3);
     for (const int x : {40, 80, 120, 160}) EXPECT_GT(s.pixel(x, 50)[0], 100) << x;
     EXPECT_EQ(s.pixel(100, 90)[0], 0);

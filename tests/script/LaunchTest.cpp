@@ -114,20 +114,22 @@ TEST(Menu, IsValidatedByWhatThereIs)
         ADD_FAILURE() << action << " is missing";
         return false;
     };
-    for (const char* action : {"resize:", "save:", "openWithPreview:", "saveAsTIFF:", "saveAsJPEG:", "loadSelection:", "transform:",
-                               "adjust:", "saveSelection:", "undo:", "redo:", "copy:", "fill:"})
+    for (const char* action : {"resize:", "save:", "openWithPreview:", "saveAsTIFF:", "saveAsJPEG:", "loadSelection:",
+                               "transform:", "adjust:", "saveSelection:", "undo:", "redo:", "copy:", "fill:"})
         EXPECT_FALSE(enabled(action)) << action;
-    for (const char* action : {"newDocument:", "openDocument:", "about:", "prefs:", "help:", "imageEditor:", "fileManager:", "showWindows:",
-                               "imageProcessor:", "runPageLayout:", "selectAll:"})
+    for (const char* action : {"newDocument:", "openDocument:", "about:", "prefs:", "help:", "imageEditor:",
+                               "fileManager:", "showWindows:", "imageProcessor:", "runPageLayout:", "selectAll:"})
         EXPECT_TRUE(enabled(action)) << action;
     EXPECT_EQ(s.failure("menu save:"), "disabled");
     EXPECT_EQ(s.failure("menu noSuchThing:"), "no such item");
     s.newImage(10, 10);
-    for (const char* action : {"resize:", "saveAsTIFF:", "saveAsJPEG:", "loadSelection:"}) EXPECT_TRUE(enabled(action)) << action;
+    for (const char* action : {"resize:", "saveAsTIFF:", "saveAsJPEG:", "loadSelection:"})
+        EXPECT_TRUE(enabled(action)) << action;
     EXPECT_FALSE(enabled("save:")) << "it has no file yet";
     EXPECT_FALSE(enabled("transform:"));
     s.must("menu selectAll:");
-    for (const char* action : {"transform:", "adjust:", "saveSelection:", "copy:", "cut:", "delete:", "fill:", "stroke:", "smartFill:"})
+    for (const char* action :
+         {"transform:", "adjust:", "saveSelection:", "copy:", "cut:", "delete:", "fill:", "stroke:", "smartFill:"})
         EXPECT_TRUE(enabled(action)) << action;
     s.must("send saveImageAsTIFF: " + s.file("x.tiff"));
     EXPECT_TRUE(enabled("save:"));
@@ -183,8 +185,8 @@ TEST(SizeDialogs, ResizeKeepsItsFieldsInStep)
     s.must("set mResize_Height_P 200");
     EXPECT_EQ(s.must("get mResize_Width")["value"], 800);
     EXPECT_EQ(s.must("get mResize_FileSize")["value"], "2 MB");
-    s.play({"set mResize_KeepAspectRatio 0", "set mResize_Width 20", "set mResize_Height 10", "set mResize_ScaleImage 0",
-            "click resize_ok:", "wait"});
+    s.play({"set mResize_KeepAspectRatio 0", "set mResize_Width 20", "set mResize_Height 10",
+            "set mResize_ScaleImage 0", "click resize_ok:", "wait"});
     EXPECT_EQ(s.must("image")["width"], 20);
     EXPECT_EQ(s.must("image")["height"], 10);
     EXPECT_EQ(s.state()["mUndoIndex"], 1);

@@ -32,7 +32,8 @@ public:
         environment.insert("HOME", mHome);
         environment.insert("ZELPANE_TMP", mHome);
         environment.insert("XDG_RUNTIME_DIR", mHome + "/runtime");
-        for (const char* unwanted : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_DATA_HOME", "XDG_CONFIG_HOME"}) environment.remove(unwanted);
+        for (const char* unwanted : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+            environment.remove(unwanted);
         mProcess.setProcessEnvironment(environment);
         mProcess.setWorkingDirectory(mHome);
         mProcess.start(ZP_PROGRAM, QStringList{"--script", "-"} + arguments);
@@ -51,7 +52,8 @@ public:
         mProcess.write(line.toUtf8() + '\n');
         while (!mProcess.canReadLine())
             if (!mProcess.waitForReadyRead(milliseconds)) {
-                ADD_FAILURE() << "no answer to: " << line.toStdString() << "\n" << mProcess.readAllStandardError().toStdString();
+                ADD_FAILURE() << "no answer to: " << line.toStdString() << "\n"
+                              << mProcess.readAllStandardError().toStdString();
                 return {};
             }
         const QByteArray reply = mProcess.readLine();
@@ -88,7 +90,8 @@ public:
     std::vector<int> pixel(int x, int y)
     {
         std::vector<int> bytes;
-        for (const QJsonValue& v : must(QString("pixel %1 %2").arg(x).arg(y))["argb"].toArray()) bytes.push_back(v.toInt());
+        for (const QJsonValue& v : must(QString("pixel %1 %2").arg(x).arg(y))["argb"].toArray())
+            bytes.push_back(v.toInt());
         return bytes;
     }
     QStringList sounds() { return toStrings(must("sounds")["sounds"].toArray()); }

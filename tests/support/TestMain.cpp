@@ -24,7 +24,8 @@ public:
         setenv("HOME", (mPath / "home").c_str(), 1);
         setenv("ZELPANE_TMP", (mPath / "tmp").c_str(), 1);
         setenv("XDG_RUNTIME_DIR", (mPath / "runtime").c_str(), 1);
-        for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "ZELPANE_BUNDLE"}) unsetenv(variable);
+        for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "ZELPANE_BUNDLE"})
+            unsetenv(variable);
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
         setenv("ZELPANE_RESOURCES", ZP_RESOURCES_DIR, 0);
     }

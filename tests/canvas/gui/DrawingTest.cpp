@@ -110,7 +110,8 @@ TEST_F(Drawing, AntsAreFiveScreenPixelsLongAtEveryZoom)
     const auto runs = [&](int row, int from, int to) {
         const QImage seen = shown();
         std::string text;
-        for (int x = from; x < to; ++x) text += seen.pixel(x, row) == 0xFF000000 ? '#' : seen.pixel(x, row) == 0xFFFFFFFF ? 'o' : '.';
+        for (int x = from; x < to; ++x)
+            text += seen.pixel(x, row) == 0xFF000000 ? '#' : seen.pixel(x, row) == 0xFFFFFFFF ? 'o' : '.';
         return text;
     };
     EXPECT_EQ(runs(10, 10, 30), "#####ooooo#####ooooo");
@@ -125,7 +126,8 @@ TEST_F(Drawing, AFloatingSelectionShowsWhatAnchoringWillWrite)
 {
     makeImage(50, 40);
     for (int y = 0; y < 40; ++y)
-        for (int x = 0; x < 50; ++x) setPixel(x, y, word(255, std::uint8_t(x * 5), std::uint8_t(y * 6), std::uint8_t(x + y)));
+        for (int x = 0; x < 50; ++x)
+            setPixel(x, y, word(255, std::uint8_t(x * 5), std::uint8_t(y * 6), std::uint8_t(x + y)));
     canvas->mSelectionPath = BezierPath::withOvalInRect(makeRect(5, 6, 20, 17));
     canvas->floatSelection();
     const AffineTransform shift{1, 0, 0, 1, 13, 9};
