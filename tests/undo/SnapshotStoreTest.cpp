@@ -424,6 +424,58 @@ TEST_F(SnapshotStoreTest, ACrashInsideASnapshotBringsBackTheLastWholeOne)
     }
 }
 
+TEST_F(SnapshotStoreTest, KilledAtAnyMomentItLeavesAWholePairOfOneNumber)
+{
+    // Alpha and colour both say the number, so that halves of different snapshots would be seen.
+    const auto alphaOf = [](int number) { return std::uint8_t(number * 7); };
+    const auto greyOf = [](int number) { return number * 11 % 256; };
+    std::minstd_rand random(5);
+    int found = 0;
+    for (int round = 0; round < 40; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            SnapshotStore store;
+            SnapshotEncoder encoder;
+            Picture picture(60, 50);
+            std::string error;
+            // Up and down the numbers, as after undos: most snapshots replace older ones.
+            for (int i = 0;; ++i) {
+                const int number = i % 20 < 12 ? i % 20 : i % 20 - 6;
+                for (int y = 0; y < 50; ++y)
+                    for (int x = 0; x < 60; ++x) {
+                        std::uint8_t* const p = picture.view().pixel(x, y);
+                        p[0] = alphaOf(number);
+                        p[1] = p[2] = p[3] = std::uint8_t(greyOf(number));
+                    }
+                store.begin(number);
+                store.stage(number, Half::Alpha, encodeAlphaRLE(picture.view()), error);
+                store.stage(number, Half::Colour, encoder.encode(picture.view()), error);
+                store.commit(number);
+                store.record({"", 60, 50, number, number});
+            }
+        }
+        usleep(useconds_t(500 + random() % 15000));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        SnapshotStore store;
+        const auto work = store.recoverableWork();
+        if (!work) continue; // killed before the first one was whole
+        ++found;
+        ASSERT_TRUE(store.adoptRecoverable());
+        for (int number = work->number; number <= work->newest; ++number) {
+            const auto colour = store.read(number, Half::Colour), alpha = store.read(number, Half::Alpha);
+            ASSERT_TRUE(colour && alpha);
+            Picture back(60, 50);
+            ASSERT_TRUE(decodeSnapshotJPEG(*colour, back.view()));
+            EXPECT_NEAR(back.view().pixel(30, 30)[1], greyOf(number), 3) << "round " << round;
+            ASSERT_EQ(decodeAlphaRLE(*alpha, back.view()), 60 * 50);
+            EXPECT_EQ(back.view().pixel(30, 30)[0], alphaOf(number)) << "round " << round;
+        }
+        store.remove();
+    }
+    EXPECT_GT(found, 20);
+}
+
 TEST_F(SnapshotStoreTest, DamagedLeftoversAreNotOffered)
 {
     const auto crashWith = [&](const std::string& record, bool colours) {
