@@ -52,6 +52,11 @@ ZPAppController::ZPAppController() : mWindow(std::make_unique<MainWindow>()), mC
     connect(mMenu->recentMenu(), &QMenu::aboutToShow, this, &ZPAppController::fillRecentMenu);
     mCanvas->mRetinaMenuItem = mMenu->item("retina:");
     mCanvas->awakeFromNib();
+    // Windows stand above the canvas: it reaches the text editor through these.
+    setTextToolHooks({[](int size) { ZPTextEditor::sharedInstance()->setFontSize(size); },
+                      [] { ZPTextEditor::sharedInstance()->showWindow(); }, [] { ZPTextEditor::sharedInstance()->run(); },
+                      [](Point start) { return ZPTextEditor::sharedInstance()->textPathAtPoint(start); },
+                      [] { return ZPTextEditor::sharedInstance()->isValid(); }});
     mWindow->mayClose = [this] {
         terminate();
         return false;
@@ -264,7 +269,7 @@ bool ZPAppController::validateMenuItem(const QString& action, QString* title)
     if (action == "resize:") return loaded && mWindow->isVisible();
     if (action == "save:" || action == "openWithPreview:") return !mCanvas->imagePathNil();
     if (action == "saveAsTIFF:" || action == "saveAsJPEG:" || action == "saveAsPNG:" || action == "loadSelection:" ||
-        action == "quickSave:" || action == "fitToWindow:")
+        action == "fitToWindow:")
         return loaded;
     if (action == "transform:" || action == "adjust:" || action == "saveSelection:") return loaded && selected;
     return mCanvas->validateMenuItem(action, title);
