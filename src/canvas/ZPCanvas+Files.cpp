@@ -106,10 +106,25 @@ void resetSelection(ZPCanvas& canvas)
     canvas.stopSelectionTimer();
 }
 
+/// A size beyond all bounds would only throw the present image away: it is refused with a word. No size at all makes
+/// the empty image.
+bool refusesAsTooLarge(Size size)
+{
+    const bool tooLarge = !std::isfinite(size.width) || !std::isfinite(size.height) ||
+                          size.width > float(kMaxPixelsPerSide) || size.height > float(kMaxPixelsPerSide) ||
+                          double(size.width) * double(size.height) > double(kMaxPixels);
+    if (tooLarge)
+        runAlert(ZPCanvas::tr("The image would be too large."),
+                 ZPCanvas::tr("An image can have up to 30,000 pixels a side and 1,000 megapixels in all."),
+                 {ZPCanvas::tr("OK")});
+    return tooLarge || size.width < float(-kMaxPixelsPerSide) || size.height < float(-kMaxPixelsPerSide);
+}
+
 } // namespace
 
 void ZPCanvas::newImageWithSize(Size size)
 {
+    if (refusesAsTooLarge(size)) return;
     auto rep = BitmapRep::create(int(size.width), int(size.height));
     if (rep) markAsEdited(rep->properties);
     installBitmap(std::move(rep), ImageCacheMode::Default, true, false);
@@ -122,6 +137,7 @@ void ZPCanvas::newImageWithSize(Size size)
 
 void ZPCanvas::newImageForMeWithSize(Size size)
 {
+    if (refusesAsTooLarge(size)) return;
     installBitmap(BitmapRep::create(int(size.width), int(size.height)), ImageCacheMode::Never, true, false);
     resetSelection(*this);
     mSelectionImage.reset();
@@ -197,6 +213,17 @@ void ZPCanvas::saveImageAsJPEG(const std::string& path)
 {
     const std::string chosen = path;
     saveAs(*this, chosen, writtenPath(chosen, SaveFormat::JPEG), SaveFormat::JPEG);
+}
+
+void ZPCanvas::saveImageAsPNG()
+{
+    if (const auto path = askWhereToSave(*this, SaveFormat::PNG)) saveImageAsPNG(*path);
+}
+
+void ZPCanvas::saveImageAsPNG(const std::string& path)
+{
+    const std::string chosen = path;
+    saveAs(*this, chosen, writtenPath(chosen, SaveFormat::PNG), SaveFormat::PNG);
 }
 
 void ZPCanvas::saveImageToPath(const std::string& path)
