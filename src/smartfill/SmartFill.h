@@ -31,9 +31,10 @@ struct SmartFillPicture {
     std::vector<std::uint8_t> mask;    ///< the same count; 0 outside the selection, 255 wholly inside
 };
 
-/// Reads the area out of a picture. @p bitmap and @p mask (255 inside) must be of one size and hold area.work.
-/// Time: O(area). The thread that owns @p bitmap.
-SmartFillPicture fetchSmartFillPicture(ConstBitmapView bitmap, ConstMaskView mask, const SmartFillArea& area);
+/// Reads the area out of a picture. @p bitmap must hold area.work; @p mask (255 inside) may be a part of the picture
+/// only, whose near corner is @p maskOrigin, and is 0 everywhere else. Time: O(area). The thread that owns @p bitmap.
+SmartFillPicture fetchSmartFillPicture(ConstBitmapView bitmap, ConstMaskView mask, const SmartFillArea& area,
+                                       PixelPoint maskOrigin = {});
 
 /// Writes a filled picture back. Normal mode: every pixel of area.work, those outside the selection with the values
 /// they were read with. Faster mode: a 2 x 2 block per pixel inside area.selection and area.work, nothing else.

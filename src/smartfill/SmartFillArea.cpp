@@ -42,7 +42,8 @@ SmartFillArea smartFillArea(Rect selection, int width, int height, int radiusPer
     return area;
 }
 
-SmartFillPicture fetchSmartFillPicture(ConstBitmapView bitmap, ConstMaskView mask, const SmartFillArea& area)
+SmartFillPicture fetchSmartFillPicture(ConstBitmapView bitmap, ConstMaskView mask, const SmartFillArea& area,
+                                       PixelPoint maskOrigin)
 {
     SmartFillPicture picture;
     picture.width = sampled(area.work.width(), area.faster);
@@ -51,13 +52,14 @@ SmartFillPicture fetchSmartFillPicture(ConstBitmapView bitmap, ConstMaskView mas
     picture.pixels.resize(count);
     picture.mask.resize(count);
     const int pitch = area.faster ? 2 : 1;
+    std::size_t next = 0;
     for (int j = 0; j < picture.height; ++j) {
-        const std::uint32_t* pixels = bitmap.row(area.work.y0 + pitch * j) + area.work.x0;
-        const std::uint8_t* bytes = mask.row(area.work.y0 + pitch * j) + area.work.x0;
-        const std::size_t row = std::size_t(j) * std::size_t(picture.width);
-        for (int i = 0; i < picture.width; ++i) {
-            picture.pixels[row + std::size_t(i)] = pixels[pitch * i];
-            picture.mask[row + std::size_t(i)] = bytes[pitch * i];
+        const int y = area.work.y0 + pitch * j;
+        const std::uint32_t* pixels = bitmap.row(y) + area.work.x0;
+        for (int i = 0; i < picture.width; ++i, ++next) {
+            const PixelPoint inMask{area.work.x0 + pitch * i - maskOrigin.x, y - maskOrigin.y};
+            picture.pixels[next] = pixels[pitch * i];
+            picture.mask[next] = mask.box().contains(inMask.x, inMask.y) ? mask.row(inMask.y)[inMask.x] : 0;
         }
     }
     return picture;

@@ -75,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"TwoPixels", 2, 1, {0, 0, 1, 1}, 255, 0}, Case{"OneSoftPixel", 1, 1, {0, 0, 1, 1}, 9, 0},
         Case{"WideHole", 150, 40, {10, 4, 140, 36}, 255, 1}, Case{"NoHole", 12, 12, {0, 0, 0, 0}, 255, 0},
         Case{"NoSource", 12, 12, {0, 0, 12, 12}, 255, 0}, Case{"Empty", 0, 0, {0, 0, 0, 0}, 255, 0}),
-    [](const auto& info) { return std::string(info.param.name); });
+    [](const auto& c) { return std::string(c.param.name); });
 
 /// Many shapes of rectangle and hole, among them holes in several pieces: the search for neighbours meets every edge.
 TEST(SmartFillLiteralRandom, ScatteredMasksOfManySizes)

@@ -30,6 +30,9 @@ struct Scene {
     std::uint32_t& at(int x, int y) { return words[std::size_t(rowBytes / 4) * std::size_t(y) + std::size_t(x)]; }
     std::uint8_t& maskAt(int x, int y) { return mask[std::size_t(y) * std::size_t(width) + std::size_t(x)]; }
 
+    std::uint32_t at(int x, int y) const { return const_cast<Scene*>(this)->at(x, y); }
+    std::uint8_t maskAt(int x, int y) const { return const_cast<Scene*>(this)->maskAt(x, y); }
+
     template <class Color>
     void paint(Color color)
     {
