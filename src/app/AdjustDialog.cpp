@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Controller of the adjust dialog.
+#include "app/AdjustDialog.h"
+#include "app/PairedControls.h"
+#include "canvas/ZPCanvas.h"
+#include "platform/Sounds.h"
+#include "ui_Adjust.h"
+#include <QDialog>
+#include <array>
+
+using namespace zp;
+
+namespace
+{
+
+class AdjustDialog : public QDialog
+{
+public:
+    AdjustDialog(ZPCanvas& canvas, QWidget* parent) : QDialog(parent), mCanvas(canvas)
+    {
+        mUi.setupUi(this);
+        mPairs = {{{mUi.mAdjust_HueField, mUi.mAdjust_HueSlider},
+                   {mUi.mAdjust_SaturationField, mUi.mAdjust_SaturationSlider},
+                   {mUi.mAdjust_BrightnessField, mUi.mAdjust_BrightnessSlider},
+                   {mUi.mAdjust_ContrastField, mUi.mAdjust_ContrastSlider},
+                   {mUi.mAdjust_SharpnessField, mUi.mAdjust_SharpnessSlider}}};
+        for (const PairedControls& pair : mPairs) {
+            connect(pair.field, &QSpinBox::valueChanged, this, [this, pair] { adjustSet(tagOf(pair.field)); });
+            connect(pair.slider, &QSlider::valueChanged, this, [this, pair] { adjustSet(tagOf(pair.slider)); });
+        }
+        connect(mUi.mAdjust_ResetButton, &QPushButton::clicked, this, [this] { adjustReset(); });
+        connect(mUi.mAdjust_ApplyButton, &QPushButton::clicked, this, &QDialog::accept);
+        connect(mUi.mAdjust_CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    }
+
+    /// The selection floats from here on, unfiltered at first.
+    void begin()
+    {
+        mCanvas.adjust();
+        adjustReset();
+        mUi.mAdjust_HueSlider->setFocus();
+    }
+
+private:
+    void adjustReset()
+    {
+        constexpr _ZPFilters neutral;
+        const std::array<int, 5> values{neutral.hue, neutral.saturation, neutral.brightness, neutral.contrast,
+                                        neutral.sharpness};
+        for (std::size_t i = 0; i < mPairs.size(); ++i) mPairs[i].show(values[i]);
+        mCanvas.adjust_set(neutral);
+    }
+    void adjustSet(int tag)
+    {
+        for (const PairedControls& pair : mPairs) pair.synchronise(tag);
+        mCanvas.adjust_set({mPairs[0].field->value(), mPairs[1].field->value(), mPairs[2].field->value(),
+                            mPairs[3].field->value(), mPairs[4].field->value()});
+    }
+
+    Ui::Adjust mUi;
+    std::array<PairedControls, 5> mPairs;
+    ZPCanvas& mCanvas;
+};
+
+} // namespace
+
+void runAdjustDialog(ZPCanvas& canvas, QWidget* parent)
+{
+    if (canvas.selectionNil()) return beep();
+    AdjustDialog dialog(canvas, parent);
+    placeBesidePicture(dialog);
+    dialog.begin();
+    // However it is closed, what is shown stays: taking it back is left to undo.
+    dialog.exec();
+}
