@@ -16,6 +16,7 @@ void Wakeup::notify()
 
 void PointerFeed::push(Point position)
 {
+    if (mClosed.load(std::memory_order_relaxed)) return;
     struct Cell {
         float x, y;
     };

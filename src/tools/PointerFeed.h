@@ -44,7 +44,7 @@ private:
 class PointerFeed
 {
 public:
-    /// Writer (the main thread): the pointer is here now.
+    /// Writer (the main thread): the pointer is here now. After close() nothing is taken any more.
     void push(Point position);
     /// Writer: no more positions will come. The reader still gets those pushed before.
     void close();

@@ -114,8 +114,15 @@ void ZPCanvas::setTool(int index)
 {
     if (index < 0) return;
     // In the middle of a gesture: what was begun with the old tool ends here, as that tool ends it.
-    const ToolState& state = toolState(*this);
-    if (mIsMouseDown && state.gestureTool >= 0 && state.gestureTool != index) mouseUp(state.lastPoint);
+    ToolState& state = toolState(*this);
+    if (mIsMouseDown && state.gestureTool >= 0 && state.gestureTool != index) {
+        mouseUp(state.lastPoint);
+        // Refused because a snapshot is being written: then at least the new tool inherits nothing.
+        mIsMouseDown = 0;
+        mMove = false;
+        mPencilPath.reset();
+        state.gestureTool = -1;
+    }
     mTool = index;
     if (mToolPopUp && index < mToolPopUp->count()) {
         const QSignalBlocker quiet(mToolPopUp); // what follows a choice by hand is done here

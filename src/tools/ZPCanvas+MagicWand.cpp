@@ -37,8 +37,8 @@ void ZPCanvas::magicWandFast(Point point)
     const std::optional<PixelPoint> seed = wandSeed(*this, point);
     if (!seed) return;
     const std::uint32_t target = wordUnder(*this, point);
-    const ColumnFillResult result = zp::magicWand(std::as_const(*mBitmapRep).view(), maskOf(*this), *seed,
-                                                         target, tol2(true), sharedFillStack(), sharedTileRegion());
+    const ColumnFillResult result = zp::magicWand(std::as_const(*mBitmapRep).view(), maskOf(*this), *seed, target,
+                                                  tol2(true), sharedFillStack(), sharedTileRegion());
     if (result.completed) mSelectionMaskClear = false;
 }
 

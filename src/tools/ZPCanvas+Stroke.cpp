@@ -95,14 +95,15 @@ void endStroke(ZPCanvas& canvas)
 void ZPToolActions::pressBrush(ZPCanvas& canvas, Point point)
 {
     ToolState& state = toolState(canvas);
-    state.strokeBitmap = canvas.mDrawFinishedFlag ? drawingBitmap(canvas) : nullptr;
-    if (!canvas.mDrawFinishedFlag || !state.strokeBitmap) {
+    const std::shared_ptr<BitmapRep> bitmap = drawingBitmap(canvas);
+    if (!canvas.mDrawFinishedFlag || !bitmap) {
         state.gestureTool = -1;
         return beep();
     }
     for (std::thread* worker : {&canvas.mPollWorker, &canvas.mDrawWorker})
         if (worker->joinable()) worker->join();
     canvas.mBrushImage = std::make_shared<BrushTip>(brushShape(canvas), canvas.mSize, canvas.mColor);
+    state.strokeBitmap = bitmap;
     state.strokeSize = canvas.mSize;
     state.strokeColor = canvas.mColor;
     state.captureDone = false;
