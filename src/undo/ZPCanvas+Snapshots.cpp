@@ -3,13 +3,13 @@
 #include "canvas/ZPCanvas.h"
 #include "platform/Folders.h"
 #include "platform/Log.h"
+#include "platform/MainThreadWake.h"
 #include "platform/Sounds.h"
 #include "platform/SystemProbes.h"
 #include "undo/AlphaRLE.h"
 #include "undo/SnapshotJPEG.h"
 #include "undo/SnapshotNumbers.h"
 #include "undo/SnapshotStore.h"
-#include <QMetaObject>
 #include <QProgressBar>
 #include <QThread>
 #include <array>
@@ -41,12 +41,26 @@ struct SnapshotRequest {
 };
 
 struct UndoState {
+    explicit UndoState(ZPCanvas& canvas)
+        : written([&canvas] { sayWritten(canvas); }), requested([&canvas] { canvas.takeSnapshot(); })
+    {
+    }
+    static void sayWritten(ZPCanvas& canvas)
+    {
+        // Another snapshot may have been started since; it will say itself when it is done.
+        if (canvas.mUndoThreadRunning.load(std::memory_order_acquire)) return;
+        if (canvas.mBusyIndicator) canvas.mBusyIndicator->hide();
+        emit canvas.busyChanged(false);
+    }
+
     std::optional<SnapshotRequest> request; ///< set by the main thread before the worker starts, taken by the worker
+    MainThreadWake written;                 ///< the worker's last word
+    MainThreadWake requested;               ///< another thread asks for a snapshot
 };
 
 UndoState& undoState(ZPCanvas& canvas)
 {
-    if (!canvas.mUndoState) canvas.mUndoState = std::make_shared<UndoState>();
+    if (!canvas.mUndoState) canvas.mUndoState = std::make_shared<UndoState>(canvas);
     return *static_cast<UndoState*>(canvas.mUndoState.get());
 }
 
@@ -80,17 +94,8 @@ public:
             store.record({mRequest.imagePath, mRequest.bitmap->pixelsWide(), mRequest.bitmap->pixelsHigh(),
                           mRequest.number, mRequest.number});
         mRequest.bitmap.reset();
-        ZPCanvas* const canvas = &mCanvas;
-        canvas->mUndoThreadRunning.store(false, std::memory_order_release);
-        QMetaObject::invokeMethod(
-            canvas,
-            [canvas] {
-                // Another snapshot may have been started since; it will say itself when it is done.
-                if (canvas->mUndoThreadRunning.load(std::memory_order_acquire)) return;
-                if (canvas->mBusyIndicator) canvas->mBusyIndicator->hide();
-                emit canvas->busyChanged(false);
-            },
-            Qt::QueuedConnection);
+        mCanvas.mUndoThreadRunning.store(false, std::memory_order_release);
+        undoState(mCanvas).written.wake();
     }
     SnapshotWriting(const SnapshotWriting&) = delete;
     SnapshotWriting& operator=(const SnapshotWriting&) = delete;
@@ -191,9 +196,9 @@ std::optional<std::string> formattedPath(const std::string& path)
 void ZPCanvas::takeSnapshot()
 {
     if (QThread::currentThread() != thread()) {
-        // Requests come from the main thread; a stroke's drawing thread asks through it.
-        QMetaObject::invokeMethod(
-            this, [this] { takeSnapshot(); }, Qt::QueuedConnection);
+        // Requests come from the main thread; a stroke's drawing thread asks through it. There is a state as soon as
+        // there was a picture; before that there is nothing to take.
+        if (mUndoState) undoState(*this).requested.wake();
         return;
     }
     if (mDontTakeSnapshot || mUndoThreadRunning.load(std::memory_order_acquire)) return;
@@ -321,6 +326,7 @@ void ZPCanvas::resetUndo()
     if (mFirstSnapshotTimer) mFirstSnapshotTimer->stop();
     if (!SnapshotStore::shared().reset()) logLine("takeSnapshot: there is no undo folder");
     SnapshotNumbers(mUndoIndex, mUndoRedoIndex).reset();
+    undoState(*this); // from here on other threads may ask for snapshots
 }
 
 void ZPCanvas::scheduleFirstSnapshot()

@@ -211,7 +211,7 @@ TEST_F(UndoCanvas, ANewPictureDropsTheTimerOfTheOneBefore)
 
 TEST_F(UndoCanvas, RequestsAreDroppedWhileSuppressedAndWhileOneIsWritten)
 {
-    make(40, 30);
+    make(3000, 2000); // takes a while to write
     canvas->dontTakeSnapshot();
     canvas->takeSnapshot();
     expectNumbers(0, 0);
@@ -221,6 +221,7 @@ TEST_F(UndoCanvas, RequestsAreDroppedWhileSuppressedAndWhileOneIsWritten)
     canvas->takeSnapshot();
     expectNumbers(0, 0);
     canvas->mUndoThreadRunning = false;
+    canvas->mSnapshotEncoder->forget();
     canvas->takeSnapshot();
     EXPECT_TRUE(canvas->mUndoThreadRunning) << "at once, before the worker has even started";
     canvas->takeSnapshot();
