@@ -34,7 +34,7 @@ void ZPCanvas::setImageSize(Size size, bool scale)
 {
     const std::int64_t width = wholePixels(size.width), height = wholePixels(size.height);
     if (!isSensibleImageSize(width, height))
-        return refuse(tr("Width and height must be from 1 to %1 pixels, and %2 megapixels at most together.")
+        return refuse(tr("Width and height must be from 1 to %1 pixels, and the image at most %2 megapixels.")
                           .arg(kMaxPixelsPerSide)
                           .arg(kMaxPixels / 1'000'000));
     // Pixels that are still being painted or read must come to rest before they are resampled.
