@@ -48,11 +48,11 @@ void copyTurned(ConstBitmapView from, BitmapView to, Target target)
 }
 
 struct Reciprocals {
-    /// 255 / alpha in 16.16 fixed point, such that (c * r + 0x8000) >> 16 is the rounded quotient for every c <= alpha.
+    /// 2^24 / alpha rounded up: n * r >> 24 is n / alpha rounded down for every n of 16 bits.
     std::array<std::uint32_t, 256> of{};
     constexpr Reciprocals()
     {
-        for (std::uint32_t a = 1; a < 256; ++a) of[a] = (255u * 65536u + a / 2) / a;
+        for (std::uint32_t a = 1; a < 256; ++a) of[a] = ((1u << 24) + a - 1) / a;
     }
 };
 constexpr Reciprocals kReciprocals;
@@ -158,10 +158,10 @@ void unpremultiplyRowToRGBA(const std::uint8_t* argb, std::uint8_t* rgba, int co
             rgba[1] = argb[2];
             rgba[2] = argb[3];
         } else {
-            const std::uint32_t r = kReciprocals.of[a];
+            const std::uint64_t r = kReciprocals.of[a];
             for (int k = 0; k < 3; ++k) {
-                const std::uint32_t value = (std::min<std::uint32_t>(argb[k + 1], a) * r + 0x8000) >> 16;
-                rgba[k] = std::uint8_t(value);
+                const std::uint64_t colour = std::min<std::uint32_t>(argb[k + 1], a);
+                rgba[k] = std::uint8_t((colour * 255 + a / 2) * r >> 24);
             }
         }
         rgba[3] = std::uint8_t(a);

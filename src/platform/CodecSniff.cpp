@@ -36,7 +36,7 @@ bool isTGA(Bytes b)
     case 1:
     case 9:
         return mapType == 1 && (depth == 8 || depth == 16) &&
-               (mapDepth == 15 || mapDepth == 16 || mapDepth == 24 || mapDepth == 32);
+               (mapDepth == 8 || mapDepth == 15 || mapDepth == 16 || mapDepth == 24 || mapDepth == 32);
     case 2:
     case 10:
         return depth == 15 || depth == 16 || depth == 24 || depth == 32;

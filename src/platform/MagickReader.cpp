@@ -80,12 +80,12 @@ std::vector<std::uint8_t> profileOf(Magick::Image& image, const char* name)
 
 void collectProperties(Magick::Image& image, bool converted, ImageProperties& properties)
 {
-    const Magick::Geometry density = image.density();
+    const double x = image.xResolution(), y = image.yResolution();
     const auto unit = image.resolutionUnits();
-    if (density.isValid() && density.width() > 0 && density.height() > 0 && unit != Magick::UndefinedResolution) {
+    if (x > 0 && y > 0 && unit != Magick::UndefinedResolution) {
         const double perInch = unit == Magick::PixelsPerCentimeterResolution ? 2.54 : 1;
-        properties.xDpi = double(density.width()) * perInch;
-        properties.yDpi = double(density.height()) * perInch;
+        properties.xDpi = x * perInch;
+        properties.yDpi = y * perInch;
     }
     auto exif = profileOf(image, "exif");
     if (exif.size() > 6 && std::memcmp(exif.data(), "Exif\0", 5) == 0) exif.erase(exif.begin(), exif.begin() + 6);
@@ -100,6 +100,13 @@ int orientationOf(Magick::Image& image)
     auto exif = profileOf(image, "exif");
     if (exif.size() > 6 && std::memcmp(exif.data(), "Exif\0", 5) == 0) exif.erase(exif.begin(), exif.begin() + 6);
     return exifOrientation(exif);
+}
+
+/// The reader gives rows and columns as they are stored; the header says which corner is stored first.
+int orientationOfTGA(Bytes tga)
+{
+    const bool top = tga[17] & 0x20, right = tga[17] & 0x10;
+    return top ? (right ? 2 : 1) : (right ? 3 : 4);
 }
 
 /// Whether the alpha that the reader reports means transparency in this kind of file.
@@ -178,7 +185,7 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
     }
     ImageProperties& properties = bitmap->properties;
     if (deep) properties.warnings.emplace_back("The picture had 16 bits a colour; it was reduced to 8.");
-    result.orientation = orientationOf(image);
+    result.orientation = format == Format::TGA ? orientationOfTGA(bytes) : orientationOf(image);
     if (options.properties) collectProperties(image, inks, properties);
     result.bitmap = std::move(bitmap);
     return result;
