@@ -71,6 +71,7 @@ MainWindow::MainWindow() : mUi(std::make_unique<Ui::Main>()), mCanvas(new ZPCanv
     connect(mCanvas, &ZPCanvas::pointerMoved, this, &MainWindow::showPointer);
     connect(mCanvas, &ZPCanvas::busyChanged, mUi->mBusyIndicator, &QWidget::setVisible);
     resize(1180, 780);
+    mCanvas->setFocus(); // single keys are commands of the canvas
 }
 
 MainWindow::~MainWindow() = default;

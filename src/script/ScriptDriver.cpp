@@ -199,61 +199,51 @@ void ScriptDriver::startWork(std::function<QJsonObject()> work)
     QTimer::singleShot(0, this, [this, before] { watchWork(before); });
 }
 
+void ScriptDriver::poll(std::shared_ptr<std::function<bool()>> look)
+{
+    if ((*look)()) return;
+    QTimer::singleShot(kPollMilliseconds, this, [this, look] { poll(look); });
+}
+
 void ScriptDriver::watchWork(int modalsBefore)
 {
-    struct Watch {
-        QElapsedTimer clock;
-        int quietRounds = 0;
-    };
-    auto watch = std::make_shared<Watch>();
-    watch->clock.start();
-    auto look = std::make_shared<std::function<void()>>();
-    *look = [this, modalsBefore, watch, look] {
+    QElapsedTimer clock;
+    clock.start();
+    poll(std::make_shared<std::function<bool()>>([this, modalsBefore, clock, quietRounds = 0]() mutable {
         const int modals = visibleModals();
         // A modal window that has closed but whose loop still stands higher up: its command goes on when that unwinds.
-        const bool unwinding =
-            QThread::currentThread()->loopLevel() > 1 + modals && watch->clock.elapsed() < kUnwindMilliseconds;
-        if ((mWorkResult || mWorkError) && !unwinding) {
+        if (QThread::currentThread()->loopLevel() > 1 + modals && clock.elapsed() < kUnwindMilliseconds) return false;
+        if (mWorkResult || mWorkError) {
             const auto result = std::exchange(mWorkResult, std::nullopt);
             const auto error = std::exchange(mWorkError, std::nullopt);
-            *look = nullptr;
-            return error ? fail(*error) : answer(result.value_or(QJsonObject{}));
+            if (error) {
+                fail(*error);
+            } else {
+                answer(result.value_or(QJsonObject{}));
+            }
+            return true;
         }
-        if (!mWorkResult && !mWorkError && modals > modalsBefore && !unwinding && ++watch->quietRounds > 1) {
-            ++mCommandNumber; // what the command returns later is nobody's answer
-            *look = nullptr;
-            return answer({});
-        }
-        QTimer::singleShot(watch->clock.elapsed() < 20 ? 0 : kPollMilliseconds, this, [look] {
-            const auto keep = look;
-            if (*keep) (*keep)();
-        });
-    };
-    const auto keep = look;
-    (*keep)();
+        if (modals <= modalsBefore || ++quietRounds < 2) return false;
+        ++mCommandNumber; // what the command returns later is nobody's answer
+        answer({});
+        return true;
+    }));
 }
 
 void ScriptDriver::waitUntil(std::function<bool()> done, double seconds, bool failAtEnd)
 {
-    auto clock = std::make_shared<QElapsedTimer>();
-    clock->start();
-    auto look = std::make_shared<std::function<void()>>();
-    *look = [this, done = std::move(done), seconds, failAtEnd, clock, look] {
-        if (done()) {
-            *look = nullptr;
-            return answer({});
+    QElapsedTimer clock;
+    clock.start();
+    poll(std::make_shared<std::function<bool()>>([this, done = std::move(done), seconds, failAtEnd, clock] {
+        const bool isDone = done();
+        if (!isDone && double(clock.elapsed()) <= seconds * 1000) return false;
+        if (isDone || !failAtEnd) {
+            answer({});
+        } else {
+            fail("timed out");
         }
-        if (double(clock->elapsed()) > seconds * 1000) {
-            *look = nullptr;
-            return failAtEnd ? fail("timed out") : answer({});
-        }
-        QTimer::singleShot(kPollMilliseconds, this, [look] {
-            const auto keep = look;
-            if (*keep) (*keep)();
-        });
-    };
-    const auto keep = look;
-    (*keep)();
+        return true;
+    }));
 }
 
 void ScriptDriver::addImmediate(const char* name, Command command)

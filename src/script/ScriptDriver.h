@@ -7,6 +7,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -54,6 +55,8 @@ private:
     /// Runs @p work from a timer of its own; the command is answered when it ended or a modal window came up.
     void startWork(std::function<QJsonObject()> work);
     void watchWork(int modalsBefore);
+    /// Calls @p look every few milliseconds until it answers true; goes on inside modal loops.
+    void poll(std::shared_ptr<std::function<bool()>> look);
     /// Polls until @p done or the time is over.
     void waitUntil(std::function<bool()> done, double seconds, bool failAtEnd);
 
