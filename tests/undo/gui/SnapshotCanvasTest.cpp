@@ -356,7 +356,6 @@ TEST_F(UndoCanvas, AVanishedFolderIsMadeAgain)
 TEST_F(UndoCanvas, TheScreenMayBeDrawnWhileASnapshotIsWritten)
 {
     make(1200, 900);
-    canvas->show();
     for (int i = 0; i < 5; ++i) {
         canvas->mBitmapRep->view().pixel(i, i)[1] = 9;
         canvas->mSnapshotEncoder->forget();
