@@ -44,7 +44,7 @@ public:
             const std::lock_guard hold(mGuard);
             mAsked.push_back(name);
             if (mAsked.size() > kRemembered) mAsked.pop_front();
-            if (mBroken || mWaiting.size() >= kWaiting) return;
+            if (mBroken || !mAudible || mWaiting.size() >= kWaiting) return;
             if (!mStarted) {
                 mStarted = true;
                 if (!machineHasSound()) {
@@ -56,6 +56,12 @@ public:
             mWaiting.push_back(name);
         }
         mWake.notify_one();
+    }
+
+    void setAudible(bool on)
+    {
+        const std::lock_guard hold(mGuard);
+        mAudible = on;
     }
 
     std::vector<std::string> take()
@@ -114,7 +120,7 @@ private:
     std::mutex mGuard;
     std::condition_variable mWake;
     std::deque<std::string> mAsked, mWaiting;
-    bool mStarted = false, mBroken = false;
+    bool mStarted = false, mBroken = false, mAudible = true;
 };
 
 Player& player()
@@ -129,6 +135,8 @@ Player& player()
 void playSound(const std::string& name) { player().ask(name); }
 
 void beep() { player().ask(kBeep); }
+
+void setSoundsAudible(bool on) { player().setAudible(on); }
 
 std::vector<std::string> takeSounds() { return player().take(); }
 
