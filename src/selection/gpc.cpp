@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The polygon operations: outlines along whole pixels as bit pictures, all others through Clipper's integer sweep.
+/// The polygon operations: outlines along whole pixels as bit pictures, all others by cutting edges where they cross.
 #include "selection/gpc.h"
+#include "selection/PlanarClip.h"
 #include "selection/PolygonClip.h"
 #include "selection/PolygonMemory.h"
 #include "selection/RectilinearClip.h"
@@ -14,24 +15,34 @@ namespace
 constexpr double kGrid = 65536;   ///< steps per unit: a vertex moves by less than 1/100,000 of a pixel
 constexpr double kFarthest = 1e9; ///< units; keeps all of Clipper's products inside its 128 bits
 
-ClipperLib::cInt onGrid(double value) { return std::llround(std::clamp(value, -kFarthest, kFarthest) * kGrid); }
+std::int64_t onGrid(double value) { return std::llround(std::clamp(value, -kFarthest, kFarthest) * kGrid); }
 
-ClipperLib::Paths gridPaths(const gpc_polygon& polygon)
+std::vector<zp::GridLoop> gridLoops(const gpc_polygon& polygon)
 {
-    ClipperLib::Paths paths;
-    paths.reserve(std::size_t(std::max(polygon.num_contours, 0)));
+    std::vector<zp::GridLoop> loops;
+    loops.reserve(std::size_t(std::max(polygon.num_contours, 0)));
     for (int c = 0; c < polygon.num_contours; ++c) {
         const gpc_vertex_list& contour = polygon.contour[c];
-        ClipperLib::Path& path = paths.emplace_back();
-        path.reserve(std::size_t(std::max(contour.num_vertices, 0)));
+        zp::GridLoop& loop = loops.emplace_back();
+        loop.reserve(std::size_t(std::max(contour.num_vertices, 0)));
         for (int i = 0; i < contour.num_vertices; ++i) {
             const gpc_vertex v = contour.vertex[i];
             if (!std::isfinite(v.x) || !std::isfinite(v.y)) continue;
-            const ClipperLib::IntPoint p(onGrid(v.x), onGrid(v.y));
-            if (path.empty() || path.back() != p) path.push_back(p);
+            const zp::GridPoint p{onGrid(v.x), onGrid(v.y)};
+            if (loop.empty() || loop.back() != p) loop.push_back(p);
         }
     }
-    return paths;
+    return loops;
+}
+
+void addTo(ClipperLib::Clipper& clipper, const std::vector<zp::GridLoop>& loops, ClipperLib::PolyType type)
+{
+    for (const zp::GridLoop& loop : loops) {
+        ClipperLib::Path path;
+        path.reserve(loop.size());
+        for (const zp::GridPoint p : loop) path.emplace_back(p.x, p.y);
+        clipper.AddPath(path, type, true);
+    }
 }
 
 ClipperLib::ClipType clipperOperation(gpc_op operation)
@@ -54,20 +65,47 @@ ClipperLib::PolyFillType clipperRule(zp::WindingRule rule)
     return rule == zp::WindingRule::EvenOdd ? ClipperLib::pftEvenOdd : ClipperLib::pftNonZero;
 }
 
+/// Clipper's sweep, for what the own one gives up on.
+void clipBySweep(gpc_op operation, const std::vector<zp::GridLoop>& subject, zp::WindingRule subjectRule,
+                 const std::vector<zp::GridLoop>& clip, zp::WindingRule clipRule, std::vector<zp::GridLoop>& result)
+{
+    ClipperLib::Clipper clipper;
+    addTo(clipper, subject, ClipperLib::ptSubject);
+    addTo(clipper, clip, ClipperLib::ptClip);
+    ClipperLib::Paths solution;
+    clipper.Execute(clipperOperation(operation), solution, clipperRule(subjectRule), clipperRule(clipRule));
+    result.clear();
+    for (const ClipperLib::Path& path : solution) {
+        zp::GridLoop& loop = result.emplace_back();
+        for (const ClipperLib::IntPoint p : path) loop.push_back({p.X, p.Y});
+    }
+}
+
+bool turnsBack(const zp::GridLoop& loop)
+{
+    double twiceArea = 0;
+    zp::GridPoint last = loop.back();
+    for (const zp::GridPoint p : loop) {
+        twiceArea +=
+            double(last.x - loop[0].x) * double(p.y - loop[0].y) - double(p.x - loop[0].x) * double(last.y - loop[0].y);
+        last = p;
+    }
+    return twiceArea < 0;
+}
+
 void clipOnGrid(gpc_op operation, const gpc_polygon& subject, zp::WindingRule subjectRule, const gpc_polygon& clip,
                 zp::WindingRule clipRule, gpc_polygon& result)
 {
-    ClipperLib::Clipper clipper;
-    clipper.AddPaths(gridPaths(subject), ClipperLib::ptSubject, true);
-    clipper.AddPaths(gridPaths(clip), ClipperLib::ptClip, true);
-    ClipperLib::Paths solution;
-    clipper.Execute(clipperOperation(operation), solution, clipperRule(subjectRule), clipperRule(clipRule));
+    const std::vector<zp::GridLoop> subjectLoops = gridLoops(subject), clipLoops = gridLoops(clip);
+    std::vector<zp::GridLoop> loops;
+    if (!zp::clipPlanar(operation, subjectLoops, subjectRule, clipLoops, clipRule, loops))
+        clipBySweep(operation, subjectLoops, subjectRule, clipLoops, clipRule, loops);
 
     zp::PolygonWriter writer(result);
-    for (const ClipperLib::Path& path : solution) {
-        if (path.size() < 3) continue;
-        gpc_vertex* vertices = writer.addContour(int(path.size()), !ClipperLib::Orientation(path));
-        for (const ClipperLib::IntPoint p : path) *vertices++ = {double(p.X) / kGrid, double(p.Y) / kGrid};
+    for (const zp::GridLoop& loop : loops) {
+        if (loop.size() < 3) continue;
+        gpc_vertex* vertices = writer.addContour(int(loop.size()), turnsBack(loop));
+        for (const zp::GridPoint p : loop) *vertices++ = {double(p.x) / kGrid, double(p.y) / kGrid};
     }
 }
 

@@ -133,7 +133,9 @@ TEST(OutlineDrawing, FarAwayKeepsWithinAPixelOfTheOutline)
             worst = std::max(worst, distanceTo(lines, p.x * scale, p.y * scale));
         }
         EXPECT_LT(worst, 1.5) << scale; // a dot stands for those within its pixel
-        if (scale < 0.5) EXPECT_LT(outline.pointCount(), corners / 2) << scale;
+        if (scale < 0.5) {
+            EXPECT_LT(outline.pointCount(), corners / 2) << scale;
+        }
     }
 }
 
@@ -258,7 +260,9 @@ TEST(OutlineDrawing, DirtyBoxesCoverTheOutlineAndNotItsBox)
                     for (int dy = -1; dy <= 1; ++dy)
                         for (int dx = -1; dx <= 1; ++dx) {
                             const int x = int(std::floor(cx)) + dx, y = int(std::floor(cy)) + dy;
-                            if (visible.contains(x, y)) ASSERT_EQ(dirty[std::size_t(y * 1200 + x)], 1) << x << " " << y;
+                            if (visible.contains(x, y)) {
+                                ASSERT_EQ(dirty[std::size_t(y * 1200 + x)], 1) << x << " " << y;
+                            }
                         }
                 }
         });
