@@ -372,7 +372,8 @@ TEST_F(UndoCanvas, TheScreenMayBeDrawnWhileASnapshotIsWritten)
 
 TEST_F(UndoCanvas, BusyIsSaidOnTheMainThreadAtBothEnds)
 {
-    QProgressBar busy;
+    QWidget window; // never on screen
+    QProgressBar busy(&window);
     busy.hide();
     canvas->mBusyIndicator = &busy;
     std::vector<bool> said;
