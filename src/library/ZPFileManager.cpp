@@ -24,7 +24,7 @@ namespace
 {
 
 ZPFileManager* shared = nullptr;
-constexpr int kColumnWidths[] = {200, 56, 72, 96, 132, 300};
+constexpr int kColumnWidths[] = {200, 56, 72, 96, 132, 120};
 
 } // namespace
 

@@ -42,6 +42,10 @@ ZPTextEditor::ZPTextEditor() : mUi(std::make_unique<Ui::TextEditor>()), mFontSiz
     mUi->sizeField->setValidator(new QIntValidator(1, kLargestSize, mUi->sizeField));
     mUi->fontColor->setColor(kBlack);
     mUi->mNotice->hide();
+    // Paper, whatever the desktop's colours: the preview's own colour is chosen against it.
+    QPalette paper = mUi->textView->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    mUi->textView->setPalette(paper);
     fillFamilies();
 
     connect(mUi->textEditor, &QLineEdit::textChanged, this, [this] { set(); });
