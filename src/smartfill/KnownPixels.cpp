@@ -105,6 +105,7 @@ bool KnownPixels::walk(int x, int y, Neighbourhood& out) const
 
 int KnownPixels::wrapped(int number, int tiles)
 {
+    if (unsigned(number) < unsigned(tiles)) return number;
     while (number < 0) number += tiles;
     while (number >= tiles) number -= tiles;
     return number;
@@ -133,7 +134,8 @@ void KnownPixels::searchTile(int column, int row, int x, int y, Ranked& ranked) 
         if (dy <= -mLayout.height || dy >= mLayout.height || dy * dy + gapX * gapX > ranked.limit()) continue;
         for (unsigned bits = mTiles[tile].rows[j]; bits; bits &= bits - 1) {
             const std::int64_t dx = left + std::countr_zero(bits);
-            if (dx > -mLayout.width && dx < mLayout.width) ranked.add(Ranked::key(dx, dy));
+            if (dx > -mLayout.width && dx < mLayout.width && dx * dx + dy * dy <= ranked.limit())
+                ranked.add(Ranked::key(dx, dy));
         }
     }
 }
@@ -149,18 +151,23 @@ void KnownPixels::search(int x, int y, Neighbourhood& out) const
         const int left = tileStart(first, mColumns, mLayout.width),
                   right = tileStart(last + 1, mColumns, mLayout.width);
         const int above = tileStart(top, mRows, mLayout.height), below = tileStart(bottom + 1, mRows, mLayout.height);
-        // One turn round the torus either way is all there is.
-        const int firstInRange = std::max(first, column - mColumns), lastInRange = std::min(last, column + mColumns);
-        const int topInRange = std::max(top + 1, row - mRows), bottomInRange = std::min(bottom - 1, row + mRows);
+        // From the middle of each side outwards: what is found first is near, and the rest of the side can be passed
+        // over. One turn round the torus either way is all there is.
         if (ring <= mRows) {
-            for (int c = firstInRange; c <= lastInRange; ++c) searchTile(c, top, x, y, ranked);
-            for (int c = firstInRange; ring > 0 && c <= lastInRange; ++c) searchTile(c, bottom, x, y, ranked);
+            for (int d = 0; d <= std::min(ring, mColumns); ++d)
+                for (const int c : {column - d, column + d}) {
+                    searchTile(c, top, x, y, ranked);
+                    if (ring > 0) searchTile(c, bottom, x, y, ranked);
+                    if (d == 0) break;
+                }
         }
-        if (ring <= mColumns) {
-            for (int r = topInRange; r <= bottomInRange; ++r) {
-                searchTile(first, r, x, y, ranked);
-                searchTile(last, r, x, y, ranked);
-            }
+        if (ring > 0 && ring <= mColumns) {
+            for (int d = 0; d <= std::min(ring - 1, mRows); ++d)
+                for (const int r : {row - d, row + d}) {
+                    searchTile(first, r, x, y, ranked);
+                    searchTile(last, r, x, y, ranked);
+                    if (d == 0) break;
+                }
         }
         std::int64_t gap = INT32_MAX;
         if (x - left + 1 < mLayout.width) gap = std::min<std::int64_t>(gap, x - left + 1);

@@ -47,8 +47,6 @@ struct ZPSmartFill::Run {
     SmartFillArea area;
     SmartFillPicture picture;
     std::uint64_t seed = 0, number = 0;
-    std::shared_ptr<BitmapRep> bitmap;
-    std::string imagePath;
     SmartFillStatus status = SmartFillStatus::Cancelled;
     bool outOfMemory = false;
 };
@@ -128,12 +126,8 @@ void ZPSmartFill::run()
         finish();
         if (mRunning) return;
     }
-    // The picture may have been replaced since the window was opened. Another size makes the selection meaningless.
-    if (mCanvas && mCanvas->mBitmapRep && mBitmapRep && mCanvas->mBitmapRep->pixelsWide() == mBitmapRep->pixelsWide() &&
-        mCanvas->mBitmapRep->pixelsHigh() == mBitmapRep->pixelsHigh())
-        mBitmapRep = mCanvas->mBitmapRep;
-    else
-        return beep();
+    // Another picture since the window was opened: its pixels have nothing to do with the selection.
+    if (!mCanvas || !mBitmapRep || mCanvas->mBitmapRep != mBitmapRep) return beep();
 
     mUi->mProgressBar->setPercent(0);
     enableButtons(true);
@@ -147,8 +141,6 @@ void ZPSmartFill::run()
     Run& run = *mRun;
     run.number = ++mRunNumber;
     run.seed = mSeed ? mSeed : std::uint64_t(std::time(nullptr));
-    run.bitmap = mBitmapRep;
-    run.imagePath = mCanvas->mImagePath;
     run.area = smartFillArea(mSelRect, mBitmapRep->pixelsWide(), mBitmapRep->pixelsHigh(), mUi->mRadiusSlider->value(),
                              mUi->mFasterCheckbox->isChecked());
     try {
@@ -224,16 +216,12 @@ bool ZPSmartFill::writeBack()
 {
     const Run& run = *mRun;
     if (run.outOfMemory || run.status != SmartFillStatus::Filled || !mCanvas) return true;
-    const std::shared_ptr<BitmapRep> bitmap = mCanvas->mBitmapRep;
-    // Edits meanwhile may have put another buffer in the old one's place; another picture must not be painted into.
-    const bool samePicture = bitmap && bitmap->pixelsWide() == run.bitmap->pixelsWide() &&
-                             bitmap->pixelsHigh() == run.bitmap->pixelsHigh() &&
-                             (bitmap == run.bitmap || mCanvas->mImagePath == run.imagePath);
-    if (!samePicture) return true;
+    // Undo and every other edit of the picture keep its buffer; another buffer is another picture or another size.
+    if (mCanvas->mBitmapRep != mBitmapRep) return true;
     // A snapshot reads the pixels, a stroke writes them: they come first.
     if (mCanvas->anyWorkerRunning()) return false;
     const std::lock_guard stroke(mCanvas->mPixelLock);
-    writeBackSmartFill(bitmap->view(), run.picture, run.area);
+    writeBackSmartFill(mBitmapRep->view(), run.picture, run.area);
     return true;
 }
 
