@@ -21,10 +21,11 @@ struct ToolState {
     std::shared_ptr<BitmapRep> strokeBitmap; ///< what is painted on
     float strokeSize = 0;
     Color strokeColor;
-    std::uint32_t strokeNumber = 0;      ///< counts strokes, so that a late end is told from the present one
-    bool strokeOpen = false;             ///< threads were started and not joined yet
-    std::atomic<bool> captureDone{true}; ///< the capture thread stores no more points
-    Wakeup points;                       ///< capture thread to drawing thread: another point, or the end
+    std::uint32_t strokeNumber = 0;              ///< counts strokes, so that a late end is told from the present one
+    bool strokeOpen = false;                     ///< threads were started and not joined yet
+    std::atomic<std::uint32_t> segmentsDrawn{0}; ///< painted, and their redisplay asked for
+    std::atomic<bool> captureDone{true};         ///< the capture thread stores no more points
+    Wakeup points;                               ///< capture thread to drawing thread: another point, or the end
 
     int brushShapeIndex = -1;                    ///< which shape is kept below
     std::shared_ptr<const BitmapRep> brushShape; ///< as it was read; null when there is no such picture

@@ -117,6 +117,7 @@ void ZPCanvas::setTool(int index)
     ToolState& state = toolState(*this);
     if (mIsMouseDown && state.gestureTool >= 0 && state.gestureTool != index) {
         mouseUp(state.lastPoint);
+        finishStroke();
         // Refused because a snapshot is being written: then at least the new tool inherits nothing.
         mIsMouseDown = 0;
         mMove = false;

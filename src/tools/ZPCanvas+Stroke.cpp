@@ -107,6 +107,7 @@ void ZPToolActions::pressBrush(ZPCanvas& canvas, Point point)
     state.strokeSize = canvas.mSize;
     state.strokeColor = canvas.mColor;
     state.captureDone = false;
+    state.segmentsDrawn = 0;
     state.strokeOpen = true;
     ++state.strokeNumber;
     canvas._ptIndex = 0; // before either thread runs: the drawing thread must not see the last stroke's points
@@ -226,6 +227,7 @@ void ZPCanvas::drawThread()
         } else {
             setNeedsDisplayInRect(segment);
         }
+        state.segmentsDrawn.store(i - 1, std::memory_order_release);
     }
     if (drained) logLine("draw thread finish");
     // The flag is set where the snapshot is taken, on the main thread: between the two no press may come.
