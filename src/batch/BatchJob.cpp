@@ -24,7 +24,7 @@ namespace
 
 /// How much larger than the result a reduced decode must be: the averaging that follows then hides that the decoder
 /// dropped frequencies instead of averaging pixels (checked against the full path in the tests: 40 dB and more).
-constexpr double kDecodeMargin = 1.4;
+constexpr double kDecodeMargin = 1.9;
 
 /// Null when memory fails or the size is absurd.
 std::shared_ptr<BitmapRep> resized(const BitmapRep& image, int width, int height)

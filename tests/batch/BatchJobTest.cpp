@@ -1,0 +1,322 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Whole runs over folders of odd and broken files, and the command line.
+#include "batch/BatchJob.h"
+#include "batch/BatchCommandLine.h"
+#include "platform/Folders.h"
+#include "platform/ImageEncoder.h"
+#include "platform/ImageImporter.h"
+#include "platform/WorkPool.h"
+#include <cmath>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace zp
+{
+namespace
+{
+
+std::string picture(const std::string& name) { return std::string(ZP_TESTDATA) + "/images/" + name; }
+
+class Batch : public testing::Test
+{
+protected:
+    Batch()
+    {
+        for (const std::string& folder : {source(), destination()}) {
+            removeItem(folder);
+            createFolder(folder);
+        }
+        mSettings.source = source();
+        mSettings.destination = destination();
+        mSettings.jpeg = true;
+        mSettings.jobs = 2;
+    }
+    ~Batch() override
+    {
+        removeItem(source());
+        removeItem(destination());
+    }
+    static std::string source() { return temporaryFolder() + "/batch source"; }
+    static std::string destination() { return temporaryFolder() + "/batch destination"; }
+    void add(const std::string& original, const std::string& name)
+    {
+        ASSERT_TRUE(copyItem(picture(original), source() + "/" + name)) << name;
+    }
+    std::vector<BatchOutcome> run() { return runBatch(mSettings, batchNames(mSettings), {}); }
+    std::vector<std::string> results() const { return contentsOfFolder(destination()); }
+    std::shared_ptr<BitmapRep> result(const std::string& name) const
+    {
+        return importImageFile(destination() + "/" + name).bitmap;
+    }
+    BatchSettings mSettings;
+};
+
+TEST_F(Batch, AnEmptyFolderGivesNothing)
+{
+    EXPECT_TRUE(run().empty());
+    EXPECT_TRUE(results().empty());
+}
+
+TEST_F(Batch, OtherExtensionsArePassedOver)
+{
+    add("made/valid/base.png", "a.png");
+    add("made/valid/base.jpg", "b.JPG");
+    add("made/valid/base.jpg", "c.jpeg");
+    add("made/valid/base.tif", "d.tif");
+    EXPECT_TRUE(run().empty());
+    EXPECT_TRUE(results().empty());
+}
+
+TEST_F(Batch, WritesBothKindsAndOverwrites)
+{
+    add("made/valid/base.jpg", "a.jpg");
+    add("made/valid/base.tif", "b.tiff");
+    mSettings.tiff = true;
+    writeFileSafely(destination() + "/a.jpg", "old", 3);
+    EXPECT_TRUE(run().empty());
+    EXPECT_EQ(results(), (std::vector<std::string>{"a.jpg", "a.tiff", "b.jpg", "b.tiff"}));
+    EXPECT_EQ(result("a.jpg")->pixelsWide(), 64);
+    EXPECT_EQ(result("b.tiff")->properties.userComment, "Edited by Zelpane -- simple, yet powerful image editing");
+}
+
+TEST_F(Batch, FitsLargeAndSmallImages)
+{
+    add("photos/tahoe-gps.jpg", "large.jpg");
+    add("made/valid/base.jpg", "small.jpg");          // 64 x 36
+    add("made/exif/orientation-6.jpg", "turned.jpg"); // 160 x 96 upright
+    mSettings.fitWidth = 320;
+    mSettings.fitHeight = 320;
+    EXPECT_TRUE(run().empty());
+    EXPECT_EQ(result("large.jpg")->pixelsWide(), 320);
+    EXPECT_EQ(result("large.jpg")->pixelsHigh(), 240);
+    EXPECT_EQ(result("small.jpg")->pixelsWide(), 320);
+    EXPECT_EQ(result("small.jpg")->pixelsHigh(), 180);
+    EXPECT_EQ(result("turned.jpg")->pixelsWide(), 320);
+    EXPECT_EQ(result("turned.jpg")->pixelsHigh(), 192);
+}
+
+double decibels(ConstBitmapView a, ConstBitmapView b)
+{
+    double sum = 0;
+    for (int y = 0; y < a.height; ++y)
+        for (int x = 0; x < a.width; ++x)
+            for (int k = 1; k < 4; ++k) sum += std::pow(double(a.pixel(x, y)[k]) - double(b.pixel(x, y)[k]), 2);
+    return sum == 0 ? 99 : 10 * std::log10(255.0 * 255.0 * 3 * a.width * a.height / sum);
+}
+
+TEST_F(Batch, ReducedDecodingLooksLikeFullDecoding)
+{
+    add("photos/tahoe-gps.jpg", "a.jpg"); // 2048 x 1536
+    mSettings.jpeg = false;
+    mSettings.tiff = true;
+    for (const int box : {730, 538, 512, 365, 269, 256, 180, 134, 100}) {
+        mSettings.fitWidth = mSettings.fitHeight = box;
+        mSettings.reducedDecoding = true;
+        ASSERT_TRUE(run().empty());
+        const auto reduced = result("a.tiff");
+        mSettings.reducedDecoding = false;
+        ASSERT_TRUE(run().empty());
+        const auto full = result("a.tiff");
+        ASSERT_EQ(reduced->pixelsWide(), full->pixelsWide());
+        EXPECT_GE(decibels(reduced->view(), full->view()), 40) << box;
+    }
+}
+
+TEST_F(Batch, StampsTheWatermarkFromTheLowerLeft)
+{
+    add("made/valid/base.tif", "a.tiff");
+    auto mark = BitmapRep::create(10, 6);
+    for (int y = 0; y < 6; ++y)
+        for (int x = 0; x < 10; ++x) mark->view().row(y)[x] = 0x0000FFFF; // opaque red
+    mSettings.watermark = mark;
+    mSettings.watermarkPoint = {4, 2};
+    mSettings.tiff = true;
+    mSettings.jpeg = false;
+    EXPECT_TRUE(run().empty());
+    const auto out = result("a.tiff");
+    const auto plain = importImageFile(picture("made/valid/base.tif")).bitmap;
+    for (int y = 0; y < 36; ++y)
+        for (int x = 0; x < 64; ++x) {
+            const bool inside = x >= 4 && x < 14 && y >= 36 - 2 - 6 && y < 36 - 2;
+            ASSERT_EQ(out->view().row(y)[x], inside ? 0x0000FFFFu : plain->view().row(y)[x]) << x << ", " << y;
+        }
+    mSettings.watermarkAlpha = 0;
+    EXPECT_TRUE(run().empty());
+    EXPECT_EQ(result("a.tiff")->view().row(30)[6], plain->view().row(30)[6]);
+}
+
+TEST_F(Batch, LinksAreFollowedAndNameTheirOutput)
+{
+    ASSERT_EQ(symlink(picture("made/valid/base.png").c_str(), (source() + "/x.jpg").c_str()), 0);
+    ASSERT_EQ(symlink("nowhere", (source() + "/broken.jpg").c_str()), 0);
+    const auto failures = run();
+    ASSERT_EQ(failures.size(), 1u);
+    EXPECT_EQ(failures[0].name, "broken.jpg");
+    EXPECT_EQ(results(), std::vector<std::string>{"x.jpg"});
+}
+
+TEST_F(Batch, BrokenFilesAreNamedAndTheRestIsDone)
+{
+    add("made/valid/base.jpg", "good.jpg");
+    add("made/truncated/zero-bytes.jpg", "empty.jpg");
+    add("made/wrong-ext/svg-external.jpg", "svg.jpg");
+    add("made/jpeg/scan-bomb-20000x20000-30-scans.jpg", "bomb.jpg");
+    ASSERT_TRUE(createFolder(source() + "/folder.jpg"));
+    ASSERT_EQ(mkfifo((source() + "/pipe.jpg").c_str(), 0600), 0);
+    const auto failures = run();
+    EXPECT_EQ(failures.size(), 5u);
+    for (const BatchOutcome& f : failures) EXPECT_TRUE(f.error.ends_with(".")) << f.name << ": " << f.error;
+    EXPECT_EQ(results(), std::vector<std::string>{"good.jpg"});
+}
+
+TEST_F(Batch, TwoHundredOddNames)
+{
+    std::vector<std::string> names{"line\nend",   "quote'", "double\"",     "%s%n",       "$(x)",
+                                   "`x`",         "-dash",  "\xFF\xFE\x80", "tab\t",      "ünï",
+                                   "日本",        "a b",    "..x",          "semi;colon", "star*",
+                                   "back\\slash", "q?",     "[b]",          "#",          std::string(250, 'n')};
+    for (int i = 0; int(names.size()) < 200; ++i)
+        names.push_back("name " + std::string(std::size_t(i) % 50, char(0xC0 + i % 60)) + std::to_string(i));
+    for (std::size_t i = 0; i < names.size(); ++i)
+        add("made/valid/base.jpg", names[i] + (i % 3 == 0 && names[i].size() < 249 ? ".tiff" : ".jpg"));
+    EXPECT_EQ(batchNames(mSettings).size(), 200u);
+    EXPECT_TRUE(run().empty());
+    EXPECT_EQ(results().size(), 200u);
+    for (const std::string& name : names) EXPECT_TRUE(fileExists(destination() + "/" + name + ".jpg")) << name;
+}
+
+TEST_F(Batch, SourcesOfOneNameAreWorkedOnInOrder)
+{
+    for (int i = 0; i < 20; ++i) {
+        add("made/valid/base.jpg", std::to_string(i) + ".jpg");
+        add("made/exif/orientation-1.tif", std::to_string(i) + ".tiff"); // behind .jpg in the folder's order
+    }
+    EXPECT_TRUE(run().empty());
+    for (int i = 0; i < 20; ++i) EXPECT_EQ(result(std::to_string(i) + ".jpg")->pixelsWide(), 160) << i;
+}
+
+TEST_F(Batch, StopsWhenToldAndWritesNothingHalf)
+{
+    for (int i = 0; i < 30; ++i) add("made/valid/base.jpg", std::to_string(i) + ".jpg");
+    mSettings.jobs = 1;
+    runBatch(mSettings, batchNames(mSettings), [](const BatchOutcome&, std::size_t done) { return done < 5; });
+    EXPECT_EQ(results().size(), 5u);
+    for (const std::string& name : results()) EXPECT_TRUE(result(name)) << name;
+}
+
+TEST_F(Batch, SkipsWhatIsThereAndTouchesNothingOnADryRun)
+{
+    add("made/valid/base.jpg", "a.jpg");
+    add("made/valid/base.jpg", "b.jpg");
+    mSettings.dryRun = true;
+    EXPECT_TRUE(run().empty());
+    EXPECT_TRUE(results().empty());
+    mSettings.dryRun = false;
+    mSettings.skipExisting = true;
+    writeFileSafely(destination() + "/a.jpg", "kept", 4);
+    EXPECT_TRUE(run().empty());
+    EXPECT_EQ(readWholeFile(destination() + "/a.jpg"), "kept");
+    EXPECT_TRUE(result("b.jpg"));
+}
+
+TEST_F(Batch, ASourceThatLosesFilesIsReported)
+{
+    for (int i = 0; i < 10; ++i) add("made/valid/base.jpg", std::to_string(i) + ".jpg");
+    const auto names = batchNames(mSettings);
+    mSettings.jobs = 1;
+    const auto failures = runBatch(mSettings, names, [&](const BatchOutcome&, std::size_t done) {
+        if (done == 4)
+            for (std::size_t i = 6; i < names.size(); ++i) removeItem(source() + "/" + names[i]);
+        return true;
+    });
+    EXPECT_EQ(failures.size(), 4u);
+    EXPECT_EQ(results().size(), 6u);
+}
+
+TEST_F(Batch, ADestinationThatFillsUpLeavesNoHalfFiles)
+{
+    for (int i = 0; i < 6; ++i) add("photos/tahoe-gps.jpg", std::to_string(i) + ".jpg");
+    mSettings.tiff = true; // about nine megabytes each
+    mSettings.jpeg = false;
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    signal(SIGXFSZ, SIG_IGN);
+    rlimit small = old;
+    small.rlim_cur = 1 << 20;
+    setrlimit(RLIMIT_FSIZE, &small);
+    const auto failures = run();
+    setrlimit(RLIMIT_FSIZE, &old);
+    EXPECT_EQ(failures.size(), 6u);
+    EXPECT_TRUE(results().empty());
+}
+
+TEST_F(Batch, AnUnwritableDestinationFailsEachImage)
+{
+    if (geteuid() == 0) GTEST_SKIP() << "nothing is unwritable for this user";
+    add("made/valid/base.jpg", "a.jpg");
+    chmod(destination().c_str(), 0500);
+    EXPECT_EQ(run().size(), 1u);
+    chmod(destination().c_str(), 0700);
+}
+
+TEST_F(Batch, CommandLineUnderstandsItsOptions)
+{
+    const auto parse = [&](std::vector<std::string> words) {
+        std::vector<char*> argv{const_cast<char*>("zelpane"), const_cast<char*>("--batch")};
+        for (std::string& w : words) argv.push_back(w.data());
+        return parseBatchCommandLine(int(argv.size()), argv.data());
+    };
+    const auto line =
+        parse({source(), "--fit", "1024x768", destination(), "--at=-10,20", "--opacity", "50", "--tiff", "--jpeg",
+               "--jobs", "3", "--shard", "2/5", "--skip-existing", "--dry-run", "--watermark", "w.jpg"});
+    EXPECT_EQ(line.error, "");
+    EXPECT_EQ(line.settings.fitWidth, 1024);
+    EXPECT_EQ(line.settings.fitHeight, 768);
+    EXPECT_EQ(line.settings.watermarkPoint, (Point{-10, 20}));
+    EXPECT_EQ(line.settings.watermarkAlpha, 0.5f);
+    EXPECT_TRUE(line.settings.tiff && line.settings.jpeg && line.settings.skipExisting && line.settings.dryRun);
+    EXPECT_EQ(line.settings.jobs, 3);
+    EXPECT_EQ(line.settings.shard, 2u);
+    EXPECT_EQ(line.settings.shards, 5u);
+    EXPECT_EQ(line.watermarkPath, "w.jpg");
+    for (const std::vector<std::string>& wrong : {std::vector<std::string>{source(), destination()},
+                                                  {source(), "--jpeg"},
+                                                  {"--jpeg"},
+                                                  {source(), source(), "--jpeg"},
+                                                  {source(), "/nowhere", "--jpeg"},
+                                                  {source(), destination(), "--jpeg", "--fit", "10"},
+                                                  {source(), destination(), "--jpeg", "--fit", "0x10"},
+                                                  {source(), destination(), "--jpeg", "--shard", "3/2"},
+                                                  {source(), destination(), "--jpeg", "--shard", "0/2"},
+                                                  {source(), destination(), "--jpeg", "--jobs", "0"},
+                                                  {source(), destination(), "--jpeg", "--fit"},
+                                                  {source(), destination(), "--jpeg", "--what"},
+                                                  {source(), destination(), "more", "--jpeg"},
+                                                  {source(), destination(), "--jpeg", "--opacity", "half"}})
+        EXPECT_NE(parse(wrong).error, "") << (wrong.empty() ? "" : wrong.back());
+    EXPECT_TRUE(parse({"--help"}).help);
+}
+
+TEST_F(Batch, CommandLineAnswersByItsStatus)
+{
+    const auto run = [&](std::vector<std::string> words) {
+        std::vector<char*> argv{const_cast<char*>("zelpane"), const_cast<char*>("--batch")};
+        for (std::string& w : words) argv.push_back(w.data());
+        return runBatchCommandLine(int(argv.size()), argv.data());
+    };
+    EXPECT_EQ(run({source(), "/nowhere", "--jpeg"}), 2);
+    EXPECT_EQ(run({source(), destination(), "--jpeg", "--watermark", "/nowhere.jpg"}), 2);
+    add("made/valid/base.jpg", "a.jpg");
+    EXPECT_EQ(run({source(), destination(), "--jpeg", "--fit", "32x32"}), 0);
+    EXPECT_EQ(result("a.jpg")->pixelsWide(), 32);
+    add("made/wrong-ext/svg-external.jpg", "b.jpg");
+    EXPECT_EQ(run({source(), destination(), "--jpeg"}), 1);
+    EXPECT_EQ(run({source(), destination(), "--jpeg", "--shard", "1/2"}), 0);
+    EXPECT_EQ(run({source(), destination(), "--jpeg", "--shard", "2/2"}), 1);
+}
+
+} // namespace
+} // namespace zp
