@@ -15,6 +15,7 @@ namespace zp::jpeg
 
 inline constexpr std::uint8_t kMark = 0xFF, kStartOfImage = 0xD8, kEndOfImage = 0xD9, kRestart0 = 0xD0;
 inline constexpr std::uint8_t kFrameBaseline = 0xC0, kFrameExtended = 0xC1, kHuffmanTables = 0xC4, kArithmetic = 0xCC;
+inline constexpr std::uint8_t kQuantisation = 0xDB;
 inline constexpr std::uint8_t kRestartInterval = 0xDD, kStartOfScan = 0xDA, kApp0 = 0xE0, kApp9 = 0xE9;
 /// Where the height stands in a frame segment, counted from its 0xFF: marker, length, precision come before.
 inline constexpr std::size_t kFrameHeightOffset = 5;

@@ -3,6 +3,7 @@
 #include "platform/WorkPool.h"
 #include "undo/JPEGMarkers.h"
 #include "undo/SnapshotJPEG.h"
+#include "undo/StripCoder.h"
 #include <algorithm>
 #include <atomic>
 #include <csetjmp>
@@ -142,7 +143,30 @@ void SnapshotEncoder::forget()
     mWidth = mHeight = 0;
 }
 
-bool SnapshotEncoder::encodeStrips(ConstBitmapView pixels, int first, int last, std::vector<std::uint8_t>& header)
+bool SnapshotEncoder::prepare(ConstBitmapView pixels)
+{
+    // The library writes the header, over a strip that need not be coded again for it.
+    Output output;
+    if (!compress(stripRows(pixels, 0, 1), output)) return false;
+    const std::span<const std::uint8_t> file(output.bytes, output.size);
+    std::size_t end = 0;
+    jpeg::SegmentWalk walk(file);
+    while (const auto segment = walk.next()) end = segment->end;
+    mHeader.assign(file.begin(), file.begin() + std::ptrdiff_t(end));
+    if (!mCoder) mCoder = std::make_shared<StripCoder>();
+    mVectors = useVectors && StripCoder::available() && mCoder->readTables(mHeader);
+    return setFrameHeight(mHeader, pixels.height);
+}
+
+bool SnapshotEncoder::encodeStrips(ConstBitmapView pixels, int first, int last)
+{
+    if (mVectors)
+        for (; first < last && (first + 1) * kStripRows <= pixels.height; ++first)
+            mCoder->encode(stripRows(pixels, first, first + 1), mStrips[std::size_t(first)].bytes);
+    return first == last || encodeStripsByLibrary(pixels, first, last);
+}
+
+bool SnapshotEncoder::encodeStripsByLibrary(ConstBitmapView pixels, int first, int last)
 {
     thread_local Output output;
     if (!compress(stripRows(pixels, first, last), output)) return false;
@@ -150,7 +174,6 @@ bool SnapshotEncoder::encodeStrips(ConstBitmapView pixels, int first, int last, 
     std::size_t at = 0;
     jpeg::SegmentWalk walk(file);
     while (const auto segment = walk.next()) at = segment->end;
-    if (header.empty()) header.assign(file.begin(), file.begin() + std::ptrdiff_t(at));
     for (int strip = first; strip < last; ++strip) {
         const std::size_t end = jpeg::findMarker(file, at);
         if (end == file.size()) return false;
@@ -197,9 +220,12 @@ try {
         mHeight = pixels.height;
         mStrips.resize(std::size_t(strips));
     }
+    if (mHeader.empty() && !prepare(pixels)) {
+        forget();
+        return {};
+    }
 
     const int groups = (strips + kGroup - 1) / kGroup;
-    std::vector<std::vector<std::uint8_t>> headers(mHeader.empty() ? std::size_t(groups) : 0);
     std::atomic<int> encoded{0};
     std::atomic<bool> failed{false};
     parallelFor(groups, [&](int group) {
@@ -211,23 +237,17 @@ try {
             known = now;
             return true;
         };
-        std::vector<std::uint8_t> unused(1);
         for (int strip = begin; strip < end;) {
             const int first = strip;
             while (strip < end && changed(strip)) ++strip;
             if (strip > first) {
-                if (!encodeStrips(pixels, first, strip, headers.empty() ? unused : headers[std::size_t(group)]))
-                    failed = true;
+                if (!encodeStrips(pixels, first, strip)) failed = true;
                 encoded += strip - first;
             }
             ++strip; // the one that ended the stretch did not change
         }
     });
     mStripsEncoded = encoded;
-    if (!failed && mHeader.empty()) {
-        mHeader = std::move(headers.front());
-        failed = !setFrameHeight(mHeader, mHeight);
-    }
     if (failed) {
         forget();
         return {};

@@ -28,6 +28,20 @@ Bytes withoutSeal(std::span<const std::uint8_t> file)
     return copyOf(file);
 }
 
+/// Every sample at one end or the other, in cells of @p cell pixels: the largest coefficients there can be.
+void paintExtremes(BitmapView pixels, int cell)
+{
+    std::minstd_rand random(44);
+    std::uint32_t word = 0;
+    for (int y = 0; y < pixels.height; ++y)
+        for (int x = 0; x < pixels.width; ++x) {
+            if (x % cell == 0) word = std::uint32_t(random() >> 5);
+            std::uint8_t* const p = pixels.pixel(x, y);
+            const std::uint32_t cellWord = y % cell == 0 ? word : 0;
+            for (int c = 0; c < 4; ++c) p[c] = y % cell ? pixels.pixel(x, y - 1)[c] : cellWord >> c & 1 ? 255 : 0;
+        }
+}
+
 struct Size {
     int width, height;
 };
@@ -38,13 +52,22 @@ class SnapshotJPEGSizes : public testing::TestWithParam<Size>
 TEST_P(SnapshotJPEGSizes, IsTheLibrarysOwnFileButForTheSeal)
 {
     Picture picture(GetParam().width, GetParam().height);
-    paintPhoto(picture.view(), 5);
-    SnapshotEncoder encoder;
-    const Bytes file = copyOf(encoder.encode(picture.view()));
     PlainOptions options;
     options.restartRows = 1;
-    EXPECT_TRUE(withoutSeal(file) == plainEncode(picture.view(), options));
-    EXPECT_EQ(encoder.stripsEncoded(), (GetParam().height + 15) / 16);
+    for (const int kind : {0, 1, 2, 3, 4}) {
+        if (kind < 3)
+            paintPhoto(picture.view(), 5, kind == 0 ? 0 : kind == 1 ? 12 : 120);
+        else
+            paintExtremes(picture.view(), kind == 3 ? 1 : 8);
+        const Bytes plain = plainEncode(picture.view(), options);
+        for (const bool vectors : {true, false}) {
+            SnapshotEncoder encoder;
+            encoder.useVectors = vectors;
+            const Bytes file = copyOf(encoder.encode(picture.view()));
+            EXPECT_TRUE(withoutSeal(file) == plain) << "kind " << kind << ", vectors " << vectors;
+            EXPECT_EQ(encoder.stripsEncoded(), (GetParam().height + 15) / 16);
+        }
+    }
 }
 
 TEST_P(SnapshotJPEGSizes, DecodesToTheVeryPixelsOfAPlainDecode)
@@ -72,7 +95,9 @@ INSTANTIATE_TEST_SUITE_P(Sizes, SnapshotJPEGSizes,
                          testing::Values(Size{1, 1}, Size{2, 1}, Size{1, 40}, Size{15, 15}, Size{16, 16}, Size{17, 33},
                                          Size{64, 128}, Size{65, 129}, Size{33, 500}, Size{40, 511}, Size{40, 512},
                                          Size{40, 513}, Size{40, 529}, Size{100, 1024}, Size{35, 1055}, Size{24, 1040},
-                                         Size{24, 3001}, Size{30000, 20}),
+                                         Size{31, 64}, Size{32, 64}, Size{33, 64}, Size{40, 64}, Size{41, 64},
+                                         Size{47, 64}, Size{48, 64}, Size{49, 64}, Size{56, 32}, Size{57, 32},
+                                         Size{800, 600}, Size{24, 3001}, Size{30000, 20}),
                          [](const auto& row) {
                              return std::to_string(row.param.width) + "x" + std::to_string(row.param.height);
                          });
