@@ -22,7 +22,12 @@ constexpr int kAreaPerDy = kAreaBits - kFraction;
 constexpr double kFarAway = 1e7;
 constexpr double kCurveTolerance = 0.01;
 /// Runs at least this long are reported on their own.
-constexpr int kLongRun = 32;
+constexpr int kLongRun = 16;
+
+/// The memory an edge will change is announced this many rows ahead, while few enough edges are at work for a wait
+/// on memory to count.
+constexpr int kRowsAhead = 3;
+constexpr std::size_t kFewEdges = 64;
 
 /// An edge at work: where it is at the top of the current row.
 struct ActiveEdge {
@@ -359,6 +364,7 @@ void CoverageRaster::sweep(WindingRule rule, bool antialias, CoverageSink& sink)
             active.push_back(a);
         }
         if (active.empty()) continue;
+        const bool announce = active.size() <= kFewEdges && r + kRowsAhead < rows;
         std::size_t kept = 0;
         for (std::size_t i = 0; i < active.size(); ++i) {
             ActiveEdge& e = active[i];
@@ -370,6 +376,10 @@ void CoverageRaster::sweep(WindingRule rule, bool antialias, CoverageSink& sink)
             // From the edge's own beginning each time: no error piles up, and no box changes it.
             const std::int64_t x = e.x0 + std::int64_t(std::floor(double(rowEnd - e.y0) * e.slope + 0.5));
             row.add(e.x - left, x - left, e.sign * std::int32_t((rowEnd - from) << kAreaPerDy));
+            if (announce) {
+                const std::int64_t column = (x + (kRowsAhead - 1) * (x - e.x)) >> kFraction;
+                if (column >= box.x0 && column < box.x1) sink.expect(box.y0 + r + kRowsAhead, int(column));
+            }
             e.x = x;
             if (kept != i) active[kept] = e;
             ++kept;

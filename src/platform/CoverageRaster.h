@@ -20,6 +20,8 @@ public:
     virtual void solid(int y, int x0, int x1) = 0;
     /// Pixels [x0, x1) of row @p y are covered by cover[0], cover[1], … of 255, zeros among them.
     virtual void partial(int y, int x0, int x1, const std::uint8_t* cover) = 0;
+    /// An edge will soon be reported near this pixel of the box: time to fetch its memory.
+    virtual void expect(int /*y*/, int /*x*/) {}
 };
 
 /// Collects edges, then walks the rows once. Area is counted in whole numbers, so closed outlines add up to nothing

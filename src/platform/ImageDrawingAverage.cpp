@@ -14,6 +14,10 @@ namespace
 /// Weights of a cell add up to this; alpha or colour times it fits 32 bits after each of the two passes.
 constexpr std::uint32_t kUnity = 65536;
 
+constexpr int kStretch = 1024;
+/// Source pixels below which another worker is not worth waking.
+constexpr double kPixelsPerBand = 300'000;
+
 /// The pixels of one line that a cell covers, and how much each counts.
 struct Cell {
     int first = 0, count = 0;
@@ -73,16 +77,22 @@ ZP_MULTIVERSION void finishSum(std::uint32_t* sum, int count)
 
 using Quad = std::uint32_t __attribute__((vector_size(16)));
 
-std::uint32_t averageOf(const std::uint32_t* sums, const std::uint32_t* weights, int count)
+/// @param sums of the columns from @p low on, four channels each
+ZP_MULTIVERSION void averageCells(const std::uint32_t* sums, int low, const Cell* cells, const std::uint32_t* weights,
+                                  std::uint32_t* out, int count)
 {
-    Quad total{1u << 23, 1u << 23, 1u << 23, 1u << 23};
-    for (int i = 0; i < count; ++i) {
-        Quad v;
-        __builtin_memcpy(&v, sums + 4 * i, sizeof v);
-        total += v * weights[i];
+    for (int c = 0; c < count; ++c) {
+        const std::uint32_t* const sum = sums + 4 * std::ptrdiff_t{cells[c].first - low};
+        const std::uint32_t* const weight = weights + cells[c].weights;
+        Quad total{1u << 23, 1u << 23, 1u << 23, 1u << 23};
+        for (int i = 0; i < cells[c].count; ++i) {
+            Quad v;
+            __builtin_memcpy(&v, sum + 4 * i, sizeof v);
+            total += v * weight[i];
+        }
+        total >>= 24;
+        out[c] = total[0] | total[1] << 8 | total[2] << 16 | total[3] << 24;
     }
-    total >>= 24;
-    return total[0] | total[1] << 8 | total[2] << 16 | total[3] << 24;
 }
 } // namespace
 
@@ -92,25 +102,36 @@ void averageOverGrid(ConstBitmapView image, PixelBox part, const AveragingGrid& 
     if (grid.columns <= 0 || grid.rows <= 0) return;
     const Cells columns(grid.left, grid.stepX, grid.columns, part.x0, part.x1);
     const Cells rows(grid.top, grid.stepY, grid.rows, part.y0, part.y1);
-    int low = part.x1, high = part.x0;
-    for (const Cell& c : columns.cells) low = std::min(low, c.first), high = std::max(high, c.first + c.count);
-    const int bytes = 4 * (high - low);
-    const double pixelsPerRow = double(high - low) * std::max(1.0, grid.stepY);
-    const int grain = std::max(1, int(300'000 / pixelsPerRow));
+    // Columns in stretches whose sums stay in the nearest cache.
+    struct Stretch {
+        int first, last; ///< cells
+        int low, high;   ///< pixels
+    };
+    std::vector<Stretch> stretches;
+    for (int c = 0; c < grid.columns; ++c) {
+        const Cell& cell = columns.cells[std::size_t(c)];
+        if (stretches.empty() || cell.first + cell.count - stretches.back().low > kStretch)
+            stretches.push_back({c, c, cell.first, cell.first});
+        stretches.back().last = c + 1;
+        stretches.back().high = std::max(stretches.back().high, cell.first + cell.count);
+    }
+    int widest = 0, total = 0;
+    for (const Stretch& s : stretches) widest = std::max(widest, s.high - s.low), total += s.high - s.low;
+    const int grain = std::max(1, int(kPixelsPerBand / (double(total) * std::max(1.0, grid.stepY))));
     parallelBands(grid.rows, grain, [&](int first, int last) {
-        std::vector<std::uint32_t> sums(static_cast<std::size_t>(bytes));
+        std::vector<std::uint32_t> sums(static_cast<std::size_t>(widest) * 4);
         for (int r = first; r < last; ++r) {
             const Cell& row = rows.cells[std::size_t(r)];
             const std::uint32_t* const weight = &rows.weights[row.weights];
-            startSum(sums.data(), image.pixel(low, row.first), weight[0], bytes);
-            for (int k = 1; k < row.count; ++k)
-                if (weight[k]) addToSum(sums.data(), image.pixel(low, row.first + k), weight[k], bytes);
-            finishSum(sums.data(), bytes);
             auto* const to = reinterpret_cast<std::uint32_t*>(out + outRowBytes * r);
-            for (int c = 0; c < grid.columns; ++c) {
-                const Cell& column = columns.cells[std::size_t(c)];
-                to[c] = averageOf(&sums[4 * std::size_t(column.first - low)], &columns.weights[column.weights],
-                                  column.count);
+            for (const Stretch& s : stretches) {
+                const int bytes = 4 * (s.high - s.low);
+                startSum(sums.data(), image.pixel(s.low, row.first), weight[0], bytes);
+                for (int k = 1; k < row.count; ++k)
+                    if (weight[k]) addToSum(sums.data(), image.pixel(s.low, row.first + k), weight[k], bytes);
+                finishSum(sums.data(), bytes);
+                averageCells(sums.data(), s.low, &columns.cells[std::size_t(s.first)], columns.weights.data(),
+                             to + s.first, s.last - s.first);
             }
         }
     });
