@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Resampling one axis after the other, in 16-bit fixed point, a few rows at a time.
 #include "canvas/Resample.h"
+#include "canvas/Halving.h"
 #include "canvas/ResampleRows.h"
 #include "platform/WorkPool.h"
 #include <algorithm>
@@ -28,72 +29,30 @@ double cubic(double t)
 /// Shares of the source positions in each destination position [from, to) of an axis.
 Taps makeTaps(int length, int wanted, int from, int to)
 {
-    struct Place {
-        int first;
-        std::vector<double> shares;
-    };
     const double step = double(length) / wanted;
-    std::vector<Place> places;
-    std::size_t most = 1;
+    TapsBuilder taps;
     for (int d = from; d < to; ++d) {
-        Place place{d, {1.0}};
-        if (wanted > length) {
+        std::vector<double> shares;
+        if (wanted == length) {
+            taps.add(d, {1.0});
+        } else if (wanted > length) {
             const double middle = (d + 0.5) * step - 0.5;
-            place.first = int(std::floor(middle)) - 1;
-            place.shares.clear();
-            for (int k = 0; k < 4; ++k) place.shares.push_back(cubic(middle - (place.first + k)));
-        } else if (wanted < length) {
+            const int first = int(std::floor(middle)) - 1;
+            for (int k = 0; k < 4; ++k) shares.push_back(cubic(middle - (first + k)));
+            taps.add(first, std::move(shares));
+        } else {
             // Whole numbers over the wanted length: no rounding moves an edge into the next pixel.
             const std::int64_t begin = std::int64_t(d) * length, end = begin + length;
-            place.first = int(begin / wanted);
-            place.shares.clear();
             for (std::int64_t at = begin; at < end;) {
                 const std::int64_t next = std::min(end, (at / wanted + 1) * wanted);
-                place.shares.push_back(double(next - at) / length);
+                shares.push_back(double(next - at) / length);
                 at = next;
             }
-        }
-        most = std::max(most, place.shares.size());
-        places.push_back(std::move(place));
-    }
-    Taps taps;
-    taps.perPlace = int(most + kTapGroup - 1) / kTapGroup * kTapGroup;
-    for (const Place& place : places) {
-        taps.first.push_back(place.first);
-        taps.count.push_back(int(place.shares.size()));
-        // Differences of the rounded running sum: the shares are exactly one together.
-        double reached = 0;
-        int before = 0;
-        for (int k = 0; k < taps.perPlace; ++k) {
-            reached += k < int(place.shares.size()) ? place.shares[std::size_t(k)] : 0;
-            const int now = int(std::lround(reached * kShareOne));
-            taps.shares.push_back(std::int16_t(now - before));
-            before = now;
+            taps.add(int(begin / wanted), std::move(shares));
         }
     }
-    return taps;
+    return taps.build();
 }
-
-/// A wide row with room before and behind, where its ends are repeated for kernels that reach beyond them.
-class PaddedRow
-{
-public:
-    explicit PaddedRow(int pixels) : mPixels(pixels), mSamples(std::size_t(pixels + 2 * kPadding) * 4 + 64) {}
-    Wide* samples() { return mSamples.data() + 4 * kPadding; }
-    void repeatEnds()
-    {
-        Wide* begin = samples();
-        Wide* end = begin + std::ptrdiff_t{4} * mPixels;
-        for (int i = 0; i < kPadding; ++i) {
-            std::memcpy(begin - 4 * (i + 1), begin, 4 * sizeof(Wide));
-            std::memcpy(end + 4 * i, end - 4, 4 * sizeof(Wide));
-        }
-    }
-
-private:
-    int mPixels;
-    std::vector<Wide> mSamples;
-};
 
 /// Down the columns first: every source row is read once and what is left is narrow.
 void shrinkRows(ConstBitmapView source, BitmapView destination, const Taps& columns, int from, int to)
@@ -152,6 +111,15 @@ void resample(ConstBitmapView source, BitmapView destination)
             std::memcpy(destination.rowData(y), source.rowData(y), std::size_t(source.width) * 4);
         return;
     }
+    for (int level = 1; level <= kMostHalvings; ++level)
+        if (source.width == std::int64_t(destination.width) << level &&
+            source.height == std::int64_t(destination.height) << level) {
+            parallelBands(destination.height, grain, [&](int from, int to) {
+                for (int y = from; y < to; ++y)
+                    averageSquares(source, 0, y, destination.width, level, destination.row(y));
+            });
+            return;
+        }
     const Taps columns = makeTaps(source.width, destination.width, 0, destination.width);
     parallelBands(destination.height, grain, [&](int from, int to) {
         if (destination.height > source.height)

@@ -3,6 +3,7 @@
 #include "canvas/ResampleRows.h"
 #include "platform/Simd.h"
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #if defined(__x86_64__)
 #include <immintrin.h>
@@ -17,28 +18,15 @@ namespace
 /// a * b / 32768, rounded; the form the compiler knows as one instruction.
 inline Wide mulRound(Wide a, Wide b) { return Wide(((std::int32_t(a) * b >> 14) + 1) >> 1); }
 
-ZP_MULTIVERSION void setRow(const std::uint8_t* __restrict a, Wide wa, Wide* __restrict out, int samples)
+/// Rows times their shares, from sample @p from on.
+void sumRowsPlain(const std::uint8_t* const* rows, const std::int16_t* shares, int count, Wide* out, int from,
+                  int samples)
 {
-    for (int i = 0; i < samples; ++i) out[i] = mulRound(Wide(a[i] << kSourceBits), wa);
-}
-
-ZP_MULTIVERSION void addRow(const std::uint8_t* __restrict a, Wide wa, Wide* __restrict out, int samples)
-{
-    for (int i = 0; i < samples; ++i) out[i] = Wide(out[i] + mulRound(Wide(a[i] << kSourceBits), wa));
-}
-
-ZP_MULTIVERSION void setTwoRows(const std::uint8_t* __restrict a, Wide wa, const std::uint8_t* __restrict b, Wide wb,
-                                Wide* __restrict out, int samples)
-{
-    for (int i = 0; i < samples; ++i)
-        out[i] = Wide(mulRound(Wide(a[i] << kSourceBits), wa) + mulRound(Wide(b[i] << kSourceBits), wb));
-}
-
-ZP_MULTIVERSION void addTwoRows(const std::uint8_t* __restrict a, Wide wa, const std::uint8_t* __restrict b, Wide wb,
-                                Wide* __restrict out, int samples)
-{
-    for (int i = 0; i < samples; ++i)
-        out[i] = Wide(out[i] + mulRound(Wide(a[i] << kSourceBits), wa) + mulRound(Wide(b[i] << kSourceBits), wb));
+    for (int i = from; i < samples; ++i) {
+        int sum = 0;
+        for (int k = 0; k < count; ++k) sum += mulRound(Wide(rows[k][i] << kSourceBits), shares[k]);
+        out[i] = Wide(sum);
+    }
 }
 
 ZP_MULTIVERSION void addLong(const std::uint8_t* __restrict bytes, std::uint32_t share, std::uint32_t* __restrict sums,
@@ -54,15 +42,15 @@ ZP_MULTIVERSION void shortenLong(const std::uint32_t* __restrict sums, Wide* __r
     for (int i = 0; i < samples; ++i) out[i] = Wide((sums[i] + (1u << (kShift - 1))) >> kShift);
 }
 
-/// Places with too many shares for rounded products.
-ZP_MULTIVERSION void sumAlongExact(const Wide* __restrict row, const int* __restrict first,
+/// Places with too many shares for rounded products. Only those that count are read: the last place may have few.
+ZP_MULTIVERSION void sumAlongExact(const Wide* __restrict row, const int* __restrict first, const int* __restrict count,
                                    const std::int16_t* __restrict shares, int perPlace, Wide* __restrict out,
                                    int places)
 {
     for (int x = 0; x < places; ++x) {
         const Wide* p = row + std::ptrdiff_t{4} * first[x];
         std::int32_t sum[4] = {1 << 14, 1 << 14, 1 << 14, 1 << 14};
-        for (int k = 0; k < perPlace; ++k)
+        for (int k = 0; k < count[x]; ++k)
             for (int c = 0; c < 4; ++c) sum[c] += p[4 * k + c] * shares[k];
         for (int c = 0; c < 4; ++c) out[4 * x + c] = Wide(sum[c] >> 15);
         shares += perPlace;
@@ -126,6 +114,44 @@ ZP_AVX2 void sumAlongAvx2(const Wide* row, const int* first, const std::int16_t*
     sumAlongPlain(row, first + x, shares, perPlace, out + 4 * x, places - x);
 }
 
+/// All rows of a block are summed before the next block: the sums stay in registers. @return samples done
+ZP_AVX2 int sumRowsAvx2(const std::uint8_t* const* rows, const std::int16_t* shares, int count, Wide* out, int samples)
+{
+    int i = 0;
+    for (; i + 64 <= samples; i += 64) {
+        __m256i sum[4] = {};
+        for (int k = 0; k < count; ++k) {
+            const __m256i share = _mm256_set1_epi16(shares[k]);
+            for (int v = 0; v < 4; ++v) {
+                const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(rows[k] + i + 16 * v));
+                const __m256i wide = _mm256_slli_epi16(_mm256_cvtepu8_epi16(bytes), kSourceBits);
+                sum[v] = _mm256_add_epi16(sum[v], _mm256_mulhrs_epi16(wide, share));
+            }
+        }
+        for (int v = 0; v < 4; ++v) _mm256_storeu_si256(reinterpret_cast<__m256i*>(out + i + 16 * v), sum[v]);
+    }
+    return i;
+}
+
+__attribute__((target("avx512f,avx512bw"))) int
+sumRowsAvx512(const std::uint8_t* const* rows, const std::int16_t* shares, int count, Wide* out, int samples)
+{
+    int i = 0;
+    for (; i + 128 <= samples; i += 128) {
+        __m512i sum[4] = {};
+        for (int k = 0; k < count; ++k) {
+            const __m512i share = _mm512_set1_epi16(shares[k]);
+            for (int v = 0; v < 4; ++v) {
+                const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(rows[k] + i + 32 * v));
+                const __m512i wide = _mm512_slli_epi16(_mm512_cvtepu8_epi16(bytes), kSourceBits);
+                sum[v] = _mm512_add_epi16(sum[v], _mm512_mulhrs_epi16(wide, share));
+            }
+        }
+        for (int v = 0; v < 4; ++v) _mm512_storeu_si512(out + i + 32 * v, sum[v]);
+    }
+    return i;
+}
+
 ZP_AVX2 int finishAvx2(const Wide* row, std::uint32_t* pixels, int count, int bits)
 {
     const __m256i half = _mm256_set1_epi16(std::int16_t(1 << (bits - 1)));
@@ -148,6 +174,16 @@ ZP_AVX2 int finishAvx2(const Wide* row, std::uint32_t* pixels, int count, int bi
 }
 #endif
 
+bool haveAvx512()
+{
+#if defined(__x86_64__)
+    static const bool have = __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw");
+    return have;
+#else
+    return false;
+#endif
+}
+
 bool haveAvx2()
 {
 #if defined(__x86_64__)
@@ -159,6 +195,41 @@ bool haveAvx2()
 }
 
 } // namespace
+
+Taps TapsBuilder::build() const
+{
+    std::size_t most = 1;
+    for (const Place& place : mPlaces) most = std::max(most, place.shares.size());
+    Taps taps;
+    taps.perPlace = int(most + kTapGroup - 1) / kTapGroup * kTapGroup;
+    taps.first.reserve(mPlaces.size());
+    taps.count.reserve(mPlaces.size());
+    taps.shares.reserve(mPlaces.size() * std::size_t(taps.perPlace));
+    for (const Place& place : mPlaces) {
+        taps.first.push_back(place.first);
+        taps.count.push_back(int(place.shares.size()));
+        double reached = 0;
+        int before = 0;
+        for (const double share : place.shares) {
+            reached += share;
+            const int now = int(std::lround(reached * kShareOne));
+            taps.shares.push_back(std::int16_t(now - before));
+            before = now;
+        }
+        taps.shares.resize(taps.first.size() * std::size_t(taps.perPlace), 0);
+    }
+    return taps;
+}
+
+void PaddedRow::repeatEnds()
+{
+    Wide* begin = samples();
+    Wide* end = begin + std::ptrdiff_t{4} * mPixels;
+    for (int i = 0; i < kPadding; ++i) {
+        std::memcpy(begin - 4 * (i + 1), begin, 4 * sizeof(Wide));
+        std::memcpy(end + 4 * i, end - 4, 4 * sizeof(Wide));
+    }
+}
 
 ZP_MULTIVERSION void widenRow(const std::uint32_t* __restrict pixels, Wide* __restrict out, int count)
 {
@@ -177,21 +248,24 @@ void sumRows(ConstBitmapView source, const Taps& rows, std::size_t place, Wide* 
             addLong(source.rowData(first + k), std::uint32_t(shares[k]), longSums.data(), samples);
         return shortenLong(longSums.data(), out, samples);
     }
-    if (count == 1)
-        setRow(source.rowData(first), shares[0], out, samples);
-    else
-        setTwoRows(source.rowData(first), shares[0], source.rowData(first + 1), shares[1], out, samples);
-    int k = 2;
-    for (; k + 2 <= count; k += 2)
-        addTwoRows(source.rowData(first + k), shares[k], source.rowData(first + k + 1), shares[k + 1], out, samples);
-    if (k < count) addRow(source.rowData(first + k), shares[k], out, samples);
+    const std::uint8_t* lines[kMostRounded];
+    for (int k = 0; k < count; ++k) lines[k] = source.rowData(first + k);
+    int done = 0;
+#if defined(__x86_64__)
+    if (haveAvx512())
+        done = sumRowsAvx512(lines, shares, count, out, samples);
+    else if (haveAvx2())
+        done = sumRowsAvx2(lines, shares, count, out, samples);
+#endif
+    sumRowsPlain(lines, shares, count, out, done, samples);
 }
 
 void sumAlong(const Wide* row, const Taps& columns, Wide* out)
 {
     const int places = int(columns.first.size());
     if (columns.perPlace > kMostRounded)
-        sumAlongExact(row, columns.first.data(), columns.shares.data(), columns.perPlace, out, places);
+        sumAlongExact(row, columns.first.data(), columns.count.data(), columns.shares.data(), columns.perPlace, out,
+                      places);
 #if defined(__x86_64__)
     else if (haveAvx2())
         sumAlongAvx2(row, columns.first.data(), columns.shares.data(), columns.perPlace, out, places);

@@ -3,6 +3,7 @@
 #pragma once
 #include "platform/BitmapView.h"
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace zp::resampling
@@ -20,14 +21,44 @@ inline constexpr int kTapGroup = 4;
 /// Up to this many shares to a place are summed as rounded products; more of them would add up their roundings to half
 /// a level, and are summed exactly.
 inline constexpr int kMostRounded = 16;
-/// Pixels repeated before and behind a row: a cubic's reach and a group's.
-inline constexpr int kPadding = 8;
+/// Pixels repeated before and behind a row: a cubic's reach, and what shares of zero may read.
+inline constexpr int kPadding = kMostRounded + 4;
 
 /// For each destination position: the first source position (it may lie outside), how many count, and their shares.
 struct Taps {
     std::vector<int> first, count;
     std::vector<std::int16_t> shares; ///< perPlace of them a place, zeros behind those that count
     int perPlace = 0;
+};
+
+/// Collects the shares of one place after the other.
+class TapsBuilder
+{
+public:
+    /// @param shares what each source position from @p first on counts; they are one together
+    void add(int first, std::vector<double> shares) { mPlaces.push_back({first, std::move(shares)}); }
+    /// Shares as differences of their rounded running sum, so that they are exactly one together.
+    Taps build() const;
+
+private:
+    struct Place {
+        int first;
+        std::vector<double> shares;
+    };
+    std::vector<Place> mPlaces;
+};
+
+/// A wide row with room before and behind, where its ends are repeated for kernels that reach beyond them.
+class PaddedRow
+{
+public:
+    explicit PaddedRow(int pixels) : mPixels(pixels), mSamples(std::size_t(pixels + 2 * kPadding) * 4 + 64) {}
+    Wide* samples() { return mSamples.data() + 4 * kPadding; }
+    void repeatEnds();
+
+private:
+    int mPixels;
+    std::vector<Wide> mSamples;
 };
 
 /// Source pixels as wide samples with kSourceBits.

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The picture as screen pixels: one path at full size, one for squares, one for halves and one for any reduction.
 #include "canvas/ScreenRenderer.h"
+#include "canvas/Halving.h"
+#include "canvas/ResampleRows.h"
 #include "platform/Simd.h"
 #include "platform/WorkPool.h"
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cmath>
 #include <vector>
@@ -15,10 +16,10 @@ namespace zp
 namespace
 {
 
+using namespace resampling;
+
 static_assert(std::endian::native == std::endian::little, "alpha is taken from the low byte of a pixel's word");
 
-/// Two of a pixel's four bytes, each with 16 bits of room: sums of up to 257 pixels do not meet.
-constexpr std::uint32_t kPairMask = 0x00FF00FF;
 /// Grey behind the picture, as a byte: half of 255, rounded.
 constexpr std::uint32_t kGray = 128;
 
@@ -41,87 +42,6 @@ ZP_MULTIVERSION void pickColumns(const std::uint32_t* __restrict row, const std:
     for (int i = 0; i < count; ++i) out[i] = row[column[i]];
 }
 
-/// Sums of two rows, byte by byte, in pairs with room; added to what is there or put in its place.
-ZP_MULTIVERSION void sumTwoRows(const std::uint32_t* __restrict a, const std::uint32_t* __restrict b,
-                                std::uint32_t* __restrict even, std::uint32_t* __restrict odd, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        even[i] = (a[i] & kPairMask) + (b[i] & kPairMask);
-        odd[i] = ((a[i] >> 8) & kPairMask) + ((b[i] >> 8) & kPairMask);
-    }
-}
-
-ZP_MULTIVERSION void addTwoRows(const std::uint32_t* __restrict a, const std::uint32_t* __restrict b,
-                                std::uint32_t* __restrict even, std::uint32_t* __restrict odd, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        even[i] += (a[i] & kPairMask) + (b[i] & kPairMask);
-        odd[i] += ((a[i] >> 8) & kPairMask) + ((b[i] >> 8) & kPairMask);
-    }
-}
-
-ZP_MULTIVERSION void addNeighbours(const std::uint32_t* __restrict in, std::uint32_t* __restrict out, int count)
-{
-    for (int i = 0; i < count; ++i) out[i] = in[2 * i] + in[2 * i + 1];
-}
-
-/// Sums of 1 << shift pixels back to pixels, rounded.
-ZP_MULTIVERSION void divideSums(const std::uint32_t* __restrict even, const std::uint32_t* __restrict odd,
-                                std::uint32_t* __restrict pixels, int count, int shift)
-{
-    const std::uint32_t half = 0x00010001u << (shift - 1);
-    for (int i = 0; i < count; ++i) {
-        const std::uint32_t e = ((even[i] + half) >> shift) & kPairMask;
-        const std::uint32_t o = ((odd[i] + half) >> shift) & kPairMask;
-        pixels[i] = e | (o << 8);
-    }
-}
-
-// A row's weight is a share of 256 on the way down to 16-bit sums: enough while a row's share is some 8 of them.
-constexpr std::uint32_t kRowOne = 256;
-constexpr double kLargestShortStep = 32;
-// For longer steps the share is one of 65536, in 32-bit sums.
-constexpr std::uint32_t kLongRowOne = 65536;
-/// A column's weight is a share of this.
-constexpr std::uint32_t kColumnOne = 16384;
-
-ZP_MULTIVERSION void setWeighted(const std::uint8_t* __restrict bytes, std::uint16_t* __restrict sums, int count,
-                                 std::uint32_t weight)
-{
-    const auto w = std::uint16_t(weight);
-    for (int i = 0; i < count; ++i) sums[i] = std::uint16_t(bytes[i] * w);
-}
-
-ZP_MULTIVERSION void addWeighted(const std::uint8_t* __restrict bytes, std::uint16_t* __restrict sums, int count,
-                                 std::uint32_t weight)
-{
-    const auto w = std::uint16_t(weight);
-    for (int i = 0; i < count; ++i) sums[i] = std::uint16_t(sums[i] + bytes[i] * w);
-}
-
-ZP_MULTIVERSION void addWeightedLong(const std::uint8_t* __restrict bytes, std::uint32_t* __restrict sums, int count,
-                                     std::uint32_t weight)
-{
-    for (int i = 0; i < count; ++i) sums[i] += bytes[i] * weight;
-}
-
-ZP_MULTIVERSION void shortenSums(const std::uint32_t* __restrict sums, std::uint16_t* __restrict out, int count)
-{
-    for (int i = 0; i < count; ++i) out[i] = std::uint16_t(sums[i] >> 8);
-}
-
-/// Which source columns (or rows) one device column (or row) covers, and the share of each.
-struct Cover {
-    int first = 0, count = 0;
-    std::size_t weights = 0; ///< index of the first share
-};
-
-/// Covers of the device positions [from, to) of one axis.
-struct Axis {
-    std::vector<Cover> covers;
-    std::vector<std::uint32_t> weights;
-};
-
 /// The place on the image where device position @p d begins. Places that only rounding keeps from a pixel's edge are
 /// put on it, so that whole steps cover whole pixels.
 double edgeOf(int d, double scale)
@@ -131,46 +51,20 @@ double edgeOf(int d, double scale)
     return std::abs(edge - whole) < 1e-6 ? whole : edge;
 }
 
-Axis coverAxis(int from, int to, double scale, int length, std::uint32_t one)
+/// What each of the device positions [from, to) covers of an axis; source positions counted from @p origin.
+Taps coverAxis(int from, int to, double scale, int length, int origin)
 {
-    Axis axis;
-    axis.covers.resize(std::size_t(to - from));
+    TapsBuilder taps;
     for (int d = from; d < to; ++d) {
         const double begin = std::clamp(edgeOf(d, scale), 0.0, double(length));
         const double end = std::clamp(edgeOf(d + 1, scale), 0.0, double(length));
-        Cover& cover = axis.covers[std::size_t(d - from)];
-        cover.weights = axis.weights.size();
-        if (!(end > begin)) continue;
-        cover.first = int(std::floor(begin));
-        cover.count = int(std::ceil(end)) - cover.first;
-        // Shares are differences of rounded running sums: they come out at exactly one together.
-        std::uint32_t before = 0;
-        for (int i = 0; i < cover.count; ++i) {
-            const double reached = std::min(double(cover.first + i + 1), end) - begin;
-            const auto sum = std::uint32_t(std::lround(one * (reached / (end - begin))));
-            axis.weights.push_back(sum - before);
-            before = sum;
-        }
+        const int first = int(std::floor(begin)), last = int(std::ceil(end));
+        std::vector<double> shares;
+        for (int i = first; i < last; ++i)
+            shares.push_back((std::min(double(i + 1), end) - std::max(double(i), begin)) / (end - begin));
+        taps.add(first - origin, std::move(shares));
     }
-    return axis;
-}
-
-/// One device row from the weighted sums of its source rows; sums start at source column @p origin.
-ZP_MULTIVERSION void sumColumns(const std::uint16_t* __restrict sums, const Cover* __restrict covers,
-                                const std::uint32_t* __restrict weights, std::uint32_t* __restrict pixels, int count,
-                                int origin)
-{
-    constexpr int kShift = 8 + 14; // both ones
-    for (int x = 0; x < count; ++x) {
-        const Cover& cover = covers[x];
-        std::uint32_t total[4] = {1u << (kShift - 1), 1u << (kShift - 1), 1u << (kShift - 1), 1u << (kShift - 1)};
-        const std::uint16_t* sum = sums + std::ptrdiff_t{4} * (cover.first - origin);
-        const std::uint32_t* weight = weights + cover.weights;
-        for (int i = 0; i < cover.count; ++i)
-            for (int c = 0; c < 4; ++c) total[c] += sum[4 * i + c] * weight[i];
-        pixels[x] =
-            (total[0] >> kShift) | (total[1] >> kShift) << 8 | (total[2] >> kShift) << 16 | (total[3] >> kShift) << 24;
-    }
+    return taps.build();
 }
 
 /// Rows [y0, y1) of the box at full size or larger.
@@ -205,60 +99,28 @@ void renderSquares(ConstBitmapView image, std::uint32_t* out, std::ptrdiff_t out
 /// Every device pixel covers 1 << level by 1 << level whole image pixels, all of them inside the image.
 void renderHalves(ConstBitmapView image, std::uint32_t* out, std::ptrdiff_t outStride, PixelBox box, int level)
 {
-    constexpr int kPiece = 1024; // source pixels a piece: its sums stay in the first cache
-    const int step = 1 << level;
-    alignas(64) std::array<std::array<std::uint32_t, kPiece>, 2> even, odd;
+    std::vector<std::uint32_t> pixels(std::size_t(box.width()));
     for (int y = box.y0; y < box.y1; ++y) {
-        for (int x = box.x0; x < box.x1; x += kPiece >> level) {
-            const int count = std::min(kPiece >> level, box.x1 - x);
-            int wide = count << level;
-            for (int r = 0; r < step; r += 2) {
-                const std::uint32_t* a = image.row((y << level) + r) + (std::ptrdiff_t{x} << level);
-                const std::uint32_t* b = image.row((y << level) + r + 1) + (std::ptrdiff_t{x} << level);
-                if (r == 0)
-                    sumTwoRows(a, b, even[0].data(), odd[0].data(), wide);
-                else
-                    addTwoRows(a, b, even[0].data(), odd[0].data(), wide);
-            }
-            int full = 0;
-            for (int fold = 0; fold < level; ++fold, full ^= 1) {
-                wide >>= 1;
-                addNeighbours(even[std::size_t(full)].data(), even[std::size_t(full ^ 1)].data(), wide);
-                addNeighbours(odd[std::size_t(full)].data(), odd[std::size_t(full ^ 1)].data(), wide);
-            }
-            std::uint32_t* pixels = even[std::size_t(full ^ 1)].data();
-            divideSums(even[std::size_t(full)].data(), odd[std::size_t(full)].data(), pixels, count, 2 * level);
-            convertRow(pixels, out + outStride * (y - box.y0) + (x - box.x0), count);
-        }
+        averageSquares(image, box.x0, y, box.width(), level, pixels.data());
+        convertRow(pixels.data(), out + outStride * (y - box.y0), box.width());
     }
 }
 
 /// Any reduction; every device pixel touches the image.
 void renderReduced(ConstBitmapView image, std::uint32_t* out, std::ptrdiff_t outStride, PixelBox box, double scale)
 {
-    const bool isLong = 1 / scale > kLargestShortStep;
-    const Axis rows = coverAxis(box.y0, box.y1, scale, image.height, isLong ? kLongRowOne : kRowOne);
-    const Axis columns = coverAxis(box.x0, box.x1, scale, image.width, kColumnOne);
-    const int origin = columns.covers.front().first;
-    const int bytes = 4 * (columns.covers.back().first + columns.covers.back().count - origin);
-    std::vector<std::uint16_t> sums(std::size_t(bytes), 0);
-    std::vector<std::uint32_t> longSums(isLong ? std::size_t(bytes) : 0);
-    std::vector<std::uint32_t> pixels(std::size_t(box.width()));
+    const int origin = int(std::floor(edgeOf(box.x0, scale)));
+    const int end = std::min(image.width, int(std::ceil(edgeOf(box.x1, scale))));
+    const Taps rows = coverAxis(box.y0, box.y1, scale, image.height, 0);
+    const Taps columns = coverAxis(box.x0, box.x1, scale, image.width, origin);
+    const ConstBitmapView covered = image.part({origin, 0, end, image.height});
+    PaddedRow sums(covered.width);
+    std::vector<Wide> line(std::size_t(box.width()) * 4 + 64);
+    std::vector<std::uint32_t> longSums, pixels(std::size_t(box.width()));
     for (int y = box.y0; y < box.y1; ++y) {
-        const Cover& cover = rows.covers[std::size_t(y - box.y0)];
-        if (isLong) std::ranges::fill(longSums, 0u);
-        for (int i = 0; i < cover.count; ++i) {
-            const std::uint8_t* line = image.pixel(origin, cover.first + i);
-            const std::uint32_t weight = rows.weights[cover.weights + std::size_t(i)];
-            if (isLong)
-                addWeightedLong(line, longSums.data(), bytes, weight);
-            else if (i == 0)
-                setWeighted(line, sums.data(), bytes, weight);
-            else
-                addWeighted(line, sums.data(), bytes, weight);
-        }
-        if (isLong) shortenSums(longSums.data(), sums.data(), bytes);
-        sumColumns(sums.data(), columns.covers.data(), columns.weights.data(), pixels.data(), box.width(), origin);
+        sumRows(covered, rows, std::size_t(y - box.y0), sums.samples(), longSums);
+        sumAlong(sums.samples(), columns, line.data());
+        finishRow(line.data(), pixels.data(), box.width(), kFirstBits - 1);
         convertRow(pixels.data(), out + outStride * (y - box.y0), box.width());
     }
 }
@@ -300,7 +162,7 @@ void renderToScreen(ConstBitmapView image, std::uint32_t* out, std::ptrdiff_t ou
 
     const double step = 1 / scale;
     int level = 0;
-    for (int l = 1; l <= 4; ++l)
+    for (int l = 1; l <= kMostHalvings; ++l)
         if (std::abs(step - (1 << l)) < 1e-9) level = l;
     // The last column or row of halves may cover less than a whole square: the general way takes those.
     const PixelBox whole = level == 0 ? shown : shown.intersected({0, 0, image.width >> level, image.height >> level});
