@@ -95,6 +95,7 @@ void MainWindow::setUpToolOptions()
         mToolButtons.push_back(button);
     }
     mUi->toolColumn->addStretch();
+    mUi->mToolPopUp->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     mToolButtons[0]->setChecked(true);
     const auto choose = [this](int index) {
         mCanvas->setTool(index);
@@ -205,6 +206,7 @@ void MainWindow::setUpStatusLine()
 
 void MainWindow::setToolImages()
 {
+    setWindowIcon(applicationImage("zelpane", palette()));
     for (int i = 0; i < int(std::size(kTools)); ++i) {
         const QIcon icon = applicationImage(kTools[i].title, palette());
         mUi->mToolPopUp->setItemIcon(i, icon);
@@ -315,7 +317,8 @@ void MainWindow::fitToWindow()
     if (!mCanvas->imageLoaded()) return;
     // The viewport without scroll bars, whether they show now or not.
     const QSize room = mUi->mScrollView->size();
-    const float scale = std::min(float(room.width()) / size.width, float(room.height()) / size.height);
+    // Half a pixel less, so that rounding up never brings a scroll bar.
+    const float scale = std::min((float(room.width()) - 0.5f) / size.width, (float(room.height()) - 0.5f) / size.height);
     mCanvas->setZoom(mCanvas->m2xRetina ? scale * 2 : scale);
 }
 

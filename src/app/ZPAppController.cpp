@@ -57,6 +57,7 @@ ZPAppController::ZPAppController() : mWindow(std::make_unique<MainWindow>()), mC
                       [] { ZPTextEditor::sharedInstance()->showWindow(); }, [] { ZPTextEditor::sharedInstance()->run(); },
                       [](Point start) { return ZPTextEditor::sharedInstance()->textPathAtPoint(start); },
                       [] { return ZPTextEditor::sharedInstance()->isValid(); }});
+    ZPSmartFill::registerWithCanvas();
     mWindow->mayClose = [this] {
         terminate();
         return false;
