@@ -6,6 +6,7 @@
 #include "imageops/Adjustment.h"
 #include "platform/BitmapContext.h"
 #include "platform/Log.h"
+#include "platform/MainThreadWake.h"
 #include "platform/ScrollView.h"
 #include "selection/FloatingImage.h"
 #include "selection/OutlineSimplifier.h"
@@ -28,20 +29,17 @@ constexpr int kOutlineMargin = 3;
 
 /// What the drawing remembers from one redraw to the next.
 struct DrawingState {
-    QImage buffer;          ///< screen words of the part being redrawn; grows, never shrinks
-    std::mutex pendingLock; ///< guards the two below
-    Rect pending;           ///< asked for by workers, not yet handed to Qt
-    bool pendingPosted = false;
+    explicit DrawingState(std::function<void()> passOn) : requested(std::move(passOn)) {}
+    QImage buffer;                                     ///< screen words of the part being redrawn; grows, never shrinks
+    std::mutex pendingLock;                            ///< guards the one below
+    Rect pending;                                      ///< asked for by workers, not yet handed to Qt
+    MainThreadWake requested;                          ///< a worker says that something is pending
     std::shared_ptr<BitmapRep> scratch;                ///< the picture under overlays, with them
     QPointF brushOutline{-1, -1};                      ///< where the brush outline was drawn last
     OutlineDrawing selectionOutline, auxOutline, ring; ///< what of each outline is on screen
 };
 
-DrawingState& stateOf(ZPCanvas& canvas)
-{
-    if (!canvas.mDrawingState) canvas.mDrawingState = std::make_shared<DrawingState>();
-    return *static_cast<DrawingState*>(canvas.mDrawingState.get());
-}
+DrawingState& stateOf(ZPCanvas& canvas) { return *static_cast<DrawingState*>(canvas.mDrawingState.get()); }
 
 double zoomNumber(const QString& title)
 {
@@ -101,21 +99,9 @@ void ZPCanvas::setNeedsDisplayInRect(Rect imageRect)
     // the event queue.
     DrawingState& state = stateOf(*this);
     const std::lock_guard lock(state.pendingLock);
+    const bool first = state.pending.isEmpty();
     state.pending = unionRect(state.pending, imageRect);
-    if (std::exchange(state.pendingPosted, true)) return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            DrawingState& mine = stateOf(*this);
-            Rect rect;
-            {
-                const std::lock_guard posted(mine.pendingLock);
-                rect = std::exchange(mine.pending, Rect{});
-                mine.pendingPosted = false;
-            }
-            setNeedsDisplayInRect(rect);
-        },
-        Qt::QueuedConnection);
+    if (first && !state.pending.isEmpty()) state.requested.wake();
 }
 
 void ZPCanvas::displayNow() { repaint(); }
@@ -169,6 +155,16 @@ void ZPCanvas::setZoom(float factor, std::optional<Point> anchor)
 
 void ZPCanvas::startFollowingPointer()
 {
+    // Made here, before any worker can ask for it.
+    mDrawingState = std::make_shared<DrawingState>([this] {
+        DrawingState& mine = stateOf(*this);
+        Rect rect;
+        {
+            const std::lock_guard posted(mine.pendingLock);
+            rect = std::exchange(mine.pending, Rect{});
+        }
+        setNeedsDisplayInRect(rect);
+    });
     connect(this, &ZPCanvas::pointerMoved, this, [this](QPointF) {
         if (mTool == 1 && mPolygonLasso && !mIsMouseDown && mSelectionPath) setNeedsDisplay();
         if (mTool == 3 || mTool == 4 || mTool == 5 || mTool == 9) {

@@ -3,6 +3,7 @@
 #pragma once
 #include "canvas/ZPCanvas.h"
 #include "platform/BitmapRep.h"
+#include "platform/MainThreadWake.h"
 #include "tools/PointerFeed.h"
 #include <memory>
 
@@ -26,6 +27,8 @@ struct ToolState {
     std::atomic<std::uint32_t> segmentsDrawn{0}; ///< painted, and their redisplay asked for
     std::atomic<bool> captureDone{true};         ///< the capture thread stores no more points
     Wakeup points;                               ///< capture thread to drawing thread: another point, or the end
+    std::atomic<std::uint32_t> strokeDrawn{0};   ///< the number of the stroke whose drawing thread has ended
+    std::unique_ptr<MainThreadWake> ended;       ///< drawing thread to main thread: that it has
 
     int brushShapeIndex = -1;                    ///< which shape is kept below
     std::shared_ptr<const BitmapRep> brushShape; ///< as it was read; null when there is no such picture

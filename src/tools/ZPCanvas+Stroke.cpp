@@ -110,6 +110,13 @@ void ZPToolActions::pressBrush(ZPCanvas& canvas, Point point)
     state.segmentsDrawn = 0;
     state.strokeOpen = true;
     ++state.strokeNumber;
+    if (!state.ended) {
+        state.ended = std::make_unique<MainThreadWake>([&canvas, &state] {
+            // A late call may find the stroke ended already, or another one in progress.
+            if (state.strokeOpen && state.strokeDrawn.load(std::memory_order_acquire) == state.strokeNumber)
+                endStroke(canvas);
+        });
+    }
     canvas._ptIndex = 0; // before either thread runs: the drawing thread must not see the last stroke's points
     canvas.mDrawFinishedFlag = 0;
     canvas.mPointerFeed = std::make_shared<PointerFeed>();
@@ -231,11 +238,6 @@ void ZPCanvas::drawThread()
     }
     if (drained) logLine("draw thread finish");
     // The flag is set where the snapshot is taken, on the main thread: between the two no press may come.
-    QMetaObject::invokeMethod(
-        this,
-        [this, number = state.strokeNumber] {
-            const ToolState& now = toolState(*this);
-            if (now.strokeOpen && now.strokeNumber == number) endStroke(*this);
-        },
-        Qt::QueuedConnection);
+    state.strokeDrawn.store(state.strokeNumber, std::memory_order_release);
+    state.ended->wake();
 }
