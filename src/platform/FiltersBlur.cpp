@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Gaussian blur and unsharp mask: columns of a few hundred pixels run down the picture with their last rows in cache.
 #include "platform/FiltersBlur.h"
+#include "platform/FiltersRing.h"
 #include "platform/WorkPool.h"
 #include <algorithm>
 #include <cmath>
@@ -13,46 +14,9 @@ namespace zp::filters
 namespace
 {
 
-/// A blur wider than any picture leaves its mean; beyond this nothing changes any more worth the time.
-constexpr double kWidestSigma = 1000;
-
 /// Pixels across a strip: with the rows a kernel of usual width needs, its samples fit the second cache with room to
 /// spare, and the pixels computed twice at its sides are few.
 constexpr int kStrip = 256;
-
-/// Rows of 64-byte aligned wide samples, found by their number modulo the count.
-class Ring
-{
-public:
-    Ring(int rows, int pixels)
-        : mRows(rows), mStride(std::size_t(pixels) * 4 + 32), mSamples(std::size_t(rows) * mStride + 32, Wide{0})
-    {
-        const auto address = reinterpret_cast<std::uintptr_t>(mSamples.data());
-        mFirst = (64 - address % 64) % 64 / sizeof(Wide);
-    }
-    Wide* row(int y) { return mSamples.data() + mFirst + std::size_t(y % mRows) * mStride; }
-
-private:
-    int mRows;
-    std::size_t mStride, mFirst;
-    std::vector<Wide> mSamples;
-};
-
-/// Pixels [x0, x1) of a source row as wide samples, colour steps applied; places outside repeat the row's end.
-void fetchRow(ConstBitmapView source, int y, int x0, int x1, const BlurJob& job, Wide* out)
-{
-    const int in0 = std::clamp(x0, 0, source.width - 1), in1 = std::clamp(x1, in0 + 1, source.width);
-    const std::uint32_t* pixels = source.row(y) + in0;
-    Wide* inside = out + std::ptrdiff_t{4} * (in0 - x0);
-    if (job.colour)
-        colourRowWide(pixels, inside, in1 - in0, job.matrix);
-    else
-        widenRow(pixels, inside, in1 - in0);
-    for (Wide* p = inside - 4; p >= out; p -= 4) std::memcpy(p, inside, 4 * sizeof(Wide));
-    const Wide* last = inside + std::ptrdiff_t{4} * (in1 - in0 - 1);
-    for (Wide* p = inside + std::ptrdiff_t{4} * (in1 - in0); p < out + std::ptrdiff_t{4} * (x1 - x0); p += 4)
-        std::memcpy(p, last, 4 * sizeof(Wide));
-}
 
 void blurStrip(ConstBitmapView source, BitmapView destination, const BlurJob& job, const BlurWeights& weights,
                const BlurPasses& passes, PixelBox box)
@@ -81,6 +45,21 @@ void blurStrip(ConstBitmapView source, BitmapView destination, const BlurJob& jo
 
 } // namespace
 
+void fetchRow(ConstBitmapView source, int y, int x0, int x1, const BlurJob& job, Wide* out)
+{
+    const int in0 = std::clamp(x0, 0, source.width - 1), in1 = std::clamp(x1, in0 + 1, source.width);
+    const std::uint32_t* pixels = source.row(y) + in0;
+    Wide* inside = out + std::ptrdiff_t{4} * (in0 - x0);
+    if (job.colour)
+        colourRowWide(pixels, inside, in1 - in0, job.matrix);
+    else
+        widenRow(pixels, inside, in1 - in0);
+    for (Wide* p = inside - 4; p >= out; p -= 4) std::memcpy(p, inside, 4 * sizeof(Wide));
+    const Wide* last = inside + std::ptrdiff_t{4} * (in1 - in0 - 1);
+    for (Wide* p = inside + std::ptrdiff_t{4} * (in1 - in0); p < out + std::ptrdiff_t{4} * (x1 - x0); p += 4)
+        std::memcpy(p, last, 4 * sizeof(Wide));
+}
+
 BlurWeights gaussianWeights(double sigma)
 {
     sigma = std::min(sigma, kWidestSigma);
@@ -108,10 +87,11 @@ BlurWeights gaussianWeights(double sigma)
     return weights;
 }
 
-int blurReach(double sigma) { return int(std::ceil(3 * std::min(sigma, kWidestSigma))); }
+int blurReach(double sigma) { return int(std::ceil(5 * std::min(sigma, kWidestSigma))) + 2; }
 
 void blurPart(ConstBitmapView source, BitmapView destination, const BlurJob& job, PixelBox part)
 {
+    if (job.sigma > kWidestDirect && !job.sharpen) return wideBlurPart(source, destination, job, part);
     const BlurWeights weights = gaussianWeights(job.sigma);
     const BlurPasses& passes = job.passes ? *job.passes : blurPasses();
     const int radius = weights.radius();
