@@ -110,7 +110,7 @@ PixelMemory allocate(std::size_t bytes, bool zeroed)
         const std::size_t size = (std::max<std::size_t>(bytes, 1) + 63) / 64 * 64;
         auto* const memory = static_cast<std::uint8_t*>(std::aligned_alloc(64, size));
         if (memory && zeroed) std::memset(memory, 0, size);
-        return PixelMemory(memory, {size});
+        return PixelMemory(memory, {bytes}); // not the rounded size: by this it is known which kind to release
     }
     if (bytes > std::numeric_limits<std::size_t>::max() / 2) return PixelMemory(nullptr, {});
     const std::size_t size = (bytes + kHugePage - 1) / kHugePage * kHugePage;

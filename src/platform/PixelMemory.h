@@ -9,7 +9,7 @@ namespace zp
 {
 
 struct PixelMemoryRelease {
-    std::size_t bytes = 0; ///< what the block holds, which may be more than was asked for
+    std::size_t bytes = 0; ///< at least what was asked for; tells the release which kind of block it is
     void operator()(std::uint8_t* memory) const noexcept;
 };
 /// Owned bytes. Blocks of 1 MiB and more are 2 MiB aligned, advised for huge pages, and go back to a pool of a few
