@@ -178,7 +178,9 @@ bool OutlineDrawing::markTiles(PixelBox visible, int margin, int tile)
             cut(p.x, dx, view.x0 - reach, view.x1 + reach);
             cut(p.y, dy, view.y0 - reach, view.y1 + reach);
             if (!(t0 <= t1)) continue;
-            const int pieces = int(std::max(std::abs(dx), std::abs(dy)) * (t1 - t0) * toTile) + 1;
+            // Far ends can make the cut's own rounding larger than the view; no view has more tiles than this along it.
+            const float tiles = std::max(std::abs(dx), std::abs(dy)) * (t1 - t0) * toTile;
+            const int pieces = int(std::min(tiles, 4096.0f)) + 1;
             for (int k = 0; k < pieces; ++k) {
                 const float ta = t0 + (t1 - t0) * float(k) / float(pieces),
                             tb = t0 + (t1 - t0) * float(k + 1) / float(pieces);
