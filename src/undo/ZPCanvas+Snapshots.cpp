@@ -4,14 +4,17 @@
 #include "platform/Folders.h"
 #include "platform/Log.h"
 #include "platform/MainThreadWake.h"
+#include "platform/Simd.h"
 #include "platform/Sounds.h"
 #include "platform/SystemProbes.h"
+#include "platform/WorkPool.h"
 #include "undo/AlphaRLE.h"
 #include "undo/SnapshotJPEG.h"
 #include "undo/SnapshotNumbers.h"
 #include "undo/SnapshotStore.h"
 #include <QProgressBar>
 #include <QThread>
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
@@ -29,6 +32,18 @@ using Half = SnapshotStore::Half;
 constexpr int kFirstSnapshotDelay = 300; ///< milliseconds after an open, so that the picture is on screen first
 /// Paths of the alpha file operations go through a buffer of this size, its closing zero included.
 constexpr std::size_t kPathBuffer = 512;
+
+/// The colour file is lossy: beside an edge of transparency it may bring back more colour than the alpha allows, which
+/// every blend after it would carry on beyond white.
+ZP_MULTIVERSION void limitColourToAlpha(std::uint32_t* row, int width)
+{
+    for (int x = 0; x < width; ++x) {
+        const std::uint32_t word = row[x], alpha = word & 0xFF;
+        const std::uint32_t red = std::min(word >> 8 & 0xFF, alpha), green = std::min(word >> 16 & 0xFF, alpha),
+                            blue = std::min(word >> 24, alpha);
+        row[x] = blue << 24 | green << 16 | red << 8 | alpha;
+    }
+}
 
 double secondsSince(Clock::time_point start) { return std::chrono::duration<double>(Clock::now() - start).count(); }
 
@@ -259,7 +274,13 @@ void ZPCanvas::restoreSnapshot(std::int32_t number)
 
     start = Clock::now();
     const auto alpha = SnapshotStore::shared().read(number, Half::Alpha);
-    if (alpha && mBitmapRep) decodeAlphaRLE(*alpha, mBitmapRep->view());
+    if (alpha && mBitmapRep) {
+        const BitmapView pixels = mBitmapRep->view();
+        decodeAlphaRLE(*alpha, pixels);
+        parallelBands(pixels.height, 256, [&pixels](int first, int last) {
+            for (int y = first; y < last; ++y) limitColourToAlpha(pixels.row(y), pixels.width);
+        });
+    }
     setNeedsDisplay();
     if (mBusyIndicator) mBusyIndicator->hide();
     logLine("restoreSnapshot: RLE: %f", secondsSince(start));
