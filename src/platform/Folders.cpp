@@ -68,6 +68,12 @@ std::string resourcePath(const std::string& name)
     return pathByAppending(bundleFolder(), "Contents/Resources/" + name);
 }
 
+std::string readableResourcePath(const std::string& name)
+{
+    const std::string own = resourcePath(name);
+    return fileExists(own) ? own : pathByAppending(shippedResourcesFolder(), name);
+}
+
 std::string applicationSupportFolder() { return pathByAppending(homeFolder(), "Library/Application Support/Zelpane"); }
 
 std::string libraryFolder() { return pathByAppending(homeFolder(), "Pictures/Zelpane Image Library"); }

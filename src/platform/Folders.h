@@ -21,6 +21,9 @@ std::string temporaryFolder();
 std::string bundleFolder();
 /// bundleFolder() + "/Contents/Resources/" + name
 std::string resourcePath(const std::string& name);
+/// Where to read a resource that is never moved or changed (a brush tip, a sound): in the bundle, or, when that was made
+/// without it, among the shipped ones.
+std::string readableResourcePath(const std::string& name);
 /// The resources that ship with the program (read-only): ZELPANE_RESOURCES, else beside the binary, else installed.
 std::string shippedResourcesFolder();
 /// home + "Library/Application Support/Zelpane"

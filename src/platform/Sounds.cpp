@@ -100,8 +100,7 @@ private:
     static bool playFile(ca_context* context, const std::string& name)
     {
         if (name.empty() || name.find('/') != std::string::npos) return true;
-        std::string path = resourcePath(name + ".wav");
-        if (!fileExists(path)) path = pathByAppending(shippedResourcesFolder(), name + ".wav");
+        const std::string path = readableResourcePath(name + ".wav");
         if (!fileExists(path)) return true; // an unknown name is silence, not a fault of the machine
         return ca_context_play(context, 0, CA_PROP_MEDIA_FILENAME, path.c_str(), CA_PROP_EVENT_DESCRIPTION,
                                name.c_str(), CA_PROP_CANBERRA_CACHE_CONTROL, "permanent", nullptr) == CA_SUCCESS;

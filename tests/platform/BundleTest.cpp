@@ -95,6 +95,10 @@ TEST_F(Bundle, TheNamedFolderServesAsItIs)
     setenv("ZELPANE_BUNDLE", (mRoot + "/own").c_str(), 1);
     EXPECT_EQ(bundleFolder(), mRoot + "/own");
     EXPECT_EQ(resourcePath("a"), mRoot + "/own/Contents/Resources/a");
+    EXPECT_EQ(readableResourcePath("a"), mRoot + "/one/a"); // it brings none of its own
+    fs::create_directories(mRoot + "/own/Contents/Resources");
+    std::ofstream(resourcePath("a")) << "own";
+    EXPECT_EQ(readableResourcePath("a"), resourcePath("a"));
     EXPECT_FALSE(fs::exists(mRoot + "/data"));
 }
 

@@ -3,7 +3,11 @@
 #include "platform/Panels.h"
 #include <QApplication>
 #include <QDialog>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -133,6 +137,42 @@ TEST(FilePanels, AreAnsweredFromTheQueueThenCancelled)
     EXPECT_EQ(runFolderPanel({}), std::nullopt);
     runPageLayout(); // returns at once
     setPanelsAutomated(false);
+}
+
+TEST(FilePanels, ForPeopleShowWhatWasAskedAndGiveTheirChoice)
+{
+    setPanelsAutomated(false);
+    QTemporaryDir folder;
+    const QString path = folder.filePath("a picture.tif");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    PanelRequest request;
+    request.title = "Choose";
+    request.prompt = "Take it";
+    request.directory = folder.path().toStdString();
+    request.types = {"tiff", "jpg"};
+    QTimer::singleShot(0, qApp, [&] {
+        auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(panel);
+        EXPECT_EQ(panel->windowTitle(), "Choose");
+        EXPECT_EQ(panel->labelText(QFileDialog::Accept), "Take it");
+        EXPECT_EQ(panel->directory().path(), folder.path());
+        EXPECT_TRUE(panel->nameFilters().constFirst().contains("*.tif "));
+        panel->findChild<QLineEdit*>("fileNameEdit")->setText("a picture.tif");
+        panel->findChild<QDialogButtonBox*>()->buttons().constFirst()->click();
+    });
+    EXPECT_EQ(runOpenPanel(request), path.toStdString());
+    request.name = "new";
+    QTimer::singleShot(0, qApp, [&] {
+        auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(panel);
+        EXPECT_EQ(panel->findChild<QLineEdit*>("fileNameEdit")->text(), "new");
+        panel->findChild<QDialogButtonBox*>()->buttons().constFirst()->click();
+    });
+    EXPECT_EQ(runSavePanel(request), folder.filePath("new.tiff").toStdString());
+    QTimer::singleShot(0, qApp, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    EXPECT_EQ(runFolderPanel({}), std::nullopt);
 }
 
 TEST(CenterWindow, StaysOnTheScreen)
