@@ -257,6 +257,7 @@ void ZPCanvas::restoreSnapshot(std::int32_t number)
 {
     joinSnapshotWorker(*this);
     auto start = Clock::now();
+    bool decoded = false;
     const auto file = SnapshotStore::shared().read(number, Half::Colour);
     if (const auto size = file ? inspectSnapshotJPEG(*file) : std::nullopt) {
         const Rect now = bounds();
@@ -267,7 +268,8 @@ void ZPCanvas::restoreSnapshot(std::int32_t number)
             newImageForMeWithSize({float(size->width), float(size->height)});
             if (mBitmapRep) mBitmapRep->properties = properties;
         }
-        if (mBitmapRep && !decodeSnapshotJPEG(*file, mBitmapRep->view()))
+        decoded = mBitmapRep && decodeSnapshotJPEG(*file, mBitmapRep->view());
+        if (mBitmapRep && !decoded)
             logLine("restoreSnapshot: %s cannot be decoded", SnapshotStore::fileName(number, Half::Colour).c_str());
     }
     logLine("restoreSnapshot: JPG: %f", secondsSince(start));
@@ -277,9 +279,10 @@ void ZPCanvas::restoreSnapshot(std::int32_t number)
     if (alpha && mBitmapRep) {
         const BitmapView pixels = mBitmapRep->view();
         decodeAlphaRLE(*alpha, pixels);
-        parallelBands(pixels.height, 256, [&pixels](int first, int last) {
+        const auto limitRows = [&pixels](int first, int last) {
             for (int y = first; y < last; ++y) limitColourToAlpha(pixels.row(y), pixels.width);
-        });
+        };
+        if (decoded) parallelBands(pixels.height, 256, limitRows);
     }
     setNeedsDisplay();
     if (mBusyIndicator) mBusyIndicator->hide();
