@@ -200,11 +200,24 @@ struct StripDeflater::Private {
     unsigned tokenCount = 0;
     Code<kLiterals> literals;
     Code<kDistances> distances;
+    std::array<std::uint32_t, 256> secondCount; ///< of literals, beside the code's own
 
-    void literal(std::uint8_t byte)
+    /// Two counters take turns: the same byte twice in a row would wait for its own count.
+    void literalRun(const std::uint8_t* bytes, std::size_t count)
     {
-        tokens[tokenCount++] = byte;
-        ++literals.frequency[byte];
+        std::uint32_t* to = &tokens[tokenCount];
+        std::size_t i = 0;
+        for (; i + 2 <= count; i += 2) {
+            to[i] = bytes[i];
+            to[i + 1] = bytes[i + 1];
+            ++literals.frequency[bytes[i]];
+            ++secondCount[bytes[i + 1]];
+        }
+        if (i < count) {
+            to[i] = bytes[i];
+            ++literals.frequency[bytes[i]];
+        }
+        tokenCount += unsigned(count);
     }
     void match(unsigned length, unsigned distance)
     {
@@ -216,6 +229,7 @@ struct StripDeflater::Private {
     {
         tokenCount = 0;
         literals.frequency.fill(0);
+        secondCount.fill(0);
         distances.frequency.fill(0);
     }
     void writeBlock(BitWriter& out, std::span<const std::uint8_t> raw, bool last);
@@ -308,6 +322,7 @@ void StripDeflater::Private::writeTokens(BitWriter& out) const
 
 void StripDeflater::Private::writeBlock(BitWriter& out, std::span<const std::uint8_t> raw, bool last)
 {
+    for (std::size_t i = 0; i < secondCount.size(); ++i) literals.frequency[i] += secondCount[i];
     literals.frequency[kEndOfBlock] = 1;
     literals.build(15);
     distances.build(15);
@@ -376,12 +391,13 @@ void StripDeflater::deflate(std::span<const std::uint8_t> bytes, bool last, std:
             }
             bucket[1] = bucket[0];
             bucket[0] = std::uint32_t(at + 1);
-            if (length == kMinMatch && distance > 300) length = 0; // four literals are shorter than that
+            // A short match far away costs more than its literals.
+            if (length < (distance <= 64 ? 4u : distance <= 1024 ? 5u : 6u)) length = 0;
         }
         if (length > 0) {
             p.match(length, distance);
             at += length;
-            misses = 0;
+            misses = length >= 16 ? 0 : misses - std::min(misses, 2 * length); // short ones in noise are chance
             if (size - at >= 4) { // the run's last position, so that what goes on is found close by
                 auto& bucket = p.head[(load4(data + at - 1) * 0x9E3779B1u) >> (32 - kHashBits)];
                 bucket[1] = bucket[0];
@@ -390,10 +406,10 @@ void StripDeflater::deflate(std::span<const std::uint8_t> bytes, bool last, std:
         } else {
             // Where nothing repeats fewer and fewer positions are looked up.
             const std::size_t step =
-                std::min<std::size_t>({1 + std::min(misses, 640u) / 32, size - at, kBlockTokens - p.tokenCount});
-            for (std::size_t i = 0; i < step; ++i) p.literal(data[at + i]);
+                std::min<std::size_t>({1 + std::min(misses, 960u) / 32, size - at, kBlockTokens - p.tokenCount});
+            p.literalRun(data + at, step);
             at += step;
-            ++misses;
+            misses += unsigned(step);
         }
         if (p.tokenCount == kBlockTokens) endBlock(last && at == size);
     }
