@@ -64,6 +64,16 @@ void BM_ColourAndBlurTen(benchmark::State& state)
     all.blurRadius = 10;
     run(state, all);
 }
+/// What a slider's step costs at most when a selection of six megapixels is all in view.
+void BM_SixMegapixels(benchmark::State& state)
+{
+    FilterSettings all = kColour;
+    (state.range(0) ? all.blurRadius : all.unsharpIntensity) = state.range(0) ? 10 : 1;
+    const ConstBitmapView source = photo().view();
+    const BitmapView out = target().view();
+    for (auto _ : state) applyFilters(source, out, all, {0, 0, 3000, 2000});
+}
+BENCHMARK(BM_SixMegapixels)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_Colour)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_Gaussian)->Arg(10)->Arg(25)->Arg(50)->Arg(100)->Arg(200)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_Unsharp)->Unit(benchmark::kMillisecond)->UseRealTime();
