@@ -307,6 +307,25 @@ TEST_F(UndoCanvas, AMissingOrBrokenColourFileDrawsNothingAndAlphaIsStillRead)
     expectPicture(0, 200);
 }
 
+TEST_F(UndoCanvas, NoColourExceedsItsAlphaAfterARestore)
+{
+    make(64, 64);
+    // Hard edges between white and nothing, where a lossy coder overshoots most.
+    const BitmapView view = canvas->mBitmapRep->view();
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x) view.row(y)[x] = (x / 5 + y / 7) % 2 ? 0xFFFFFFFFu : 0;
+    canvas->takeSnapshot();
+    settle();
+    change(255, 128);
+    canvas->undo();
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x) {
+            const std::uint8_t* const p = view.pixel(x, y);
+            ASSERT_EQ(p[0], (x / 5 + y / 7) % 2 ? 255 : 0);
+            for (int c = 1; c < 4; ++c) ASSERT_LE(p[c], p[0]) << x << ", " << y;
+        }
+}
+
 TEST_F(UndoCanvas, AMissingAlphaFileLeavesWhatTheColoursGave)
 {
     make(40, 30);
