@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The tools under the mouse: what each press, drag and release does, and what is refused.
 #include "tools/gui/CanvasFixture.h"
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace
 {
@@ -544,6 +546,51 @@ TEST_F(Mouse, StrokeGivesTheOutlineItsLookBack)
     EXPECT_EQ(canvas->mSelectionPath->lineWidth(), 2);
     EXPECT_EQ(canvas->mSelectionPath->lineDash(), (std::vector<float>{2.5f, 2.5f}));
     EXPECT_EQ(canvas->mSelectionPath->dashPhase(), 2.5f);
+}
+
+TEST_F(Mouse, WithoutAnImageNoToolDoesHarm)
+{
+    canvas = std::make_unique<ZPCanvas>();
+    for (int tool = 0; tool < 10; ++tool) {
+        if (tool == 8) continue; // opens a window
+        canvas->setTool(tool);
+        press(10, 10);
+        drag(30, 40);
+        release(30, 40);
+        settle();
+    }
+    canvas->setTool(0);
+    for (const int code : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Up}) key(code);
+    canvas->fill();
+    canvas->stroke();
+    settle();
+    EXPECT_FALSE(canvas->imageLoaded());
+    EXPECT_EQ(canvas->mDrawFinishedFlag, 1);
+}
+
+TEST_F(Mouse, DragsBeyondTheViewScrollItForTheToolsThatAskForIt)
+{
+    QScrollArea view;
+    ZPCanvas* inside = canvas.release();
+    view.setWidget(inside);
+    view.resize(80, 60);
+    view.show();
+    inside->setTool(0);
+    canvas.reset(inside); // only for the helpers below
+    press(10, 10);
+    drag(190, 95);
+    EXPECT_GT(view.horizontalScrollBar()->value(), 100);
+    EXPECT_GT(view.verticalScrollBar()->value(), 30);
+    drag(-40, -40);
+    EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
+    release(-40, -40);
+    inside->setTool(4);
+    press(10, 10);
+    drag(190, 95);
+    EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
+    release(190, 95);
+    settle();
+    view.takeWidget();
 }
 
 } // namespace
