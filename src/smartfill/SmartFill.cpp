@@ -60,7 +60,7 @@ private:
     KnownPixels mKnown;
     MatchSource mMatchSource;
     Neighbourhood mNear;
-    std::int32_t mCandidates[kNeighbours];
+    std::int32_t mCandidates[kNeighbours + 1];
 };
 
 SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, MatchSearch search)
@@ -160,19 +160,22 @@ bool SmartFillRun::run(const SmartFillHooks& hooks)
 int SmartFillRun::coherenceCandidates(std::int32_t stamp)
 {
     int count = 0;
+    const auto propose = [&](std::int32_t candidate) {
+        // Without branches, which nothing could predict. Index 0 lies in the border and is never a source.
+        const bool fresh = mStamps[std::size_t(candidate)] != stamp;
+        mStamps[std::size_t(candidate)] = stamp;
+        mCandidates[count] = candidate;
+        count += int(fresh) & int(mClear[std::size_t(candidate)] != 0);
+    };
     for (int k = 0; k < mNear.count; ++k) {
         const auto [value, from] = mTarget[std::size_t(mNear.index[k])];
         mNear.value[k] = value;
-        if (from < 0) continue;
-        std::int32_t candidate = from - mNear.delta[k];
-        if (mNear.far) {
+        if (!mNear.far) {
+            propose(from < 0 ? 0 : from - mNear.delta[k]);
+        } else if (from >= 0) {
             const int x = mLayout.x(from) - mNear.dx[k], y = mLayout.y(from) - mNear.dy[k];
-            if (x < 0 || y < 0 || x >= mLayout.width || y >= mLayout.height) continue;
-            candidate = mLayout.index(x, y);
+            if (x >= 0 && y >= 0 && x < mLayout.width && y < mLayout.height) propose(mLayout.index(x, y));
         }
-        if (!mClear[std::size_t(candidate)] || mStamps[std::size_t(candidate)] == stamp) continue;
-        mStamps[std::size_t(candidate)] = stamp;
-        mCandidates[count++] = candidate;
     }
     return count;
 }
