@@ -30,6 +30,7 @@ struct Turn {
     ConstBitmapView from;
     BitmapView to;
     bool clockwise;
+    VectorWidth width;
 
     /// The source row that ends up in column @p x of the result.
     int sourceRow(int x) const { return clockwise ? from.height - 1 - x : x; }
@@ -147,13 +148,13 @@ __attribute__((target("avx2"))) void turnBand256(const Turn& turn, int x0, int x
 void turnBand(const Turn& turn, int x0, int x1)
 {
 #if defined(__x86_64__)
-    if (__builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512dq") &&
+    if (turn.width == VectorWidth::Widest && __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512dq") &&
         __builtin_cpu_supports("avx512vl")) {
         const bool aligned = reinterpret_cast<std::uintptr_t>(turn.to.data) % 64 == 0 && turn.to.rowBytes % 64 == 0;
         const bool large = std::int64_t{4} * turn.from.width * turn.from.height >= kStreamFrom;
         return turnBand512(turn, x0, x1, aligned && large);
     }
-    if (__builtin_cpu_supports("avx2")) return turnBand256(turn, x0, x1);
+    if (turn.width != VectorWidth::None && __builtin_cpu_supports("avx2")) return turnBand256(turn, x0, x1);
 #endif
     turnBandPlainly(turn, x0, x1);
 }
@@ -197,11 +198,11 @@ __attribute__((target("avx2"))) void mirrorRow256(std::uint32_t* row, int width)
 }
 #endif
 
-void mirrorRow(std::uint32_t* row, int width)
+void mirrorRow(std::uint32_t* row, int width, [[maybe_unused]] VectorWidth widest)
 {
 #if defined(__x86_64__)
-    if (__builtin_cpu_supports("avx512f")) return mirrorRow512(row, width);
-    if (__builtin_cpu_supports("avx2")) return mirrorRow256(row, width);
+    if (widest == VectorWidth::Widest && __builtin_cpu_supports("avx512f")) return mirrorRow512(row, width);
+    if (widest != VectorWidth::None && __builtin_cpu_supports("avx2")) return mirrorRow256(row, width);
 #endif
     mirrorRowPlainly(row, 0, width);
 }
@@ -217,15 +218,18 @@ ZP_MULTIVERSION void exchangeRows(std::uint32_t* __restrict a, std::uint32_t* __
 
 } // namespace
 
-void rotateCounterClockwise(ConstBitmapView from, BitmapView to) { rotate({from, to, false}); }
+void rotateCounterClockwise(ConstBitmapView from, BitmapView to, VectorWidth width)
+{
+    rotate({from, to, false, width});
+}
 
-void rotateClockwise(ConstBitmapView from, BitmapView to) { rotate({from, to, true}); }
+void rotateClockwise(ConstBitmapView from, BitmapView to, VectorWidth width) { rotate({from, to, true, width}); }
 
-void flipHorizontally(BitmapView pixels)
+void flipHorizontally(BitmapView pixels, VectorWidth width)
 {
     if (pixels.isEmpty()) return;
     parallelBands(pixels.height, 32, [&](int first, int last) {
-        for (int y = first; y < last; ++y) mirrorRow(pixels.row(y), pixels.width);
+        for (int y = first; y < last; ++y) mirrorRow(pixels.row(y), pixels.width, width);
     });
 }
 

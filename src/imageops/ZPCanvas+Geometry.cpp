@@ -25,7 +25,8 @@ void finishGeometry(ZPCanvas& canvas, std::shared_ptr<BitmapRep> rep)
     canvas.takeSnapshot();
 }
 
-void turn(ZPCanvas& canvas, void (*rotate)(ConstBitmapView, BitmapView))
+template <class Rotate>
+void turn(ZPCanvas& canvas, Rotate rotate)
 {
     if (!canvas.mBitmapRep) return;
     canvas.waitForWorkers();
@@ -38,7 +39,8 @@ void turn(ZPCanvas& canvas, void (*rotate)(ConstBitmapView, BitmapView))
 }
 
 /// A flip needs no second bitmap: the same one is installed again.
-void flip(ZPCanvas& canvas, void (*mirror)(BitmapView))
+template <class Mirror>
+void flip(ZPCanvas& canvas, Mirror mirror)
 {
     if (!canvas.mBitmapRep) return;
     canvas.waitForWorkers();
@@ -48,11 +50,20 @@ void flip(ZPCanvas& canvas, void (*mirror)(BitmapView))
 
 } // namespace
 
-void ZPCanvas::rotateCCW() { turn(*this, rotateCounterClockwise); }
+void ZPCanvas::rotateCCW()
+{
+    turn(*this, [](ConstBitmapView from, BitmapView to) { rotateCounterClockwise(from, to); });
+}
 
-void ZPCanvas::rotateCW() { turn(*this, rotateClockwise); }
+void ZPCanvas::rotateCW()
+{
+    turn(*this, [](ConstBitmapView from, BitmapView to) { rotateClockwise(from, to); });
+}
 
-void ZPCanvas::flipH() { flip(*this, flipHorizontally); }
+void ZPCanvas::flipH()
+{
+    flip(*this, [](BitmapView pixels) { flipHorizontally(pixels); });
+}
 
 void ZPCanvas::flipV() { flip(*this, flipVertically); }
 

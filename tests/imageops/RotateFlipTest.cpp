@@ -91,6 +91,25 @@ TEST_P(Moves, FlipsExchangeTheSidesAndTwoOfThemNothing)
     ASSERT_EQ(source.pixels(), before);
 }
 
+TEST_P(Moves, EveryVectorWidthGivesTheSamePixels)
+{
+    for (const VectorWidth width : {VectorWidth::None, VectorWidth::Bits256}) {
+        Picture wide(h, w), narrow(h, w), wideBack(h, w), narrowBack(h, w);
+        rotateClockwise(source.view(), wide.view());
+        rotateClockwise(source.view(), narrow.view(), width);
+        ASSERT_EQ(wide.pixels(), narrow.pixels());
+        EXPECT_TRUE(narrow.spareUntouched());
+        rotateCounterClockwise(source.view(), wideBack.view());
+        rotateCounterClockwise(source.view(), narrowBack.view(), width);
+        ASSERT_EQ(wideBack.pixels(), narrowBack.pixels());
+        EXPECT_TRUE(narrowBack.spareUntouched());
+        const auto before = source.pixels();
+        flipHorizontally(source.view(), width);
+        flipHorizontally(source.view());
+        ASSERT_EQ(source.pixels(), before);
+    }
+}
+
 TEST_P(Moves, FourQuarterTurnsAreNone)
 {
     Picture a(h, w), b(w, h);
