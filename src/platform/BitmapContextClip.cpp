@@ -3,7 +3,6 @@
 #include "platform/BitmapContextClip.h"
 #include "platform/ImageDrawingBlend.h"
 #include <cstring>
-#include <new>
 
 namespace zp
 {
@@ -59,7 +58,10 @@ std::shared_ptr<const ClipCoverage> ClipCoverage::make(CoverageRaster& raster, W
     made->mBox = raster.extent();
     if (made->mBox.isEmpty()) return made;
     made->mBytes = allocatePixels(std::size_t(made->mBox.width()) * std::size_t(made->mBox.height()));
-    if (!made->mBytes) throw std::bad_alloc();
+    if (!made->mBytes) {
+        made->mBox = {}; // without memory for the clip nothing passes: better than drawing where nothing should be
+        return made;
+    }
     made->mSpans.resize(std::size_t(made->mBox.height()));
     BytesSink sink(made->mBytes.get(), made->mBox, made->mSpans);
     raster.sweep(rule, antialias, sink);

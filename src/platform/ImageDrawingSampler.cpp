@@ -3,7 +3,6 @@
 #include "platform/ImageDrawingSampler.h"
 #include <algorithm>
 #include <cmath>
-#include <new>
 
 namespace zp
 {
@@ -56,6 +55,7 @@ ImageSampler::ImageSampler(ConstBitmapView image, PixelBox part, const AffineTra
 void ImageSampler::reduce(double scaleX, double scaleY, AffineTransform& toTarget, PixelBox target)
 {
     AveragingGrid grid;
+    const AffineTransform before = toTarget;
     const bool straight = toTarget.m12 == 0 && toTarget.m21 == 0 && toTarget.m11 > 0 && toTarget.m22 > 0;
     if (straight && scaleX <= 1 && scaleY <= 1) {
         // The target's own pixels are the cells: nothing is left to interpolate.
@@ -85,7 +85,10 @@ void ImageSampler::reduce(double scaleX, double scaleY, AffineTransform& toTarge
     }
     const std::ptrdiff_t rowBytes = (std::ptrdiff_t{4} * grid.columns + 63) / 64 * 64;
     mReduced = allocatePixelsUninitialized(std::size_t(rowBytes) * std::size_t(grid.rows));
-    if (!mReduced) throw std::bad_alloc();
+    if (!mReduced) {
+        toTarget = before; // interpolated from the full image instead: coarse, but drawn
+        return;
+    }
     averageOverGrid(mImage, mPart, grid, mReduced.get(), rowBytes);
     mImage = {mReduced.get(), grid.columns, grid.rows, rowBytes};
     mPart = mImage.box();

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <chrono>
 #include <condition_variable>
+#include <csignal>
 #include <cstdarg>
 #include <cstdint>
 #include <cstdio>
@@ -146,6 +147,11 @@ public:
 private:
     void write()
     {
+        // A reader that went away must not end the program: the write then fails instead.
+        sigset_t brokenPipe;
+        sigemptyset(&brokenPipe);
+        sigaddset(&brokenPipe, SIGPIPE);
+        pthread_sigmask(SIG_BLOCK, &brokenPipe, nullptr);
         std::string batch;
         std::unique_lock lock(mMutex);
         for (;;) {
