@@ -43,6 +43,7 @@ public:
     /// @return how many of the @p count bytes were there
     std::size_t read(std::uint64_t offset, std::uint8_t* to, std::size_t count) const
     {
+        if (count == 0) return 0;
         std::memset(to, 0, count);
         if (offset <= mHead.size() && count <= mHead.size() - offset) {
             std::memcpy(to, mHead.data() + offset, count);
