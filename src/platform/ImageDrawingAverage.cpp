@@ -76,6 +76,7 @@ ZP_MULTIVERSION void finishSum(std::uint32_t* sum, int count)
 }
 
 using Quad = std::uint32_t __attribute__((vector_size(16)));
+using Bytes = std::uint8_t __attribute__((vector_size(4)));
 
 /// @param sums of the columns from @p low on, four channels each
 ZP_MULTIVERSION void averageCells(const std::uint32_t* sums, int low, const Cell* cells, const std::uint32_t* weights,
@@ -91,7 +92,8 @@ ZP_MULTIVERSION void averageCells(const std::uint32_t* sums, int low, const Cell
             total += v * weight[i];
         }
         total >>= 24;
-        out[c] = total[0] | total[1] << 8 | total[2] << 16 | total[3] << 24;
+        const Bytes bytes = __builtin_convertvector(total, Bytes);
+        __builtin_memcpy(out + c, &bytes, sizeof bytes);
     }
 }
 } // namespace
