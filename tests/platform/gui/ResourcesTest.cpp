@@ -6,8 +6,11 @@
 #include <QPainter>
 #include <QString>
 #include <QSvgRenderer>
-#include <cstring>
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <string>
 
 using namespace zp;
 
@@ -91,20 +94,17 @@ TEST(Resources, EachToolHasALineIconOfItsName)
 TEST(Resources, SoundsAreShortAndPlain)
 {
     for (const char* name : {"Frog", "Pop", "Ping", "Glass"}) {
-        const QByteArray wav = bytesOf(QString("%1.wav").arg(name));
-        ASSERT_GT(wav.size(), 44) << name;
-        EXPECT_TRUE(wav.startsWith("RIFF") && wav.mid(8, 4) == "WAVE") << name;
-        std::uint32_t rate = 0;
-        std::uint16_t bits = 0;
-        std::memcpy(&rate, wav.constData() + 24, 4);
-        std::memcpy(&bits, wav.constData() + 34, 2);
-        EXPECT_EQ(rate, 44100u) << name;
-        EXPECT_EQ(bits, 16) << name;
-        EXPECT_LT(wav.size(), 100000) << name;
-        std::int16_t loudest = 0, last = 0;
-        for (qsizetype i = 44; i + 1 < wav.size(); i += 2) {
-            std::memcpy(&last, wav.constData() + i, 2);
-            loudest = std::max<std::int16_t>(loudest, std::int16_t(std::abs(last)));
+        const std::string wav = bytesOf(QString("%1.wav").arg(name)).toStdString();
+        ASSERT_GT(wav.size(), 44u) << name;
+        EXPECT_TRUE(wav.starts_with("RIFF") && wav.substr(8, 4) == "WAVE") << name;
+        const auto byte = [&](std::size_t at) { return int(static_cast<unsigned char>(wav.at(at))); };
+        EXPECT_EQ(byte(24) | byte(25) << 8 | byte(26) << 16 | byte(27) << 24, 44100) << name;
+        EXPECT_EQ(byte(34) | byte(35) << 8, 16) << name;
+        EXPECT_LT(wav.size(), 100000u) << name;
+        int loudest = 0, last = 0;
+        for (std::size_t i = 44; i + 1 < wav.size(); i += 2) {
+            last = std::int16_t(byte(i) | byte(i + 1) << 8);
+            loudest = std::max(loudest, std::abs(last));
         }
         EXPECT_GT(loudest, 10000) << name;
         EXPECT_LT(std::abs(last), 100) << name; // no click at the end
