@@ -289,15 +289,17 @@ TEST_F(Stroke, TheFeedTakesHoverMovesWhenAReleaseWasRefused)
 
 TEST_F(Stroke, StaysCleanUnderRedrawsAtSeveralZooms)
 {
-    // With a sanitizer this is where a race between stamping and drawing would show.
+    // With a sanitizer this is where a race between stamping and drawing would show. Few enough rows that Qt's painter
+    // does not call its own pool, whose locks a thread checker cannot see.
+    newImage(200, 45);
     canvas->show();
     std::mt19937 random(11);
     for (const float zoom : {1.0f, 0.5f, 2.0f}) {
         canvas->setZoom(zoom);
         press(20, 50);
         for (int i = 0; i < 200; ++i) {
-            drag(float(random() % 220) - 10, float(random() % 120) - 10);
-            canvas->repaint(QRect(0, 0, 100, 50));
+            drag(float(random() % 220) - 10, float(random() % 65) - 10);
+            canvas->repaint(QRect(0, 0, 100, 45));
             if (i % 20 == 0) QApplication::processEvents();
         }
         release(50, 50);
