@@ -11,7 +11,7 @@
 #include "ui_SmartFill.h"
 #include <QCoreApplication>
 #include <QDialog>
-#include <QTimer>
+#include <QThread>
 #include <any>
 #include <chrono>
 #include <ctime>
@@ -25,6 +25,7 @@ using namespace zp;
 namespace
 {
 
+constexpr float kNoProgress = -1; ///< nothing new to show
 constexpr char kProgressNotif[] = "SmartFillProgressNotif";
 
 /// Escape cancels a run; without one it closes the window, as the close button does. A run keeps its window.
@@ -46,7 +47,7 @@ double now() { return std::chrono::duration<double>(std::chrono::steady_clock::n
 struct ZPSmartFill::Run {
     SmartFillArea area;
     SmartFillPicture picture;
-    std::uint64_t seed = 0, number = 0;
+    std::uint64_t seed = 0;
     SmartFillStatus status = SmartFillStatus::Cancelled;
     bool outOfMemory = false;
 };
@@ -76,6 +77,8 @@ ZPSmartFill::ZPSmartFill() : mUi(std::make_unique<Ui::SmartFill>()), mWindow(std
     NotificationCenter::defaultCenter().addObserver(this, kProgressNotif, [this](const Notification& notification) {
         if (const auto* progress = std::any_cast<float>(&notification.object)) progressNotif(*progress);
     });
+    mPoll.setInterval(15);
+    connect(&mPoll, &QTimer::timeout, this, &ZPSmartFill::lookAtWorker);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &ZPSmartFill::dropWorker);
 }
 
@@ -133,13 +136,13 @@ void ZPSmartFill::run()
     enableButtons(true);
     mTimeNULL = now();
     mCancel.store(false, std::memory_order_release);
-    mProgress.store(0, std::memory_order_release); // a message on its way must not show the last run's
+    mProgress.store(kNoProgress, std::memory_order_release);
+    mWorkerDone.store(false, std::memory_order_release);
     mRunning = true;
     mCanvas->mSmartFillRunning.store(true, std::memory_order_release);
 
     mRun = std::make_unique<Run>();
     Run& run = *mRun;
-    run.number = ++mRunNumber;
     run.seed = mSeed ? mSeed : std::uint64_t(std::time(nullptr));
     run.area = smartFillArea(mSelRect, mBitmapRep->pixelsWide(), mBitmapRep->pixelsHigh(), mUi->mRadiusSlider->value(),
                              mUi->mFasterCheckbox->isChecked());
@@ -151,11 +154,14 @@ void ZPSmartFill::run()
                 fetchSmartFillPicture(std::as_const(*mBitmapRep).view(), mask, run.area, {mMaskBox.x0, mMaskBox.y0});
         }
         mCalcThread = std::thread([this, &run] { calcThread(run); });
+        mPoll.start();
     } catch (const std::bad_alloc&) {
         run.outOfMemory = true;
-        finish();
+        mWorkerDone.store(true, std::memory_order_release);
+        mPoll.start();
     } catch (const std::system_error&) {
         calcThread(run); // no thread to be had: the user waits, and gets the fill
+        mPoll.start();
     }
 }
 
@@ -171,12 +177,7 @@ void ZPSmartFill::calcThread(Run& run)
     } catch (const std::bad_alloc&) {
         run.outOfMemory = true;
     }
-    QMetaObject::invokeMethod(
-        this,
-        [this, number = run.number] {
-            if (mRunning && number == mRunNumber) finish();
-        },
-        Qt::QueuedConnection);
+    mWorkerDone.store(true, std::memory_order_release); // hands the run over
 }
 
 void ZPSmartFill::cancel()
@@ -189,15 +190,16 @@ void ZPSmartFill::closeMe() { mWindow->hide(); }
 
 void ZPSmartFill::progressNotif(float progress)
 {
+    if (QThread::currentThread() == thread()) return showProgress(progress);
     mProgress.store(progress, std::memory_order_release);
-    if (mProgressPosted.exchange(true)) return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            mProgressPosted.store(false);
-            showProgress(mProgress.load(std::memory_order_acquire));
-        },
-        Qt::QueuedConnection);
+}
+
+void ZPSmartFill::lookAtWorker()
+{
+    const bool done =
+        mWorkerDone.load(std::memory_order_acquire); // before the progress, so that the last one is not missed
+    if (const float progress = mProgress.exchange(kNoProgress); progress != kNoProgress) showProgress(progress);
+    if (done) finish();
 }
 
 void ZPSmartFill::showProgress(float progress)
@@ -228,12 +230,8 @@ bool ZPSmartFill::writeBack()
 void ZPSmartFill::finish()
 {
     if (mCalcThread.joinable()) mCalcThread.join();
-    if (!writeBack()) {
-        QTimer::singleShot(5, this, [this, number = mRunNumber] {
-            if (mRunning && number == mRunNumber) finish();
-        });
-        return;
-    }
+    if (!writeBack()) return; // the next look tries again
+    mPoll.stop();
     const std::unique_ptr<Run> run = std::move(mRun);
     mRunning = false;
     enableButtons(false);

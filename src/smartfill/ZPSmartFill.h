@@ -5,6 +5,7 @@
 #include "smartfill/SmartFill.h"
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <atomic>
 #include <memory>
 #include <optional>
@@ -53,11 +54,12 @@ private:
 
     ZPSmartFill();
     void enableButtons(bool running);
-    /// The notification's handler, on the thread that posts; hands the value on.
+    /// The notification's handler, on the thread that posts; off the main thread it leaves the value for lookAtWorker.
     void progressNotif(float progress);
+    void lookAtWorker();
     void showProgress(float progress);
     void calcThread(Run& run);
-    /// After the worker: writes back, or not, and takes the snapshot.
+    /// After the worker: writes back, or not, and takes the snapshot. Does nothing yet while others use the pixels.
     void finish();
     bool writeBack();
     void dropWorker();
@@ -75,9 +77,10 @@ private:
     std::unique_ptr<Run> mRun;
     bool mRunning = false;
     std::uint64_t mSeed = 0;
-    std::uint64_t mRunNumber = 0; ///< a late message of an earlier run is known by it
     std::atomic<bool> mCancel{false};
-    /// The latest progress, and whether a message to show it is on its way: progress comes faster than it can be shown.
-    std::atomic<float> mProgress{0};
-    std::atomic<bool> mProgressPosted{false};
+    /// Between worker and window: the latest progress not shown yet, and that the worker is through. The window looks
+    /// at both some sixty times a second; progress comes faster than it can be shown.
+    std::atomic<float> mProgress{-1};
+    std::atomic<bool> mWorkerDone{false};
+    QTimer mPoll;
 };
