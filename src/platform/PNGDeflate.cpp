@@ -346,7 +346,7 @@ void StripDeflater::Private::writeBlock(BitWriter& out, std::span<const std::uin
         out.align();
         out.put(n | (~n & 0xFFFF) << 16, 32);
         out.drain();
-        std::memcpy(out.to, raw.data(), n);
+        if (n > 0) std::memcpy(out.to, raw.data(), n);
         out.to += n;
         raw = raw.subspan(n);
     } while (!raw.empty());
