@@ -55,7 +55,7 @@ ZPImageProcessor::ZPImageProcessor()
     connect(mUi->mImageSizeFit, &QCheckBox::toggled, this, &ZPImageProcessor::resizeToFit);
     connect(mUi->mWatermarkPosition, &QComboBox::activated, this, &ZPImageProcessor::placeByPreset);
     resizeToFit();
-    showProgress(0, {});
+    mUi->mProgressBar->setValue(0);
     mUi->mProgressBar->hide();
     NotificationCenter::defaultCenter().addObserver(this, "_canvasNotif", [this](const Notification& notification) {
         if (const auto* canvas = std::any_cast<ZPCanvas*>(&notification.object)) mCanvas = *canvas;
