@@ -10,6 +10,7 @@
 #include "script/ScriptDriver.h"
 #include <QApplication>
 #include <QTimer>
+#include <csignal>
 #include <cstdio>
 
 using namespace zp;
@@ -34,6 +35,9 @@ int main(int argc, char** argv)
     const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
     if (line.offscreen || (scripted && (!line.show || !display))) qputenv("QT_QPA_PLATFORM", "offscreen");
 
+    // A full quota and a reader that went away are answers of the calls that meet them, not the program's end.
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
     // Every sample of the pointer counts for a stroke: none may be merged with the next.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);

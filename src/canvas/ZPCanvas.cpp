@@ -15,6 +15,14 @@
 
 using namespace zp;
 
+namespace
+{
+
+/// Milliseconds after which pooled pixel memory is given back.
+constexpr int kPoolPatience = 1500;
+
+} // namespace
+
 ZPCanvas::ZPCanvas(QWidget* parent) : QWidget(parent), mImage(std::make_shared<Image>())
 {
     mPath.setLineJoin(LineJoin::Round);
@@ -25,6 +33,8 @@ ZPCanvas::ZPCanvas(QWidget* parent) : QWidget(parent), mImage(std::make_shared<I
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
+    mPoolTimer.setSingleShot(true);
+    connect(&mPoolTimer, &QTimer::timeout, this, [] { trimPixelPool(); });
     startFollowingPointer();
     updateViewGeometry();
 }
@@ -118,6 +128,8 @@ void ZPCanvas::installBitmap(std::shared_ptr<BitmapRep> rep, ImageCacheMode cach
     image->setCacheMode(cacheMode);
     if (mBitmapRep) image->add(mBitmapRep);
     mImage = std::move(image);
+    // The old picture's memory serves the next change; when none comes, the system gets it back.
+    mPoolTimer.start(kPoolPatience);
     updateViewGeometry();
     setNeedsDisplay();
     emit imageReplaced();

@@ -304,6 +304,7 @@ public:
     std::shared_ptr<zp::SnapshotEncoder> mSnapshotEncoder; ///< keeps the last snapshot's strips (src/undo)
     std::thread mPollWorker, mDrawWorker, mSnapshotWorker;
     std::unique_ptr<QTimer> mFirstSnapshotTimer;
+    QTimer mPoolTimer; ///< gives pooled pixel memory back when nothing needs it
     std::atomic<bool> mSmartFillRunning{false};
     zp::Point mLastPointer;      ///< image coordinates of the last mouse event
     bool mPointerInside = false; ///< the pointer is over the canvas
