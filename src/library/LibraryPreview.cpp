@@ -2,21 +2,23 @@
 /// The library's preview and its worker.
 #include "library/LibraryPreview.h"
 #include "platform/ImageImporter.h"
-#include <QMetaObject>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 using namespace zp;
 
 namespace
 {
 
-/// The picture no larger than @p side, in a format that the screen takes.
+constexpr int kPollMilliseconds = 16; // a frame; looked only while a picture is on its way
+
+/// The picture near @p side in size, in a format that the screen takes.
 QImage reduced(const BitmapRep& bitmap, int side)
 {
     const int w = bitmap.pixelsWide(), h = bitmap.pixelsHigh();
-    // First by whole factors, averaging, straight from the picture's rows; then smoothly to size.
-    const int factor = std::max(1, std::min(w / (2 * side), h / (2 * side)));
+    // By a whole factor, averaging, straight from the picture's rows: what is left is less than twice too large.
+    const int factor = std::max(1, std::max(w, h) / side);
     const int rw = w / factor, rh = h / factor;
     QImage half(std::max(rw, 1), std::max(rh, 1), QImage::Format_ARGB32_Premultiplied);
     if (half.isNull()) return {};
@@ -33,8 +35,7 @@ QImage reduced(const BitmapRep& bitmap, int side)
             out[x] = sum[0] / n << 24 | sum[1] / n << 16 | sum[2] / n << 8 | sum[3] / n;
         }
     }
-    if (rw <= side && rh <= side) return half;
-    return half.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return half; // less than twice too large: painting does the rest
 }
 
 } // namespace
@@ -43,6 +44,8 @@ LibraryPreview::LibraryPreview(QWidget* parent) : QWidget(parent)
 {
     setMinimumSize(120, 120);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    mPoll.setInterval(kPollMilliseconds);
+    connect(&mPoll, &QTimer::timeout, this, &LibraryPreview::take);
     mWorker = std::jthread([this](std::stop_token stop) { work(stop); });
 }
 
@@ -59,11 +62,13 @@ void LibraryPreview::showFile(const std::string& path)
         mWanted = Wanted{path, mRequest, std::max(side, 64)};
     }
     mWake.notify_one();
+    mPoll.start();
 }
 
 void LibraryPreview::showText(const QString& text)
 {
     ++mRequest; // a picture still on its way comes too late
+    mPoll.stop();
     mPicture = {};
     mText = text;
     update();
@@ -85,19 +90,22 @@ void LibraryPreview::work(std::stop_token stop)
         const ImportedImage read = importImageFile(wanted.path, options);
         QImage picture;
         if (read.bitmap) picture = reduced(*read.bitmap, wanted.side);
-        const QString error = QString::fromStdString(read.error);
-        // The worker is joined before this object goes, and posted calls go with their object.
-        QMetaObject::invokeMethod(
-            this, [this, request = wanted.request, picture, error] { take(request, picture, error); },
-            Qt::QueuedConnection);
+        const std::lock_guard hold(mGuard);
+        mDone = Done{wanted.request, std::move(picture), read.error};
     }
 }
 
-void LibraryPreview::take(quint64 request, const QImage& picture, const QString& error)
+void LibraryPreview::take()
 {
-    if (request != mRequest) return;
-    mPicture = picture;
-    mText = error;
+    std::optional<Done> done;
+    {
+        const std::lock_guard hold(mGuard);
+        done = std::exchange(mDone, std::nullopt);
+    }
+    if (!done || done->request != mRequest) return; // still at work, or no longer wanted
+    mPoll.stop();
+    mPicture = done->picture;
+    mText = QString::fromStdString(done->error);
     update();
 }
 

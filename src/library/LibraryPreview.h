@@ -2,6 +2,7 @@
 /// A small view of one picture file, decoded on a thread of its own so that the table stays quick under the fingers.
 #pragma once
 #include <QImage>
+#include <QTimer>
 #include <QWidget>
 #include <condition_variable>
 #include <mutex>
@@ -9,7 +10,8 @@
 #include <string>
 #include <thread>
 
-/// Main thread only; the worker hands its picture over by a posted call. Only the latest file asked for is decoded.
+/// Main thread only; the worker leaves its picture under a lock, where a timer finds it. Only the latest file asked for
+/// is decoded.
 class LibraryPreview : public QWidget
 {
     Q_OBJECT
@@ -29,7 +31,7 @@ protected:
 
 private:
     void work(std::stop_token stop);
-    void take(quint64 request, const QImage& picture, const QString& error);
+    void take();
 
     QImage mPicture;
     QString mText;
@@ -42,6 +44,13 @@ private:
         quint64 request = 0;
         int side = 0; ///< device pixels
     };
+    struct Done {
+        quint64 request = 0;
+        QImage picture;
+        std::string error;
+    };
     std::optional<Wanted> mWanted; ///< under mGuard
-    std::jthread mWorker;          ///< last: started after, and joined before, what it uses
+    std::optional<Done> mDone;     ///< under mGuard
+    QTimer mPoll;
+    std::jthread mWorker; ///< last: started after, and joined before, what it uses
 };
