@@ -353,14 +353,13 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
     const std::uint32_t outside = palette().color(QPalette::Mid).rgb() | 0xFF000000;
     const ScreenTarget target{words, stride, box};
 
-    const bool brushAtWork = mTool == 3 && !mDrawFinishedFlag.load(std::memory_order_acquire);
+    const bool strokeOpen = !mDrawFinishedFlag.load(std::memory_order_acquire);
+    const bool brushAtWork = mTool == 3 && strokeOpen;
     {
         // While the brush writes pixels elsewhere in the picture, each redraw waits for the stamp in progress.
         std::unique_lock lock(mPixelLock, std::defer_lock);
-        if (brushAtWork) {
-            mDo = true;
-            lock.lock();
-        }
+        if (strokeOpen) lock.lock();
+        if (brushAtWork) mDo = true;
         renderToScreen(std::as_const(*mBitmapRep).view(), words, stride, box, deviceScale, outside);
         drawOverlays(target, deviceScale);
     }
