@@ -70,7 +70,8 @@ void applyColorScheme()
     QString scheme = qEnvironmentVariable("ZELPANE_SCHEME");
     if (scheme.isEmpty()) scheme = QSettings().value("colorScheme", "auto").toString();
     // A desktop that brings a dark palette of its own is left alone.
-    const bool desktopIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    // Asked once: later the palette is our own.
+    static const bool desktopIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
     const bool dark = scheme == "dark" || (scheme != "light" && desktopIsDark);
     QPalette p;
     const auto set = [&p](QPalette::ColorRole role, const char* colour, const char* disabled = nullptr) {

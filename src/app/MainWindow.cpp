@@ -206,7 +206,7 @@ void MainWindow::setUpStatusLine()
 
 void MainWindow::setToolImages()
 {
-    setWindowIcon(applicationImage("zelpane", palette()));
+    QApplication::setWindowIcon(applicationImage("zelpane", palette()));
     for (int i = 0; i < int(std::size(kTools)); ++i) {
         const QIcon icon = applicationImage(kTools[i].title, palette());
         mUi->mToolPopUp->setItemIcon(i, icon);

@@ -58,6 +58,7 @@ ZPAppController::ZPAppController() : mWindow(std::make_unique<MainWindow>()), mC
                       [](Point start) { return ZPTextEditor::sharedInstance()->textPathAtPoint(start); },
                       [] { return ZPTextEditor::sharedInstance()->isValid(); }});
     ZPSmartFill::registerWithCanvas();
+    ZPPrefs::applyStored();
     mWindow->mayClose = [this] {
         terminate();
         return false;

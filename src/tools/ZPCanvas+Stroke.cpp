@@ -41,7 +41,7 @@ ConstBitmapView brushShape(ZPCanvas& canvas)
         const std::string name = QString("B%1.png").arg(index + 1).toStdString();
         ImportOptions options;
         options.properties = false;
-        state.brushShape = importImageFile(resourcePath(name), options).bitmap;
+        state.brushShape = importImageFile(readableResourcePath(name), options).bitmap;
         state.brushShapeIndex = index;
     }
     return state.brushShape ? state.brushShape->view() : ConstBitmapView{};
