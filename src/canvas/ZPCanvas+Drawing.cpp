@@ -166,7 +166,10 @@ void ZPCanvas::startFollowingPointer()
         setNeedsDisplayInRect(rect);
     });
     connect(this, &ZPCanvas::pointerMoved, this, [this](QPointF) {
-        if (mTool == 1 && mPolygonLasso && !mIsMouseDown && mSelectionPath) setNeedsDisplay();
+        if (mTool == 1 && mPolygonLasso && !mIsMouseDown && mSelectionPath) {
+            updateGestureOutlines(); // whether or not a redraw comes before the next click
+            setNeedsDisplay();
+        }
         if (mTool == 3 || mTool == 4 || mTool == 5 || mTool == 9) {
             DrawingState& state = stateOf(*this);
             const float margin = mSize * 0.5f + 3 / effectiveZoom();

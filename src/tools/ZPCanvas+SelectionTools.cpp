@@ -97,12 +97,13 @@ void ZPToolActions::pressLasso(ZPCanvas& canvas, Point point)
 {
     if (!canvas.mDrawFinishedFlag) return refusePress(canvas);
     if (canvas.mSelectionPath) {
-        // Before the test on purpose: a polygon's click is a corner of it whenever the outline that ends there holds
-        // it.
         if (canvas.mPolygonLasso) {
+            // A click is a corner of the polygon whenever the outline that ends there holds it, and an outline holds
+            // its own border: so every click is one, wherever it falls. Return or Escape ends the polygon.
             canvas.mSelectionPath->lineTo(point);
             ++canvas.mSelectionPathVersion;
             canvas.setNeedsDisplay();
+            return startMove(canvas, point);
         }
         if (canvas.mSelectionPath->contains(point)) return startMove(canvas, point);
     }

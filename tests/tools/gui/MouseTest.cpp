@@ -169,30 +169,23 @@ TEST_F(Mouse, PolygonLassoGrowsByClicksAndEndsWithReturn)
     EXPECT_TRUE(canvas->mPolygonLasso);
     ASSERT_EQ(canvas->mSelectionPath->elementCount(), 2);
     hold(0);
-    // A click that the grown outline holds is a corner and arms a move; these lie on its border or inside by even-odd.
-    canvas->mSelectionPath->lineTo({60, 10});
-    canvas->mSelectionPath->lineTo({60, 60});
-    press(40, 30);
-    EXPECT_EQ(canvas->mSelectionPath->elementCount(), 5);
-    EXPECT_TRUE(canvas->mMove);
-    release(40, 30);
-    EXPECT_TRUE(canvas->mPolygonLasso);
+    // Every click is a corner, inside or outside of what was drawn so far; the press arms a move.
+    for (const Point corner : {Point{60, 10}, {60, 60}, {5, 70}}) {
+        press(corner.x, corner.y);
+        EXPECT_TRUE(canvas->mMove);
+        EXPECT_EQ(canvas->mSelectionPath->currentPoint(), corner);
+        release(corner.x, corner.y);
+        EXPECT_TRUE(canvas->mPolygonLasso);
+    }
+    ASSERT_EQ(canvas->mSelectionPath->elementCount(), 5);
     key(Qt::Key_Return, "\r");
     EXPECT_FALSE(canvas->mPolygonLasso);
     ASSERT_EQ(canvas->mSelectionPath->elementCount(), 6);
     std::array<Point, 3> p;
     EXPECT_EQ(canvas->mSelectionPath->elementAt(4, p), PathElement::LineTo);
-    EXPECT_EQ(p[0], (Point{10, 10}));
+    EXPECT_EQ(p[0], (Point{10, 10})) << "the last corner goes onto the first";
     EXPECT_EQ(canvas->mSelectionPath->elementAt(5), PathElement::ClosePath);
-}
-
-TEST_F(Mouse, PolygonClickOutsideStartsANewLassoThere)
-{
-    canvas->setTool(1);
-    hold(kControlKey);
-    press(10, 10);
-    release(10, 10);
-    hold(0);
+    // A click that is no longer part of the polygon starts a new lasso.
     press(100, 80);
     EXPECT_FALSE(canvas->mPolygonLasso);
     ASSERT_EQ(canvas->mSelectionPath->elementCount(), 1);
