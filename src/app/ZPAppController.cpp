@@ -303,8 +303,8 @@ void ZPAppController::buildCommands()
 
     // After a save through a panel the window shows the new name.
     const auto saving = [this](const char* action, void (ZPCanvas::*f)()) {
-        mCommands[action] = [this, f](QAction*) {
-            (mCanvas->*f)();
+        mCommands[action] = [this, f, target = mCanvas](QAction*) {
+            (target->*f)();
             mWindow->showTitle();
         };
     };
@@ -314,7 +314,7 @@ void ZPAppController::buildCommands()
     saving("saveAsPNG:", &ZPCanvas::saveImageAsPNG);
 
     const auto canvas = [this](const char* action, void (ZPCanvas::*f)()) {
-        mCommands[action] = [this, f](QAction*) { (mCanvas->*f)(); };
+        mCommands[action] = [target = mCanvas, f](QAction*) { (target->*f)(); };
     };
     canvas("openWithPreview:", &ZPCanvas::openWithPreview);
     canvas("undo:", &ZPCanvas::undo);

@@ -161,26 +161,26 @@ void ScriptDriver::addOperations()
         return w[i].starts_with("~") ? w[i] : absolutePath(w[i]);
     };
     const auto plain = [this](const char* name, void (ZPCanvas::*f)()) {
-        mOperations[name] = [this, f](const Words&) {
-            (mCanvas.*f)();
+        mOperations[name] = [&canvas = mCanvas, f](const Words&) {
+            (canvas.*f)();
             return QJsonObject{};
         };
     };
     const auto withPath = [this, path](const char* name, void (ZPCanvas::*f)(const std::string&)) {
-        mOperations[name] = [this, f, path](const Words& w) {
-            (mCanvas.*f)(path(w, 0));
+        mOperations[name] = [&canvas = mCanvas, f, path](const Words& w) {
+            (canvas.*f)(path(w, 0));
             return QJsonObject{};
         };
     };
     const auto withPoint = [this, number](const char* name, void (ZPCanvas::*f)(Point)) {
-        mOperations[name] = [this, f, number](const Words& w) {
-            (mCanvas.*f)({float(number(w, 0)), float(number(w, 1))});
+        mOperations[name] = [&canvas = mCanvas, f, number](const Words& w) {
+            (canvas.*f)({float(number(w, 0)), float(number(w, 1))});
             return QJsonObject{};
         };
     };
     const auto withSize = [this, number](const char* name, void (ZPCanvas::*f)(Size)) {
-        mOperations[name] = [this, f, number](const Words& w) {
-            (mCanvas.*f)({float(number(w, 0)), float(number(w, 1))});
+        mOperations[name] = [&canvas = mCanvas, f, number](const Words& w) {
+            (canvas.*f)({float(number(w, 0)), float(number(w, 1))});
             return QJsonObject{};
         };
     };
