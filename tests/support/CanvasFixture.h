@@ -53,9 +53,15 @@ protected:
         ASSERT_TRUE(eventually([this] { return !canvas->anyWorkerRunning() && !canvas->snapshotTimerPending(); }));
     }
     std::uint32_t pixel(int x, int y) const { return std::as_const(*canvas->mBitmapRep).view().row(y)[x]; }
-    void setPixel(int x, int y, std::uint32_t w) { canvas->mBitmapRep->view().row(y)[x] = w; }
+    /// As every operation does: not while a snapshot is read from the pixels.
+    void setPixel(int x, int y, std::uint32_t w)
+    {
+        if (canvas->anyWorkerRunning()) settle();
+        canvas->mBitmapRep->view().row(y)[x] = w;
+    }
     void fillImage(std::uint32_t w)
     {
+        settle();
         const BitmapView v = canvas->mBitmapRep->view();
         for (int y = 0; y < v.height; ++y)
             for (int x = 0; x < v.width; ++x) v.row(y)[x] = w;
