@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStatusBar>

@@ -79,9 +79,12 @@ bool save(ZPCanvas& canvas, const std::string& path, SaveFormat format)
 }
 
 /// Makes @p path the image's file and saves there; when that fails the image keeps the file it had.
-void saveAs(ZPCanvas& canvas, const std::string& path, const std::string& target, SaveFormat format)
+/// @param path   by value: the caller may hand over the canvas's own path, which changes here
+/// @param exact  written to exactly that path, else with the format's extension
+void saveAs(ZPCanvas& canvas, std::string path, SaveFormat format, bool exact = false)
 {
-    const std::string before = std::exchange(canvas.mImagePath, path);
+    const std::string target = exact ? path : writtenPath(path, format);
+    const std::string before = std::exchange(canvas.mImagePath, std::move(path));
     if (!save(canvas, target, format)) canvas.mImagePath = before;
 }
 
@@ -205,14 +208,12 @@ void ZPCanvas::saveImageAsJPEG()
 
 void ZPCanvas::saveImageAsTIFF(const std::string& path)
 {
-    const std::string chosen = path;
-    saveAs(*this, chosen, writtenPath(chosen, SaveFormat::TIFF), SaveFormat::TIFF);
+    saveAs(*this, path, SaveFormat::TIFF);
 }
 
 void ZPCanvas::saveImageAsJPEG(const std::string& path)
 {
-    const std::string chosen = path;
-    saveAs(*this, chosen, writtenPath(chosen, SaveFormat::JPEG), SaveFormat::JPEG);
+    saveAs(*this, path, SaveFormat::JPEG);
 }
 
 void ZPCanvas::saveImageAsPNG()
@@ -222,8 +223,7 @@ void ZPCanvas::saveImageAsPNG()
 
 void ZPCanvas::saveImageAsPNG(const std::string& path)
 {
-    const std::string chosen = path;
-    saveAs(*this, chosen, writtenPath(chosen, SaveFormat::PNG), SaveFormat::PNG);
+    saveAs(*this, path, SaveFormat::PNG);
 }
 
 void ZPCanvas::saveImageToPath(const std::string& path)
@@ -240,11 +240,7 @@ void ZPCanvas::saveImageToPath(const std::string& path)
     logLine("elapsed time: %f", elapsed.count());
 }
 
-void ZPCanvas::quickSave(const std::string& path)
-{
-    const std::string chosen = path;
-    saveAs(*this, chosen, chosen, SaveFormat::TIFF);
-}
+void ZPCanvas::quickSave(const std::string& path) { saveAs(*this, path, SaveFormat::TIFF, true); }
 
 void ZPCanvas::openWithPreview()
 {

@@ -46,7 +46,7 @@ LibraryPreview::LibraryPreview(QWidget* parent) : QWidget(parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     mPoll.setInterval(kPollMilliseconds);
     connect(&mPoll, &QTimer::timeout, this, &LibraryPreview::take);
-    mWorker = std::jthread([this](std::stop_token stop) { work(stop); });
+    mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
 }
 
 LibraryPreview::~LibraryPreview() = default;
@@ -74,7 +74,7 @@ void LibraryPreview::showText(const QString& text)
     update();
 }
 
-void LibraryPreview::work(std::stop_token stop)
+void LibraryPreview::work(const std::stop_token& stop)
 {
     while (!stop.stop_requested()) {
         Wanted wanted;

@@ -30,7 +30,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void work(std::stop_token stop);
+    void work(const std::stop_token& stop);
     void take();
 
     QImage mPicture;

@@ -43,7 +43,7 @@ std::string hashText(std::uint64_t hash)
 void collect(const std::string& root, const std::string& below, std::vector<std::string>& files, int depth)
 {
     for (const std::string& name : contentsOfFolder(pathByAppending(root, below))) {
-        const std::string inner = below.empty() ? name : below + "/" + name;
+        const std::string inner = below.empty() ? name : pathByAppending(below, name);
         const auto about = fileAttributes(pathByAppending(root, inner));
         if (!about || name.starts_with('.') || name.find('\n') != std::string::npos) continue;
         if (about->folder) {
@@ -89,7 +89,7 @@ struct Manifest {
     void write(const std::string& path) const
     {
         std::string text = std::string(kManifestHead) + "\n" + state + "\n";
-        for (const auto& [name, hash] : copied) text += hash + " " + name + "\n";
+        for (const auto& [name, hash] : copied) text.append(hash).append(" ").append(name).append("\n");
         writeFileSafely(path, text.data(), text.size());
     }
 };

@@ -2,6 +2,7 @@
 /// What of a file's EXIF, XMP and profile is kept, and what is put right before they are written again.
 #include "platform/MetadataBlocks.h"
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <cstdio>
 #include <cstring>
@@ -120,14 +121,14 @@ std::string decodeUserComment(std::span<const std::uint8_t> value, bool bigEndia
 {
     if (value.size() <= 8) return {};
     const auto text = value.subspan(8);
-    const auto code = [&](const char* name) { return std::memcmp(value.data(), name, 8) == 0; };
+    const auto code = [&](std::array<char, 8> name) { return std::memcmp(value.data(), name.data(), 8) == 0; };
     std::string out(text.begin(), text.end());
-    if (code("UNICODE\0")) {
+    if (code({'U', 'N', 'I', 'C', 'O', 'D', 'E', 0})) {
         out = decodeUTF16(text, bigEndian);
         // Some writers put UTF-8 under this heading: then hardly anything of the UTF-16 reading is Latin.
         const std::string raw(text.begin(), text.end());
         if (raw.find('\0') == std::string::npos && isUTF8(raw) && text.size() >= 4) out = raw;
-    } else if (code("ASCII\0\0\0") || code("\0\0\0\0\0\0\0\0")) {
+    } else if (code({'A', 'S', 'C', 'I', 'I', 0, 0, 0}) || code({})) {
         trimPadding(out);
         if (!isUTF8(out)) out = latin1(out);
     } else {

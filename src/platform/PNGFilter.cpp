@@ -20,8 +20,8 @@ ZP_MULTIVERSION std::uint64_t weight(const std::uint8_t* bytes, std::size_t coun
         const std::size_t end = std::min(count, i + 4096);
         std::uint32_t sum = 0;
         for (; i < end; ++i) {
-            const int v = std::int8_t(bytes[i]);
-            sum += std::uint32_t(v < 0 ? -v : v);
+            const std::uint32_t v = bytes[i]; // as a signed byte, its size
+            sum += v < 128 ? v : 256 - v;
         }
         total += sum;
     }

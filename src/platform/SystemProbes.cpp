@@ -84,7 +84,7 @@ bool isIntelProcessor()
     return intel.result;
 }
 
-void setSystemQueries(std::optional<SystemQueries> replacement)
+void setSystemQueries(const std::optional<SystemQueries>& replacement)
 {
     const std::lock_guard hold(guard);
     queries = replacement.value_or(SystemQueries{versionOfSystem, architectureOfSystem});

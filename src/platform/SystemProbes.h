@@ -23,6 +23,6 @@ bool isIntelProcessor();
 struct SystemQueries {
     std::function<std::optional<std::uint32_t>()> systemVersion, systemArchitecture;
 };
-void setSystemQueries(std::optional<SystemQueries> queries);
+void setSystemQueries(const std::optional<SystemQueries>& queries);
 
 } // namespace zp

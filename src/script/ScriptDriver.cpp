@@ -199,7 +199,7 @@ void ScriptDriver::startWork(std::function<QJsonObject()> work)
     QTimer::singleShot(0, this, [this, before] { watchWork(before); });
 }
 
-void ScriptDriver::poll(std::shared_ptr<std::function<bool()>> look)
+void ScriptDriver::poll(const std::shared_ptr<std::function<bool()>>& look)
 {
     if ((*look)()) return;
     QTimer::singleShot(kPollMilliseconds, this, [this, look] { poll(look); });

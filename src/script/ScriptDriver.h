@@ -56,7 +56,7 @@ private:
     void startWork(std::function<QJsonObject()> work);
     void watchWork(int modalsBefore);
     /// Calls @p look every few milliseconds until it answers true; goes on inside modal loops.
-    void poll(std::shared_ptr<std::function<bool()>> look);
+    void poll(const std::shared_ptr<std::function<bool()>>& look);
     /// Polls until @p done or the time is over.
     void waitUntil(std::function<bool()> done, double seconds, bool failAtEnd);
 

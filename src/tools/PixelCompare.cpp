@@ -45,7 +45,8 @@ Color unpackPremultiplied(std::uint32_t pixel)
     // Through whole bytes, so that a colour picked from a pixel and painted again gives the same pixel.
     const auto component = [&](int shift) {
         const std::uint32_t value = pixel >> shift & 0xFF;
-        return value >= alpha ? 1.0f : float((value * 255 + alpha / 2) / alpha) / 255.0f;
+        const std::uint32_t plain = (value * 255 + alpha / 2) / alpha;
+        return value >= alpha ? 1.0f : float(plain) / 255.0f;
     };
     return {component(8), component(16), component(24), float(alpha) / 255.0f};
 }

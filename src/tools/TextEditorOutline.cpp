@@ -150,7 +150,7 @@ TextOutline outlineOfText(const QString& text, const QFont& font, Point start)
                 continue;
             }
             glyph.translate(places[i].x() - left, places[i].y() - only.y() - base);
-            join(shapes, std::move(glyph));
+            join(shapes, glyph);
         }
     }
     for (const QPainterPath& shape : shapes)
