@@ -215,3 +215,28 @@ TEST(SizeDialogs, QuickSaveProposesTheNextName)
     EXPECT_EQ(s.must("windows")["windows"].toArray()[0].toObject()["name"], "Name");
     s.must("click name_cancel:");
 }
+
+TEST(Launch, AKilledProgramsPictureIsOfferedAgain)
+{
+    QTemporaryDir home;
+    {
+        Session s({"--no-start-choice"}, home.path());
+        s.newImage(30, 20);
+        s.play({"set mColorWell #ff0000", "menu selectAll:", "menu fill:", "wait"});
+        s.kill();
+    }
+    {
+        Session again({"--no-start-choice"}, home.path());
+        const QJsonObject alert = again.must("alert")["alert"].toObject();
+        EXPECT_EQ(alert["buttons"], (QJsonArray{"Recover", "Discard"}));
+        again.must("answer Recover");
+        EXPECT_EQ(again.must("image")["width"], 30);
+        EXPECT_EQ(again.state()["mUndoRedoIndex"], 1);
+        EXPECT_GT(again.pixel(5, 5)[1], 245);
+        again.must("menu undo:");
+        EXPECT_EQ(again.pixel(5, 5)[0], 0) << "the whole history comes back";
+        EXPECT_EQ(again.end(), 0);
+    }
+    Session after({"--no-start-choice"}, home.path());
+    EXPECT_TRUE(after.must("alert")["alert"].isNull()) << "a program that quit leaves nothing to recover";
+}
