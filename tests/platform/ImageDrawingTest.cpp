@@ -4,6 +4,7 @@
 #include "platform/BitmapRep.h"
 #include "platform/ImageDrawingBlend.h"
 #include "platform/ImageDrawingSampler.h"
+#include "platform/TestPictures.h"
 #include <array>
 #include <cmath>
 #include <functional>
@@ -12,38 +13,13 @@
 #include <random>
 
 using namespace zp;
+using zp::test::channelOf;
+using zp::test::noise;
+using zp::test::picture;
+using zp::test::word;
 
 namespace
 {
-std::uint32_t word(int a, int r, int g, int b)
-{
-    return std::uint32_t(a) | std::uint32_t(r) << 8 | std::uint32_t(g) << 16 | std::uint32_t(b) << 24;
-}
-int channelOf(std::uint32_t w, int channel) { return int(w >> (8 * channel) & 255); }
-
-std::shared_ptr<BitmapRep> picture(int width, int height, std::uint32_t fill = 0)
-{
-    auto rep = BitmapRep::create(width, height);
-    for (int y = 0; y < height; ++y) std::fill_n(rep->view().row(y), width, fill);
-    return rep;
-}
-
-std::shared_ptr<BitmapRep> noise(int width, int height, unsigned seed, bool opaque = false)
-{
-    auto rep = BitmapRep::create(width, height);
-    std::mt19937 random(seed);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) {
-            const unsigned kind = random() % 3;
-            const unsigned a = opaque || kind == 0 ? 255
-                               : kind == 1         ? random() % 256
-                                                   : (random() % 2) * (random() % 256);
-            rep->view().row(y)[x] =
-                word(int(a), int(random() % (a + 1)), int(random() % (a + 1)), int(random() % (a + 1)));
-        }
-    return rep;
-}
-
 /// Slow waves: what interpolation must carry over well.
 std::shared_ptr<BitmapRep> waves(int width, int height)
 {

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Small pictures of known or random pixels for tests of drawing.
+#pragma once
+#include "platform/BitmapRep.h"
+#include <algorithm>
+#include <memory>
+#include <random>
+
+namespace zp::test
+{
+
+inline std::uint32_t word(int a, int r, int g, int b)
+{
+    return std::uint32_t(a) | std::uint32_t(r) << 8 | std::uint32_t(g) << 16 | std::uint32_t(b) << 24;
+}
+inline int channelOf(std::uint32_t w, int channel) { return int(w >> (8 * channel) & 255); }
+
+inline std::shared_ptr<BitmapRep> picture(int width, int height, std::uint32_t fill = 0)
+{
+    auto rep = BitmapRep::create(width, height);
+    for (int y = 0; y < height; ++y) std::fill_n(rep->view().row(y), width, fill);
+    return rep;
+}
+
+/// Valid premultiplied pixels, a third of them opaque, some empty.
+inline std::shared_ptr<BitmapRep> noise(int width, int height, unsigned seed, bool opaque = false)
+{
+    auto rep = BitmapRep::create(width, height);
+    std::mt19937 random(seed);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const unsigned kind = random() % 3;
+            const unsigned a = opaque || kind == 0 ? 255
+                               : kind == 1         ? random() % 256
+                                                   : (random() % 2) * (random() % 256);
+            rep->view().row(y)[x] =
+                word(int(a), int(random() % (a + 1)), int(random() % (a + 1)), int(random() % (a + 1)));
+        }
+    return rep;
+}
+
+} // namespace zp::test
