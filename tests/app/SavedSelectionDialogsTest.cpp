@@ -6,6 +6,7 @@
 #include "platform/Sounds.h"
 #include "selection/SelectionFile.h"
 #include "support/CanvasFixture.h"
+#include "support/SavedSelectionFixture.h"
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
@@ -19,29 +20,9 @@ using namespace zp;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class SavedSelectionDialogs : public zp::test::CanvasTest
+class SavedSelectionDialogs : public zp::test::SavedSelectionsTest
 {
 protected:
-    void SetUp() override
-    {
-        removeItem(folder());
-        makeImage(40, 30);
-        takeSounds();
-    }
-    void TearDown() override { settle(); }
-
-    static std::string folder() { return applicationSupportFolder() + "/Selections"; }
-    void selectRect(float x, float y, float w, float h)
-    {
-        canvas->mSelectionPath = BezierPath::withRect(makeRect(x, y, w, h));
-    }
-    static void put(const std::string& name, const std::string& text)
-    {
-        createFolder(folder());
-        ASSERT_TRUE(writeFileSafely(folder() + "/" + name, text.data(), text.size()));
-    }
-    static std::string rectText(float x) { return selectionFileText(BezierPath::withRect(makeRect(x, 1, 5, 6))); }
-
     static QDialog* dialog(const char* name)
     {
         auto* front = qobject_cast<QDialog*>(QApplication::activeModalWidget());
