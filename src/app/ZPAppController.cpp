@@ -54,14 +54,15 @@ ZPAppController::ZPAppController() : mWindow(std::make_unique<MainWindow>()), mC
     mCanvas->awakeFromNib();
     // Windows stand above the canvas: it reaches the text editor through these.
     setTextToolHooks({[](int size) { ZPTextEditor::sharedInstance()->setFontSize(size); },
-                      [] { ZPTextEditor::sharedInstance()->showWindow(); }, [] { ZPTextEditor::sharedInstance()->run(); },
+                      [] { ZPTextEditor::sharedInstance()->showWindow(); },
+                      [] { ZPTextEditor::sharedInstance()->run(); },
                       [](Point start) { return ZPTextEditor::sharedInstance()->textPathAtPoint(start); },
                       [] { return ZPTextEditor::sharedInstance()->isValid(); }});
     ZPSmartFill::registerWithCanvas();
     ZPPrefs::applyStored();
     mWindow->mayClose = [this] {
-        terminate();
-        return false;
+        if (!mTerminated) terminate();
+        return mTerminated;
     };
     mWindow->openDroppedFile = [this](const std::string& path) { openPath(path); };
 }
@@ -151,7 +152,6 @@ void ZPAppController::terminate()
 {
     if (!applicationShouldTerminate()) return;
     mTerminated = true;
-    QApplication::closeAllWindows();
     QCoreApplication::exit(0);
 }
 

@@ -85,6 +85,16 @@ TEST(Launch, QuittingAlwaysAsks)
     EXPECT_EQ(s.end(), 0);
 }
 
+TEST(Launch, QuitEndsTheProgramAtOnce)
+{
+    Session s;
+    s.newImage(8, 8);
+    s.must("menu terminate:");
+    s.send("answer Quit");
+    EXPECT_TRUE(s.ended()) << "one question is enough";
+    EXPECT_FALSE(QFileInfo::exists(s.file("Zelpane Undo Support")));
+}
+
 TEST(Launch, TheRetinaFlagIsKept)
 {
     QTemporaryDir home;

@@ -96,6 +96,9 @@ public:
     }
     QStringList sounds() { return toStrings(must("sounds")["sounds"].toArray()); }
     QStringList log() { return toStrings(must("log")["lines"].toArray()); }
+    /// Sends a line that may have no answer, because it ends the program.
+    void send(const QString& line) { mProcess.write(line.toUtf8() + '\n'); }
+    bool ended() { return mProcess.waitForFinished(20'000) && mProcess.exitCode() == 0; }
     /// Ends the input. @return the exit status
     int end()
     {
