@@ -29,8 +29,6 @@ using namespace zp;
 namespace
 {
 
-QString text(const std::string& bytes) { return QString::fromStdString(bytes); }
-
 /// "#rrggbb" or "#rrggbbaa".
 std::optional<Color> parseColour(const std::string& word)
 {

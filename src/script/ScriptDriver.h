@@ -18,6 +18,12 @@ class QWidget;
 class ZPAppController;
 class ZPCanvas;
 
+namespace zp
+{
+/// A word of a script as a text of the user interface.
+inline QString text(const std::string& bytes) { return QString::fromStdString(bytes); }
+} // namespace zp
+
 /// Commands go on inside a modal window's own loop: whatever may open one is started from a timer of its own, and
 /// answered when it has ended or when the window is up.
 class ScriptDriver : public QObject
@@ -93,5 +99,4 @@ private:
     std::uint64_t mCommandNumber = 0;
     std::optional<QJsonObject> mWorkResult;
     std::optional<QString> mWorkError;
-    bool mButtonDown = false;
 };

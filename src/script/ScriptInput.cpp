@@ -15,8 +15,6 @@ using namespace zp;
 namespace
 {
 
-QString text(const std::string& bytes) { return QString::fromStdString(bytes); }
-
 /// Folder and name of a path as the platform would hand it over: absolute.
 std::string absolutePath(const std::string& path)
 {
@@ -37,8 +35,6 @@ void ScriptDriver::sendMouse(int type, const Words& w)
     const QPointF local(x * z, y * z);
     const QPointF global = QPointF(mCanvas.mapToGlobal(QPoint(0, 0))) + local;
     const auto kind = QEvent::Type(type);
-    if (kind == QEvent::MouseButtonPress) mButtonDown = true;
-    if (kind == QEvent::MouseButtonRelease) mButtonDown = false;
     const Qt::MouseButton button = kind == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     const bool held = kind == QEvent::MouseButtonPress || (kind == QEvent::MouseMove && w[0] == "drag");
     QMouseEvent event(kind, local, local, global, button, held ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);

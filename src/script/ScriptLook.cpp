@@ -20,7 +20,6 @@ using namespace zp;
 namespace
 {
 
-QString text(const std::string& bytes) { return QString::fromStdString(bytes); }
 QJsonArray pair(float a, float b) { return {double(a), double(b)}; }
 QJsonArray pair(Point p) { return pair(p.x, p.y); }
 QJsonArray pair(Size s) { return pair(s.width, s.height); }
