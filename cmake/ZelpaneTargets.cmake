@@ -33,6 +33,21 @@ function(zp_add_window room)
     target_precompile_headers(zp_${room}_window REUSE_FROM zp_canvas)
 endfunction()
 
+# zp_add_room(ROOM [WINDOW FILES...] [LINK libs] [PRIVATE_LINK libs]): what every room has. Its ZPCanvas*.cpp become part
+# of the canvas; the window's files become a window; all other *.cpp are algorithms.
+function(zp_add_room room)
+    cmake_parse_arguments(A "" "" "WINDOW;LINK;PRIVATE_LINK" ${ARGN})
+    file(GLOB algorithms CONFIGURE_DEPENDS *.cpp)
+    file(GLOB operations CONFIGURE_DEPENDS ZPCanvas*.cpp)
+    list(REMOVE_ITEM algorithms ${operations} ${A_WINDOW})
+    zp_add_algorithms(${room} FILES ${algorithms} LINK ${A_LINK} PRIVATE_LINK ${A_PRIVATE_LINK})
+    target_link_libraries(zp_canvas PUBLIC zp_${room}_algorithms)
+    target_sources(zp_canvas PRIVATE ${operations})
+    if(A_WINDOW)
+        zp_add_window(${room} FILES ${A_WINDOW})
+    endif()
+endfunction()
+
 # zp_add_tests(NAME FILES... LINK libs): one GoogleTest program; each test runs alone, in a home folder of its own.
 function(zp_add_tests name)
     cmake_parse_arguments(A "QT" "" "FILES;LINK" ${ARGN})
@@ -52,6 +67,20 @@ function(zp_add_tests name)
                                                     ZP_RESOURCES="${CMAKE_SOURCE_DIR}/resources"
                                                     ZP_SOURCE="${CMAKE_SOURCE_DIR}")
     gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()
+
+# zp_add_room_tests(ROOM [LINK libs]): the room's tests of algorithms, and in its folder "gui" those that need the canvas or
+# the room's window.
+function(zp_add_room_tests room)
+    cmake_parse_arguments(A "" "" "LINK" ${ARGN})
+    file(GLOB tests CONFIGURE_DEPENDS *Test.cpp)
+    zp_add_tests(${room} FILES ${tests} LINK zp_${room}_algorithms ${A_LINK})
+    file(GLOB gui CONFIGURE_DEPENDS gui/*Test.cpp)
+    if(TARGET zp_${room}_window)
+        zp_add_tests(${room}_gui QT FILES ${gui} LINK zp_${room}_window)
+    else()
+        zp_add_tests(${room}_gui QT FILES ${gui} LINK zp_canvas)
+    endif()
 endfunction()
 
 # zp_add_bench(NAME FILES... LINK libs): one Google Benchmark program with its peers in the same run.
