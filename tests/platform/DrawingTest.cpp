@@ -11,29 +11,15 @@
 
 using namespace zp;
 using zp::test::channelOf;
+using zp::test::isPremultiplied;
 using zp::test::noise;
 using zp::test::picture;
+using zp::test::samePixels;
 using zp::test::word;
 
 namespace
 {
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
-
-bool samePixels(ConstBitmapView a, ConstBitmapView b)
-{
-    for (int y = 0; y < a.height; ++y)
-        if (!std::equal(a.row(y), a.row(y) + a.width, b.row(y))) return false;
-    return true;
-}
-
-void expectValid(ConstBitmapView v)
-{
-    for (int y = 0; y < v.height; ++y)
-        for (int x = 0; x < v.width; ++x)
-            for (int c = 1; c < 4; ++c)
-                ASSERT_LE(channelOf(v.row(y)[x], c), channelOf(v.row(y)[x], 0))
-                    << "colour above alpha at " << x << "," << y;
-}
 
 /// A polygon's exact share of a pixel by cutting it to the pixel (convex outlines).
 double areaInPixel(std::vector<std::pair<double, double>> polygon, int px, int py)
@@ -233,7 +219,7 @@ TEST_P(BrokenPath, IsCutToTheBitmapOrDrawsNothing)
     context.stroke(path);
     context.addClip(path);
     context.fillRect(makeRect(0, 0, 32, 32));
-    expectValid(canvas->view());
+    EXPECT_TRUE(isPremultiplied(canvas->view()));
     Mask mask(32, 32);
     fillPathInMask(mask.view(), path, 255);
     strokePathInMask(mask.view(), path, 255);

@@ -7,6 +7,7 @@
 #include "platform/PNGDeflate.h"
 #include "platform/TIFFLZW.h"
 #include "platform/TIFFSource.h"
+#include "platform/TestPictures.h"
 #include <cstring>
 #include <gtest/gtest.h>
 #include <png.h>
@@ -16,6 +17,7 @@ namespace zp
 {
 namespace
 {
+using test::samePixels;
 
 std::string picture(const std::string& name) { return std::string(ZP_TESTDATA) + "/images/" + name; }
 
@@ -40,17 +42,6 @@ std::shared_ptr<BitmapRep> makePicture(int width, int height, Look look, unsigne
             }
         }
     return rep;
-}
-
-testing::AssertionResult samePixels(ConstBitmapView a, ConstBitmapView b)
-{
-    if (a.width != b.width || a.height != b.height) return testing::AssertionFailure() << "sizes differ";
-    for (int y = 0; y < a.height; ++y)
-        for (int x = 0; x < a.width; ++x)
-            if (a.row(y)[x] != b.row(y)[x])
-                return testing::AssertionFailure()
-                       << std::hex << a.row(y)[x] << " is not " << b.row(y)[x] << std::dec << " at " << x << ", " << y;
-    return testing::AssertionSuccess();
 }
 
 struct Case {

@@ -3,6 +3,7 @@
 #pragma once
 #include "platform/BitmapRep.h"
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <memory>
 #include <random>
 
@@ -20,6 +21,29 @@ inline std::shared_ptr<BitmapRep> picture(int width, int height, std::uint32_t f
     auto rep = BitmapRep::create(width, height);
     for (int y = 0; y < height; ++y) std::fill_n(rep->view().row(y), width, fill);
     return rep;
+}
+
+/// Whether two pictures have the same size and pixels; the first difference is named.
+inline testing::AssertionResult samePixels(ConstBitmapView a, ConstBitmapView b)
+{
+    if (a.width != b.width || a.height != b.height) return testing::AssertionFailure() << "sizes differ";
+    for (int y = 0; y < a.height; ++y)
+        for (int x = 0; x < a.width; ++x)
+            if (a.row(y)[x] != b.row(y)[x])
+                return testing::AssertionFailure()
+                       << std::hex << a.row(y)[x] << " is not " << b.row(y)[x] << std::dec << " at " << x << ", " << y;
+    return testing::AssertionSuccess();
+}
+
+/// Whether no colour lies above its alpha.
+inline testing::AssertionResult isPremultiplied(ConstBitmapView v)
+{
+    for (int y = 0; y < v.height; ++y)
+        for (int x = 0; x < v.width; ++x)
+            for (int c = 1; c < 4; ++c)
+                if (channelOf(v.row(y)[x], c) > channelOf(v.row(y)[x], 0))
+                    return testing::AssertionFailure() << "colour above alpha at " << x << ", " << y;
+    return testing::AssertionSuccess();
 }
 
 /// Valid premultiplied pixels, a third of them opaque, some empty.

@@ -3,6 +3,7 @@
 #include "imageops/Adjustment.h"
 #include "platform/Log.h"
 #include "platform/Sounds.h"
+#include "platform/TestPictures.h"
 #include "support/CanvasFixture.h"
 #include <algorithm>
 #include <random>
@@ -38,12 +39,9 @@ protected:
         applyFilters(std::as_const(*source).view(), out->view(), filterSettings(filters), out->view().box());
         return out;
     }
-    static bool samePixels(const BitmapRep& a, const BitmapRep& b)
+    static testing::AssertionResult samePixels(const BitmapRep& a, const BitmapRep& b)
     {
-        if (a.pixelsWide() != b.pixelsWide() || a.pixelsHigh() != b.pixelsHigh()) return false;
-        for (int y = 0; y < a.pixelsHigh(); ++y)
-            if (std::memcmp(a.view().row(y), b.view().row(y), std::size_t(a.pixelsWide()) * 4) != 0) return false;
-        return true;
+        return zp::test::samePixels(a.view(), b.view());
     }
 };
 
