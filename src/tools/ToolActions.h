@@ -5,6 +5,8 @@
 #include "platform/BitmapRep.h"
 #include "platform/MainThreadWake.h"
 #include "tools/PointerFeed.h"
+#include <QPointF>
+#include <QTimer>
 #include <memory>
 
 namespace zp
@@ -12,11 +14,13 @@ namespace zp
 
 /// The tools' memory beside the canvas's fields. Main thread, except where noted.
 struct ToolState {
-    int gestureTool = -1;        ///< the tool that the press in progress began with; -1: none, or it was refused
-    Point lastPoint;             ///< of the latest accepted press or drag
-    Point previousPt2;           ///< mPt2 before the latest drag
-    bool buttonDown = false;     ///< the platform said the button is down, whatever the canvas made of it
-    bool referenceClick = false; ///< the clone stamp's press only set the reference
+    int gestureTool = -1;              ///< the tool that the press in progress began with; -1: none, or it was refused
+    Point lastPoint;                   ///< of the latest accepted press or drag
+    Point previousPt2;                 ///< mPt2 before the latest drag
+    bool buttonDown = false;           ///< the platform said the button is down, whatever the canvas made of it
+    bool referenceClick = false;       ///< the clone stamp's press only set the reference
+    std::unique_ptr<QTimer> restTimer; ///< runs while a drag that scrolls the view rests beyond its edge
+    QPointF restingPointer;            ///< where on the screen that is
 
     // The brush stroke. Written before its threads start; they read it.
     std::shared_ptr<BitmapRep> strokeBitmap; ///< what is painted on

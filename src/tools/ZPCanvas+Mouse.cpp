@@ -5,9 +5,11 @@
 #include "platform/KeyModifiers.h"
 #include "platform/Sounds.h"
 #include "tools/ToolActions.h"
+#include <QApplication>
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <chrono>
 
 using namespace zp;
 
@@ -49,6 +51,52 @@ Point imagePoint(const ZPCanvas& canvas, QPointF position)
 void samplePointer(ZPCanvas& canvas, Point point)
 {
     if (toolState(canvas).strokeOpen && canvas.mPointerFeed) canvas.mPointerFeed->push(point);
+}
+
+QScrollArea* enclosingView(const ZPCanvas& canvas)
+{
+    QWidget* ancestor = canvas.parentWidget();
+    while (ancestor && !qobject_cast<QScrollArea*>(ancestor)) ancestor = ancestor->parentWidget();
+    return qobject_cast<QScrollArea*>(ancestor);
+}
+
+// ---- a drag that rests beyond the view's edge -----------------------------------------------------------------------
+
+/// A hand that rests sends no movements. From then on the drag is repeated on the spot this often, so that the view
+/// scrolls on below the pointer and what is dragged goes with it.
+constexpr std::chrono::milliseconds kRestInterval{33};
+
+void stopRepeating(ZPCanvas& canvas)
+{
+    if (QTimer* timer = toolState(canvas).restTimer.get()) timer->stop();
+}
+
+void repeatDrag(ZPCanvas& canvas)
+{
+    const ToolState& state = toolState(canvas);
+    const ToolRow* row = rowOf(state.gestureTool);
+    // The tool may have been changed, the window closed, a question asked, or the release given to somebody else.
+    const bool held = state.buttonDown && QGuiApplication::mouseButtons() & Qt::LeftButton;
+    if (!held || !row || !row->scrolls || !canvas.isVisible() || QApplication::activeModalWidget())
+        return stopRepeating(canvas);
+    if (canvas.mUndoThreadRunning) return;
+    const QPoint before = canvas.pos();
+    canvas.mLastPointer = imagePoint(canvas, canvas.mapFromGlobal(state.restingPointer));
+    emit canvas.pointerMoved(QPointF(canvas.mLastPointer.x, canvas.mLastPointer.y));
+    canvas.mouseDragged(canvas.mLastPointer);
+    if (canvas.pos() == before) stopRepeating(canvas); // the end of the picture
+}
+
+/// After a movement that scrolled the view; @p pointer is on the screen.
+void repeatWhileResting(ZPCanvas& canvas, QPointF pointer)
+{
+    ToolState& state = toolState(canvas);
+    state.restingPointer = pointer;
+    if (!state.restTimer) {
+        state.restTimer = std::make_unique<QTimer>();
+        QObject::connect(state.restTimer.get(), &QTimer::timeout, &canvas, [&canvas] { repeatDrag(canvas); });
+    }
+    state.restTimer->start(kRestInterval);
 }
 
 } // namespace
@@ -135,14 +183,18 @@ void ZPCanvas::mouseUp(Point point)
 
 void ZPCanvas::autoscroll(Point point)
 {
-    QWidget* ancestor = parentWidget();
-    while (ancestor && !qobject_cast<QScrollArea*>(ancestor)) ancestor = ancestor->parentWidget();
-    if (!ancestor) return;
+    QScrollArea* const view = enclosingView(*this);
+    if (!view) return;
     const double zoom = effectiveZoom();
-    const auto onWidget = [zoom](float v, int extent) {
-        return std::clamp(int(std::floor(v * zoom)), 0, std::max(0, extent - 1));
+    const auto follow = [zoom](QScrollBar* bar, float position, int extent, int visible) {
+        const int at = std::clamp(int(std::floor(position * zoom)), 0, std::max(0, extent - 1));
+        if (at < bar->value())
+            bar->setValue(at);
+        else if (at >= bar->value() + visible)
+            bar->setValue(at - visible + 1);
     };
-    qobject_cast<QScrollArea*>(ancestor)->ensureVisible(onWidget(point.x, width()), onWidget(point.y, height()), 0, 0);
+    follow(view->horizontalScrollBar(), point.x, width(), view->viewport()->width());
+    follow(view->verticalScrollBar(), point.y, height(), view->viewport()->height());
 }
 
 // ---- the platform's events ------------------------------------------------------------------------------------------
@@ -164,7 +216,14 @@ void ZPCanvas::mouseMoveEvent(QMouseEvent* event)
     mLastPointer = imagePoint(*this, event->position());
     emit pointerMoved(QPointF(mLastPointer.x, mLastPointer.y));
     if (!state.buttonDown) return samplePointer(*this, mLastPointer); // a stroke whose release was refused goes on
-    if (event->buttons() & Qt::LeftButton) return mouseDragged(mLastPointer);
+    stopRepeating(*this);
+    if (event->buttons() & Qt::LeftButton) {
+        const QPoint before = pos();
+        mouseDragged(mLastPointer);
+        // Only a hand rests: a movement that the program itself sent is over when it has been handled.
+        if (pos() != before && event->spontaneous()) repeatWhileResting(*this, event->globalPosition());
+        return;
+    }
     // The button is up and nobody said so: a menu or another program took the release.
     state.buttonDown = false;
     mouseUp(mLastPointer);
@@ -174,6 +233,7 @@ void ZPCanvas::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton) return event->ignore();
     ToolState& state = toolState(*this);
+    stopRepeating(*this);
     mLastPointer = imagePoint(*this, event->position());
     emit pointerMoved(QPointF(mLastPointer.x, mLastPointer.y));
     if (std::exchange(state.buttonDown, false) || mIsMouseDown) mouseUp(mLastPointer);
