@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The library's rows and values, the odd ones included.
 #include "library/LibraryListing.h"
+#include "support/TemporaryFolder.h"
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -71,14 +72,7 @@ namespace
 class LibraryItems : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        char name[] = "/tmp/zelpane-library-XXXXXX";
-        ASSERT_TRUE(mkdtemp(name));
-        mRoot = name;
-        fs::create_directory(mRoot + "/lib");
-    }
-    void TearDown() override { fs::remove_all(mRoot); }
+    void SetUp() override { fs::create_directory(mRoot + "/lib"); }
     std::string file(const std::string& name, std::size_t bytes) const
     {
         std::ofstream(mRoot + "/" + name, std::ios::binary) << std::string(bytes, 'x');
@@ -88,7 +82,8 @@ protected:
     {
         return libraryValue(libraryItem(mRoot + "/lib", name), column, mDimensions);
     }
-    std::string mRoot;
+    const zp::test::TemporaryFolder mFolder;
+    const std::string mRoot = mFolder.path();
     int mReads = 0;
     DimensionsMemory mDimensions{[this](const std::string& path) {
         ++mReads;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The user's copy of the resources: made once, refreshed by a newer program, never filled up again.
 #include "platform/Folders.h"
+#include "support/TemporaryFolder.h"
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -16,21 +17,7 @@ namespace
 class Bundle : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        char name[] = "/tmp/zelpane-bundle-XXXXXX";
-        ASSERT_TRUE(mkdtemp(name));
-        mRoot = name;
-        mOld = std::getenv("ZELPANE_RESOURCES") ? std::getenv("ZELPANE_RESOURCES") : "";
-        setenv("XDG_DATA_HOME", (mRoot + "/data").c_str(), 1);
-    }
-    void TearDown() override
-    {
-        setenv("ZELPANE_RESOURCES", mOld.c_str(), 1);
-        unsetenv("XDG_DATA_HOME");
-        unsetenv("ZELPANE_BUNDLE");
-        fs::remove_all(mRoot);
-    }
+    void TearDown() override { unsetenv("ZELPANE_BUNDLE"); }
     /// A program version: its resources, as name and text.
     void ship(const std::string& version, std::initializer_list<std::pair<const char*, const char*>> files)
     {
@@ -43,7 +30,10 @@ protected:
     }
     static std::string text(const std::string& name) { return readWholeFile(resourcePath(name)).value_or("(none)"); }
 
-    std::string mRoot, mOld;
+    const zp::test::TemporaryFolder mFolder;
+    const std::string mRoot = mFolder.path();
+    const zp::test::TemporaryVariable mResources{"ZELPANE_RESOURCES", mRoot};
+    const zp::test::TemporaryVariable mData{"XDG_DATA_HOME", mRoot + "/data"};
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Paths by their text, and files and folders by the operations on them.
 #include "platform/Folders.h"
+#include "support/TemporaryFolder.h"
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
@@ -22,17 +23,6 @@ namespace
 class Folders : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        char name[] = "/tmp/zelpane-folders-XXXXXX";
-        ASSERT_TRUE(mkdtemp(name));
-        mRoot = name;
-    }
-    void TearDown() override
-    {
-        fs::permissions(mRoot, fs::perms::owner_all);
-        fs::remove_all(mRoot);
-    }
     std::string at(const std::string& name) const { return mRoot + "/" + name; }
     std::string file(const std::string& name, const std::string& text = "x") const
     {
@@ -41,7 +31,8 @@ protected:
     }
     static std::string text(const std::string& path) { return readWholeFile(path).value_or("(none)"); }
 
-    std::string mRoot;
+    const zp::test::TemporaryFolder mFolder;
+    const std::string mRoot = mFolder.path();
 };
 
 struct Split {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The undo folder: private, never through a link, whole pairs only, whatever fails; and what a crash leaves.
 #include "undo/SnapshotStore.h"
+#include "support/TemporaryFolder.h"
 #include "undo/AlphaRLE.h"
 #include "undo/SnapshotJPEG.h"
 #include "undo/TestPictures.h"
@@ -28,20 +29,7 @@ namespace
 class SnapshotStoreTest : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        char name[] = "/tmp/zelpane-store-XXXXXX";
-        ASSERT_NE(mkdtemp(name), nullptr);
-        temporary = name;
-        saved = getenv("ZELPANE_TMP");
-        setenv("ZELPANE_TMP", name, 1);
-    }
-    void TearDown() override
-    {
-        setenv("ZELPANE_TMP", saved.c_str(), 1);
-        fs::permissions(folder(), fs::perms::owner_all, ignored);
-        fs::remove_all(temporary, ignored);
-    }
+    void TearDown() override { fs::permissions(folder(), fs::perms::owner_all, ignored); }
     fs::path folder() const { return temporary / "Zelpane Undo Support"; }
     std::string beside() const { return folder().string() + "-" + std::to_string(geteuid()); }
     static std::set<std::string> names(const fs::path& path)
@@ -86,8 +74,9 @@ protected:
         ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
     }
 
-    fs::path temporary;
-    std::string saved;
+    const zp::test::TemporaryFolder own;
+    const fs::path temporary = own.path();
+    const zp::test::TemporaryVariable variable{"ZELPANE_TMP", temporary};
     std::error_code ignored;
 };
 

@@ -4,6 +4,7 @@
 #include "platform/Log.h"
 #include "platform/Sounds.h"
 #include "platform/SystemProbes.h"
+#include "support/TemporaryFolder.h"
 #include "undo/AlphaRLE.h"
 #include "undo/Recovery.h"
 #include "undo/SnapshotJPEG.h"
@@ -36,11 +37,6 @@ class UndoCanvas : public testing::Test
 protected:
     void SetUp() override
     {
-        char name[] = "/tmp/zelpane-canvas-XXXXXX";
-        ASSERT_NE(mkdtemp(name), nullptr);
-        temporary = name;
-        saved = getenv("ZELPANE_TMP");
-        setenv("ZELPANE_TMP", name, 1);
         canvas = std::make_unique<ZPCanvas>();
         takeSounds();
         takeLogLines();
@@ -50,9 +46,6 @@ protected:
         setSystemQueries(std::nullopt);
         canvas.reset();
         SnapshotStore::shared().remove();
-        setenv("ZELPANE_TMP", saved.c_str(), 1);
-        std::error_code ignored;
-        fs::remove_all(temporary, ignored);
     }
 
     fs::path folder() const { return temporary / "Zelpane Undo Support"; }
@@ -106,8 +99,9 @@ protected:
         settle();
     }
 
-    fs::path temporary;
-    std::string saved;
+    const zp::test::TemporaryFolder own;
+    const fs::path temporary = own.path();
+    const zp::test::TemporaryVariable variable{"ZELPANE_TMP", temporary};
     std::unique_ptr<ZPCanvas> canvas;
 };
 
