@@ -36,7 +36,8 @@ private:
 
 int main(int argc, char** argv)
 {
-    const TestHome home;
+    // Outlives every other static object of a function: the settings write when they end.
+    static const TestHome home;
     testing::InitGoogleTest(&argc, argv);
 #ifdef ZP_TEST_QT
     QApplication application(argc, argv);
