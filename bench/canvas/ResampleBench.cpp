@@ -2,6 +2,7 @@
 /// Resizing 24 megapixels beside OpenCV's area and cubic filters, in the same run.
 #include "canvas/Resample.h"
 #include "platform/BitmapRep.h"
+#include "support/NoisePicture.h"
 #include <benchmark/benchmark.h>
 #include <map>
 #include <opencv2/imgproc.hpp>
@@ -11,23 +12,11 @@ using namespace zp;
 namespace
 {
 
-std::shared_ptr<BitmapRep> makeNoise(int width, int height)
-{
-    auto rep = BitmapRep::createUninitialized(width, height);
-    std::uint32_t state = 1;
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) {
-            state = state * 1664525u + 1013904223u;
-            rep->view().row(y)[x] = state | 255u;
-        }
-    return rep;
-}
-
 BitmapRep& sized(int width, int height)
 {
     static std::map<std::pair<int, int>, std::shared_ptr<BitmapRep>> pictures;
     auto& rep = pictures[{width, height}];
-    if (!rep) rep = makeNoise(width, height);
+    if (!rep) rep = bench::noisePicture(width, height);
     return *rep;
 }
 cv::Mat matOf(BitmapRep& rep)

@@ -2,6 +2,7 @@
 /// A redraw of a 1600 x 1000 view of 24 megapixels, beside the same reduction by OpenCV (which then still has to swap).
 #include "canvas/ScreenRenderer.h"
 #include "platform/BitmapRep.h"
+#include "support/NoisePicture.h"
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 #include <opencv2/imgproc.hpp>
@@ -13,21 +14,9 @@ namespace
 
 constexpr int kViewWidth = 1600, kViewHeight = 1000;
 
-std::shared_ptr<BitmapRep> makePhoto()
-{
-    auto rep = BitmapRep::createUninitialized(6000, 4000);
-    std::uint32_t state = 1;
-    for (int y = 0; y < 4000; ++y)
-        for (int x = 0; x < 6000; ++x) {
-            state = state * 1664525u + 1013904223u;
-            rep->view().row(y)[x] = state | 255u;
-        }
-    return rep;
-}
-
 ConstBitmapView photo()
 {
-    static const std::shared_ptr<BitmapRep> rep = makePhoto();
+    static const std::shared_ptr<BitmapRep> rep = bench::noisePicture(6000, 4000);
     return std::as_const(*rep).view();
 }
 

@@ -2,6 +2,7 @@
 /// The filters on 24 megapixels beside the same chain of OpenCV's functions, in the same run.
 #include "platform/BitmapRep.h"
 #include "platform/Filters.h"
+#include "support/NoisePicture.h"
 #include <benchmark/benchmark.h>
 #include <opencv2/imgproc.hpp>
 
@@ -12,21 +13,9 @@ namespace
 
 constexpr int kWidth = 6000, kHeight = 4000;
 
-std::shared_ptr<BitmapRep> makePhoto()
-{
-    auto rep = BitmapRep::createUninitialized(kWidth, kHeight);
-    std::uint32_t state = 1;
-    for (int y = 0; y < kHeight; ++y)
-        for (int x = 0; x < kWidth; ++x) {
-            state = state * 1664525u + 1013904223u;
-            rep->view().row(y)[x] = state | 255u;
-        }
-    return rep;
-}
-
 BitmapRep& photo()
 {
-    static const std::shared_ptr<BitmapRep> rep = makePhoto();
+    static const std::shared_ptr<BitmapRep> rep = bench::noisePicture(kWidth, kHeight);
     return *rep;
 }
 BitmapRep& target()
