@@ -99,6 +99,16 @@ void applyColorScheme()
     set(QPalette::Link, dark ? "#7fb0ff" : "#2160d0");
     set(QPalette::LinkVisited, dark ? "#b79bff" : "#6c4bb8");
     QApplication::setPalette(p);
+    // The style makes the rim of these boxes by darkening what they stand on, which is next to nothing on dark ground.
+    // They paint no ground themselves, so that theirs may say what the rim is to be.
+    const auto setRim = [&](const char* widget, int darkened) {
+        QPalette own = p;
+        own.setColor(QPalette::Window, QColor(dark ? "#8c8c93" : "#7b7b82").lighter(darkened));
+        own.setColor(QPalette::Disabled, QPalette::Window, QColor(dark ? "#55555a" : "#c3c3c8").lighter(darkened));
+        QApplication::setPalette(own, widget);
+    };
+    setRim("QCheckBox", 120);
+    setRim("QRadioButton", 150);
 }
 
 } // namespace zp
