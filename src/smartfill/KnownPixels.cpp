@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The nearest known pixels: a short walk where they are dense, rings of tiles where they are rare.
 #include "smartfill/KnownPixels.h"
+#include "platform/Simd.h"
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -8,25 +9,25 @@
 
 namespace zp
 {
-namespace
-{
 
-struct Offset {
-    int dx, dy;
-    int length() const { return dx * dx + dy * dy; }
-};
-
-std::vector<Offset> offsetsWithin(int reach)
+MatchLayout::MatchLayout(int w, int h) : width(w), height(h)
 {
-    std::vector<Offset> offsets;
+    // Holds the neighbourhoods of all but the first few thousandths of the steps; a small rectangle needs less, since
+    // no neighbour is further away than its sides.
+    border = std::min(48, std::max({w, h, 2}));
+    stride = width + 2 * border;
+}
+
+std::vector<NearOffset> nearOffsets(int reach)
+{
+    std::vector<NearOffset> offsets;
     for (int dy = -reach; dy <= reach; ++dy)
         for (int dx = -reach; dx <= reach; ++dx)
             if (dx * dx + dy * dy <= reach * reach) offsets.push_back({dx, dy});
-    std::stable_sort(offsets.begin(), offsets.end(), [](Offset a, Offset b) { return a.length() < b.length(); });
+    std::stable_sort(offsets.begin(), offsets.end(),
+                     [](NearOffset a, NearOffset b) { return a.length() < b.length(); });
     return offsets;
 }
-
-} // namespace
 
 /// The nearest so far, sorted; a key holds length, dy and dx in the order they count.
 struct KnownPixels::Ranked {
@@ -57,9 +58,13 @@ KnownPixels::KnownPixels(const MatchLayout& layout)
       mRows((layout.height + kTile - 1) / kTile),
       mBytes(layout.size()),
       mTiles(std::size_t(mColumns) * std::size_t(mRows)),
-      mCounts(mTiles.size())
+      mCounts(mTiles.size()),
+      mStripPitch(layout.height + 32),
+      mStrips(std::size_t((layout.width + kStripMargin) / 8 + 5) * std::size_t(mStripPitch)),
+      mRowPitch((layout.width + kRowMargin) / 8 + 9),
+      mRowBits(std::size_t(mRowPitch) * std::size_t(layout.height))
 {
-    for (const Offset o : offsetsWithin(kWalkReach)) {
+    for (const NearOffset o : nearOffsets(kWalkReach)) {
         mWalkDelta.push_back(o.dy * layout.stride + o.dx);
         mWalkReach.push_back(std::uint8_t(std::ceil(std::sqrt(double(o.length())))));
         for (int reach = 0; reach <= kWalkReach; ++reach)
@@ -73,8 +78,29 @@ void KnownPixels::set(int x, int y)
     if (byte) return;
     byte = 1;
     const std::size_t tile = std::size_t(y / kTile) * std::size_t(mColumns) + std::size_t(x / kTile);
-    mTiles[tile].rows[y % kTile] |= std::uint16_t(1u << (x % kTile));
+    mTiles[tile].words[y % kTile / 4] |= std::uint64_t{1} << (y % 4 * kTile + x % kTile);
     ++mCounts[tile];
+    const int column = x + kStripMargin;
+    mStrips[std::size_t((column >> 3) * mStripPitch + y + kWindowReach)] |= std::uint8_t(1u << (column & 7));
+    mRowBits[std::size_t(y * mRowPitch + (x + kRowMargin) / 8)] |= std::uint8_t(1u << (x & 7));
+}
+
+void KnownPixels::setRow(int y, const std::uint8_t* mask)
+{
+    std::uint8_t* const bytes = mBytes.data() + mLayout.index(0, y);
+    for (int x = 0; x < mLayout.width; ++x) bytes[x] = mask[x] == 0;
+    const std::size_t tiles = std::size_t(y / kTile) * std::size_t(mColumns);
+    for (int x = 0; x < mLayout.width; x += 8) {
+        // Eight bytes of 0 or 1 become bits; past the row's end there is border, which is never known.
+        std::uint64_t eight;
+        std::memcpy(&eight, bytes + x, 8);
+        const std::uint64_t bits = eight * 0x0102040810204080u >> 56;
+        mStrips[std::size_t(((x + kStripMargin) >> 3) * mStripPitch + y + kWindowReach)] = std::uint8_t(bits);
+        mRowBits[std::size_t(y * mRowPitch + (x + kRowMargin) / 8)] = std::uint8_t(bits);
+        const std::size_t tile = tiles + std::size_t(x / kTile);
+        mTiles[tile].words[y % kTile / 4] |= bits << (y % 4 * kTile + x % kTile);
+        mCounts[tile] = std::uint16_t(mCounts[tile] + std::popcount(bits));
+    }
 }
 
 void KnownPixels::collect(int x, int y, Neighbourhood& out) const
@@ -129,18 +155,99 @@ void KnownPixels::searchTile(int column, int row, int x, int y, Ranked& ranked) 
     const auto gap = [](int low, int extent) { return low > 0 ? low : low + extent < 0 ? -(low + extent) : 0; };
     const std::int64_t gapX = gap(left, kTile - 1), gapY = gap(top, kTile - 1);
     if (gapX * gapX + gapY * gapY > ranked.limit()) return;
-    for (int j = 0; j < kTile; ++j) {
-        const std::int64_t dy = top + j;
-        if (dy <= -mLayout.height || dy >= mLayout.height || dy * dy + gapX * gapX > ranked.limit()) continue;
-        for (unsigned bits = mTiles[tile].rows[j]; bits; bits &= bits - 1) {
-            const std::int64_t dx = left + std::countr_zero(bits);
-            if (dx > -mLayout.width && dx < mLayout.width && dx * dx + dy * dy <= ranked.limit())
+    for (int word = 0; word < 4; ++word)
+        for (std::uint64_t bits = mTiles[tile].words[word]; bits; bits &= bits - 1) {
+            const int bit = std::countr_zero(bits);
+            const std::int64_t dx = left + bit % kTile, dy = top + 4 * word + bit / kTile;
+            if (dx * dx + dy * dy <= ranked.limit() && std::abs(dx) < mLayout.width && std::abs(dy) < mLayout.height)
                 ranked.add(Ranked::key(dx, dy));
         }
-    }
 }
 
 void KnownPixels::search(int x, int y, Neighbourhood& out) const
+{
+    if (!searchDisc(x, y, out)) searchTiles(x, y, out);
+}
+
+const Discs& Discs::all()
+{
+    static const Discs discs = [] {
+        Discs made{};
+        for (const NearOffset o : nearOffsets(kMiddle))
+            for (int radius = 0; radius <= kMiddle; ++radius)
+                if (o.length() <= radius * radius)
+                    made.row[radius][o.dy + kMiddle] |= std::uint64_t{1} << (o.dx + kMiddle);
+        return made;
+    }();
+    return discs;
+}
+
+namespace
+{
+
+/// The radius of the least disc with thirty bits, up to @p most; 0: there is none.
+ZP_MULTIVERSION int leastDisc(const Discs& discs, const std::uint64_t* middle, int most)
+{
+    const auto count = [&](int radius) {
+        const std::uint64_t* const disc = discs.row[radius] + Discs::kMiddle;
+        int bits = 0;
+        for (int dy = -radius; dy <= radius; ++dy) bits += std::popcount(middle[dy] & disc[dy]);
+        return bits;
+    };
+    if (count(most) < kNeighbours) return 0;
+    for (int less = 0; most - less > 1;) {
+        const int radius = (less + most) / 2;
+        (count(radius) < kNeighbours ? less : most) = radius;
+    }
+    return most;
+}
+
+/// How many of @p keys, all different, are less than each.
+ZP_MULTIVERSION void rank(const std::uint32_t* keys, int count, std::uint32_t* ranks)
+{
+    for (int i = 0; i < count; ++i) {
+        std::uint32_t less = 0;
+        for (int j = 0; j < count; ++j) less += std::uint32_t(keys[j] < keys[i]);
+        ranks[i] = less;
+    }
+}
+
+} // namespace
+
+bool KnownPixels::searchDisc(int x, int y, Neighbourhood& out) const
+{
+    static_assert(Discs::kMiddle == kDiscReach);
+    const Discs& discs = Discs::all();
+    int most = std::min({x, y, mLayout.width - 1 - x, mLayout.height - 1 - y, kDiscReach, mLayout.border});
+    std::uint64_t words[2 * kDiscReach + 1];
+    std::uint64_t* const middle = words + kDiscReach;
+    for (int dy = -most; dy <= most; ++dy) middle[dy] = row(x, y + dy);
+    most = leastDisc(discs, middle, most);
+    if (!most) return false;
+    // All of it, then in order. One disc smaller held fewer than thirty; a ring has room for no more than that.
+    constexpr int kBias = 32;
+    std::uint32_t keys[kNeighbours + 8 * kDiscReach], ranks[kNeighbours + 8 * kDiscReach];
+    int count = 0;
+    for (int dy = -most; dy <= most; ++dy)
+        for (std::uint64_t bits = middle[dy] & discs.row[most][dy + kDiscReach]; bits; bits &= bits - 1) {
+            const int dx = std::countr_zero(bits) - kDiscReach;
+            keys[count++] = std::uint32_t((dx * dx + dy * dy) << 12 | (dy + kBias) << 6 | (dx + kBias));
+        }
+    rank(keys, count, ranks);
+    const std::int32_t here = mLayout.index(x, y);
+    for (int i = 0; i < count; ++i) {
+        if (ranks[i] >= kNeighbours) continue;
+        const int dy = int(keys[i] >> 6 & 63) - kBias, dx = int(keys[i] & 63) - kBias;
+        out.delta[ranks[i]] = dy * mLayout.stride + dx;
+        out.index[ranks[i]] = here + out.delta[ranks[i]];
+    }
+    out.count = kNeighbours;
+    out.reach = most;
+    out.far = false;
+    return true;
+}
+
+void KnownPixels::searchTiles(int x, int y, Neighbourhood& out) const
 {
     Ranked ranked;
     const int column = x / kTile, row = y / kTile;

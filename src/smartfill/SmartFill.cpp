@@ -3,10 +3,12 @@
 #include "smartfill/SmartFill.h"
 #include "platform/Log.h"
 #include "platform/PixelMemory.h"
+#include "platform/Simd.h"
 #include "smartfill/KnownPixels.h"
 #include "smartfill/SmartFillMatch.h"
 #include "smartfill/SmartFillRandom.h"
 #include <algorithm>
+#include <array>
 #include <ctime>
 #include <memory>
 #include <new>
@@ -18,20 +20,33 @@ namespace zp
 namespace
 {
 
-constexpr int kRandomTries = 200;
 constexpr std::int64_t kStepsPerProgress = 1024; // a power of two: a point is where the low bits are zero
 
-/// A pixel being synthesised; both parts are always wanted together.
-struct TargetPixel {
-    std::uint32_t value;
-    std::int32_t filledFrom; ///< index of the source pixel it was filled from; -1: not filled
-};
+/// One row of the clearance, its neighbour in the pass being done: what the three pixels there leave of it.
+ZP_MULTIVERSION void growFrom(const std::uint8_t* done, std::uint8_t* row, int width)
+{
+    for (int x = 0; x < width; ++x) {
+        const int least = std::min({int(done[x - 1]), int(done[x]), int(done[x + 1])});
+        row[x] = std::uint8_t(std::min(int(row[x]), least + 1));
+    }
+}
+
+/// The four bytes of the pixels at @p place, each in an array of its own.
+ZP_MULTIVERSION void takePixels(const std::uint32_t* pixels,
+                                const std::array<std::int32_t, DrawnSources::kCount>& place,
+                                std::array<std::array<std::uint8_t, DrawnSources::kCount>, 4>& bytes)
+{
+    std::uint32_t taken[DrawnSources::kCount];
+    for (std::size_t i = 0; i < place.size(); ++i) taken[i] = pixels[place[i]];
+    for (unsigned channel = 0; channel < 4; ++channel)
+        for (std::size_t i = 0; i < place.size(); ++i) bytes[channel][i] = std::uint8_t(taken[i] >> (8 * channel));
+}
 
 /// One run's workspace.
 class SmartFillRun
 {
 public:
-    SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, MatchSearch search);
+    SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, MatchStep step);
 
     bool hasHole() const { return !mFillList.empty(); }
     bool hasSource() const { return !mSourceList.empty(); }
@@ -40,37 +55,36 @@ public:
     void copyTarget(SmartFillPicture& picture) const;
 
 private:
+    void readPicture(const SmartFillPicture& picture);
     void measureClearance();
     void shuffle();
+    void findChannels();
+    void draw(std::int64_t t);
     void step(std::int64_t t, PixelPoint pixel);
-    int coherenceCandidates(std::int32_t stamp);
 
     MatchLayout mLayout;
     SmartFillRandom mRandom;
-    MatchSearch mSearch;
-    // All with an index in the padded layout, in one block of memory: steps read them at random, and a block of huge
-    // pages spares most address translations.
+    MatchStep mStep;
+    // In one block of memory: steps read it at random, and a block of huge pages spares most address translations.
     PixelMemory mMemory;
     std::span<std::uint32_t> mSource;    ///< never changed
-    std::span<std::int32_t> mSourceList; ///< by number, not by index: all source pixels, row by row
+    std::span<std::int32_t> mSourceList; ///< all source pixels, row by row
     std::span<TargetPixel> mTarget;
-    std::span<std::int32_t> mStamps;   ///< the step in which a source pixel was last a coherence candidate
-    std::span<std::uint8_t> mClear;    ///< see MatchSource::clear
+    std::span<std::uint8_t> mClear;    ///< see MatchState::clear
     std::vector<PixelPoint> mFillList; ///< without its revisits, which repeat its beginnings
     KnownPixels mKnown;
-    MatchSource mMatchSource;
-    Neighbourhood mNear;
-    std::int32_t mCandidates[kNeighbours + 1];
+    DrawnSources mDrawn;
+    std::array<std::ptrdiff_t, DrawnSources::kAround> mAroundDelta{};
+    MatchState mState;
 };
 
-SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, MatchSearch search)
-    : mLayout(picture.width, picture.height), mRandom(seed), mSearch(search), mKnown(mLayout)
+SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, MatchStep step)
+    : mLayout(picture.width, picture.height), mRandom(seed), mStep(step), mKnown(mLayout)
 {
     const std::size_t size = mLayout.size();
     const auto sources =
         std::size_t(std::count_if(picture.mask.begin(), picture.mask.end(), [](auto m) { return m != 255; }));
-    const auto hole = picture.mask.size() - std::size_t(std::count(picture.mask.begin(), picture.mask.end(), 0));
-    mMemory = allocatePixelsUninitialized(size * (sizeof(TargetPixel) + 9) + sources * 4 + 64);
+    mMemory = allocatePixelsUninitialized(size * (sizeof(TargetPixel) + 5) + sources * 4 + 64);
     if (!mMemory) throw std::bad_alloc();
     std::uint8_t* next = mMemory.get();
     const auto take = [&]<class T>(std::span<T>& span, std::size_t count, T value) {
@@ -81,56 +95,81 @@ SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, 
     take(mTarget, size, TargetPixel{0, -1});
     take(mSource, size, 0u);
     take(mSourceList, sources, 0);
-    take(mStamps, size, -1);
     take(mClear, size + 3, std::uint8_t{0});
-    mFillList.reserve(hole);
+    mState = {mLayout, mSource.data(), mClear.data(), mTarget.data(), &mKnown, &mDrawn, {}, 0};
+    const auto offsets = nearOffsets(2);
+    for (std::size_t k = 0; k < mAroundDelta.size(); ++k)
+        mAroundDelta[k] = offsets[k + 1].dy * mLayout.stride + offsets[k + 1].dx;
+    readPicture(picture);
+}
 
+void SmartFillRun::readPicture(const SmartFillPicture& picture)
+{
+    mFillList.reserve(picture.mask.size() - std::size_t(std::count(picture.mask.begin(), picture.mask.end(), 0)));
     std::size_t source = 0, pixel = 0;
     for (int y = 0; y < picture.height; ++y) {
+        mKnown.setRow(y, picture.mask.data() + pixel);
         for (int x = 0; x < picture.width; ++x, ++pixel) {
             const std::int32_t index = mLayout.index(x, y);
             const std::uint8_t mask = picture.mask[pixel];
             mSource[std::size_t(index)] = mTarget[std::size_t(index)].value = picture.pixels[pixel];
-            if (mask)
-                mFillList.push_back({x, y});
-            else
-                mKnown.set(x, y);
+            if (mask) mFillList.push_back({x, y});
             if (mask == 255) continue;
             mSourceList[source++] = index;
             mClear[std::size_t(index)] = 255;
         }
     }
-    measureClearance();
-    mMatchSource = {mLayout, mSource.data(), mClear.data(), mSourceList.data(), std::uint32_t(mSourceList.size())};
 }
 
 /// From "a source pixel or not" to the size of the square around it: one pass down, one back up.
 void SmartFillRun::measureClearance()
 {
-    const std::ptrdiff_t stride = mLayout.stride;
-    const auto grow = [](std::uint8_t* p, std::ptrdiff_t a, std::ptrdiff_t b, std::ptrdiff_t c, std::ptrdiff_t d) {
-        if (*p) *p = std::uint8_t(std::min({int(*p), p[a] + 1, p[b] + 1, p[c] + 1, p[d] + 1}));
-    };
+    const int width = mLayout.width;
     for (int y = 0; y < mLayout.height; ++y) {
-        std::uint8_t* row = mClear.data() + mLayout.index(0, y);
-        for (int x = 0; x < mLayout.width; ++x) grow(row + x, -1, -stride - 1, -stride, -stride + 1);
+        std::uint8_t* const row = mClear.data() + mLayout.index(0, y);
+        growFrom(row - mLayout.stride, row, width);
+        for (int x = 0, last = 0; x < width; ++x) row[x] = std::uint8_t(last = std::min(int(row[x]), last + 1));
     }
     for (int y = mLayout.height; y-- > 0;) {
-        std::uint8_t* row = mClear.data() + mLayout.index(0, y);
-        for (int x = mLayout.width; x-- > 0;) grow(row + x, 1, stride + 1, stride, stride - 1);
+        std::uint8_t* const row = mClear.data() + mLayout.index(0, y);
+        growFrom(row + mLayout.stride, row, width);
+        for (int x = width, last = 0; x-- > 0;) row[x] = std::uint8_t(last = std::min(int(row[x]), last + 1));
     }
 }
 
 void SmartFillRun::shuffle()
 {
-    mRandom.begin(kSmartFillShuffleStream);
     const auto count = std::uint32_t(mFillList.size());
-    for (auto& pixel : mFillList) std::swap(pixel, mFillList[mRandom.below(count)]);
+    for (std::uint32_t i = 0; i < count; ++i)
+        std::swap(mFillList[i], mFillList[mRandom.below(count, SmartFillRandom::FillOrder, i)]);
+}
+
+/// Draws the candidates for the block of steps that @p t belongs to.
+void SmartFillRun::draw(std::int64_t t)
+{
+    const auto length = std::uint32_t(mSourceList.size());
+    for (int i = 0; i < DrawnSources::kCount; ++i)
+        mDrawn.place[std::size_t(i)] = mSourceList[mRandom.draw(length, t, i)];
+    for (std::size_t k = 0; k < mDrawn.around.size(); ++k)
+        takePixels(mSource.data() + mAroundDelta[k], mDrawn.place, mDrawn.around[k]);
+}
+
+/// Which channels are worth comparing.
+void SmartFillRun::findChannels()
+{
+    std::uint32_t different = 0;
+    for (const std::int32_t source : mSourceList)
+        different |= mSource[std::size_t(source)] ^ mSource[std::size_t(mSourceList[0])];
+    for (unsigned channel = 0; channel < 4; ++channel)
+        if (different >> (8 * channel) & 255)
+            mState.channels[std::size_t(mState.channelCount++)] = std::uint8_t(channel);
 }
 
 bool SmartFillRun::run(const SmartFillHooks& hooks)
 {
+    measureClearance();
     shuffle();
+    findChannels();
     // The list of steps is the fill list, then its first three quarters again, then three quarters of that, down to one
     // pixel; it is worked off from its end. So the first few pixels are placed coarsely and often, before the rest.
     std::vector<std::int64_t> rounds{std::int64_t(mFillList.size())};
@@ -149,45 +188,17 @@ bool SmartFillRun::run(const SmartFillHooks& hooks)
                 if (hooks.progress) hooks.progress(progress);
                 if (hooks.cancelled && hooks.cancelled()) return false;
             }
+            if (t + 1 == total || (t + 1) % SmartFillRandom::kBlockSteps == 0) draw(t);
             step(t, mFillList[std::size_t(i)]);
         }
     }
     return true;
 }
 
-/// Reads the neighbours' values, and gathers the source pixels that would continue what they were filled from.
-/// @return how many of these there are
-int SmartFillRun::coherenceCandidates(std::int32_t stamp)
-{
-    int count = 0;
-    const auto propose = [&](std::int32_t candidate) {
-        // Without branches, which nothing could predict. Index 0 lies in the border and is never a source.
-        const bool fresh = mStamps[std::size_t(candidate)] != stamp;
-        mStamps[std::size_t(candidate)] = stamp;
-        mCandidates[count] = candidate;
-        count += int(fresh) & int(mClear[std::size_t(candidate)] != 0);
-    };
-    for (int k = 0; k < mNear.count; ++k) {
-        const auto [value, from] = mTarget[std::size_t(mNear.index[k])];
-        mNear.value[k] = value;
-        if (!mNear.far) {
-            propose(from < 0 ? 0 : from - mNear.delta[k]);
-        } else if (from >= 0) {
-            const int x = mLayout.x(from) - mNear.dx[k], y = mLayout.y(from) - mNear.dy[k];
-            if (x >= 0 && y >= 0 && x < mLayout.width && y < mLayout.height) propose(mLayout.index(x, y));
-        }
-    }
-    return count;
-}
-
 void SmartFillRun::step(std::int64_t t, PixelPoint pixel)
 {
     mKnown.set(pixel.x, pixel.y);
-    mKnown.collect(pixel.x, pixel.y, mNear);
-    const int coherent = coherenceCandidates(std::int32_t(t));
-    BestMatch best;
-    mSearch.among(mMatchSource, mNear, mCandidates, coherent, best);
-    if (best.error) mSearch.atRandom(mMatchSource, mNear, mRandom.keyOf(std::uint64_t(t)), kRandomTries, best);
+    const BestMatch best = mStep(mState, pixel.x, pixel.y, mRandom.startOf(t));
     mTarget[std::size_t(mLayout.index(pixel.x, pixel.y))] = {mSource[std::size_t(best.source)], best.source};
 }
 
@@ -205,9 +216,9 @@ void logStart(const SmartFillHooks& hooks)
 }
 
 SmartFillStatus fillAfterStart(SmartFillPicture& picture, std::uint64_t seed, const SmartFillHooks& hooks,
-                               MatchSearch search)
+                               MatchStep step)
 {
-    SmartFillRun run(picture, seed, search);
+    SmartFillRun run(picture, seed, step);
     logLine("image and mask fetched");
     if (!run.hasHole()) return SmartFillStatus::Filled;
     if (!run.hasSource()) return SmartFillStatus::NoSource;
@@ -222,7 +233,8 @@ SmartFillStatus fillSmartFillPicture(SmartFillPicture& picture, std::uint64_t se
                                      SmartFillSpeed speed)
 {
     logStart(hooks);
-    return fillAfterStart(picture, seed, hooks, speed == SmartFillSpeed::Best ? bestMatchSearch() : kPortableSearch);
+    return fillAfterStart(picture, seed, hooks,
+                          speed == SmartFillSpeed::Best ? bestMatchStep() : MatchStep{matchPortable});
 }
 
 SmartFillStatus runSmartFill(BitmapView bitmap, ConstMaskView mask, const SmartFillArea& area,
@@ -231,7 +243,7 @@ SmartFillStatus runSmartFill(BitmapView bitmap, ConstMaskView mask, const SmartF
     logStart(hooks);
     SmartFillPicture picture = fetchSmartFillPicture(bitmap, mask, area);
     const SmartFillStatus status =
-        fillAfterStart(picture, seed ? seed : std::uint64_t(std::time(nullptr)), hooks, bestMatchSearch());
+        fillAfterStart(picture, seed ? seed : std::uint64_t(std::time(nullptr)), hooks, bestMatchStep());
     if (status == SmartFillStatus::Filled) writeBackSmartFill(bitmap, picture, area);
     return status;
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The robust distance, the memory layout, and the plain version of the comparison.
+/// The robust distance, and the plain version of a step.
 #include "smartfill/SmartFillMatch.h"
+#include "platform/Simd.h"
 #include "smartfill/SmartFill.h"
-#include "smartfill/SmartFillRandom.h"
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -28,14 +28,6 @@ const std::int32_t* robustDistanceTable()
     return table.data();
 }
 
-MatchLayout::MatchLayout(int w, int h) : width(w), height(h)
-{
-    // Holds the neighbourhoods of all but the first few thousandths of the steps; a small rectangle needs less, since
-    // no neighbour is further away than its sides.
-    border = std::min(48, std::max({w, h, 1}));
-    stride = width + 2 * border;
-}
-
 namespace
 {
 
@@ -46,67 +38,153 @@ std::int32_t pixelDistance(const std::int32_t* table, std::uint32_t a, std::uint
     return sum;
 }
 
-/// The error of one candidate, or some number not below @p limit. isSource(k): neighbour k has a counterpart there.
-template <class IsSource>
-std::int32_t errorOf(const MatchSource& source, const Neighbourhood& near, std::int32_t candidate, std::int32_t limit,
-                     IsSource isSource)
+// A lower bound of the robust distance that loops over bytes can take: nothing up to kBoundFrom, then a straight line,
+// level from kBoundTo on.
+constexpr int kBoundFrom = 7, kBoundTo = 90;
+
+int boundSteps(int difference) { return std::clamp(difference, kBoundFrom, kBoundTo) - kBoundFrom; }
+
+/// How much each step of the line may stand for, so that the curve lies above it everywhere.
+std::int32_t boundUnit()
 {
-    const std::int32_t* const table = robustDistanceTable();
-    std::int32_t error = 0;
-    for (int k = 1; k < near.count; ++k) {
-        error += isSource(k) ? pixelDistance(table, near.value[k], source.pixels[candidate + near.delta[k]])
-                             : kMissingPenalty;
-        if (error >= limit) break;
+    static const std::int32_t unit = [] {
+        std::int32_t least = robustDistanceTable()[255];
+        for (int d = kBoundFrom + 1; d < 256; ++d) least = std::min(least, robustDistanceTable()[d] / boundSteps(d));
+        return least;
+    }();
+    return unit;
+}
+
+/// Adds the bound, in steps, for each of the tries' bytes and @p value to the sums.
+ZP_MULTIVERSION void addBound(const std::uint8_t* bytes, std::uint8_t value, std::uint16_t* sums)
+{
+    for (int i = 0; i < kRandomTries; ++i) {
+        const int difference = std::max(bytes[i], value) - std::min(bytes[i], value);
+        sums[i] = std::uint16_t(sums[i] + boundSteps(difference));
     }
-    return error;
 }
 
-} // namespace
-
-namespace
+/// A step at work: what is compared with, and the best so far.
+class PlainStep
 {
-
-void compare(const MatchSource& source, const Neighbourhood& near, std::int32_t c, BestMatch& best)
-{
-    std::int32_t error;
-    if (source.clear[c] > near.reach) {
-        error = errorOf(source, near, c, best.error, [](int) { return true; });
-    } else if (!near.far) {
-        error = errorOf(source, near, c, best.error, [&](int k) { return source.clear[c + near.delta[k]] != 0; });
-    } else {
-        const MatchLayout& layout = source.layout;
-        const int x = layout.x(c), y = layout.y(c);
-        error = errorOf(source, near, c, best.error, [&](int k) {
-            const int qx = x + near.dx[k], qy = y + near.dy[k];
-            return qx >= 0 && qy >= 0 && qx < layout.width && qy < layout.height &&
-                   source.clear[layout.index(qx, qy)] != 0;
-        });
+public:
+    PlainStep(const MatchState& state, const Neighbourhood& near) : mState(state), mNear(near)
+    {
+        for (int k = 0; k < near.count; ++k) mValue[k] = state.target[near.index[k]].value;
     }
-    if (error < best.error) best = {error, c};
-}
 
-} // namespace
-
-void searchPortable(const MatchSource& source, const Neighbourhood& near, const std::int32_t* candidates, int count,
-                    BestMatch& best)
-{
-    for (int i = 0; i < count && best.error; ++i) compare(source, near, candidates[i], best);
-}
-
-void searchRandomPortable(const MatchSource& source, const Neighbourhood& near, std::uint32_t key, int tries,
-                          BestMatch& best)
-{
-    // All are drawn first, so that their cache misses overlap.
-    constexpr int kBatch = 256;
-    std::int32_t candidates[kBatch];
-    for (int start = 0; start < tries && best.error; start += kBatch) {
-        const int count = std::min(kBatch, tries - start);
-        for (int i = 0; i < count; ++i) {
-            const std::uint32_t number = SmartFillRandom::mix(key, std::uint32_t(start + i));
-            candidates[i] = source.list[SmartFillRandom::scaled(number, source.listLength)];
+    void coherent()
+    {
+        std::int32_t tried[kNeighbours];
+        int count = 0;
+        for (int k = 0; k < mNear.count && mBest.error; ++k) {
+            const std::int32_t candidate = continued(k);
+            if (candidate < 0 || !mState.clear[candidate] ||
+                std::find(tried, tried + count, candidate) != tried + count)
+                continue;
+            tried[count++] = candidate;
+            compare(candidate);
         }
-        searchPortable(source, near, candidates, count, best);
     }
+
+    void atRandom(int start)
+    {
+        const std::int32_t* const place = mState.drawn->place.data() + start;
+        // Lower bounds of the errors by the neighbours close around, which come as streams.
+        std::uint16_t bounds[kRandomTries] = {};
+        if (mBest.error < kWorstError && !mNear.far) boundByNearest(start, bounds);
+        std::uint8_t left[kRandomTries + 1];
+        int count = 0;
+        const std::int32_t limit = (mBest.error + boundUnit() - 1) / boundUnit();
+        for (int i = 0; i < kRandomTries; ++i) {
+            left[count] = std::uint8_t(i);
+            count += bounds[i] < limit;
+        }
+        for (int i = 0; i < count && mBest.error; ++i) compare(place[left[i]]);
+    }
+
+    BestMatch best() const { return mBest; }
+
+private:
+    /// Where the source goes on that neighbour @p k was filled from; -1: nowhere.
+    std::int32_t continued(int k) const
+    {
+        const std::int32_t from = mState.target[mNear.index[k]].filledFrom;
+        if (from < 0) return -1;
+        if (!mNear.far) return from - mNear.delta[k];
+        const MatchLayout& layout = mState.layout;
+        const int x = layout.x(from) - mNear.dx[k], y = layout.y(from) - mNear.dy[k];
+        return x >= 0 && y >= 0 && x < layout.width && y < layout.height ? layout.index(x, y) : -1;
+    }
+
+    void boundByNearest(int start, std::uint16_t* bounds) const
+    {
+        constexpr int kDeepest = 3;
+        static const std::vector<NearOffset> offsets = nearOffsets(2);
+        int k = 1;
+        for (std::size_t i = 0; i < DrawnSources::kAround && k <= std::min(mNear.count - 1, kDeepest); ++i) {
+            if (offsets[i + 1].dy * mState.layout.stride + offsets[i + 1].dx != mNear.delta[k]) continue;
+            for (int c = 0; c < mState.channelCount; ++c) {
+                const unsigned channel = mState.channels[unsigned(c)];
+                addBound(mState.drawn->around[i][channel].data() + start, std::uint8_t(mValue[k] >> (8 * channel)),
+                         bounds);
+            }
+            ++k;
+        }
+    }
+
+    void compare(std::int32_t c)
+    {
+        std::int32_t error;
+        if (mState.clear[c] > mNear.reach) {
+            error = errorOf(c, [](int) { return true; });
+        } else if (!mNear.far) {
+            error = errorOf(c, [&](int k) { return mState.clear[c + mNear.delta[k]] != 0; });
+        } else {
+            const MatchLayout& layout = mState.layout;
+            const int x = layout.x(c), y = layout.y(c);
+            error = errorOf(c, [&](int k) {
+                const int qx = x + mNear.dx[k], qy = y + mNear.dy[k];
+                return qx >= 0 && qy >= 0 && qx < layout.width && qy < layout.height &&
+                       mState.clear[layout.index(qx, qy)] != 0;
+            });
+        }
+        if (error < mBest.error) mBest = {error, c};
+    }
+
+    /// The error of one candidate, or some number not below the best. isSource(k): neighbour k has a counterpart there.
+    template <class IsSource>
+    std::int32_t errorOf(std::int32_t candidate, IsSource isSource) const
+    {
+        std::int32_t error = 0;
+        for (int k = 1; k < mNear.count && error < mBest.error; ++k)
+            error += isSource(k) ? pixelDistance(mTable, mValue[k], mState.source[candidate + mNear.delta[k]])
+                                 : kMissingPenalty;
+        return error;
+    }
+
+    const MatchState& mState;
+    const Neighbourhood& mNear;
+    const std::int32_t* const mTable = robustDistanceTable();
+    std::uint32_t mValue[kNeighbours];
+    BestMatch mBest;
+};
+
+} // namespace
+
+BestMatch matchPortable(const MatchState& state, const Neighbourhood& near, int start)
+{
+    PlainStep step(state, near);
+    step.coherent();
+    if (step.best().error) step.atRandom(start);
+    return step.best();
+}
+
+BestMatch matchPortable(const MatchState& state, int x, int y, int start)
+{
+    Neighbourhood near;
+    state.known->collect(x, y, near);
+    return matchPortable(state, near, start);
 }
 
 } // namespace zp

@@ -1,50 +1,52 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Comparing the surroundings of a pixel to fill with those of source pixels: the inner loop of smart fill.
+/// One step of a smart fill: finding the source pixel whose surroundings are most like those of the pixel to fill.
 #pragma once
+#include "smartfill/KnownPixels.h"
+#include "smartfill/SmartFillRandom.h"
+#include <array>
 #include <cstdint>
 #include <cstdlib>
 
 namespace zp
 {
 
-/// How the work rectangle's pixels lie in memory: a border of @p border unused pixels stands around them, so that a
-/// neighbour within its reach is one addition away and needs no test of the edges. Positions are indices into it.
-struct MatchLayout {
-    int width = 0, height = 0, border = 0, stride = 0;
-
-    MatchLayout() = default;
-    MatchLayout(int w, int h);
-    std::size_t size() const { return std::size_t(stride) * std::size_t(height + 2 * border); }
-    std::int32_t index(int x, int y) const { return (y + border) * stride + x + border; }
-    int x(std::int32_t index) const { return index % stride - border; }
-    int y(std::int32_t index) const { return index / stride - border; }
-};
-
-inline constexpr int kNeighbours = 30;
 inline constexpr std::int32_t kWorstError = 0x40000000;
 /// What a neighbour costs that has no counterpart: it lies outside or in the hole. More than any difference.
 inline constexpr std::int32_t kMissingPenalty = 4 * 65536;
+inline constexpr int kRandomTries = 200;
 
-/// The known pixels nearest to the one to fill, nearest first; entry 0 is that pixel itself, whose colour counts for
-/// nothing. Arrays have room for two whole vectors; entries from @p count on are undefined.
-struct Neighbourhood {
-    int count = 0;
-    int reach = 0;    ///< no |dx| or |dy| is larger
-    bool far = false; ///< reach goes beyond the layout's border: dx and dy are set, and delta alone must not be used
-    alignas(64) std::int32_t delta[32];  ///< dy * stride + dx
-    alignas(64) std::uint32_t value[32]; ///< the neighbour's pixel now
-    std::int32_t index[32];              ///< where the neighbour itself lies (on the torus)
-    std::int32_t dx[32], dy[32];         ///< only when far
+/// A pixel being synthesised; both parts are always wanted together.
+struct TargetPixel {
+    std::uint32_t value;
+    std::int32_t filledFrom; ///< index of the source pixel it was filled from; -1: not filled
 };
 
-struct MatchSource {
+/// Source pixels drawn at random, one after the other, for steps to take their candidates from. What a step compares
+/// first about a candidate is its nearest neighbours, and those stand here in the same order, so that they come as a
+/// stream instead of one cache miss each.
+struct DrawnSources {
+    static constexpr int kCount = SmartFillRandom::kBlockDraws; ///< whole vectors may be read from any start
+    static constexpr int kAround = 12;
+
+    alignas(64) std::array<std::int32_t, kCount> place;
+    /// The bytes of the pixels at offsets 1 to 12 of NearOffset from each place, anything where that is no source
+    /// pixel: byte @p channel of the pixel at offset k + 1 of draw i is around[k][channel][i].
+    alignas(64) std::array<std::array<std::array<std::uint8_t, kCount>, 4>, kAround> around;
+};
+
+/// What the steps of a run share. Indices are those of the layout; nothing is owned.
+struct MatchState {
     MatchLayout layout;
-    const std::uint32_t* pixels = nullptr;
+    const std::uint32_t* source = nullptr; ///< the picture before the first step
     /// How many pixels around (square) are all source pixels: 0 = not a source pixel, 1 = alone, up to 255. Readable
     /// for three bytes after the end.
     const std::uint8_t* clear = nullptr;
-    const std::int32_t* list = nullptr; ///< all source pixels, row by row
-    std::uint32_t listLength = 0;
+    const TargetPixel* target = nullptr; ///< the picture now
+    const KnownPixels* known = nullptr;
+    const DrawnSources* drawn = nullptr;
+    /// The channels in which source pixels differ at all; most pictures have one alpha.
+    std::array<std::uint8_t, 4> channels{};
+    int channelCount = 0;
 };
 
 struct BestMatch {
@@ -52,23 +54,17 @@ struct BestMatch {
     std::int32_t source = -1;
 };
 
-/// One way of searching. A candidate with an error below best's takes its place; candidates come in order, and the
-/// search ends early on error 0. All ways give the same answer: errors are whole numbers, so the order of adding is
-/// free.
-struct MatchSearch {
-    /// Compares @p candidates, indices of source pixels.
-    void (*among)(const MatchSource&, const Neighbourhood&, const std::int32_t* candidates, int count, BestMatch& best);
-    /// Compares @p tries source pixels chosen by the numbers of the random stream with @p key.
-    void (*atRandom)(const MatchSource&, const Neighbourhood&, std::uint32_t key, int tries, BestMatch& best);
-};
+/// Finds the best match for pixel (x, y): first among the candidates that continue what its neighbours were filled
+/// from, nearest neighbour first and none twice, then among kRandomTries of the drawn sources from @p start on. The
+/// first of equals wins, and a perfect match ends the search. All ways of doing this give the same answer: errors are
+/// whole numbers, so the order of adding is free.
+using MatchStep = BestMatch (*)(const MatchState& state, int x, int y, int start);
 
-void searchPortable(const MatchSource& source, const Neighbourhood& near, const std::int32_t* candidates, int count,
-                    BestMatch& best);
-void searchRandomPortable(const MatchSource& source, const Neighbourhood& near, std::uint32_t key, int tries,
-                          BestMatch& best);
-inline constexpr MatchSearch kPortableSearch{searchPortable, searchRandomPortable};
+BestMatch matchPortable(const MatchState& state, int x, int y, int start);
+/// The same with the neighbourhood given.
+BestMatch matchPortable(const MatchState& state, const Neighbourhood& near, int start);
 /// The fastest way this processor knows.
-MatchSearch bestMatchSearch();
+MatchStep bestMatchStep();
 
 /// robustDistance of 0 to 255; differences of bytes reach no further, and it is symmetric.
 const std::int32_t* robustDistanceTable();

@@ -5,6 +5,7 @@
 #include "smartfill/SmartFillRandom.h"
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <vector>
 
 namespace zp::literal
@@ -48,7 +49,6 @@ struct SmartFillContext {
     std::int32_t bestError = 0;
     Pair best{0, 0};
     std::vector<std::int32_t> stamps;
-    std::int64_t evaluated = 0; ///< comparisons of single neighbours, for curiosity
 
     FillPixelRecord& record(int x, int y)
     {
@@ -67,7 +67,6 @@ struct SmartFillContext {
         for (int k = 0; k < neighbourCount; ++k) {
             const NeighbourEntry& n = neighbours[k];
             const int qx = cx + n.dx, qy = cy + n.dy;
-            ++evaluated;
             if (admissible(qx, qy)) {
                 if (k > 0) {
                     int c = 0;
@@ -85,11 +84,16 @@ struct SmartFillContext {
     }
 };
 
+enum class Draws {
+    AsTheFastOne, ///< the same candidates, so that the results can be compared
+    TheCLibrarys, ///< rand() modulo the length, each on its own: the slower way that it is usually written
+};
+
 /// Same arguments and result as zp::fillSmartFillPicture; without log lines.
 inline SmartFillStatus fill(SmartFillPicture& picture, std::uint64_t seed, const SmartFillHooks& hooks,
-                            std::int64_t* evaluated = nullptr)
+                            Draws draws = Draws::AsTheFastOne)
 {
-    SmartFillRandom random(seed);
+    const SmartFillRandom random(seed);
     if (hooks.progress) hooks.progress(0.0f);
     SmartFillContext s;
     const int w = picture.width, h = picture.height;
@@ -132,8 +136,8 @@ inline SmartFillStatus fill(SmartFillPicture& picture, std::uint64_t seed, const
         s.quadratic[i] = std::int32_t(d * d * 0.5 * 4.0);
     }
     const std::size_t n = s.fillList.size();
-    random.begin(kSmartFillShuffleStream);
-    for (std::size_t i = 0; i < n; ++i) std::swap(s.fillList[i], s.fillList[random.below(std::uint32_t(n))]);
+    for (std::size_t i = 0; i < n; ++i)
+        std::swap(s.fillList[i], s.fillList[random.below(std::uint32_t(n), SmartFillRandom::FillOrder, i)]);
     for (std::size_t m = n; 3 * m >= 4;) {
         m = 3 * m / 4;
         for (std::size_t i = 0; i < m; ++i) s.fillList.push_back(Pair(s.fillList[i]));
@@ -172,9 +176,12 @@ inline SmartFillStatus fill(SmartFillPicture& picture, std::uint64_t seed, const
             s.evaluate(cx, cy);
             stamp = std::int32_t(t);
         }
-        random.begin(std::uint64_t(t));
+        const auto sources = std::uint32_t(s.sourceList.size());
+        const int start = random.startOf(t);
         for (int i = 0; i < 200 && s.bestError; ++i) {
-            const Pair c = s.sourceList[random.below(std::uint32_t(s.sourceList.size()))];
+            const std::uint32_t number = draws == Draws::AsTheFastOne ? random.draw(sources, t, start + i)
+                                                                      : std::uint32_t(std::rand()) % sources;
+            const Pair c = s.sourceList[number];
             s.evaluate(c.x, c.y);
         }
         for (int c = 0; c < 4; ++c) s.targetImage.at(x, y, c) = s.sourceImage.at(s.best.x, s.best.y, c);
@@ -187,7 +194,6 @@ inline SmartFillStatus fill(SmartFillPicture& picture, std::uint64_t seed, const
                 reinterpret_cast<std::uint8_t*>(&picture.pixels[std::size_t(y) * std::size_t(w) + std::size_t(x)]);
             for (int c = 0; c < 4; ++c) bytes[c] = std::uint8_t(s.targetImage.at(x, y, c));
         }
-    if (evaluated) *evaluated = s.evaluated;
     return SmartFillStatus::Filled;
 }
 

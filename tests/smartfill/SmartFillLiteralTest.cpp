@@ -44,7 +44,8 @@ class SmartFillLiteral : public testing::TestWithParam<Case>
 
 TEST_P(SmartFillLiteral, FastAndPortableGiveTheSameBytes)
 {
-    for (unsigned seed = 1; seed <= 3; ++seed) {
+    const bool large = GetParam().hole.width() > 80;
+    for (unsigned seed = 1; seed <= (large ? 1u : 3u); ++seed) {
         SCOPED_TRACE(seed);
         const SmartFillPicture before = pictureOf(GetParam(), seed);
         std::vector<float> expectedProgress, fastProgress;
@@ -73,8 +74,11 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"OneRow", 80, 1, {20, 0, 50, 1}, 255, 0}, Case{"OneColumn", 1, 80, {0, 20, 1, 60}, 255, 0},
         Case{"OnePixelHole", 20, 20, {10, 10, 11, 11}, 255, 1}, Case{"Tiny", 3, 2, {1, 0, 2, 2}, 255, 0},
         Case{"TwoPixels", 2, 1, {0, 0, 1, 1}, 255, 0}, Case{"OneSoftPixel", 1, 1, {0, 0, 1, 1}, 9, 0},
-        Case{"WideHole", 150, 40, {10, 4, 140, 36}, 255, 1}, Case{"NoHole", 12, 12, {0, 0, 0, 0}, 255, 0},
-        Case{"NoSource", 12, 12, {0, 0, 12, 12}, 255, 0}, Case{"Empty", 0, 0, {0, 0, 0, 0}, 255, 0}),
+        Case{"WideHole", 150, 40, {10, 4, 140, 36}, 255, 1},
+        // Large enough for each way of finding neighbours: tiles, discs and windows.
+        Case{"LargeHole", 100, 90, {4, 4, 96, 86}, 255, 1}, Case{"LargeGrainyHole", 90, 80, {3, 3, 87, 77}, 255, 0},
+        Case{"NoHole", 12, 12, {0, 0, 0, 0}, 255, 0}, Case{"NoSource", 12, 12, {0, 0, 12, 12}, 255, 0},
+        Case{"Empty", 0, 0, {0, 0, 0, 0}, 255, 0}),
     [](const auto& c) { return std::string(c.param.name); });
 
 /// Many shapes of rectangle and hole, among them holes in several pieces: the search for neighbours meets every edge.

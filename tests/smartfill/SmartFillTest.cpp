@@ -365,26 +365,45 @@ TEST(SmartFill, TheSameSeedGivesTheSamePicture)
     EXPECT_NE(results[0], results[2]);
 }
 
-TEST(SmartFillRandom, SpreadsEvenlyWithinAndAcrossStreams)
+TEST(SmartFillRandom, DrawsEvenlyWithinAndAcrossBlocks)
 {
     const SmartFillRandom random(123);
-    constexpr int kCells = 64, kStreams = 4000, kDraws = 200;
-    std::vector<int> counts(kCells), pairs(kCells);
-    for (std::uint64_t stream = 0; stream < kStreams; ++stream) {
-        const std::uint32_t key = random.keyOf(stream);
+    constexpr int kCells = 64, kBlocks = 600;
+    std::vector<int> counts(kCells), pairs(kCells), blocks(kCells);
+    for (std::int64_t block = 0; block < kBlocks; ++block) {
         std::uint32_t last = 0;
-        for (std::uint32_t i = 0; i < kDraws; ++i) {
-            const std::uint32_t cell = SmartFillRandom::scaled(SmartFillRandom::mix(key, i), kCells);
+        for (int i = 0; i < SmartFillRandom::kBlockDraws; ++i) {
+            const std::uint32_t cell = random.draw(kCells, block * SmartFillRandom::kBlockSteps, i);
             ASSERT_LT(cell, unsigned(kCells));
             ++counts[cell];
             ++pairs[(cell + kCells - last) % kCells]; // how one draw follows another must be even as well
+            ++blocks[(cell + kCells - random.draw(kCells, (block + 1) * SmartFillRandom::kBlockSteps, i)) % kCells];
             last = cell;
         }
     }
-    const double expected = double(kStreams) * kDraws / kCells; // 12,500
+    const double expected = double(kBlocks) * SmartFillRandom::kBlockDraws / kCells; // 12,000
     for (int i = 0; i < kCells; ++i) {
         EXPECT_NEAR(counts[std::size_t(i)], expected, expected * 0.06) << i;
-        EXPECT_NEAR(pairs[std::size_t(i)], expected, expected * 0.25) << i;
+        EXPECT_NEAR(pairs[std::size_t(i)], expected, expected * 0.06) << i;
+        EXPECT_NEAR(blocks[std::size_t(i)], expected, expected * 0.06) << i;
+    }
+}
+
+TEST(SmartFillRandom, AStepsDrawsAreThoseOfItsBlockFromARandomPlaceOn)
+{
+    const SmartFillRandom random(9);
+    std::vector<int> starts(SmartFillRandom::kStarts);
+    for (std::int64_t step = 0; step < 200 * SmartFillRandom::kStarts; ++step) {
+        const int start = random.startOf(step);
+        ASSERT_GE(start, 0);
+        ASSERT_LE(start + kRandomTries, SmartFillRandom::kBlockDraws);
+        ++starts[std::size_t(start)];
+    }
+    for (const int count : starts) EXPECT_NEAR(count, 200, 80); // 5.7 standard deviations
+    for (const int i : {0, 1, SmartFillRandom::kBlockDraws - 1}) {
+        EXPECT_EQ(random.draw(1000, 1024, i), random.draw(1000, 2047, i));
+        EXPECT_NE(random.draw(1u << 31, 2047, i), random.draw(1u << 31, 2048, i));
+        EXPECT_NE(random.draw(1u << 31, 1024, i), SmartFillRandom(10).draw(1u << 31, 1024, i));
     }
 }
 
@@ -444,6 +463,80 @@ TEST(SmartFillNeighbours, AreTheNearestKnownPixelsOnTheTorus)
             ASSERT_EQ(near.far, near.reach > layout.border);
         }
     }
+}
+
+/// Whether (x, y) of the picture is known; nothing beyond its edges is, here.
+struct ScatteredPixels {
+    int width, height;
+    std::vector<std::uint8_t> mask; ///< 0 = known
+
+    ScatteredPixels(int w, int h, unsigned seed) : width(w), height(h)
+    {
+        std::mt19937 random(seed);
+        for (int i = 0; i < w * h; ++i) mask.push_back(random() % 3 ? 0 : std::uint8_t(1 + random() % 255));
+    }
+    bool known(int x, int y) const
+    {
+        return x >= 0 && y >= 0 && x < width && y < height &&
+               !mask[std::size_t(y) * std::size_t(width) + std::size_t(x)];
+    }
+};
+
+TEST(SmartFillNeighbours, StandAsBitsInWindowsAndRows)
+{
+    for (const auto& [w, h] : {std::pair{61, 40}, {8, 8}, {1, 1}, {130, 5}}) {
+        SCOPED_TRACE(testing::Message() << w << " x " << h);
+        const ScatteredPixels pixels(w, h, 3);
+        KnownPixels one{MatchLayout(w, h)}, rows{MatchLayout(w, h)};
+        for (int y = 0; y < h; ++y) {
+            rows.setRow(y, pixels.mask.data() + std::ptrdiff_t{w} * y);
+            for (int x = 0; x < w; ++x)
+                if (pixels.known(x, y)) one.set(x, y);
+        }
+        for (const KnownPixels* known : {&one, &rows})
+            for (int y = 0; y < h; ++y)
+                for (int x = 0; x < w; ++x) {
+                    const KnownPixels::Window window = known->window(x, y);
+                    for (int dy = -KnownPixels::kWindowReach; dy <= KnownPixels::kWindowReach; ++dy)
+                        for (int dx = -KnownPixels::kWindowReach; dx <= KnownPixels::kWindowReach; ++dx) {
+                            const int c = dx + KnownPixels::kWindowReach + window.phase;
+                            const int r = dy + KnownPixels::kWindowReach;
+                            ASSERT_EQ(window.strips[(c >> 3) * window.pitch + r] >> (c & 7) & 1,
+                                      int(pixels.known(x + dx, y + dy)))
+                                << x << " + " << dx << ", " << y << " + " << dy;
+                        }
+                    for (int dx = -KnownPixels::kDiscReach; dx <= KnownPixels::kDiscReach; ++dx)
+                        ASSERT_EQ(known->row(x, y) >> (dx + KnownPixels::kDiscReach) & 1,
+                                  std::uint64_t(pixels.known(x + dx, y)))
+                            << x << " + " << dx << ", " << y;
+                }
+    }
+}
+
+TEST(SmartFillNeighbours, AreTheSameHoweverTheyWereSet)
+{
+    constexpr int kWidth = 90, kHeight = 70;
+    const ScatteredPixels pixels(kWidth, kHeight, 4);
+    const MatchLayout layout(kWidth, kHeight);
+    KnownPixels one{layout}, rows{layout};
+    for (int y = 0; y < kHeight; ++y) {
+        rows.setRow(y, pixels.mask.data() + std::ptrdiff_t{kWidth} * y);
+        for (int x = 0; x < kWidth; ++x)
+            if (pixels.known(x, y)) one.set(x, y);
+    }
+    for (int y = 0; y < kHeight; y += 7)
+        for (int x = 0; x < kWidth; x += 5) {
+            const auto list = [&](const Neighbourhood& near) {
+                return std::vector<std::int32_t>(near.delta, near.delta + near.count);
+            };
+            Neighbourhood walked, searched, walkedRows;
+            one.collect(x, y, walked);
+            rows.collect(x, y, walkedRows);
+            rows.search(x, y, searched);
+            ASSERT_EQ(walked.count, kNeighbours);
+            ASSERT_EQ(list(walked), list(searched)) << x << ", " << y;
+            ASSERT_EQ(list(walked), list(walkedRows)) << x << ", " << y;
+        }
 }
 
 } // namespace
