@@ -5,32 +5,25 @@
 ///
 /// The mask is white where the hole is. Writes PREFIX-smart.ppm, PREFIX-telea.ppm and PREFIX-ns.ppm, and prints
 /// seconds, PSNR and SSIM over the hole's pixels, for which the picture itself is the truth.
+#include "Pnm.h"
 #include "smartfill/SmartFill.h"
 #include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <exception>
 #include <fstream>
 #include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 #include <opencv2/photo.hpp>
-#include <stdexcept>
 #include <string>
 
 namespace
 {
 
-cv::Mat readPnm(const std::string& path)
+cv::Mat readPicture(const std::string& path)
 {
-    std::ifstream in(path, std::ios::binary);
-    std::string magic;
-    int width = 0, height = 0, most = 0;
-    in >> magic >> width >> height >> most;
-    in.get();
-    if (!in || (magic != "P6" && magic != "P5") || most != 255)
-        throw std::runtime_error("not a binary PPM or PGM: " + path);
-    cv::Mat picture(height, width, magic == "P6" ? CV_8UC3 : CV_8UC1);
-    in.read(reinterpret_cast<char*>(picture.data), std::streamsize(picture.total() * picture.elemSize()));
-    return picture;
+    zp::bench::Pnm pnm = zp::bench::readPnm(path);
+    return cv::Mat(pnm.height, pnm.width, pnm.channels == 3 ? CV_8UC3 : CV_8UC1, pnm.bytes.data()).clone();
 }
 
 void writePnm(const std::string& path, const cv::Mat& picture)
@@ -88,7 +81,7 @@ try {
         std::fputs("smartfill_looks PICTURE.ppm MASK.pgm RADIUS faster|normal OUTPUT-PREFIX\n", stderr);
         return 2;
     }
-    const cv::Mat truth = readPnm(argv[1]), hole = readPnm(argv[2]);
+    const cv::Mat truth = readPicture(argv[1]), hole = readPicture(argv[2]);
     const bool faster = std::string(argv[4]) == "faster";
     const std::string prefix = argv[5];
     cv::Rect box = cv::boundingRect(hole);

@@ -36,10 +36,13 @@ ZP_MULTIVERSION void takePixels(const std::uint32_t* pixels,
                                 const std::array<std::int32_t, DrawnSources::kCount>& place,
                                 std::array<std::array<std::uint8_t, DrawnSources::kCount>, 4>& bytes)
 {
-    std::uint32_t taken[DrawnSources::kCount];
-    for (std::size_t i = 0; i < place.size(); ++i) taken[i] = pixels[place[i]];
-    for (unsigned channel = 0; channel < 4; ++channel)
-        for (std::size_t i = 0; i < place.size(); ++i) bytes[channel][i] = std::uint8_t(taken[i] >> (8 * channel));
+    for (std::size_t i = 0; i < place.size(); ++i) {
+        const std::uint32_t pixel = pixels[place[i]];
+        bytes[0][i] = std::uint8_t(pixel);
+        bytes[1][i] = std::uint8_t(pixel >> 8);
+        bytes[2][i] = std::uint8_t(pixel >> 16);
+        bytes[3][i] = std::uint8_t(pixel >> 24);
+    }
 }
 
 /// One run's workspace.
@@ -62,6 +65,7 @@ private:
     void draw(std::int64_t t);
     void step(std::int64_t t, PixelPoint pixel);
 
+    DrawnSources mDrawn; ///< for the block of steps at work
     MatchLayout mLayout;
     SmartFillRandom mRandom;
     MatchStep mStep;
@@ -73,8 +77,7 @@ private:
     std::span<std::uint8_t> mClear;    ///< see MatchState::clear
     std::vector<PixelPoint> mFillList; ///< without its revisits, which repeat its beginnings
     KnownPixels mKnown;
-    DrawnSources mDrawn;
-    std::array<std::ptrdiff_t, DrawnSources::kAround> mAroundDelta{};
+    std::array<std::ptrdiff_t, DrawnSources::kAround> mAroundDelta{}; ///< offsets 1 to 12 of NearOffset
     MatchState mState;
 };
 
