@@ -91,10 +91,8 @@ void KnownPixels::setRow(int y, const std::uint8_t* mask)
     for (int x = 0; x < mLayout.width; ++x) bytes[x] = mask[x] == 0;
     const std::size_t tiles = std::size_t(y / kTile) * std::size_t(mColumns);
     for (int x = 0; x < mLayout.width; x += 8) {
-        // Eight bytes of 0 or 1 become bits; past the row's end there is border, which is never known.
-        std::uint64_t eight;
-        std::memcpy(&eight, bytes + x, 8);
-        const std::uint64_t bits = eight * 0x0102040810204080u >> 56;
+        std::uint64_t bits = 0;
+        for (int i = 0; i < std::min(8, mLayout.width - x); ++i) bits |= std::uint64_t{bytes[x + i]} << i;
         mStrips[std::size_t(((x + kStripMargin) >> 3) * mStripPitch + y + kWindowReach)] = std::uint8_t(bits);
         mRowBits[std::size_t(y * mRowPitch + (x + kRowMargin) / 8)] = std::uint8_t(bits);
         const std::size_t tile = tiles + std::size_t(x / kTile);

@@ -484,11 +484,11 @@ struct ScatteredPixels {
 
 TEST(SmartFillNeighbours, StandAsBitsInWindowsAndRows)
 {
-    for (const auto& [w, h] : {std::pair{61, 40}, {8, 8}, {1, 1}, {130, 5}}) {
+    for (const auto& [w, h] : {std::pair{61, 40}, {8, 8}, {3, 3}, {1, 1}, {130, 5}}) {
         SCOPED_TRACE(testing::Message() << w << " x " << h);
         const ScatteredPixels pixels(w, h, 3);
         KnownPixels one{MatchLayout(w, h)}, rows{MatchLayout(w, h)};
-        for (int y = 0; y < h; ++y) {
+        for (int y = h; y-- > 0;) {
             rows.setRow(y, pixels.mask.data() + std::ptrdiff_t{w} * y);
             for (int x = 0; x < w; ++x)
                 if (pixels.known(x, y)) one.set(x, y);
