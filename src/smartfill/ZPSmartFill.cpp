@@ -25,7 +25,6 @@ using namespace zp;
 namespace
 {
 
-constexpr float kNoProgress = -1; ///< nothing new to show
 constexpr char kProgressNotif[] = "SmartFillProgressNotif";
 
 /// Escape cancels a run; without one it closes the window, as the close button does. A run keeps its window.
@@ -154,15 +153,13 @@ void ZPSmartFill::run()
                 fetchSmartFillPicture(std::as_const(*mBitmapRep).view(), mask, run.area, {mMaskBox.x0, mMaskBox.y0});
         }
         mCalcThread = std::thread([this, &run] { calcThread(run); });
-        mPoll.start();
     } catch (const std::bad_alloc&) {
         run.outOfMemory = true;
         mWorkerDone.store(true, std::memory_order_release);
-        mPoll.start();
     } catch (const std::system_error&) {
         calcThread(run); // no thread to be had: the user waits, and gets the fill
-        mPoll.start();
     }
+    mPoll.start();
 }
 
 void ZPSmartFill::calcThread(Run& run)

@@ -80,7 +80,8 @@ private:
     std::atomic<bool> mCancel{false};
     /// Between worker and window: the latest progress not shown yet, and that the worker is through. The window looks
     /// at both some sixty times a second; progress comes faster than it can be shown.
-    std::atomic<float> mProgress{-1};
+    static constexpr float kNoProgress = -1; ///< nothing new to show
+    std::atomic<float> mProgress{kNoProgress};
     std::atomic<bool> mWorkerDone{false};
     QTimer mPoll;
 };
