@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The nearest known pixels: a short walk where they are dense, rings of tiles where they are rare.
+/// The nearest known pixels: a short walk where they are dense, discs of bits where they are rare, rings of tiles
+/// beyond.
 #include "smartfill/KnownPixels.h"
 #include "platform/Simd.h"
 #include <algorithm>
@@ -57,8 +58,7 @@ KnownPixels::KnownPixels(const MatchLayout& layout)
       mColumns((layout.width + kTile - 1) / kTile),
       mRows((layout.height + kTile - 1) / kTile),
       mBytes(layout.size()),
-      mTiles(std::size_t(mColumns) * std::size_t(mRows)),
-      mCounts(mTiles.size()),
+      mCounts(std::size_t(mColumns) * std::size_t(mRows)),
       mStripPitch(layout.height + 32),
       mStrips(std::size_t((layout.width + kStripMargin) / 8 + 5) * std::size_t(mStripPitch)),
       mRowPitch((layout.width + kRowMargin) / 8 + 9),
@@ -77,9 +77,7 @@ void KnownPixels::set(int x, int y)
     std::uint8_t& byte = mBytes[std::size_t(mLayout.index(x, y))];
     if (byte) return;
     byte = 1;
-    const std::size_t tile = std::size_t(y / kTile) * std::size_t(mColumns) + std::size_t(x / kTile);
-    mTiles[tile].words[y % kTile / 4] |= std::uint64_t{1} << (y % 4 * kTile + x % kTile);
-    ++mCounts[tile];
+    ++mCounts[std::size_t(y / kTile) * std::size_t(mColumns) + std::size_t(x / kTile)];
     const int column = x + kStripMargin;
     mStrips[std::size_t((column >> 3) * mStripPitch + y + kWindowReach)] |= std::uint8_t(1u << (column & 7));
     mRowBits[std::size_t(y * mRowPitch + (x + kRowMargin) / 8)] |= std::uint8_t(1u << (x & 7));
@@ -91,13 +89,12 @@ void KnownPixels::setRow(int y, const std::uint8_t* mask)
     for (int x = 0; x < mLayout.width; ++x) bytes[x] = mask[x] == 0;
     const std::size_t tiles = std::size_t(y / kTile) * std::size_t(mColumns);
     for (int x = 0; x < mLayout.width; x += 8) {
-        std::uint64_t bits = 0;
-        for (int i = 0; i < std::min(8, mLayout.width - x); ++i) bits |= std::uint64_t{bytes[x + i]} << i;
+        unsigned bits = 0;
+        for (int i = 0; i < std::min(8, mLayout.width - x); ++i) bits |= unsigned(bytes[x + i]) << i;
         mStrips[std::size_t(((x + kStripMargin) >> 3) * mStripPitch + y + kWindowReach)] = std::uint8_t(bits);
         mRowBits[std::size_t(y * mRowPitch + (x + kRowMargin) / 8)] = std::uint8_t(bits);
-        const std::size_t tile = tiles + std::size_t(x / kTile);
-        mTiles[tile].words[y % kTile / 4] |= bits << (y % 4 * kTile + x % kTile);
-        mCounts[tile] = std::uint16_t(mCounts[tile] + std::popcount(bits));
+        std::uint16_t& count = mCounts[tiles + std::size_t(x / kTile)];
+        count = std::uint16_t(count + std::popcount(bits));
     }
 }
 
@@ -153,10 +150,11 @@ void KnownPixels::searchTile(int column, int row, int x, int y, Ranked& ranked) 
     const auto gap = [](int low, int extent) { return low > 0 ? low : low + extent < 0 ? -(low + extent) : 0; };
     const std::int64_t gapX = gap(left, kTile - 1), gapY = gap(top, kTile - 1);
     if (gapX * gapX + gapY * gapY > ranked.limit()) return;
-    for (int word = 0; word < 4; ++word)
-        for (std::uint64_t bits = mTiles[tile].words[word]; bits; bits &= bits - 1) {
-            const int bit = std::countr_zero(bits);
-            const std::int64_t dx = left + bit % kTile, dy = top + 4 * word + bit / kTile;
+    const int rows = std::min(kTile, mLayout.height - tileY * kTile);
+    const std::uint8_t* bytes = mRowBits.data() + tileY * kTile * mRowPitch + (tileX * kTile + kRowMargin) / 8;
+    for (int j = 0; j < rows; ++j, bytes += mRowPitch)
+        for (unsigned bits = bytes[0] | unsigned(bytes[1]) << 8; bits; bits &= bits - 1) {
+            const std::int64_t dx = left + std::countr_zero(bits), dy = top + j;
             if (dx * dx + dy * dy <= ranked.limit() && std::abs(dx) < mLayout.width && std::abs(dy) < mLayout.height)
                 ranked.add(Ranked::key(dx, dy));
         }
@@ -167,37 +165,27 @@ void KnownPixels::search(int x, int y, Neighbourhood& out) const
     if (!searchDisc(x, y, out)) searchTiles(x, y, out);
 }
 
-const Discs& Discs::all()
+const KnownPixels::DiscRows& KnownPixels::disc(int radius)
 {
-    static const Discs discs = [] {
-        Discs made{};
-        for (const NearOffset o : nearOffsets(kMiddle))
-            for (int radius = 0; radius <= kMiddle; ++radius)
-                if (o.length() <= radius * radius)
-                    made.row[radius][o.dy + kMiddle] |= std::uint64_t{1} << (o.dx + kMiddle);
+    static const auto discs = [] {
+        std::array<DiscRows, kDiscReach + 1> made{};
+        for (const NearOffset o : nearOffsets(kDiscReach))
+            for (int r = 0; r <= kDiscReach; ++r)
+                if (o.length() <= r * r)
+                    made[std::size_t(r)][std::size_t(o.dy + kDiscReach)] |= std::uint64_t{1} << (o.dx + kDiscReach);
         return made;
     }();
-    return discs;
+    return discs[std::size_t(radius)];
 }
 
 namespace
 {
 
-/// The radius of the least disc with thirty bits, up to @p most; 0: there is none.
-ZP_MULTIVERSION int leastDisc(const Discs& discs, const std::uint64_t* middle, int most)
+ZP_MULTIVERSION int commonBits(const std::uint64_t* a, const std::uint64_t* b, int count)
 {
-    const auto count = [&](int radius) {
-        const std::uint64_t* const disc = discs.row[radius] + Discs::kMiddle;
-        int bits = 0;
-        for (int dy = -radius; dy <= radius; ++dy) bits += std::popcount(middle[dy] & disc[dy]);
-        return bits;
-    };
-    if (count(most) < kNeighbours) return 0;
-    for (int less = 0; most - less > 1;) {
-        const int radius = (less + most) / 2;
-        (count(radius) < kNeighbours ? less : most) = radius;
-    }
-    return most;
+    int bits = 0;
+    for (int i = 0; i < count; ++i) bits += std::popcount(a[i] & b[i]);
+    return bits;
 }
 
 /// How many of @p keys, all different, are less than each.
@@ -212,25 +200,39 @@ ZP_MULTIVERSION void rank(const std::uint32_t* keys, int count, std::uint32_t* r
 
 } // namespace
 
+int KnownPixels::leastDisc(const DiscRows& rows, int most)
+{
+    const auto holdsEnough = [&](int radius) {
+        const int first = kDiscReach - radius;
+        return commonBits(rows.data() + first, disc(radius).data() + first, 2 * radius + 1) >= kNeighbours;
+    };
+    if (!holdsEnough(most)) return 0;
+    for (int less = 0; most - less > 1;) {
+        const int radius = (less + most) / 2;
+        (holdsEnough(radius) ? most : less) = radius;
+    }
+    return most;
+}
+
 bool KnownPixels::searchDisc(int x, int y, Neighbourhood& out) const
 {
-    static_assert(Discs::kMiddle == kDiscReach);
-    const Discs& discs = Discs::all();
-    int most = std::min({x, y, mLayout.width - 1 - x, mLayout.height - 1 - y, kDiscReach, mLayout.border});
-    std::uint64_t words[2 * kDiscReach + 1];
-    std::uint64_t* const middle = words + kDiscReach;
-    for (int dy = -most; dy <= most; ++dy) middle[dy] = row(x, y + dy);
-    most = leastDisc(discs, middle, most);
-    if (!most) return false;
+    const int room = std::min({x, y, mLayout.width - 1 - x, mLayout.height - 1 - y, kDiscReach, mLayout.border});
+    DiscRows rows;
+    for (int dy = -room; dy <= room; ++dy) rows[std::size_t(dy + kDiscReach)] = row(x, y + dy);
+    const int radius = leastDisc(rows, room);
+    if (!radius) return false;
+    const DiscRows& within = disc(radius);
     // All of it, then in order. One disc smaller held fewer than thirty; a ring has room for no more than that.
     constexpr int kBias = 32;
     std::uint32_t keys[kNeighbours + 8 * kDiscReach], ranks[kNeighbours + 8 * kDiscReach];
     int count = 0;
-    for (int dy = -most; dy <= most; ++dy)
-        for (std::uint64_t bits = middle[dy] & discs.row[most][dy + kDiscReach]; bits; bits &= bits - 1) {
+    for (int dy = -radius; dy <= radius; ++dy) {
+        const auto number = std::size_t(dy + kDiscReach);
+        for (std::uint64_t bits = rows[number] & within[number]; bits; bits &= bits - 1) {
             const int dx = std::countr_zero(bits) - kDiscReach;
             keys[count++] = std::uint32_t((dx * dx + dy * dy) << 12 | (dy + kBias) << 6 | (dx + kBias));
         }
+    }
     rank(keys, count, ranks);
     const std::int32_t here = mLayout.index(x, y);
     for (int i = 0; i < count; ++i) {
@@ -240,7 +242,7 @@ bool KnownPixels::searchDisc(int x, int y, Neighbourhood& out) const
         out.index[ranks[i]] = here + out.delta[ranks[i]];
     }
     out.count = kNeighbours;
-    out.reach = most;
+    out.reach = radius;
     out.far = false;
     return true;
 }

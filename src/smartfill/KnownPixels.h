@@ -45,14 +45,6 @@ struct NearOffset {
 /// All offsets no longer than @p reach, in that order.
 std::vector<NearOffset> nearOffsets(int reach);
 
-/// For each radius up to @p kMiddle, which pixels lie within: bits of 57 to a row.
-struct Discs {
-    static constexpr int kMiddle = 28;
-    alignas(64) std::uint64_t row[kMiddle + 1][64]; ///< [radius][dy + kMiddle]; none past the 57th
-
-    static const Discs& all();
-};
-
 /// The picture is a torus here: a pixel's neighbourhood goes on at the opposite edge, so one pixel may be several
 /// neighbours. Nearest means in the order of NearOffset, over offsets within -(size - 1) to size - 1.
 ///
@@ -94,6 +86,12 @@ public:
 
     /// How far a disc reaches from its middle: 57 columns are what a word holds wherever in a byte it begins.
     static constexpr int kDiscReach = 28;
+    using DiscRows = std::array<std::uint64_t, 2 * kDiscReach + 1>;
+    /// Which pixels of the rows around a middle lie within @p radius; row dy is number dy + kDiscReach.
+    static const DiscRows& disc(int radius);
+    /// The radius of the least disc that holds thirty of the bits, no larger than @p most; 0: there is none.
+    /// @param rows  as row() gives them; only those at kDiscReach - most to kDiscReach + most are looked at
+    static int leastDisc(const DiscRows& rows, int most);
     /// The 57 pixels of row @p y around column @p x as bits, the leftmost first. Row and columns must lie inside, but
     /// what is read there may reach over.
     std::uint64_t row(int x, int y) const
@@ -109,9 +107,6 @@ private:
     static constexpr int kTile = 16;
     static constexpr int kStripMargin = 16; ///< columns before the first; a window starts within them
     static constexpr int kRowMargin = 32;   ///< the same for a disc
-    struct Tile {
-        std::uint64_t words[4] = {}; ///< four rows each
-    };
     struct Ranked;
 
     bool walk(int x, int y, Neighbourhood& out) const;
@@ -124,9 +119,8 @@ private:
 
     MatchLayout mLayout;
     int mColumns, mRows;
-    std::vector<std::uint8_t> mBytes; ///< 1 = known, in the padded layout
-    std::vector<Tile> mTiles;
-    std::vector<std::uint16_t> mCounts;
+    std::vector<std::uint8_t> mBytes;   ///< 1 = known, in the padded layout
+    std::vector<std::uint16_t> mCounts; ///< known pixels of each tile
     std::ptrdiff_t mStripPitch;
     std::vector<std::uint8_t> mStrips; ///< see Window: eight columns a byte, strip after strip
     std::ptrdiff_t mRowPitch;

@@ -77,7 +77,6 @@ private:
     std::span<std::uint8_t> mClear;    ///< see MatchState::clear
     std::vector<PixelPoint> mFillList; ///< without its revisits, which repeat its beginnings
     KnownPixels mKnown;
-    std::array<std::ptrdiff_t, DrawnSources::kAround> mAroundDelta{}; ///< offsets 1 to 12 of NearOffset
     MatchState mState;
 };
 
@@ -99,10 +98,15 @@ SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, 
     take(mSource, size, 0u);
     take(mSourceList, sources, 0);
     take(mClear, size + 3, std::uint8_t{0});
-    mState = {mLayout, mSource.data(), mClear.data(), mTarget.data(), &mKnown, &mDrawn, {}, 0};
+    mState.layout = mLayout;
+    mState.source = mSource.data();
+    mState.clear = mClear.data();
+    mState.target = mTarget.data();
+    mState.known = &mKnown;
+    mState.drawn = &mDrawn;
     const auto offsets = nearOffsets(2);
-    for (std::size_t k = 0; k < mAroundDelta.size(); ++k)
-        mAroundDelta[k] = offsets[k + 1].dy * mLayout.stride + offsets[k + 1].dx;
+    for (std::size_t k = 0; k < mState.aroundDelta.size(); ++k)
+        mState.aroundDelta[k] = offsets[k + 1].dy * mLayout.stride + offsets[k + 1].dx;
     readPicture(picture);
 }
 
@@ -154,7 +158,7 @@ void SmartFillRun::draw(std::int64_t t)
     for (int i = 0; i < DrawnSources::kCount; ++i)
         mDrawn.place[std::size_t(i)] = mSourceList[mRandom.draw(length, t, i)];
     for (std::size_t k = 0; k < mDrawn.around.size(); ++k)
-        takePixels(mSource.data() + mAroundDelta[k], mDrawn.place, mDrawn.around[k]);
+        takePixels(mSource.data() + mState.aroundDelta[k], mDrawn.place, mDrawn.around[k]);
 }
 
 /// Which channels are worth comparing.

@@ -120,10 +120,9 @@ private:
     void boundByNearest(int start, std::uint16_t* bounds) const
     {
         constexpr int kDeepest = 3;
-        static const std::vector<NearOffset> offsets = nearOffsets(2);
         int k = 1;
         for (std::size_t i = 0; i < DrawnSources::kAround && k <= std::min(mNear.count - 1, kDeepest); ++i) {
-            if (offsets[i + 1].dy * mState.layout.stride + offsets[i + 1].dx != mNear.delta[k]) continue;
+            if (mState.aroundDelta[i] != mNear.delta[k]) continue;
             for (int c = 0; c < mState.channelCount; ++c) {
                 const unsigned channel = mState.channels[unsigned(c)];
                 addBound(mState.drawn->around[i][channel].data() + start, std::uint8_t(mValue[k] >> (8 * channel)),

@@ -44,6 +44,8 @@ struct MatchState {
     const TargetPixel* target = nullptr; ///< the picture now
     const KnownPixels* known = nullptr;
     const DrawnSources* drawn = nullptr;
+    std::array<std::int32_t, DrawnSources::kAround>
+        aroundDelta{}; ///< offsets 1 to 12 of NearOffset as dy * stride + dx
     /// The channels in which source pixels differ at all; most pictures have one alpha.
     std::array<std::uint8_t, 4> channels{};
     int channelCount = 0;

@@ -165,25 +165,6 @@ ZP_VBMI inline void race(Contenders& c, const CoarseTable& table, const std::uin
     }
 }
 
-/// Two neighbours at a time, from neighbour @p k on, for sixteen contenders at most, until few are left.
-ZP_VBMI inline void raceLast(Contenders& c, const CoarseTable& table, const std::uint32_t* source, const Lanes& l,
-                             int k)
-{
-    __mmask16 alive = firstLanes(c.count);
-    const __m512i places = _mm512_load_si512(c.place);
-    __m512i error = _mm512_load_si512(c.error);
-    for (; k + 1 < l.count && std::popcount(unsigned(alive)) > kLeftToCompare; k += 2) {
-        // What is out is not read any more.
-        const __m512i a = _mm512_mask_i32gather_epi32(places, alive, places, source + l.delta[k], 4);
-        const __m512i b = _mm512_mask_i32gather_epi32(places, alive, places, source + l.delta[k + 1], 4);
-        error = addCoarse(table, a, _mm512_set1_epi32(int(l.value[k])), error);
-        error = addCoarse(table, b, _mm512_set1_epi32(int(l.value[k + 1])), error);
-        alive = _mm512_mask_cmplt_epi32_mask(alive, error, c.limits);
-    }
-    _mm512_store_si512(c.place, _mm512_maskz_compress_epi32(alive, places));
-    c.count = std::popcount(unsigned(alive));
-}
-
 /// All tries from @p next on, sixty-four at a time, by as many of the neighbours close around as it takes to drop most,
 /// whose counterparts come as streams. Sums are bytes that stop at 255. @return how many neighbours that were
 ZP_VBMI inline int raceStreams(Contenders& c, const CoarseTable& table, const MatchState& state, const Lanes& l,
@@ -303,9 +284,8 @@ ZP_VBMI inline void matchAtRandom(const MatchState& state, const Lanes& l, const
         race<false>(c, table, state.source + l.delta[k], l.value[k], nullptr, 0);
         ++k;
     }
-    for (; k + 1 < l.count && c.count > 16; k += 2)
+    for (; k + 1 < l.count && c.count > kLeftToCompare; k += 2)
         race<true>(c, table, state.source + l.delta[k], l.value[k], state.source + l.delta[k + 1], l.value[k + 1]);
-    if (c.count > kLeftToCompare && c.count <= 16) raceLast(c, table, state.source, l, k);
     compareLast(state, l, planes, table, c, best);
 }
 
@@ -341,20 +321,13 @@ ZP_VBMI BestMatch matchVector(const MatchState& state, int x, int y, int start)
     alignas(64) std::int32_t candidates[32];
     _mm512_store_si512(candidates, candidatesA);
     _mm512_store_si512(candidates + 16, candidatesB);
-    const __m512i zero = _mm512_setzero_si512();
+    // Its own source first; 0 stands for none.
     const std::int32_t own = state.target[state.layout.index(x, y)].filledFrom;
     if (own >= 0) compare(state, l, planes, own, best);
-    std::uint32_t left =
-        _mm512_cmpneq_epi32_mask(candidatesA, zero) | std::uint32_t(_mm512_cmpneq_epi32_mask(candidatesB, zero)) << 16;
-    left &= used;
-    const __m512i owns = _mm512_set1_epi32(own);
-    left &=
-        ~(_mm512_cmpeq_epi32_mask(candidatesA, owns) | std::uint32_t(_mm512_cmpeq_epi32_mask(candidatesB, owns)) << 16);
+    std::uint32_t left = used & ~equalLanes(candidatesA, candidatesB, 0) & ~equalLanes(candidatesA, candidatesB, own);
     while (left && best.error) {
         const std::int32_t candidate = candidates[std::countr_zero(left)];
-        const __m512i all = _mm512_set1_epi32(candidate);
-        left &= ~(_mm512_cmpeq_epi32_mask(candidatesA, all) | std::uint32_t(_mm512_cmpeq_epi32_mask(candidatesB, all))
-                                                                  << 16);
+        left &= ~equalLanes(candidatesA, candidatesB, candidate);
         if (state.clear[candidate]) compare(state, l, planes, candidate, best);
     }
     if (best.error) {
@@ -372,9 +345,9 @@ ZP_VBMI BestMatch matchVector(const MatchState& state, int x, int y, int start)
 MatchStep bestMatchStep()
 {
     static const bool vector = __builtin_cpu_supports("avx512vbmi") && __builtin_cpu_supports("avx512vbmi2") &&
-                               __builtin_cpu_supports("avx512vnni") && __builtin_cpu_supports("avx512vpopcntdq") &&
-                               __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512bw") &&
-                               __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("bmi2");
+                               __builtin_cpu_supports("avx512vnni") && __builtin_cpu_supports("avx512vl") &&
+                               __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512dq") &&
+                               __builtin_cpu_supports("bmi2");
     return vector ? MatchStep{matchVector} : MatchStep{matchPortable};
 }
 #else

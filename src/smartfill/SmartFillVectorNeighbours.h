@@ -12,7 +12,7 @@
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #include <immintrin.h>
 #define ZP_VBMI                                                                                                        \
-    __attribute__((target("avx512f,avx512bw,avx512dq,avx512vl,avx512vbmi,avx512vbmi2,avx512vnni,avx512vpopcntdq,bmi,"  \
+    __attribute__((target("avx512f,avx512bw,avx512dq,avx512vl,avx512vbmi,avx512vbmi2,avx512vnni,bmi,"                  \
                           "bmi2,popcnt,lzcnt")))
 #endif
 
@@ -47,6 +47,13 @@ ZP_VBMI inline __m512i upTo63()
 inline __mmask16 firstLanes(int count) { return count >= 16 ? __mmask16(0xFFFF) : __mmask16((1u << count) - 1); }
 
 inline std::uint32_t firstLanes32(int count) { return std::uint32_t((std::uint64_t{1} << count) - 1); }
+
+/// Which of thirty-two lanes hold @p value.
+ZP_VBMI inline std::uint32_t equalLanes(__m512i a, __m512i b, std::int32_t value)
+{
+    const __m512i all = _mm512_set1_epi32(value);
+    return _mm512_cmpeq_epi32_mask(a, all) | std::uint32_t(_mm512_cmpeq_epi32_mask(b, all)) << 16;
+}
 
 /// For the offsets in their order, 64 at a time: where a window of known pixels holds them (for each phase of the
 /// window), and what they are. Bytes for permutations.
@@ -130,44 +137,28 @@ ZP_VBMI inline bool collectInWindow(const MatchState& state, int x, int y, Lanes
     return true;
 }
 
-/// How many pixels of the rows lie within a disc, eight rows a vector.
-ZP_VBMI inline int countWithin(const __m512i* rows, const std::uint64_t* disc)
-{
-    __m512i sum = _mm512_setzero_si512();
-    for (int i = 0; i < 8; ++i)
-        sum = _mm512_add_epi64(sum, _mm512_popcnt_epi64(_mm512_and_si512(rows[i], _mm512_load_si512(disc + 8 * i))));
-    return int(_mm512_reduce_add_epi64(sum));
-}
-
 /// Finds the neighbours where known pixels are too rare for a window: all of the least disc that holds enough of them,
 /// put in order by counting for each how many come before it. @return as above
 ZP_VBMI inline bool collectInDisc(const MatchState& state, int x, int y, Lanes& l)
 {
-    constexpr int kReach = KnownPixels::kDiscReach, kRows = 2 * kReach + 1;
+    constexpr int kReach = KnownPixels::kDiscReach;
     const MatchLayout& layout = state.layout;
-    if (std::min(std::min(x, layout.width - 1 - x), std::min(y, layout.height - 1 - y)) < kReach ||
-        layout.border < kReach)
-        return false;
-    const auto& discs = Discs::all().row;
-    alignas(64) std::uint64_t words[64] = {};
-    for (int i = 0; i < kRows; ++i) words[i] = state.known->row(x, y + i - kReach);
-    __m512i rows[8];
-    for (int i = 0; i < 8; ++i) rows[i] = _mm512_load_si512(words + 8 * i);
-    if (countWithin(rows, discs[kReach]) < kNeighbours) return false;
-    int less = 0, radius = kReach; // the first holds too few, the second enough
-    while (radius - less > 1) {
-        const int middle = (less + radius) / 2;
-        (countWithin(rows, discs[middle]) < kNeighbours ? less : radius) = middle;
-    }
+    const int room = std::min(std::min(x, layout.width - 1 - x), std::min(y, layout.height - 1 - y));
+    if (std::min(room, layout.border) < kReach) return false;
+    KnownPixels::DiscRows rows;
+    for (int dy = -kReach; dy <= kReach; ++dy) rows[std::size_t(dy + kReach)] = state.known->row(x, y + dy);
+    const int radius = KnownPixels::leastDisc(rows, kReach);
+    if (!radius) return false;
+    const KnownPixels::DiscRows& within = KnownPixels::disc(radius);
     // One disc smaller held fewer than thirty, and a ring has room for no more than 8 * kReach.
     constexpr int kMost = kNeighbours + 8 * kReach;
     alignas(64) std::int8_t dx[kMost + 64], dy[kMost + 64];
     const __m512i columns = _mm512_sub_epi8(upTo63(), _mm512_set1_epi8(kReach));
     int count = 0;
-    for (int i = kReach - radius; i <= kReach + radius; ++i) {
-        const std::uint64_t bits = words[i] & discs[radius][i];
+    for (int down = -radius; down <= radius; ++down) {
+        const std::uint64_t bits = rows[std::size_t(down + kReach)] & within[std::size_t(down + kReach)];
         _mm512_storeu_si512(dx + count, _mm512_maskz_compress_epi8(bits, columns));
-        _mm512_storeu_si512(dy + count, _mm512_set1_epi8(char(i - kReach)));
+        _mm512_storeu_si512(dy + count, _mm512_set1_epi8(char(down)));
         count += std::popcount(bits);
     }
     // A key orders by length, then dy, then dx; none is less than that of what lies past the end.
@@ -197,7 +188,8 @@ ZP_VBMI inline bool collectInDisc(const MatchState& state, int x, int y, Lanes& 
     l.around = 0;
     const WindowTables& tables = windowTables();
     for (int i = 0; i < DrawnSources::kAround; ++i)
-        l.around |= unsigned(words[tables.dy[0][i + 1] + kReach] >> (tables.dx[0][i + 1] + kReach) & 1) << i;
+        l.around |= unsigned(rows[std::size_t(tables.dy[0][i + 1] + kReach)] >> (tables.dx[0][i + 1] + kReach) & 1)
+                    << i;
     l.deltaA = _mm512_load_si512(l.delta);
     l.deltaB = _mm512_maskz_load_epi32(firstLanes(kNeighbours - 16), l.delta + 16);
     return true;
