@@ -373,10 +373,18 @@ void StripDeflater::deflate(std::span<const std::uint8_t> bytes, bool last, std:
         p.startBlock();
         blockStart = at;
     };
+    const auto bucketOf = [&](std::size_t position) -> auto&
+    {
+        return p.head[(load4(data + position) * 0x9E3779B1u) >> (32 - kHashBits)];
+    };
+    const auto remember = [](auto& bucket, std::size_t position) {
+        bucket[1] = bucket[0];
+        bucket[0] = std::uint32_t(position + 1);
+    };
     while (at < size) {
         unsigned length = 0, distance = 0;
         if (size - at >= 8) {
-            auto& bucket = p.head[(load4(data + at) * 0x9E3779B1u) >> (32 - kHashBits)];
+            auto& bucket = bucketOf(at);
             for (const std::uint32_t candidate : bucket) {
                 if (candidate == 0 || at - (candidate - 1) > kWindow) continue;
                 const std::uint8_t* from = data + candidate - 1;
@@ -389,8 +397,7 @@ void StripDeflater::deflate(std::span<const std::uint8_t> bytes, bool last, std:
                     distance = away;
                 }
             }
-            bucket[1] = bucket[0];
-            bucket[0] = std::uint32_t(at + 1);
+            remember(bucket, at);
             // A short match far away costs more than its literals.
             if (length < (distance <= 64 ? 4u : distance <= 1024 ? 5u : 6u)) length = 0;
         }
@@ -398,11 +405,8 @@ void StripDeflater::deflate(std::span<const std::uint8_t> bytes, bool last, std:
             p.match(length, distance);
             at += length;
             misses = length >= 16 ? 0 : misses - std::min(misses, 2 * length); // short ones in noise are chance
-            if (size - at >= 4) { // the run's last position, so that what goes on is found close by
-                auto& bucket = p.head[(load4(data + at - 1) * 0x9E3779B1u) >> (32 - kHashBits)];
-                bucket[1] = bucket[0];
-                bucket[0] = std::uint32_t(at);
-            }
+            // The run's last position, so that what goes on is found close by.
+            if (size - at >= 4) remember(bucketOf(at - 1), at - 1);
         } else {
             // Where nothing repeats fewer and fewer positions are looked up.
             const std::size_t step =
@@ -413,9 +417,7 @@ void StripDeflater::deflate(std::span<const std::uint8_t> bytes, bool last, std:
         }
         if (p.tokenCount == kBlockTokens) endBlock(last && at == size);
     }
-    if (blockStart < size || size == 0) {
-        endBlock(last);
-    }
+    if (blockStart < size || size == 0) endBlock(last);
     if (!last) {
         writer.put(0, 3); // an empty stored block brings the stream to a whole byte
         writer.align();
