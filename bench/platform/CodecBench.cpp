@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Opening and saving 24 megapixels beside the bare libraries, memory to memory.
+#include "platform/Folders.h"
 #include "platform/ImageEncoder.h"
 #include "platform/ImageImporter.h"
 #include "platform/TIFFSource.h"
@@ -76,12 +77,10 @@ void JPEGOpen(benchmark::State& state)
 void JPEGOpenFile(benchmark::State& state)
 {
     const auto bytes = turboEncode(*picture(true), 92);
-    const std::string path = "/tmp/zelpane-bench-" + std::to_string(getpid()) + ".jpg";
-    FILE* file = std::fopen(path.c_str(), "wb");
-    std::fwrite(bytes.data(), 1, bytes.size(), file);
-    std::fclose(file);
+    const std::string path = temporaryFolder() + "/zelpane-bench-" + std::to_string(getpid()) + ".jpg";
+    if (!writeFileSafely(path, bytes.data(), bytes.size())) return state.SkipWithError("cannot be written");
     for (auto _ : state) benchmark::DoNotOptimize(importImageFile(path).bitmap.get());
-    std::remove(path.c_str());
+    removeItem(path);
     pixels(state);
 }
 void JPEGOpenPeerTurbo(benchmark::State& state)
@@ -105,6 +104,28 @@ void JPEGSavePeerTurbo(benchmark::State& state)
 {
     for (auto _ : state) benchmark::DoNotOptimize(turboEncode(*picture(true), 70).data());
     pixels(state);
+}
+
+/// What the libraries take: rows of three bytes a pixel, one after the other.
+template <class Take>
+void eachRowInRGB(const BitmapRep& rep, Take take)
+{
+    std::vector<std::uint8_t> row(3 * kWidth);
+    for (int y = 0; y < kHeight; ++y) {
+        const std::uint8_t* p = rep.view().rowData(y);
+        for (std::size_t x = 0; x < kWidth; ++x) std::memcpy(&row[3 * x], p + 4 * x + 1, 3);
+        take(row.data(), y);
+    }
+}
+
+/// @param encode  gives the bytes of a picture's file
+template <class Encode>
+void measureSaving(benchmark::State& state, Encode encode)
+{
+    const auto rep = picture(state.range(0));
+    std::size_t bytes = 0;
+    for (auto _ : state) bytes = encode(*rep).size();
+    state.counters["MB"] = double(bytes) / 1e6;
 }
 
 std::vector<std::uint8_t> tiffByLibrary(const BitmapRep& rep)
@@ -137,30 +158,16 @@ std::vector<std::uint8_t> tiffByLibrary(const BitmapRep& rep)
     TIFFSetField(t, TIFFTAG_COMPRESSION, COMPRESSION_LZW);
     TIFFSetField(t, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL);
     TIFFSetField(t, TIFFTAG_ROWSPERSTRIP, 64);
-    std::vector<std::uint8_t> row(3 * kWidth);
-    for (int y = 0; y < kHeight; ++y) {
-        const std::uint8_t* p = rep.view().rowData(y);
-        for (std::size_t x = 0; x < kWidth; ++x) std::memcpy(&row[3 * x], p + 4 * x + 1, 3);
-        TIFFWriteScanline(t, row.data(), std::uint32_t(y), 0);
-    }
+    eachRowInRGB(rep, [t](std::uint8_t* row, int y) { TIFFWriteScanline(t, row, std::uint32_t(y), 0); });
     TIFFClose(t);
     return std::move(sink.bytes);
 }
 
 void TIFFSave(benchmark::State& state)
 {
-    const auto rep = picture(state.range(0));
-    std::size_t bytes = 0;
-    for (auto _ : state) bytes = encodeTIFF(rep->view(), {}).size();
-    state.counters["MB"] = double(bytes) / 1e6;
+    measureSaving(state, [](const BitmapRep& rep) { return encodeTIFF(rep.view(), {}); });
 }
-void TIFFSavePeerLibtiff(benchmark::State& state)
-{
-    const auto rep = picture(state.range(0));
-    std::size_t bytes = 0;
-    for (auto _ : state) bytes = tiffByLibrary(*rep).size();
-    state.counters["MB"] = double(bytes) / 1e6;
-}
+void TIFFSavePeerLibtiff(benchmark::State& state) { measureSaving(state, tiffByLibrary); }
 void TIFFOpen(benchmark::State& state)
 {
     const auto bytes = encodeTIFF(picture(state.range(0))->view(), {});
@@ -192,12 +199,7 @@ std::vector<std::uint8_t> pngByLibrary(const BitmapRep& rep, int level)
     png_set_filter(png, 0, PNG_FILTER_SUB);
     png_set_IHDR(png, info, kWidth, kHeight, 8, PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE, 0, 0);
     png_write_info(png, info);
-    std::vector<std::uint8_t> row(3 * kWidth);
-    for (int y = 0; y < kHeight; ++y) {
-        const std::uint8_t* p = rep.view().rowData(y);
-        for (std::size_t x = 0; x < kWidth; ++x) std::memcpy(&row[3 * x], p + 4 * x + 1, 3);
-        png_write_row(png, row.data());
-    }
+    eachRowInRGB(rep, [png](const std::uint8_t* row, int) { png_write_row(png, row); });
     png_write_end(png, info);
     png_destroy_write_struct(&png, &info);
     return out;
@@ -205,17 +207,11 @@ std::vector<std::uint8_t> pngByLibrary(const BitmapRep& rep, int level)
 
 void PNGSave(benchmark::State& state)
 {
-    const auto rep = picture(state.range(0));
-    std::size_t bytes = 0;
-    for (auto _ : state) bytes = encodePNG(rep->view(), {}).size();
-    state.counters["MB"] = double(bytes) / 1e6;
+    measureSaving(state, [](const BitmapRep& rep) { return encodePNG(rep.view(), {}); });
 }
 void PNGSavePeerLibpng(benchmark::State& state)
 {
-    const auto rep = picture(state.range(0));
-    std::size_t bytes = 0;
-    for (auto _ : state) bytes = pngByLibrary(*rep, int(state.range(1))).size();
-    state.counters["MB"] = double(bytes) / 1e6;
+    measureSaving(state, [&](const BitmapRep& rep) { return pngByLibrary(rep, int(state.range(1))); });
 }
 void PNGOpen(benchmark::State& state)
 {

@@ -2,9 +2,9 @@
 /// Lifting, anchoring and copying a selection of 6 megapixels on a picture of 24, beside plain copies of the same
 /// pixels.
 #include "selection/FloatingImage.h"
+#include "support/NoisePicture.h"
 #include <benchmark/benchmark.h>
 #include <opencv2/imgproc.hpp>
-#include <random>
 
 using namespace zp;
 
@@ -15,13 +15,7 @@ const Rect kBox = makeRect(1003, 777, 3000, 2000);
 
 BitmapRep& photo()
 {
-    static const std::shared_ptr<BitmapRep> rep = [] {
-        auto made = BitmapRep::create(kWidth, kHeight);
-        std::mt19937 random(3);
-        for (int y = 0; y < kHeight; ++y)
-            for (int x = 0; x < kWidth; ++x) made->view().row(y)[x] = std::uint32_t(random()) | 255u;
-        return made;
-    }();
+    static const std::shared_ptr<BitmapRep> rep = bench::noisePicture(kWidth, kHeight);
     return *rep;
 }
 
