@@ -15,37 +15,39 @@ elseif(ZP_SANITIZE STREQUAL "thread")
     add_compile_definitions(ZP_SANITIZED)
 endif()
 
-# zp_add_algorithms(ROOM FILES... [LINK libs]): plain functions over plain values. No Qt is in reach, so that a widget
-# or the canvas cannot be included here even by mistake.
-function(zp_add_algorithms room)
-    cmake_parse_arguments(A "" "" "FILES;LINK;PRIVATE_LINK" ${ARGN})
-    add_library(zp_${room}_algorithms STATIC ${A_FILES})
-    target_include_directories(zp_${room}_algorithms PUBLIC ${CMAKE_SOURCE_DIR}/src)
-    target_link_libraries(zp_${room}_algorithms PUBLIC zp_platform_values ${A_LINK} PRIVATE zp_flags ${A_PRIVATE_LINK})
+# zp_room_path(OUT ROOM...): an include path on which those rooms stand and no others, so that the compiler refuses what a
+# room was not granted. Headers are named by room: "drawing/Filters.h".
+function(zp_room_path out)
+    set(path "")
+    foreach(room ${ARGN})
+        set(place ${CMAKE_BINARY_DIR}/rooms/${room})
+        file(MAKE_DIRECTORY ${place})
+        file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${room} ${place}/${room} SYMBOLIC)
+        list(APPEND path ${place})
+    endforeach()
+    set(${out} ${path} PARENT_SCOPE)
 endfunction()
 
-# zp_add_window(ROOM FILES...): a window controller with its .ui forms; stands above the canvas.
-function(zp_add_window room)
-    cmake_parse_arguments(A "" "" "FILES;LINK" ${ARGN})
-    add_library(zp_${room}_window STATIC ${A_FILES})
-    set_target_properties(zp_${room}_window PROPERTIES AUTOMOC ON AUTOUIC ON)
-    target_link_libraries(zp_${room}_window PUBLIC zp_canvas ${A_LINK} PRIVATE zp_flags)
-    target_precompile_headers(zp_${room}_window REUSE_FROM zp_canvas)
-endfunction()
-
-# zp_add_room(ROOM [WINDOW FILES...] [LINK libs] [PRIVATE_LINK libs]): what every room has. Its ZPCanvas*.cpp become part
-# of the canvas; the window's files become a window; all other *.cpp are algorithms.
+# zp_add_room(ROOM [WIDGETS] USES rooms [LINK libs] [PRIVATE_LINK libs] [EXCEPT files]): a folder of src as a library of its
+# own. Only the rooms it uses are on its include path and its link line. WIDGETS: it holds Qt classes and forms. EXCEPT: files
+# that the room builds by itself.
 function(zp_add_room room)
-    cmake_parse_arguments(A "" "" "WINDOW;LINK;PRIVATE_LINK" ${ARGN})
-    file(GLOB algorithms CONFIGURE_DEPENDS *.cpp)
-    file(GLOB operations CONFIGURE_DEPENDS ZPCanvas*.cpp)
-    list(REMOVE_ITEM algorithms ${operations} ${A_WINDOW})
-    zp_add_algorithms(${room} FILES ${algorithms} LINK ${A_LINK} PRIVATE_LINK ${A_PRIVATE_LINK})
-    target_link_libraries(zp_canvas PUBLIC zp_${room}_algorithms)
-    target_sources(zp_canvas PRIVATE ${operations})
-    if(A_WINDOW)
-        zp_add_window(${room} FILES ${A_WINDOW})
+    cmake_parse_arguments(A "WIDGETS" "" "USES;LINK;PRIVATE_LINK;EXCEPT" ${ARGN})
+    file(GLOB files CONFIGURE_DEPENDS *.cpp)
+    list(TRANSFORM A_EXCEPT PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    list(REMOVE_ITEM files ${A_EXCEPT})
+    if(A_WIDGETS)
+        file(GLOB forms CONFIGURE_DEPENDS *.ui)
+        list(APPEND files ${forms})
     endif()
+    add_library(zp_${room} STATIC ${files})
+    if(A_WIDGETS)
+        set_target_properties(zp_${room} PROPERTIES AUTOMOC ON AUTOUIC ON)
+    endif()
+    zp_room_path(path ${room} ${A_USES})
+    target_include_directories(zp_${room} PRIVATE ${path})
+    list(TRANSFORM A_USES PREPEND zp_)
+    target_link_libraries(zp_${room} PUBLIC ${A_USES} ${A_LINK} PRIVATE zp_flags ${A_PRIVATE_LINK})
 endfunction()
 
 # zp_add_tests(NAME FILES... LINK libs): one GoogleTest program; each test runs alone, in a home folder of its own.
@@ -55,7 +57,7 @@ function(zp_add_tests name)
         return()
     endif()
     add_executable(test_${name} ${A_FILES})
-    target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
     if(A_QT)
         target_link_libraries(test_${name} PRIVATE zp_test_main_qt)
         set_target_properties(test_${name} PROPERTIES AUTOMOC ON)
@@ -69,17 +71,14 @@ function(zp_add_tests name)
     gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
 
-# zp_add_room_tests(ROOM [LINK libs]): the room's tests of algorithms, and in its folder "gui" those that need the canvas or
-# the room's window.
+# zp_add_room_tests(ROOM [QT] [LINK libs]): the tests of a folder of src, in the folder of the same name.
 function(zp_add_room_tests room)
-    cmake_parse_arguments(A "" "" "LINK" ${ARGN})
+    cmake_parse_arguments(A "QT" "" "LINK" ${ARGN})
     file(GLOB tests CONFIGURE_DEPENDS *Test.cpp)
-    zp_add_tests(${room} FILES ${tests} LINK zp_${room}_algorithms ${A_LINK})
-    file(GLOB gui CONFIGURE_DEPENDS gui/*Test.cpp)
-    if(TARGET zp_${room}_window)
-        zp_add_tests(${room}_gui QT FILES ${gui} LINK zp_${room}_window)
+    if(A_QT)
+        zp_add_tests(${room} QT FILES ${tests} LINK zp_${room} ${A_LINK})
     else()
-        zp_add_tests(${room}_gui QT FILES ${gui} LINK zp_canvas)
+        zp_add_tests(${room} FILES ${tests} LINK zp_${room} ${A_LINK})
     endif()
 endfunction()
 
@@ -90,7 +89,8 @@ function(zp_add_bench name)
         return()
     endif()
     add_executable(bench_${name} ${A_FILES})
-    target_include_directories(bench_${name} PRIVATE ${CMAKE_SOURCE_DIR}/bench ${CMAKE_SOURCE_DIR}/tests)
+    target_include_directories(bench_${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/bench
+                                                     ${CMAKE_SOURCE_DIR}/tests)
     target_link_libraries(bench_${name} PRIVATE ${A_LINK} benchmark::benchmark_main zp_flags)
     target_compile_definitions(bench_${name} PRIVATE ZP_TESTDATA="${CMAKE_SOURCE_DIR}/tests/data"
                                                      ZP_RESOURCES="${CMAKE_SOURCE_DIR}/resources")

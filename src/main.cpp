@@ -2,11 +2,11 @@
 /// Start-up: reads the command line and hands control to the application's event loop.
 #include "app/CommandLine.h"
 #include "app/MainWindow.h"
-#include "app/SingleInstance.h"
 #include "app/ZPAppController.h"
 #include "batch/BatchCommandLine.h"
-#include "platform/KeyModifiers.h"
-#include "platform/Panels.h"
+#include "desktop/KeyModifiers.h"
+#include "desktop/Panels.h"
+#include "desktop/SingleInstance.h"
 #include "script/ScriptDriver.h"
 #include <QApplication>
 #include <QTimer>

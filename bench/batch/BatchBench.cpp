@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A folder of 12-megapixel photographs fitted and stamped, beside the same work by the bare libraries.
+#include "base/Folders.h"
+#include "base/WorkPool.h"
 #include "batch/BatchJob.h"
-#include "platform/Folders.h"
-#include "platform/ImageEncoder.h"
-#include "platform/ImageImporter.h"
-#include "platform/WorkPool.h"
+#include "codecs/ImageEncoder.h"
+#include "codecs/ImageImporter.h"
 #include <benchmark/benchmark.h>
 #include <cmath>
 #include <opencv2/imgproc.hpp>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Quarter turns and flips beside OpenCV's, same bytes, memory warm on both sides.
+#include "base/BitmapRep.h"
 #include "imageops/RotateFlip.h"
-#include "platform/BitmapRep.h"
 #include <benchmark/benchmark.h>
 #include <cstring>
 #include <opencv2/core.hpp>

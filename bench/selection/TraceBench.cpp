@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Tracing masks of 24 megapixels, beside OpenCV's contour finder on the same pixels.
-#include "platform/BitmapContext.h"
+#include "drawing/BitmapContext.h"
 #include "selection/MaskOps.h"
 #include "selection/OutlineTracer.h"
 #include "selection/ZPPathBuilder.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A picture that no shortcut helps with: every pixel differs from its neighbours.
 #pragma once
-#include "platform/BitmapRep.h"
+#include "base/BitmapRep.h"
 #include <cstdint>
 #include <memory>
 

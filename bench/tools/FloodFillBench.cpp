@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Flood fill and magic wand on 24-megapixel pictures, beside OpenCV's flood fill of the same picture in the same run.
-#include "platform/BitmapRep.h"
+#include "base/BitmapRep.h"
 #include "tools/FloodFill.h"
 #include "tools/MagicWand.h"
 #include "tools/TileRegion.h"

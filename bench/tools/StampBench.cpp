@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Stamping a brush tip into a 24-megapixel picture, beside AGG's generic blender of the same tip in the same run.
-#include "platform/BitmapRep.h"
+#include "base/BitmapRep.h"
 #include "tools/BrushTip.h"
 #include "tools/StrokeGeometry.h"
 #include <agg_pixfmt_rgba.h>

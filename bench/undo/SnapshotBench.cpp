@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Writing and reading a snapshot's two halves, beside one plain libjpeg-turbo run over the same picture.
-#include "platform/WorkPool.h"
+#include "base/WorkPool.h"
 #include "undo/AlphaRLE.h"
 #include "undo/Fingerprint.h"
 #include "undo/SnapshotJPEG.h"

@@ -3,7 +3,7 @@
 #include "app/AdjustDialog.h"
 #include "app/PairedControls.h"
 #include "canvas/ZPCanvas.h"
-#include "platform/Sounds.h"
+#include "desktop/Sounds.h"
 #include "ui_Adjust.h"
 #include <QDialog>
 #include <array>

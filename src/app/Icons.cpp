@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// SVG line icons recoloured for light and dark schemes.
 #include "app/Icons.h"
-#include "platform/Folders.h"
+#include "base/Folders.h"
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>

@@ -2,11 +2,11 @@
 /// Wires the main window's controls to the canvas.
 #include "app/MainWindow.h"
 #include "app/Icons.h"
+#include "base/Folders.h"
 #include "canvas/ZPCanvas.h"
-#include "platform/ColorWell.h"
-#include "platform/Folders.h"
-#include "platform/KeyModifiers.h"
-#include "platform/ScrollView.h"
+#include "desktop/ColorWell.h"
+#include "desktop/KeyModifiers.h"
+#include "desktop/ScrollView.h"
 #include "ui_Main.h"
 #include <QButtonGroup>
 #include <QCloseEvent>
@@ -319,7 +319,8 @@ void MainWindow::fitToWindow()
     // The viewport without scroll bars, whether they show now or not.
     const QSize room = mUi->mScrollView->size();
     // Half a pixel less, so that rounding up never brings a scroll bar.
-    const float scale = std::min((float(room.width()) - 0.5f) / size.width, (float(room.height()) - 0.5f) / size.height);
+    const float scale =
+        std::min((float(room.width()) - 0.5f) / size.width, (float(room.height()) - 0.5f) / size.height);
     mCanvas->setZoom(mCanvas->m2xRetina ? scale * 2 : scale);
 }
 

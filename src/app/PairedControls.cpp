@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A number field and a slider that show the same value, and where their dialogs stand.
 #include "app/PairedControls.h"
-#include "platform/Panels.h"
+#include "desktop/Panels.h"
 #include <QDialog>
 #include <QScreen>
 #include <QSignalBlocker>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Controllers of the save- and load-selection dialogs.
 #include "app/SavedSelectionDialogs.h"
+#include "base/Folders.h"
 #include "canvas/ZPCanvas.h"
-#include "platform/Folders.h"
-#include "platform/Panels.h"
+#include "desktop/Panels.h"
 #include "ui_LoadSelection.h"
 #include "ui_SaveSelection.h"
 #include <QDialog>

@@ -2,9 +2,9 @@
 /// Controller of the transform dialog.
 #include "app/TransformDialog.h"
 #include "app/PairedControls.h"
+#include "base/Log.h"
 #include "canvas/ZPCanvas.h"
-#include "platform/Log.h"
-#include "platform/Sounds.h"
+#include "desktop/Sounds.h"
 #include "ui_Transform.h"
 #include <QDialog>
 #include <cmath>

@@ -2,10 +2,10 @@
 /// The About box's texts and its two buttons.
 #include "app/ZPAboutBox.h"
 #include "app/ZPPrefs.h"
-#include "platform/Desktop.h"
-#include "platform/Folders.h"
-#include "platform/Panels.h"
-#include "platform/Sounds.h"
+#include "base/Folders.h"
+#include "desktop/Desktop.h"
+#include "desktop/Panels.h"
+#include "desktop/Sounds.h"
 #include "ui_AboutBox.h"
 #include <QCoreApplication>
 #include <QDesktopServices>

@@ -2,10 +2,10 @@
 /// After a crash: offers the last snapshot of the picture that was being edited.
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
+#include "base/Folders.h"
 #include "canvas/ZPCanvas.h"
-#include "platform/Folders.h"
-#include "platform/Panels.h"
-#include "undo/Recovery.h"
+#include "desktop/Panels.h"
+#include "operations/Recovery.h"
 
 using namespace zp;
 

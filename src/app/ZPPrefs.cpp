@@ -2,10 +2,10 @@
 /// The preferences' controls and the settings behind them.
 #include "app/ZPPrefs.h"
 #include "app/CommandLine.h"
-#include "platform/Desktop.h"
-#include "platform/KeyModifiers.h"
-#include "platform/Panels.h"
-#include "platform/Sounds.h"
+#include "desktop/Desktop.h"
+#include "desktop/KeyModifiers.h"
+#include "desktop/Panels.h"
+#include "desktop/Sounds.h"
 #include "ui_Prefs.h"
 #include <QCoreApplication>
 #include <QKeyEvent>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Words into settings, settings into a run, its outcome into lines and an exit status.
 #include "batch/BatchCommandLine.h"
+#include "base/Folders.h"
+#include "base/WorkPool.h"
 #include "batch/BatchRules.h"
 #include "batch/Watermarks.h"
-#include "platform/Folders.h"
-#include "platform/ImageImporter.h"
-#include "platform/WorkPool.h"
+#include "codecs/ImageImporter.h"
 #include <charconv>
 #include <csignal>
 #include <cstdio>

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The batch pipeline: one worker an image, the next file already on its way from the disk.
 #include "batch/BatchJob.h"
+#include "base/Folders.h"
+#include "base/WorkPool.h"
 #include "batch/BatchRules.h"
 #include "batch/WatermarkDrawing.h"
-#include "canvas/FileNames.h"
-#include "canvas/Resample.h"
-#include "platform/Folders.h"
-#include "platform/ImageEncoder.h"
-#include "platform/ImageImporter.h"
-#include "platform/WorkPool.h"
+#include "codecs/FileNames.h"
+#include "codecs/ImageEncoder.h"
+#include "codecs/ImageImporter.h"
+#include "drawing/Resample.h"
 #include <algorithm>
 #include <atomic>
 #include <cmath>

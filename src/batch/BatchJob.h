@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A folder-to-folder run without a window: every image read, fitted, stamped and written, several at a time.
 #pragma once
-#include "platform/BitmapRep.h"
-#include "platform/Geometry.h"
+#include "base/BitmapRep.h"
+#include "base/Geometry.h"
 #include <functional>
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Names, sizes and positions of a batch run.
 #include "batch/BatchRules.h"
-#include "platform/Folders.h"
+#include "base/Folders.h"
 #include <algorithm>
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The rules of a batch run: which files, what size, where the results go, where the watermark sits.
 #pragma once
-#include "platform/Geometry.h"
+#include "base/Geometry.h"
 #include <string>
 #include <vector>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Places a watermark by the picture's lower left corner.
 #include "batch/WatermarkDrawing.h"
-#include "platform/BitmapContext.h"
+#include "drawing/BitmapContext.h"
 
 namespace zp
 {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A watermark over a picture.
 #pragma once
-#include "platform/BitmapRep.h"
-#include "platform/Geometry.h"
+#include "base/BitmapRep.h"
+#include "base/Geometry.h"
 
 namespace zp
 {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Makes and lists the watermark folder.
 #include "batch/Watermarks.h"
+#include "base/Folders.h"
 #include "batch/BatchRules.h"
-#include "platform/Folders.h"
 
 namespace zp
 {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What the canvas shows: the image, the stroke being drawn, the floating selection, the marching ants.
-#include "canvas/AntsPainter.h"
-#include "canvas/ScreenRenderer.h"
+#include "base/Log.h"
 #include "canvas/ZPCanvas.h"
+#include "desktop/MainThreadWake.h"
+#include "desktop/ScrollView.h"
+#include "drawing/AntsPainter.h"
+#include "drawing/BitmapContext.h"
+#include "drawing/ScreenRenderer.h"
 #include "imageops/Adjustment.h"
-#include "platform/BitmapContext.h"
-#include "platform/Log.h"
-#include "platform/MainThreadWake.h"
-#include "platform/ScrollView.h"
 #include "selection/FloatingImage.h"
 #include "selection/OutlineSimplifier.h"
 #include <QComboBox>

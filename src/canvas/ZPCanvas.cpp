@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The canvas's life: defaults, set-up, buffers, accessors.
 #include "canvas/ZPCanvas.h"
-#include "platform/ColorWell.h"
-#include "platform/Folders.h"
-#include "platform/Log.h"
-#include "platform/NotificationCenter.h"
+#include "base/Folders.h"
+#include "base/Log.h"
+#include "base/NotificationCenter.h"
+#include "desktop/ColorWell.h"
 #include <QAction>
 #include <QComboBox>
 #include <QCoreApplication>

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The one document view: it owns the image being edited and every piece of editing state.
 #pragma once
-#include "platform/BezierPath.h"
-#include "platform/BitmapRep.h"
-#include "platform/Color.h"
-#include "platform/GWorld.h"
-#include "platform/Image.h"
-#include "platform/KeyModifiers.h"
+#include "base/BezierPath.h"
+#include "base/BitmapRep.h"
+#include "base/Color.h"
+#include "base/GWorld.h"
+#include "base/Image.h"
+#include "desktop/KeyModifiers.h"
+#include "imageops/Adjustment.h"
 #include "selection/TransformRecord.h"
 #include <QPointer>
 #include <QTimer>
@@ -235,8 +236,7 @@ public:
     /// Enabled state (and, for anchorSelection:, the title) of a menu item by its action's name.
     bool validateMenuItem(const QString& action, QString* title = nullptr);
 
-    // ==== fields, in the product's order
-    // ==============================================================================
+    // ---- fields, in the product's order ----------------------------------------------------------------------------
     zp::Color mColor = zp::kBlack;
     std::int32_t mTool = 0;
     float mSize = 20;
@@ -297,8 +297,7 @@ public:
     bool mDontTakeSnapshot = false;
     bool m2xRetina = false;
 
-    // ==== beside the product's fields: what this platform needs
-    // =======================================================
+    // ---- beside the product's fields: what this platform needs -----------------------------------------------------
     std::string mLastFileError;
     std::shared_ptr<zp::PointerFeed> mPointerFeed; ///< lock-free: mouse events in, capture thread out (src/tools)
     std::shared_ptr<zp::SnapshotEncoder> mSnapshotEncoder; ///< keeps the last snapshot's strips (src/undo)

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The adjustment of a floating selection: its settings, and the filtered pixels that are computed as they are needed.
 #pragma once
-#include "platform/Filters.h"
-#include "platform/Geometry.h"
-#include "selection/TransformRecord.h"
+#include "base/Geometry.h"
+#include "drawing/Filters.h"
+#include <cstdint>
 
 class ZPCanvas;
+
+/// Five whole numbers as the adjust dialog shows them; the defaults are neutral.
+struct _ZPFilters {
+    std::int32_t hue = 0, saturation = 100, brightness = 0, contrast = 100, sharpness = 0;
+};
 
 namespace zp
 {

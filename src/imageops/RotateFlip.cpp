@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Transposition in vector registers, block by block, and rows mirrored where they stand.
 #include "imageops/RotateFlip.h"
-#include "platform/Simd.h"
-#include "platform/WorkPool.h"
+#include "base/Simd.h"
+#include "base/WorkPool.h"
 #include <algorithm>
 #include <cstring>
 #include <utility>

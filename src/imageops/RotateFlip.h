@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Quarter turns and mirror images: whole pixels moved, none changed.
 #pragma once
-#include "platform/BitmapView.h"
+#include "base/BitmapView.h"
 
 namespace zp
 {

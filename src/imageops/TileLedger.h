@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Which tiles of a picture have been computed.
 #pragma once
-#include "platform/Geometry.h"
+#include "base/Geometry.h"
 #include <cstdint>
 #include <vector>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What the image library's table shows: the folder's entries as rows, and a row's values by column.
 #pragma once
-#include "platform/Folders.h"
-#include "platform/ImageImporter.h"
+#include "base/Folders.h"
+#include "codecs/ImageImporter.h"
 #include <array>
 #include <functional>
 #include <map>

@@ -2,10 +2,10 @@
 /// Commands for menus, windows, controls and panels.
 #include "app/MainMenu.h"
 #include "app/ZPAppController.h"
+#include "base/Folders.h"
 #include "canvas/ZPCanvas.h"
-#include "platform/ColorWell.h"
-#include "platform/Folders.h"
-#include "platform/Panels.h"
+#include "desktop/ColorWell.h"
+#include "desktop/Panels.h"
 #include "script/ScriptDriver.h"
 #include <QAction>
 #include <QApplication>

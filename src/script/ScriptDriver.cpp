@@ -4,7 +4,7 @@
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
 #include "canvas/ZPCanvas.h"
-#include "platform/Panels.h"
+#include "desktop/Panels.h"
 #include "script/ScriptWords.h"
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Commands that act on the canvas: mouse, keys, files, operations; and those that wait.
 #include "app/ZPAppController.h"
+#include "base/Folders.h"
 #include "canvas/ZPCanvas.h"
-#include "platform/Folders.h"
-#include "platform/KeyModifiers.h"
+#include "desktop/KeyModifiers.h"
 #include "script/ScriptDriver.h"
 #include <QApplication>
 #include <QKeyEvent>

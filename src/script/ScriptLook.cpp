@@ -2,14 +2,14 @@
 /// Commands that look: image, mask, fields, paths, files of pixels, the library's table, log and sounds.
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
+#include "base/Folders.h"
+#include "base/Log.h"
 #include "canvas/ZPCanvas.h"
+#include "desktop/Pasteboard.h"
+#include "desktop/Sounds.h"
 #include "imageops/Adjustment.h"
-#include "library/ZPFileManager.h"
-#include "platform/Folders.h"
-#include "platform/Log.h"
-#include "platform/Pasteboard.h"
-#include "platform/Sounds.h"
 #include "script/ScriptDriver.h"
+#include "windows/ZPFileManager.h"
 #include <QFile>
 #include <QJsonArray>
 #include <QPixmap>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A picture of one bit a pixel, 64 pixels to a word: the form in which outlines are found and combined.
 #pragma once
-#include "platform/BitmapView.h"
-#include "platform/PixelMemory.h"
+#include "base/BitmapView.h"
+#include "base/PixelMemory.h"
 #include <cstddef>
 #include <cstdint>
 

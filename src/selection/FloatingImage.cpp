@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Lifting, placing, drawing and copying the floating selection's picture, and the pixel work of cut and crop.
 #include "selection/FloatingImage.h"
-#include "platform/Simd.h"
-#include "platform/WorkPool.h"
+#include "base/Simd.h"
+#include "base/WorkPool.h"
 #include <algorithm>
 #include <cstring>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The floating selection's picture: lifted from an image, placed by its record, drawn the same way wherever it goes.
 #pragma once
-#include "platform/BezierPath.h"
-#include "platform/BitmapContext.h"
-#include "platform/Image.h"
+#include "base/BezierPath.h"
+#include "base/Image.h"
+#include "drawing/BitmapContext.h"
 #include "selection/TransformRecord.h"
 #include <memory>
 

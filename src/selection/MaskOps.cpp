@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The selection mask's plain loops.
 #include "selection/MaskOps.h"
-#include "platform/BitmapContext.h"
-#include "platform/Simd.h"
+#include "base/Simd.h"
+#include "drawing/BitmapContext.h"
 #include <algorithm>
 #include <array>
 #include <cmath>

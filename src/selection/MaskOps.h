@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Whole-mask operations of the selection: set, turn over, fill from an outline, tint what it leaves out.
 #pragma once
-#include "platform/BezierPath.h"
-#include "platform/BitmapView.h"
+#include "base/BezierPath.h"
+#include "base/BitmapView.h"
 #include <cstdint>
 
 namespace zp

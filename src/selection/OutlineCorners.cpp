@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Where the border between two rows of bits turns: exclusive or, 64 pixels at a time.
 #include "selection/OutlineCorners.h"
-#include "platform/Simd.h"
+#include "base/Simd.h"
 #include <bit>
 #if defined(__x86_64__)
 // The compiler's own header starts some results from "any value" and then warns of that.

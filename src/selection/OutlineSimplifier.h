@@ -15,10 +15,10 @@
 ///
 /// All coordinates but the path's own are device pixels. Not thread-safe.
 #pragma once
-#include "canvas/AntsPainter.h"
-#include "platform/AffineTransform.h"
-#include "platform/BezierPath.h"
-#include "platform/Geometry.h"
+#include "base/AffineTransform.h"
+#include "base/BezierPath.h"
+#include "base/Geometry.h"
+#include "drawing/AntsPainter.h"
 #include <cstdint>
 #include <span>
 #include <vector>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The border as corners linked across and down: found between neighbouring rows, walked without a search.
 #include "selection/OutlineTracer.h"
-#include "platform/Simd.h"
+#include "base/Simd.h"
 #include "selection/OutlineCorners.h"
 #include <cstring>
 #include <new>

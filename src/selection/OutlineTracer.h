@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Finds the outlines of a one-bit picture: closed loops along pixel borders, one corner per change of direction.
 #pragma once
-#include "platform/Geometry.h"
+#include "base/Geometry.h"
 #include "selection/BitRows.h"
 #include <functional>
 #include <span>

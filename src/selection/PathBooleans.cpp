@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Paths to polygons and back, and the set operations between.
 #include "selection/PathBooleans.h"
-#include "platform/Log.h"
+#include "base/Log.h"
 #include "selection/PolygonClip.h"
 
 namespace zp

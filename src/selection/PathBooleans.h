@@ -6,7 +6,7 @@
 /// Results are made of closed straight subpaths that do not cross, outer ones and holes alike, with the even-odd rule
 /// set. Vertices are kept to 1/65536 of a pixel. Any thread that owns both paths; they may be the same object.
 #pragma once
-#include "platform/BezierPath.h"
+#include "base/BezierPath.h"
 #include "selection/PolygonMemory.h"
 #include "selection/gpc.h"
 

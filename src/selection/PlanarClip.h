@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Set operations on any polygons by cutting all edges at their crossings and keeping those that bound the outcome.
 #pragma once
-#include "platform/BezierPath.h"
+#include "base/BezierPath.h"
 #include "selection/gpc.h"
 #include <cstdint>
 #include <vector>

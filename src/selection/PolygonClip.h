@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Set operations on polygons whose fill rules may differ.
 #pragma once
-#include "platform/BezierPath.h"
+#include "base/BezierPath.h"
 #include "selection/gpc.h"
 
 namespace zp

@@ -14,7 +14,7 @@
 ///
 /// Numbers are decimal, short, and give back the very same single-precision value; image coordinates, y downwards.
 #pragma once
-#include "platform/BezierPath.h"
+#include "base/BezierPath.h"
 #include <optional>
 #include <string>
 #include <string_view>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Turns a selection mask into its outline.
 #pragma once
-#include "platform/BezierPath.h"
-#include "platform/BitmapView.h"
+#include "base/BezierPath.h"
+#include "base/BitmapView.h"
 #include "selection/BitRows.h"
 #include <cstdint>
 

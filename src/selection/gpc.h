@@ -27,9 +27,9 @@ struct gpc_polygon {
 /// freed. Both inputs are taken by the even-odd rule and left alone; either may be the same object as the other,
 /// neither as the result. Contours of the result never cross, though they may touch in single points; outer ones and
 /// holes turn opposite ways. Corners keep their place, and crossings are found, to within 1/65536. Vertices that are
-/// not finite are left out, and coordinates beyond a thousand million are cut to that. Out of memory, a line on standard
-/// error says where and the process ends. Any thread. Time: O(n) for n edges and crossings of drawn outlines (see
-/// PlanarClip.h); outlines along whole pixels take a faster way still (see RectilinearClip.h).
+/// not finite are left out, and coordinates beyond a thousand million are cut to that. Out of memory, a line on
+/// standard error says where and the process ends. Any thread. Time: O(n) for n edges and crossings of drawn outlines
+/// (see PlanarClip.h); outlines along whole pixels take a faster way still (see RectilinearClip.h).
 void gpc_polygon_clip(gpc_op operation, const gpc_polygon* subject, const gpc_polygon* clip, gpc_polygon* result);
 
 /// Frees what the polygon holds, not the record itself, which is empty afterwards.

@@ -2,7 +2,7 @@
 /// The nearest known pixels: a short walk where they are dense, discs of bits where they are rare, rings of tiles
 /// beyond.
 #include "smartfill/KnownPixels.h"
-#include "platform/Simd.h"
+#include "base/Simd.h"
 #include <algorithm>
 #include <bit>
 #include <cmath>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The smart fill run: lists, order of the steps, candidates, progress.
 #include "smartfill/SmartFill.h"
-#include "platform/Log.h"
-#include "platform/PixelMemory.h"
-#include "platform/Simd.h"
+#include "base/Log.h"
+#include "base/PixelMemory.h"
+#include "base/Simd.h"
 #include "smartfill/KnownPixels.h"
 #include "smartfill/SmartFillMatch.h"
 #include "smartfill/SmartFillRandom.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Smart fill: every pixel of a hole takes the colour of the source pixel whose surroundings match its own best.
 #pragma once
-#include "platform/BitmapView.h"
+#include "base/BitmapView.h"
 #include <atomic>
 #include <cstdint>
 #include <functional>

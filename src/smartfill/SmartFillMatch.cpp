@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The robust distance, and the plain version of a step.
 #include "smartfill/SmartFillMatch.h"
-#include "platform/Simd.h"
+#include "base/Simd.h"
 #include "smartfill/SmartFill.h"
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Making brush tips, and the blending loops.
 #include "tools/BrushTip.h"
-#include "platform/BitmapContext.h"
-#include "platform/Simd.h"
+#include "base/Simd.h"
+#include "drawing/BitmapContext.h"
 #include <cmath>
 #include <cstring>
 

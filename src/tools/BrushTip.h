@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The brush: a shape in one colour at one size, and stamping it into a picture.
 #pragma once
-#include "platform/BitmapView.h"
-#include "platform/Color.h"
-#include "platform/PixelMemory.h"
+#include "base/BitmapView.h"
+#include "base/Color.h"
+#include "base/PixelMemory.h"
 #include <vector>
 
 namespace zp

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The column-wise scan that all fills and wands are defined by: popped columns are followed up, then painted down.
 #pragma once
-#include "platform/Geometry.h"
+#include "base/Geometry.h"
 #include "tools/FillStack.h"
 
 namespace zp

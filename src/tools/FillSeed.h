@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// From the point that was clicked to the pixel that a fill or a wand starts at.
 #pragma once
-#include "platform/Geometry.h"
+#include "base/Geometry.h"
 #include <optional>
 
 namespace zp

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Flood fill over canvas pixels, and the two older fills over colours that are kept beside it.
 #pragma once
-#include "platform/BitmapView.h"
-#include "platform/Color.h"
+#include "base/BitmapView.h"
+#include "base/Color.h"
 #include "tools/ColumnFill.h"
 #include "tools/FillStack.h"
 

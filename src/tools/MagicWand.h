@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The magic wand: a flood fill that marks mask bytes instead of painting pixels.
 #pragma once
-#include "platform/BitmapView.h"
-#include "platform/Color.h"
+#include "base/BitmapView.h"
+#include "base/Color.h"
 #include "tools/ColumnFill.h"
 #include "tools/FillStack.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Reserved work space, and the bits kept in it.
 #include "tools/PixelBits.h"
-#include "platform/BitmapRep.h"
+#include "base/BitmapRep.h"
 #include <cstring>
 #include <new>
 #include <sys/mman.h>

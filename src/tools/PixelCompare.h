@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// When two pixels or two colours count as alike, and how a colour becomes a pixel word.
 #pragma once
-#include "platform/Color.h"
+#include "base/Color.h"
 #include <cstdint>
 
 namespace zp

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The way of pointer positions from mouse events to the capture thread: one writer, one reader, no lock in between.
 #pragma once
-#include "platform/Geometry.h"
+#include "base/Geometry.h"
 #include <array>
 #include <atomic>
 #include <chrono>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The arithmetic of a brush stroke: spacing of stamps, the line between samples, the areas to redraw.
 #pragma once
-#include "platform/Geometry.h"
+#include "base/Geometry.h"
 #include <cstdlib>
 #include <utility>
 

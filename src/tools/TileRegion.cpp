@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The walk over tiles and the spreading of words inside them.
 #include "tools/TileRegion.h"
-#include "platform/BitmapRep.h"
+#include "base/BitmapRep.h"
 #include <algorithm>
 #include <bit>
 #include <utility>

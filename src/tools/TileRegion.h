@@ -2,7 +2,7 @@
 /// Finds the connected region of matching pixels with one bit a pixel, in tiles of 64 by 64 that are looked at on
 /// demand.
 #pragma once
-#include "platform/BitmapView.h"
+#include "base/BitmapView.h"
 #include "tools/PixelBits.h"
 #include "tools/TileKernels.h"
 

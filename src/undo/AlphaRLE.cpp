@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The alpha run-length format at memory speed: alpha gathered row by row into the cache, runs compared in blocks.
 #include "undo/AlphaRLE.h"
-#include "platform/Simd.h"
-#include "platform/WorkPool.h"
+#include "base/Simd.h"
+#include "base/WorkPool.h"
 #include <algorithm>
 #include <array>
 #include <bit>

@@ -5,7 +5,7 @@
 /// next byte of the file counts the further copies (0 to 255). After a count pairing starts afresh: the literal behind
 /// it never pairs with the one before it. An opaque picture costs 3 bytes for every 257 pixels.
 #pragma once
-#include "platform/BitmapView.h"
+#include "base/BitmapView.h"
 #include <cstddef>
 #include <cstdint>
 #include <span>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Sixty-four multiply-and-rotate chains side by side, so that the vector units see 512 independent bytes a step.
 #include "undo/Fingerprint.h"
-#include "platform/Simd.h"
+#include "base/Simd.h"
 #include <array>
 #include <bit>
 #include <cstddef>

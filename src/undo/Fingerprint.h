@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A 128-bit fingerprint of bytes at memory speed: tells whether rows of a picture, or a file, are what they were.
 #pragma once
-#include "platform/BitmapView.h"
+#include "base/BitmapView.h"
 #include <cstdint>
 #include <span>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Reading a snapshot's colours straight into a picture, bands of strips side by side; and any other JPEG plainly.
-#include "platform/BitmapRep.h"
-#include "platform/PixelMemory.h"
-#include "platform/WorkPool.h"
+#include "base/BitmapRep.h"
+#include "base/PixelMemory.h"
+#include "base/WorkPool.h"
 #include "undo/JPEGMarkers.h"
 #include "undo/SnapshotJPEG.h"
 #include <algorithm>

@@ -6,7 +6,7 @@
 /// A small application segment holds the fingerprint of all that follows it: a damaged file is told from a whole one
 /// before a pixel is touched.
 #pragma once
-#include "platform/BitmapView.h"
+#include "base/BitmapView.h"
 #include "undo/Fingerprint.h"
 #include <cstdint>
 #include <memory>

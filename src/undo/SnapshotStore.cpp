@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Whole pairs in a locked, private folder, and the record that outlives a crash.
 #include "undo/SnapshotStore.h"
-#include "platform/BitmapRep.h"
-#include "platform/Folders.h"
+#include "base/BitmapRep.h"
+#include "base/Folders.h"
 #include "undo/FolderFiles.h"
 #include "undo/SnapshotJPEG.h"
 #include "undo/SnapshotNumbers.h"

@@ -2,7 +2,7 @@
 /// The entropy-coded bytes of one strip of 16 rows, made in vector registers: byte for byte what the JPEG library
 /// writes.
 #pragma once
-#include "platform/BitmapView.h"
+#include "base/BitmapView.h"
 #include <array>
 #include <cstdint>
 #include <span>

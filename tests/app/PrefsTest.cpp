@@ -2,9 +2,9 @@
 /// The preferences window and the About box.
 #include "app/ZPAboutBox.h"
 #include "app/ZPPrefs.h"
-#include "platform/Desktop.h"
-#include "platform/KeyModifiers.h"
-#include "platform/Sounds.h"
+#include "desktop/Desktop.h"
+#include "desktop/KeyModifiers.h"
+#include "desktop/Sounds.h"
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>

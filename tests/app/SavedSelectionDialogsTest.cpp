@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The dialogs that keep a selection under a name and bring one back.
 #include "app/SavedSelectionDialogs.h"
-#include "platform/Folders.h"
-#include "platform/Panels.h"
-#include "platform/Sounds.h"
+#include "base/Folders.h"
+#include "desktop/Panels.h"
+#include "desktop/Sounds.h"
 #include "selection/SelectionFile.h"
 #include "support/CanvasFixture.h"
 #include "support/SavedSelectionFixture.h"

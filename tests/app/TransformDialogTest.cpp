@@ -2,8 +2,8 @@
 /// The transform and adjust dialogs: pairs by their tags, every change on the canvas, what closing them does.
 #include "app/TransformDialog.h"
 #include "app/AdjustDialog.h"
-#include "platform/Log.h"
-#include "platform/Sounds.h"
+#include "base/Log.h"
+#include "desktop/Sounds.h"
 #include "support/CanvasFixture.h"
 #include <QDialog>
 #include <QLabel>

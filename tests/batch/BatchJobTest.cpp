@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Whole runs over folders of odd and broken files, and the command line.
 #include "batch/BatchJob.h"
+#include "base/Folders.h"
+#include "base/WorkPool.h"
 #include "batch/BatchCommandLine.h"
-#include "platform/Folders.h"
-#include "platform/ImageEncoder.h"
-#include "platform/ImageImporter.h"
-#include "platform/WorkPool.h"
+#include "codecs/ImageEncoder.h"
+#include "codecs/ImageImporter.h"
 #include <cmath>
 #include <csignal>
 #include <gtest/gtest.h>

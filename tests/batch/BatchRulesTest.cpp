@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Which files, what size, where: the sums and names of a batch run.
 #include "batch/BatchRules.h"
+#include "base/Folders.h"
 #include "batch/Watermarks.h"
-#include "platform/Folders.h"
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <set>

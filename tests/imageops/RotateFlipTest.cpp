@@ -2,7 +2,7 @@
 /// Every pixel of a turned or mirrored picture stands where the table of moves says, in sizes around every block's
 /// edge.
 #include "imageops/RotateFlip.h"
-#include "platform/BitmapRep.h"
+#include "base/BitmapRep.h"
 #include <gtest/gtest.h>
 #include <random>
 #include <tuple>

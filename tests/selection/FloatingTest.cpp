@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Lifting, placing, anchoring and copying a floating picture, cutting and cropping, without a canvas.
-#include "platform/BitmapContext.h"
+#include "drawing/BitmapContext.h"
 #include "selection/FloatingImage.h"
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The selection mask's whole-picture operations.
 #include "selection/MaskOps.h"
-#include "platform/BitmapRep.h"
+#include "base/BitmapRep.h"
 #include "selection/MaskPictures.h"
 #include <cmath>
 #include <cstring>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Small masks drawn as text, random masks, and coverage counted the slow way.
 #pragma once
-#include "platform/BezierPath.h"
-#include "platform/BitmapView.h"
+#include "base/BezierPath.h"
+#include "base/BitmapView.h"
 #include <cstdint>
 #include <ostream>
 #include <random>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Set operations on paths: known shapes, the conversions' habits, and random shapes against exact areas.
 #include "selection/PathBooleans.h"
-#include "platform/Log.h"
+#include "base/Log.h"
 #include "selection/MaskPictures.h"
 #include "selection/RectilinearClip.h"
 #include "selection/ReferenceArea.h"

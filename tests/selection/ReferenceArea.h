@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The exact area of what a set operation leaves of two straight paths, by slabs between all corners and crossings.
 #pragma once
-#include "platform/BezierPath.h"
+#include "base/BezierPath.h"
 #include "selection/MaskPictures.h"
 #include "selection/gpc.h"
 #include <algorithm>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The outline of a mask found the plain way, segment by segment through a map of points: slow, and easy to believe.
 #pragma once
-#include "platform/BezierPath.h"
-#include "platform/BitmapView.h"
+#include "base/BezierPath.h"
+#include "base/BitmapView.h"
 #include <algorithm>
 #include <map>
 #include <utility>

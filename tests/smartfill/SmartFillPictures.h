@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Pictures with holes for the smart fill's tests and benchmarks.
 #pragma once
-#include "platform/BitmapView.h"
+#include "base/BitmapView.h"
 #include "smartfill/SmartFill.h"
 #include <cmath>
 #include <random>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What a smart fill does to a picture, what it reports, and how it is stopped.
 #include "smartfill/SmartFill.h"
-#include "platform/Log.h"
+#include "base/Log.h"
 #include "smartfill/KnownPixels.h"
 #include "smartfill/SmartFillMatch.h"
 #include "smartfill/SmartFillPictures.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A canvas with an image and an empty folder of saved selections.
 #pragma once
-#include "platform/Folders.h"
-#include "platform/Sounds.h"
+#include "base/Folders.h"
+#include "desktop/Sounds.h"
 #include "selection/SelectionFile.h"
 #include "support/CanvasFixture.h"
 

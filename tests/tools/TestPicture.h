@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Small pictures and masks that tests draw as text or at random.
 #pragma once
-#include "platform/BitmapView.h"
+#include "base/BitmapView.h"
 #include <cstdint>
 #include <random>
 #include <string>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Pictures for undo's tests and benchmarks, and a plain use of the JPEG library to hold ours against.
 #pragma once
-#include "platform/BitmapRep.h"
+#include "base/BitmapRep.h"
 #include <cmath>
 #include <cstdint>
 #include <cstdio>

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The canvas as a whole on 24 megapixels: redraws of a 1600 x 1000 view, opening until it can be drawn, dragging a
+/// floating selection.
+#include "canvas/ZPCanvas.h"
+#include "codecs/ImageEncoder.h"
+#include "desktop/ScrollView.h"
+#include <QApplication>
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+#include <cstring>
+#include <fstream>
+#include <turbojpeg.h>
+
+using namespace zp;
+
+namespace
+{
+
+constexpr int kWidth = 6000, kHeight = 4000;
+
+/// Soft clouds with grain: neither flat nor noise, so that a codec works on it as on a photograph.
+void paintPicture(BitmapView v)
+{
+    std::uint32_t random = 12345;
+    for (int y = 0; y < v.height; ++y)
+        for (int x = 0; x < v.width; ++x) {
+            random = random * 1664525u + 1013904223u;
+            const int grain = int(random >> 29);
+            std::uint8_t* p = v.pixel(x, y);
+            p[0] = 255;
+            p[1] = std::uint8_t(120 + 90 * std::sin(x * 0.003) + grain);
+            p[2] = std::uint8_t(120 + 90 * std::sin(y * 0.004 + x * 0.001) + grain);
+            p[3] = std::uint8_t(120 + 90 * std::cos((x + y) * 0.002) + grain);
+        }
+}
+
+struct View {
+    ScrollView scroll;
+    ZPCanvas* canvas = new ZPCanvas;
+    View()
+    {
+        scroll.setWidget(canvas);
+        scroll.resize(1600, 1000);
+        scroll.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        scroll.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        canvas->dontTakeSnapshot();
+        canvas->newImageForMeWithSize({kWidth, kHeight});
+        paintPicture(canvas->mBitmapRep->view());
+        scroll.show();
+        QApplication::processEvents();
+    }
+};
+
+View& view()
+{
+    static auto* shared = new View;
+    return *shared;
+}
+
+void BM_RedrawView(benchmark::State& state)
+{
+    ZPCanvas& canvas = *view().canvas;
+    canvas.setZoom(float(state.range(0)) / 100);
+    QApplication::processEvents();
+    QImage screen(1600, 1000, QImage::Format_RGB32);
+    const QRect visible = canvas.visibleRegion().boundingRect();
+    for (auto _ : state) canvas.render(&screen, QPoint(), QRegion(visible), QWidget::RenderFlags());
+    state.counters["pixels"] = double(visible.width()) * visible.height();
+}
+BENCHMARK(BM_RedrawView)->Arg(25)->Arg(100)->Arg(400)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void BM_AntsTick(benchmark::State& state)
+{
+    ZPCanvas& canvas = *view().canvas;
+    canvas.setZoom(0.25f);
+    canvas.mSelectionPath = BezierPath::withOvalInRect(makeRect(500, 500, 5000, 3000));
+    QApplication::processEvents();
+    for (auto _ : state) {
+        canvas.selectionTimerFired();
+        QApplication::processEvents();
+    }
+    canvas.mSelectionPath.reset();
+}
+BENCHMARK(BM_AntsTick)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void BM_DragFloatingSixMegapixels(benchmark::State& state)
+{
+    ZPCanvas& canvas = *view().canvas;
+    canvas.setZoom(float(state.range(0)) / 100);
+    canvas.mSelectionPath = BezierPath::withRect(makeRect(1000, 500, 3000, 2000));
+    canvas.floatSelection();
+    QApplication::processEvents();
+    AffineTransform step;
+    step.translate(3, 2);
+    for (auto _ : state) {
+        canvas.mSelectionPath->transform(step);
+        canvas.mTransformRecord.position = canvas.mTransformRecord.position + Point{3, 2};
+        canvas.setNeedsDisplay();
+        QApplication::processEvents();
+        if (canvas.mTransformRecord.position.x > 3500) step = AffineTransform{1, 0, 0, 1, -3, -2};
+    }
+    canvas.selectNone();
+}
+BENCHMARK(BM_DragFloatingSixMegapixels)
+    ->Arg(25)
+    ->Arg(100)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Iterations(40);
+
+const std::vector<std::uint8_t>& jpegBytes()
+{
+    static const std::vector<std::uint8_t> bytes = [] {
+        const auto rep = BitmapRep::create(kWidth, kHeight);
+        paintPicture(rep->view());
+        return encodeJPEG(rep->view(), {}, {0.92, std::nullopt});
+    }();
+    return bytes;
+}
+
+void BM_OpenJPEG(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    const std::string path = folder.path().toStdString() + "/photo.jpg";
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(jpegBytes().data()), std::streamsize(jpegBytes().size()));
+    ZPCanvas& canvas = *view().canvas;
+    for (auto _ : state) canvas.openIt(path);
+    state.counters["loaded"] = canvas.imageLoaded();
+}
+BENCHMARK(BM_OpenJPEG)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void BM_OpenJPEG_TurboIntoWarmMemory(benchmark::State& state)
+{
+    std::vector<std::uint8_t> pixels(std::size_t(kWidth) * kHeight * 4, 1);
+    tjhandle handle = tjInitDecompress();
+    for (auto _ : state)
+        tjDecompress2(handle, jpegBytes().data(), jpegBytes().size(), pixels.data(), kWidth, 0, kHeight, TJPF_ARGB, 0);
+    tjDestroy(handle);
+}
+BENCHMARK(BM_OpenJPEG_TurboIntoWarmMemory)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QTemporaryDir home;
+    for (const char* variable : {"HOME", "ZELPANE_TMP", "XDG_RUNTIME_DIR"}) qputenv(variable, home.path().toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    delete view().canvas;
+}

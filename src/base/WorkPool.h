@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// One standing pool of workers for long passes: starting a thread per call gains nothing on passes of milliseconds.
+#pragma once
+#include <cstddef>
+#include <functional>
+
+namespace zp
+{
+
+/// How many parts run at once, the caller included (at least 1). ZELPANE_JOBS overrides the machine's count.
+int workerCount();
+
+/// Calls body(i) for i in [0, count), spread over the pool and the calling thread; returns when all are done. An
+/// exception of a body is thrown again here, after the others ended. Calls from inside a body run in that thread.
+/// Any thread may call. Worth it from about half a millisecond of work.
+void parallelFor(int count, const std::function<void(int)>& body);
+
+/// Splits [0, rows) into bands of at least @p grain rows, at most a few per worker, and calls body(first, last) for
+/// each.
+void parallelBands(int rows, int grain, const std::function<void(int, int)>& body);
+
+} // namespace zp

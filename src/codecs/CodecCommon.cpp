@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Size limits, turning upright, and the alpha arithmetic of the readers and writers.
+#include "base/Simd.h"
+#include "base/WorkPool.h"
+#include "codecs/Codec.h"
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <unistd.h>
+
+namespace zp::codec
+{
+namespace
+{
+
+/// Above this many pixels a file must hold something for them. Real files of one flat colour stay below 400 pixels a
+/// byte in every kind that stores colours; bombs are in the thousands.
+constexpr std::int64_t kSuspiciousPixels = 100'000'000;
+constexpr std::uint64_t kMaxPixelsPerByte = 1100;
+
+std::uint64_t machineMemory()
+{
+    static const std::uint64_t bytes =
+        std::uint64_t(std::max(0L, sysconf(_SC_PHYS_PAGES))) * std::uint64_t(std::max(0L, sysconf(_SC_PAGESIZE)));
+    return bytes;
+}
+
+/// Copies every pixel of @p from, in blocks small enough for the cache, to where @p target says its row and column go.
+template <class Target>
+void copyTurned(ConstBitmapView from, BitmapView to, Target target)
+{
+    constexpr int kBlock = 32;
+    const int bands = (from.height + kBlock - 1) / kBlock;
+    parallelFor(bands, [&](int band) {
+        const int y0 = band * kBlock, y1 = std::min(from.height, y0 + kBlock);
+        for (int x0 = 0; x0 < from.width; x0 += kBlock) {
+            const int x1 = std::min(from.width, x0 + kBlock);
+            for (int y = y0; y < y1; ++y) {
+                const std::uint32_t* row = from.row(y);
+                for (int x = x0; x < x1; ++x) {
+                    const PixelPoint p = target(x, y);
+                    to.row(p.y)[p.x] = row[x];
+                }
+            }
+        }
+    });
+}
+
+struct Reciprocals {
+    /// 2^24 / alpha rounded up: n * r >> 24 is n / alpha rounded down for every n of 16 bits.
+    std::array<std::uint32_t, 256> of{};
+    constexpr Reciprocals()
+    {
+        for (std::uint32_t a = 1; a < 256; ++a) of[a] = ((1u << 24) + a - 1) / a;
+    }
+};
+constexpr Reciprocals kReciprocals;
+
+ZP_MULTIVERSION void premultiplyPixels(std::uint8_t* pixels, int count)
+{
+    auto* words = reinterpret_cast<std::uint32_t*>(pixels);
+    for (int i = 0; i < count; ++i) {
+        const std::uint32_t w = words[i], a = w & 0xFF;
+        // Two channels at a time; (p + 128 + ((p + 128) >> 8)) >> 8 is p / 255 rounded for every product of bytes.
+        std::uint32_t rb = ((w >> 8) & 0xFF) * a + 128, g = ((w >> 16) & 0xFF) * a + 128, b = (w >> 24) * a + 128;
+        rb = (rb + (rb >> 8)) >> 8;
+        g = (g + (g >> 8)) >> 8;
+        b = (b + (b >> 8)) >> 8;
+        words[i] = a | (rb << 8) | (g << 16) | (b << 24);
+    }
+}
+
+ZP_MULTIVERSION std::uint32_t leastAlpha(const std::uint32_t* words, int count)
+{
+    std::uint32_t all = 0xFF;
+    for (int i = 0; i < count; ++i) all &= words[i];
+    return all & 0xFF;
+}
+
+} // namespace
+
+bool checkSize(std::int64_t width, std::int64_t height, std::uint64_t fileBytes, std::string& error)
+{
+    char text[160];
+    if (width <= 0 || height <= 0) {
+        error = "The picture has no pixels.";
+        return false;
+    }
+    const auto refuse = [&](const char* format) {
+        std::snprintf(text, sizeof text, format, static_cast<long long>(width), static_cast<long long>(height));
+        error = text;
+        return false;
+    };
+    if (!isSensibleImageSize(width, height)) return refuse("The picture is too large: %lld x %lld pixels.");
+    if (width * height > kSuspiciousPixels && std::uint64_t(width * height) > kMaxPixelsPerByte * fileBytes)
+        return refuse("The file is far too small for the %lld x %lld pixels it claims to hold.");
+    const std::uint64_t memory = machineMemory();
+    if (memory && std::uint64_t(width * height) * 4 > memory / 2)
+        return refuse("The picture of %lld x %lld pixels does not fit this machine's memory.");
+    return true;
+}
+
+std::shared_ptr<BitmapRep> turnedUpright(BitmapRep& rep, int orientation)
+{
+    const ConstBitmapView from = rep.view();
+    const int w = from.width, h = from.height;
+    auto turned = swapsSides(orientation) ? BitmapRep::createUninitialized(h, w) : BitmapRep::createUninitialized(w, h);
+    if (!turned) return nullptr;
+    const BitmapView to = turned->view();
+    switch (orientation) {
+    case 2:
+        copyTurned(from, to, [=](int x, int y) { return PixelPoint{w - 1 - x, y}; });
+        break;
+    case 3:
+        copyTurned(from, to, [=](int x, int y) { return PixelPoint{w - 1 - x, h - 1 - y}; });
+        break;
+    case 4:
+        copyTurned(from, to, [=](int x, int y) { return PixelPoint{x, h - 1 - y}; });
+        break;
+    case 5:
+        copyTurned(from, to, [=](int x, int y) { return PixelPoint{y, x}; });
+        break;
+    case 6:
+        copyTurned(from, to, [=](int x, int y) { return PixelPoint{h - 1 - y, x}; });
+        break;
+    case 7:
+        copyTurned(from, to, [=](int x, int y) { return PixelPoint{h - 1 - y, w - 1 - x}; });
+        break;
+    case 8:
+        copyTurned(from, to, [=](int x, int y) { return PixelPoint{y, w - 1 - x}; });
+        break;
+    default:
+        copyTurned(from, to, [=](int x, int y) { return PixelPoint{x, y}; });
+        break;
+    }
+    turned->properties = std::move(rep.properties);
+    if (swapsSides(orientation)) std::swap(turned->properties.xDpi, turned->properties.yDpi);
+    return turned;
+}
+
+std::string tidyMessage(const char* message)
+{
+    std::string out;
+    for (const char* p = message; p && *p && out.size() < 150; ++p) out += *p >= 0x20 && *p < 0x7F ? *p : ' ';
+    while (!out.empty() && (out.back() == '.' || out.back() == ' ')) out.pop_back();
+    return out.empty() ? "its data is damaged" : out;
+}
+
+void premultiplyRow(std::uint8_t* pixels, int count) { premultiplyPixels(pixels, count); }
+
+void unpremultiplyRowToRGBA(const std::uint8_t* argb, std::uint8_t* rgba, int count)
+{
+    for (int i = 0; i < count; ++i, argb += 4, rgba += 4) {
+        const std::uint32_t a = argb[0];
+        if (a == 255) {
+            rgba[0] = argb[1];
+            rgba[1] = argb[2];
+            rgba[2] = argb[3];
+        } else {
+            const std::uint64_t r = kReciprocals.of[a];
+            for (int k = 0; k < 3; ++k) {
+                const std::uint64_t colour = std::min<std::uint32_t>(argb[k + 1], a);
+                rgba[k] = std::uint8_t((colour * 255 + a / 2) * r >> 24);
+            }
+        }
+        rgba[3] = std::uint8_t(a);
+    }
+}
+
+bool isOpaque(ConstBitmapView pixels)
+{
+    for (int y = 0; y < pixels.height; ++y)
+        if (leastAlpha(pixels.row(y), pixels.width) != 0xFF) return false;
+    return true;
+}
+
+} // namespace zp::codec

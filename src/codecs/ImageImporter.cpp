@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Opens picture files: reads the bytes, finds their kind, hands them to its reader, turns the result upright.
+#include "codecs/ImageImporter.h"
+#include "base/PixelMemory.h"
+#include "codecs/Codec.h"
+#include "codecs/MagickReader.h"
+#include <cerrno>
+#include <cstring>
+#include <exception>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace zp
+{
+namespace
+{
+
+using codec::Bytes;
+using codec::Decoded;
+using codec::Format;
+
+constexpr std::int64_t kMaxFileBytes = std::int64_t{4} << 30;
+
+Decoded decode(Bytes bytes, const ImportOptions& options)
+{
+    if (bytes.empty()) return Decoded::failure("The file is empty.");
+    std::size_t start = 0;
+    const Format format = codec::sniffFormat(bytes, &start);
+    bytes = bytes.subspan(start);
+    switch (format) {
+    case Format::Unknown:
+        return Decoded::failure("It is not a picture of a kind that can be opened.");
+    case Format::JPEG:
+        return codec::decodeJPEG(bytes, options);
+    case Format::PNG:
+        return codec::decodePNG(bytes, options);
+    case Format::TIFF:
+        return codec::decodeTIFF(bytes, options);
+    default:
+        return codec::decodeByMagick(bytes, format, options);
+    }
+}
+
+std::string sentenceFor(int error)
+{
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+        return "The file does not exist.";
+    case EACCES:
+    case EPERM:
+        return "There is no permission to read the file.";
+    case ELOOP:
+        return "The file is a link that leads nowhere.";
+    case ENAMETOOLONG:
+        return "The file's name is too long.";
+    default:
+        return std::string("The file cannot be read: ") + codec::tidyMessage(std::strerror(error)) + ".";
+    }
+}
+
+class OpenFile
+{
+public:
+    explicit OpenFile(const std::string& path) : mFd(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY))
+    {
+    }
+    ~OpenFile()
+    {
+        if (mFd >= 0) close(mFd);
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    int fd() const { return mFd; }
+
+private:
+    int mFd;
+};
+
+} // namespace
+
+ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptions& options)
+{
+    ImportedImage image;
+    try {
+        Decoded decoded = decode(bytes, options);
+        if (decoded.bitmap && decoded.orientation > 1) {
+            decoded.bitmap = codec::turnedUpright(*decoded.bitmap, decoded.orientation);
+            if (!decoded.bitmap) decoded.error = "There is not enough memory for this picture.";
+        }
+        image.bitmap = std::move(decoded.bitmap);
+        image.error = std::move(decoded.error);
+    } catch (const std::bad_alloc&) {
+        image = {nullptr, "There is not enough memory for this picture."};
+    } catch (const std::exception& e) {
+        image = {nullptr, "The picture cannot be read: " + codec::tidyMessage(e.what()) + "."};
+    }
+    if (!image.bitmap && image.error.empty()) image.error = "The picture cannot be read.";
+    return image;
+}
+
+ImportedImage importImageFile(const std::string& path, const ImportOptions& options)
+{
+    const OpenFile file(path);
+    if (file.fd() < 0) return {nullptr, sentenceFor(errno)};
+    struct stat facts {
+    };
+    if (fstat(file.fd(), &facts) != 0) return {nullptr, sentenceFor(errno)};
+    if (S_ISDIR(facts.st_mode)) return {nullptr, "It is a folder, not a picture."};
+    if (!S_ISREG(facts.st_mode)) return {nullptr, "It is not an ordinary file."};
+    if (facts.st_size == 0) return {nullptr, "The file is empty."};
+    if (facts.st_size > kMaxFileBytes) return {nullptr, "The file is larger than 4 GiB."};
+
+    // Read, not mapped: a mapped file that shrinks meanwhile would take the program down.
+    const auto wanted = std::size_t(facts.st_size);
+    auto memory = allocatePixelsUninitialized(wanted);
+    if (!memory) return {nullptr, "There is not enough memory to read the file."};
+    std::size_t got = 0;
+    while (got < wanted) {
+        const ssize_t n = pread(file.fd(), memory.get() + got, wanted - got, off_t(got));
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) return {nullptr, sentenceFor(errno)};
+        if (n == 0) break; // it shrank: what is left may still be a picture
+        got += std::size_t(n);
+    }
+    return importImage({memory.get(), got}, options);
+}
+
+} // namespace zp

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// JPEG files straight into A, R, G, B rows.
+#include "codecs/Codec.h"
+#include "codecs/MetadataBlocks.h"
+#include <csetjmp>
+#include <cstdio>
+#include <cstring>
+#include <jerror.h>
+#include <jpeglib.h>
+
+namespace zp::codec
+{
+namespace
+{
+
+/// Progressive files decode the whole picture's coefficients once a scan: camera and web files have about ten scans,
+/// thousands can only be meant to keep the program busy.
+constexpr int kMaxScans = 500;
+/// Scans times pixels: about half a minute of work.
+constexpr double kMaxScanPixels = 3e10;
+/// Coefficients of a progressive file are held in memory, all of them.
+constexpr long kMaxCoefficientBytes = 1L << 30;
+
+struct ErrorManager : jpeg_error_mgr {
+    std::jmp_buf jump;
+    char message[JMSG_LENGTH_MAX] = {};
+    int code = 0;
+};
+
+/// Everything that lives across libjpeg's long jumps. The functions that set the jump own no object themselves.
+struct Session {
+    jpeg_decompress_struct info{};
+    ErrorManager errors{};
+    jpeg_progress_mgr progress{};
+    bool created = false;
+    std::shared_ptr<BitmapRep> bitmap;
+    std::vector<std::uint8_t> inkRow; ///< one row of a four-ink picture
+
+    ~Session()
+    {
+        if (created) jpeg_destroy_decompress(&info);
+    }
+};
+
+[[noreturn]] void onError(j_common_ptr info)
+{
+    auto* errors = static_cast<ErrorManager*>(info->err);
+    errors->format_message(info, errors->message);
+    errors->code = errors->msg_code;
+    std::longjmp(errors->jump, 1);
+}
+
+void onMessage(j_common_ptr) {}
+
+void onProgress(j_common_ptr common)
+{
+    auto* info = reinterpret_cast<j_decompress_ptr>(common);
+    const int scan = info->input_scan_number;
+    if (scan <= 1) return;
+    const double pixels = double(info->image_width) * double(info->image_height);
+    if (scan > kMaxScans || scan * pixels > kMaxScanPixels) {
+        auto* errors = static_cast<ErrorManager*>(info->err);
+        std::snprintf(errors->message, sizeof errors->message, "it has too many scans");
+        std::longjmp(errors->jump, 1);
+    }
+}
+
+bool readHeader(Session& s, Bytes bytes, bool keepMarkers)
+{
+    s.info.err = jpeg_std_error(&s.errors);
+    s.errors.error_exit = onError;
+    s.errors.output_message = onMessage;
+    if (setjmp(s.errors.jump)) return false;
+    jpeg_create_decompress(&s.info);
+    s.created = true;
+    s.info.mem->max_memory_to_use = kMaxCoefficientBytes;
+    s.progress.progress_monitor = onProgress;
+    s.info.progress = &s.progress;
+    jpeg_mem_src(&s.info, bytes.data(), static_cast<unsigned long>(bytes.size()));
+    jpeg_save_markers(&s.info, JPEG_APP0 + 1, 0xFFFF); // the orientation is in there, whatever was asked for
+    if (keepMarkers) jpeg_save_markers(&s.info, JPEG_APP0 + 2, 0xFFFF);
+    jpeg_read_header(&s.info, TRUE);
+    return true;
+}
+
+bool startDecoding(Session& s)
+{
+    if (setjmp(s.errors.jump)) return false;
+    jpeg_start_decompress(&s.info);
+    return true;
+}
+
+/// Inks to colours. Adobe's programs, which nearly all such files come from, store inks inverted and say so.
+void inksToColours(const std::uint8_t* inks, std::uint8_t* argb, int count, bool inverted)
+{
+    const unsigned flip = inverted ? 0 : 255;
+    for (int x = 0; x < count; ++x, inks += 4, argb += 4) {
+        const unsigned k = inks[3] ^ flip;
+        const auto scale = [k](unsigned ink) {
+            const unsigned product = ink * k + 128;
+            return std::uint8_t((product + (product >> 8)) >> 8);
+        };
+        argb[0] = 255;
+        argb[1] = scale(inks[0] ^ flip);
+        argb[2] = scale(inks[1] ^ flip);
+        argb[3] = scale(inks[2] ^ flip);
+    }
+}
+
+/// @return false when an error ended the decoding; the rows so far are in the bitmap
+bool readRows(Session& s)
+{
+    if (setjmp(s.errors.jump)) return false;
+    const BitmapView out = s.bitmap->view();
+    if (s.info.out_color_space == JCS_CMYK) {
+        JSAMPROW row = s.inkRow.data();
+        while (s.info.output_scanline < s.info.output_height) {
+            const int y = int(s.info.output_scanline);
+            jpeg_read_scanlines(&s.info, &row, 1);
+            inksToColours(row, out.rowData(y), out.width, s.info.saw_Adobe_marker);
+        }
+        return true;
+    }
+    constexpr int kRows = 16;
+    JSAMPROW rows[kRows];
+    while (s.info.output_scanline < s.info.output_height) {
+        const int y = int(s.info.output_scanline);
+        const int count = std::min(kRows, out.height - y);
+        for (int i = 0; i < count; ++i) rows[i] = out.rowData(y + i);
+        jpeg_read_scanlines(&s.info, rows, JDIMENSION(count));
+    }
+    return true;
+}
+
+/// The rest of the file is only looked at for warnings.
+void finish(Session& s)
+{
+    if (setjmp(s.errors.jump)) return;
+    jpeg_finish_decompress(&s.info);
+}
+
+bool startsWith(const jpeg_marker_struct& marker, const char* prefix, std::size_t length)
+{
+    return marker.data_length >= length && std::memcmp(marker.data, prefix, length) == 0;
+}
+
+/// The profile's chunks put in order; nothing when one is missing.
+void collectProfile(const jpeg_decompress_struct& info, ImageProperties& properties)
+{
+    constexpr std::size_t kPrefix = 14; // "ICC_PROFILE", zero, number, count
+    const jpeg_marker_struct* chunks[256] = {};
+    int count = 0, found = 0;
+    for (const jpeg_marker_struct* m = info.marker_list; m; m = m->next) {
+        if (m->marker != JPEG_APP0 + 2 || !startsWith(*m, "ICC_PROFILE", 12) || m->data_length < kPrefix) continue;
+        const int number = m->data[12];
+        count = std::max(count, int(m->data[13]));
+        if (number < 1 || chunks[number]) continue;
+        chunks[number] = m;
+        ++found;
+    }
+    if (!found) return;
+    for (int i = 1; i <= count; ++i)
+        if (!chunks[i]) {
+            properties.warnings.emplace_back("The colour profile is incomplete and was left out.");
+            return;
+        }
+    std::vector<std::uint8_t> profile;
+    for (int i = 1; i <= count; ++i)
+        profile.insert(profile.end(), chunks[i]->data + kPrefix, chunks[i]->data + chunks[i]->data_length);
+    keepProfile(properties, std::move(profile), info.jpeg_color_space == JCS_GRAYSCALE ? "GRAY" : "RGB ",
+                info.out_color_space == JCS_CMYK ? "CMYK" : nullptr);
+}
+
+void collectProperties(const jpeg_decompress_struct& info, ImageProperties& properties)
+{
+    if (info.saw_JFIF_marker && info.density_unit != 0 && info.X_density && info.Y_density) {
+        const double perInch = info.density_unit == 2 ? 2.54 : 1;
+        properties.xDpi = info.X_density * perInch;
+        properties.yDpi = info.Y_density * perInch;
+    }
+    static constexpr char kXMP[] = "http://ns.adobe.com/xap/1.0/";
+    for (const jpeg_marker_struct* m = info.marker_list; m; m = m->next) {
+        if (m->marker != JPEG_APP0 + 1) continue;
+        if (properties.exif.empty() && startsWith(*m, "Exif\0", 5) && m->data_length > 6)
+            keepExif(properties, {m->data + 6, m->data + m->data_length});
+        else if (properties.xmp.empty() && startsWith(*m, kXMP, sizeof kXMP))
+            keepXMP(properties, {reinterpret_cast<const char*>(m->data) + sizeof kXMP, m->data_length - sizeof kXMP});
+    }
+    collectProfile(info, properties);
+}
+
+int orientationOf(const jpeg_decompress_struct& info)
+{
+    for (const jpeg_marker_struct* m = info.marker_list; m; m = m->next)
+        if (m->marker == JPEG_APP0 + 1 && startsWith(*m, "Exif\0", 5) && m->data_length > 6)
+            return exifOrientation({m->data + 6, m->data_length - 6});
+    return 1;
+}
+
+std::string sentence(const Session& s)
+{
+    if (s.errors.code == JERR_OUT_OF_MEMORY || s.errors.code == JERR_NO_BACKING_STORE)
+        return "There is not enough memory for this JPEG picture.";
+    return "The JPEG data cannot be read: " + tidyMessage(s.errors.message) + ".";
+}
+
+/// The smallest scale of whole halves at which the picture is still as large as asked for.
+unsigned reductionFor(const jpeg_decompress_struct& info, const ImportOptions& options, int orientation)
+{
+    if (options.atLeastWidth <= 0 || options.atLeastHeight <= 0) return 1;
+    const auto width = unsigned(swapsSides(orientation) ? options.atLeastHeight : options.atLeastWidth);
+    const auto height = unsigned(swapsSides(orientation) ? options.atLeastWidth : options.atLeastHeight);
+    for (const unsigned n : {8u, 4u, 2u})
+        if (info.image_width / n >= width && info.image_height / n >= height) return n;
+    return 1;
+}
+
+} // namespace
+
+Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
+{
+    Session s;
+    if (!readHeader(s, bytes, options.properties)) return Decoded::failure(sentence(s));
+    Decoded result;
+    if (!checkSize(s.info.image_width, s.info.image_height, bytes.size(), result.error)) return result;
+
+    const bool inks = s.info.num_components == 4;
+    if (s.info.num_components == 2) return Decoded::failure("JPEG pictures with two components cannot be read.");
+    s.info.out_color_space = inks ? JCS_CMYK : JCS_EXT_ARGB;
+    result.orientation = orientationOf(s.info);
+    s.info.scale_num = 1;
+    s.info.scale_denom = reductionFor(s.info, options, result.orientation);
+    if (!startDecoding(s)) return Decoded::failure(sentence(s));
+
+    s.bitmap = BitmapRep::createUninitialized(int(s.info.output_width), int(s.info.output_height));
+    if (!s.bitmap) return Decoded::failure("There is not enough memory for this picture.");
+    if (inks) s.inkRow.resize(std::size_t{4} * s.info.output_width);
+    const bool complete = readRows(s);
+    if (!complete) {
+        const BitmapView out = s.bitmap->view();
+        const int done = int(s.info.output_scanline);
+        if (done == 0) return Decoded::failure(sentence(s));
+        for (int y = done; y < out.height; ++y) std::memset(out.rowData(y), 0, std::size_t(out.rowBytes));
+    }
+    if (options.properties) collectProperties(s.info, s.bitmap->properties); // finishing forgets the markers
+    if (complete) finish(s);
+    if (!complete || s.errors.num_warnings > 0)
+        s.bitmap->properties.warnings.emplace_back("The JPEG data is damaged; what could be read is shown.");
+    result.bitmap = std::move(s.bitmap);
+    return result;
+}
+
+} // namespace zp::codec

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The colour well and the one colour panel that all wells share.
+#include "desktop/ColorWell.h"
+#include <QColorDialog>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPointer>
+
+namespace
+{
+
+bool panelShowsAlpha = false;
+
+QColor toQt(zp::Color c) { return QColor::fromRgbF(c.red, c.green, c.blue, c.alpha); }
+
+} // namespace
+
+ColorWell::ColorWell(QWidget* parent) : QAbstractButton(parent)
+{
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(tr("Colour"));
+    connect(this, &QAbstractButton::clicked, this, &ColorWell::openPanel);
+}
+
+void ColorWell::setPanelShowsAlpha(bool on) { panelShowsAlpha = on; }
+
+QSize ColorWell::sizeHint() const { return {44, 24}; }
+
+void ColorWell::setColor(zp::Color color)
+{
+    if (color == mColor) return;
+    mColor = color;
+    update();
+}
+
+void ColorWell::chooseColor(zp::Color color)
+{
+    setColor(color);
+    emit colorChosen(color);
+}
+
+void ColorWell::openPanel()
+{
+    static QPointer<QColorDialog> panel;
+    if (!panel) {
+        panel = new QColorDialog(window());
+        panel->setOption(QColorDialog::NoButtons);
+        panel->setWindowTitle(tr("Colours"));
+        panel->setObjectName("Colors");
+    }
+    panel->disconnect(SIGNAL(currentColorChanged(QColor)));
+    panel->setOption(QColorDialog::ShowAlphaChannel, panelShowsAlpha);
+    panel->setCurrentColor(toQt(mColor));
+    connect(panel, &QColorDialog::currentColorChanged, this, [this](const QColor& c) {
+        if (c.isValid()) chooseColor({float(c.redF()), float(c.greenF()), float(c.blueF()), float(c.alphaF())});
+    });
+    panel->show();
+    panel->raise();
+    panel->activateWindow();
+}
+
+void ColorWell::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    QPainterPath outline;
+    outline.addRoundedRect(frame, 4, 4);
+    painter.save();
+    painter.setClipPath(outline);
+    const QColor color = toQt(mColor);
+    if (mColor.alpha < 1) {
+        constexpr int kCell = 6;
+        for (int y = 0; y < height(); y += kCell)
+            for (int x = 0; x < width(); x += kCell)
+                painter.fillRect(x, y, kCell, kCell, ((x + y) / kCell) % 2 ? QColor(190, 190, 190) : Qt::white);
+        painter.fillRect(rect(), color);
+        QColor opaque = color;
+        opaque.setAlpha(255);
+        const QPolygonF corner({QPointF(0, 0), QPointF(height(), 0), QPointF(0, height())});
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(opaque);
+        painter.drawPolygon(corner);
+    } else {
+        painter.fillRect(rect(), color);
+    }
+    painter.restore();
+    const QColor edge = hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid);
+    painter.setPen(QPen(edge, hasFocus() ? 2 : 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(outline);
+}

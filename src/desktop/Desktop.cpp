@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Settings, remembered window frames, and paths as bytes on either side of Qt's texts.
+#include "desktop/Desktop.h"
+#include "base/Folders.h"
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QUrl>
+#include <QWidget>
+#include <memory>
+
+namespace zp
+{
+
+namespace
+{
+
+/// Saves the window's frame each time it goes out of sight, the end of the program included.
+class FrameKeeper : public QObject
+{
+public:
+    FrameKeeper(QWidget* window, QString key) : QObject(window), mWindow(window), mKey(std::move(key))
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == mWindow && (event->type() == QEvent::Hide || event->type() == QEvent::Close))
+            settings().setValue(mKey, mWindow->saveGeometry());
+        return false;
+    }
+
+private:
+    QWidget* mWindow;
+    QString mKey;
+};
+
+bool liesOnAScreen(const QRect& frame)
+{
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect shown = screen->availableGeometry().intersected(frame);
+        if (shown.width() >= 64 && shown.height() >= 32) return true;
+    }
+    return false;
+}
+
+} // namespace
+
+QSettings& settings()
+{
+    static std::unique_ptr<QSettings> opened;
+    const QString path =
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/zelpane/zelpane.conf";
+    if (!opened || opened->fileName() != path) opened = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    return *opened;
+}
+
+bool setFrameAutosaveName(QWidget* window, const QString& name)
+{
+    const QString key = "frames/" + name;
+    const QByteArray saved = settings().value(key).toByteArray();
+    const QSize before = window->size();
+    bool restored = !saved.isEmpty() && window->restoreGeometry(saved);
+    if (restored && !liesOnAScreen(window->geometry())) {
+        window->resize(before);
+        window->move(0, 0);
+        restored = false;
+    }
+    new FrameKeeper(window, key);
+    return restored;
+}
+
+QString textFromPath(const std::string& path) { return QString::fromStdString(displayName(path)); }
+
+std::string pathFromText(const QString& text) { return text.toStdString(); }
+
+std::string pathFromUrl(const QUrl& url)
+{
+    if (!url.isLocalFile()) return {};
+    // Percent signs stand for the very bytes; Qt's own decoding would replace those that are not UTF-8.
+    const QByteArray encoded = url.path(QUrl::FullyEncoded).toLatin1();
+    return QByteArray::fromPercentEncoding(encoded).toStdString();
+}
+
+QUrl urlFromPath(const std::string& path)
+{
+    return QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"), QUrl::StrictMode);
+}
+
+bool hasPaths(const QMimeData* data) { return data && data->hasUrls() && !pathsFromMimeData(data).empty(); }
+
+std::vector<std::string> pathsFromMimeData(const QMimeData* data)
+{
+    std::vector<std::string> paths;
+    if (!data) return paths;
+    for (const QUrl& url : data->urls())
+        if (std::string path = pathFromUrl(url); !path.empty()) paths.push_back(std::move(path));
+    return paths;
+}
+
+} // namespace zp

@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Alerts in a window of our own, so that a driver can read and answer them like a person.
+#include "desktop/Panels.h"
+#include "desktop/PanelsState.h"
+#include <QApplication>
+#include <QDialog>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPageSetupDialog>
+#include <QPointer>
+#include <QPrinter>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace zp
+{
+
+namespace
+{
+
+constexpr int kIconSize = 48, kTextWidth = 380;
+
+int silencers = 0;
+
+/// The button that Escape stands for, or -1.
+int cancelIndex(const QStringList& buttons)
+{
+    if (buttons.size() == 1) return 0;
+    for (const char* title : {"Cancel", "No"})
+        if (const int i = int(buttons.indexOf(QString::fromLatin1(title))); i >= 0) return i;
+    return -1;
+}
+
+/// The window a question belongs to.
+QWidget* windowInFront()
+{
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->objectName() == "Main") return window;
+    return nullptr;
+}
+
+class Alert : public QDialog
+{
+public:
+    Alert(const QString& title, const QString& message, const QStringList& buttons, QWidget* over) : QDialog(over)
+    {
+        setObjectName("Alert");
+        setWindowTitle(QGuiApplication::applicationDisplayName());
+        setWindowModality(over ? Qt::WindowModal : Qt::ApplicationModal);
+        setAccessibleName(title);
+        setAccessibleDescription(message);
+        mState = {title, message, buttons};
+        mCancel = cancelIndex(buttons);
+
+        auto* columns = new QHBoxLayout(this);
+        columns->setContentsMargins(22, 20, 20, 18);
+        columns->setSpacing(18);
+        auto* picture = new QLabel(this);
+        const QIcon own = QApplication::windowIcon();
+        const QIcon icon = own.isNull() ? style()->standardIcon(QStyle::SP_MessageBoxQuestion) : own;
+        picture->setPixmap(icon.pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()));
+        columns->addWidget(picture, 0, Qt::AlignTop);
+
+        auto* rows = new QVBoxLayout;
+        rows->setSpacing(8);
+        columns->addLayout(rows, 1);
+        rows->addWidget(textLabel(title, true));
+        if (!message.isEmpty()) rows->addWidget(textLabel(message, false));
+        rows->addStretch(1);
+        rows->addSpacing(10);
+        rows->addLayout(buttonRow());
+        mButtons[0]->setFocus();
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
+
+    const AlertState& state() const { return mState; }
+    int answer() const { return mAnswer; }
+    QPushButton* button(const QString& title) const
+    {
+        const qsizetype i = mState.buttons.indexOf(title);
+        return i < 0 ? nullptr : mButtons[i];
+    }
+    /// Escape and the window's close button.
+    void reject() override
+    {
+        if (mCancel >= 0) choose(mCancel);
+    }
+
+private:
+    QLabel* textLabel(const QString& text, bool bold)
+    {
+        auto* label = new QLabel(this);
+        label->setTextFormat(Qt::PlainText);
+        label->setText(text);
+        QFont font = label->font();
+        font.setBold(bold);
+        if (bold) font.setPointSizeF(font.pointSizeF() * 1.08);
+        label->setFont(font);
+        label->setWordWrap(true);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setFocusPolicy(Qt::NoFocus);
+        // A fixed width, so that the height that wrapping needs is known before the window is shown.
+        const int natural = QFontMetrics(font).size(0, text).width() + 4;
+        label->setFixedWidth(std::clamp(natural, 220, kTextWidth));
+        return label;
+    }
+
+    /// The default stands last, where the eye ends; the others before it.
+    QHBoxLayout* buttonRow()
+    {
+        auto* row = new QHBoxLayout;
+        row->setSpacing(8);
+        row->addStretch(1);
+        for (int i = 0; i < mState.buttons.size(); ++i) {
+            QString text = mState.buttons[i];
+            auto* button = new QPushButton(text.replace("&", "&&"), this);
+            button->setMinimumWidth(84);
+            button->setAutoDefault(true);
+            button->setDefault(i == 0);
+            connect(button, &QPushButton::clicked, this, [this, i] { choose(i); });
+            row->insertWidget(1, button);
+            mButtons.push_back(button);
+        }
+        for (qsizetype i = mButtons.size() - 1; i > 0; --i) setTabOrder(mButtons[i], mButtons[i - 1]);
+        return row;
+    }
+
+    void choose(int index)
+    {
+        mAnswer = index;
+        done(QDialog::Accepted);
+    }
+
+    AlertState mState;
+    QList<QPushButton*> mButtons;
+    int mAnswer = 0, mCancel = -1;
+};
+
+/// Those on screen, the front one last.
+QList<QPointer<Alert>>& alerts()
+{
+    static QList<QPointer<Alert>> shown;
+    shown.removeIf([](const QPointer<Alert>& alert) { return !alert; });
+    return shown;
+}
+
+Alert* frontAlert()
+{
+    for (qsizetype i = alerts().size(); i-- > 0;)
+        if (alerts()[i]->isVisible()) return alerts()[i];
+    return nullptr;
+}
+
+} // namespace
+
+int runAlert(const QString& title, const QString& message, const QStringList& buttons)
+{
+    if (silencers > 0 || buttons.isEmpty()) return 0;
+    const QPointer<Alert> alert = new Alert(title, message, buttons, windowInFront());
+    alerts().push_back(alert);
+    alert->exec();
+    if (!alert) return std::max(cancelIndex(buttons), 0); // its window went away under it
+    const int answer = alert->answer();
+    alerts().removeAll(alert);
+    delete alert;
+    return answer;
+}
+
+std::optional<AlertState> currentAlert()
+{
+    if (const Alert* alert = frontAlert()) return alert->state();
+    return std::nullopt;
+}
+
+bool answerAlert(const QString& button)
+{
+    const Alert* alert = frontAlert();
+    QPushButton* found = alert ? alert->button(button) : nullptr;
+    if (!found) return false;
+    found->click();
+    return true;
+}
+
+SilencedPanels::SilencedPanels() { ++silencers; }
+SilencedPanels::~SilencedPanels() { --silencers; }
+
+void runPageLayout()
+{
+    if (panelsAutomated()) return;                 // nobody could close it
+    static QPrinter* const printer = new QPrinter; // the shared one: what was set is there the next time
+    QPageSetupDialog dialog(printer, windowInFront());
+    dialog.setObjectName("PageLayout");
+    dialog.exec();
+}
+
+void centerWindow(QWidget* window, const QWidget* over)
+{
+    if (!window) return;
+    window->ensurePolished();
+    if (!window->testAttribute(Qt::WA_WState_Created) && !window->testAttribute(Qt::WA_Resized)) window->adjustSize();
+    const QWidget* main = over ? over->window() : nullptr;
+    if (!main) {
+        for (const QWidget* other : QApplication::topLevelWidgets())
+            if (other != window && other->isVisible() && other->objectName() == "Main") main = other;
+    }
+    const QScreen* screen = main ? main->screen() : window->screen();
+    const QRect room = screen ? screen->availableGeometry() : QRect(0, 0, 800, 600);
+    const QRect about = over ? main->frameGeometry() : room;
+    const QSize size = window->isVisible() ? window->frameGeometry().size() : window->size();
+    QPoint corner = about.center() - QPoint(size.width() / 2, size.height() / 2);
+    corner.setX(std::max(room.left(), std::min(corner.x(), room.right() - size.width())));
+    corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() - size.height())));
+    window->move(corner);
+}
+
+} // namespace zp

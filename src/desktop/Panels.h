@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Alerts, open, save and folder panels, page layout: the questions a program asks in a window of their own.
+///
+/// All calls: main thread; each runs its own event loop until answered. A driver (the automation language) may queue
+/// the answers of file panels beforehand and answer alerts while they stand.
+#pragma once
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QWidget;
+
+namespace zp
+{
+
+/// Shows a window-modal alert over the active window and waits. Escape is the button titled "Cancel" or "No", or the
+/// only button. While Panels are silenced (a batch run) nothing is shown and the default button is the answer.
+/// @param buttons titles, the default first, one to three
+/// @return the index of the button pressed
+int runAlert(const QString& title, const QString& message, const QStringList& buttons);
+
+struct AlertState {
+    QString title, message;
+    QStringList buttons;
+};
+/// The alert on screen, if any (the front one).
+std::optional<AlertState> currentAlert();
+/// Presses a button of the front alert by its title. @return false when there is no such alert or button
+bool answerAlert(const QString& button);
+
+/// No alert is shown while one of these lives: for runs nobody watches.
+class SilencedPanels
+{
+public:
+    SilencedPanels();
+    ~SilencedPanels();
+};
+
+struct PanelRequest {
+    QString kind;          ///< "open", "save" or "folder"; filled in by the functions below
+    QString title, prompt; ///< the window's title and the default button's text; empty: the platform's
+    std::string directory; ///< where it opens; raw bytes of the file system
+    std::string name;      ///< proposed file name (save)
+    QStringList types;     ///< extensions without the dot; empty: all
+};
+/// @return the chosen path in the file system's own bytes, or nothing when cancelled
+std::optional<std::string> runOpenPanel(PanelRequest request);
+/// The user may hide the extension; it is shown by default. Asks before an existing file is taken.
+std::optional<std::string> runSavePanel(PanelRequest request);
+std::optional<std::string> runFolderPanel(PanelRequest request);
+/// The page layout panel; nothing uses its result.
+void runPageLayout();
+
+/// Automation: answers of the coming file panels, in order; nothing = cancelled. Once automation is on (any call of
+/// these), a panel with nothing queued is cancelled.
+void setPanelsAutomated(bool on);
+void queuePanelChoice(std::optional<std::string> path);
+/// What the last file panel showed; nothing before the first.
+std::optional<PanelRequest> lastPanel();
+
+/// Centres the window on the screen that shows the main window (or on that, when @p over is given).
+void centerWindow(QWidget* window, const QWidget* over = nullptr);
+
+} // namespace zp

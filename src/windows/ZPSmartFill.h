@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The smart fill window: starts the fill on a worker thread, shows how far it is, cancels it.
+#pragma once
+#include "base/BitmapRep.h"
+#include "smartfill/SmartFill.h"
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+class QDialog;
+class ZPCanvas;
+namespace Ui
+{
+class SmartFill;
+}
+
+/// One shared instance, made on first use and kept. Main thread only, but for the worker's body.
+///
+/// A run reads its work rectangle when it starts and writes it back when it ends, both on the main thread; in between
+/// the worker has nothing but its own copy, so that nothing keeps the user from editing meanwhile.
+class ZPSmartFill : public QObject
+{
+    Q_OBJECT
+
+public:
+    static ZPSmartFill* sharedSmartFill();
+    /// Makes the canvas's smart fill command open the shared window. Once, at launch.
+    static void registerWithCanvas();
+    ~ZPSmartFill() override;
+
+    /// Shows the window for a fill and makes it ready; does not start it. The mask is copied, as far as it is not 0.
+    /// During a run the window only comes to the front, and the run goes on with what it has.
+    void runWithBitmapRep(std::shared_ptr<zp::BitmapRep> rep, zp::ConstMaskView selectionMask, ZPCanvas* canvas,
+                          zp::Rect selectionRect);
+    QDialog* window() const { return mWindow.get(); }
+    /// From run() until the result was written back, or dropped.
+    bool isRunning() const { return mRunning; }
+    /// The random numbers of the runs to come, for results that can be repeated; 0: the time, as always.
+    void setSeed(std::uint64_t seed) { mSeed = seed; }
+
+    // the window's actions
+    void run();
+    void cancel();
+    void closeMe();
+
+private:
+    struct Run;
+
+    ZPSmartFill();
+    void enableButtons(bool running);
+    /// The notification's handler, on the thread that posts; off the main thread it leaves the value for lookAtWorker.
+    void progressNotif(float progress);
+    void lookAtWorker();
+    void showProgress(float progress);
+    void calcThread(Run& run);
+    /// After the worker: writes back, or not, and takes the snapshot. Does nothing yet while others use the pixels.
+    void finish();
+    bool writeBack();
+    void dropWorker();
+
+    std::shared_ptr<zp::BitmapRep> mBitmapRep;
+    std::vector<std::uint8_t> mSelectionMaskData; ///< of the pixels of mMaskBox; 0 everywhere else
+    zp::PixelBox mMaskBox;
+    QPointer<ZPCanvas> mCanvas;
+    zp::Rect mSelRect;
+    std::thread mCalcThread;
+    double mTimeNULL = 0; ///< seconds of the steady clock when the run started
+
+    std::unique_ptr<Ui::SmartFill> mUi;
+    std::unique_ptr<QDialog> mWindow;
+    std::unique_ptr<Run> mRun;
+    bool mRunning = false;
+    std::uint64_t mSeed = 0;
+    std::atomic<bool> mCancel{false};
+    /// Between worker and window: the latest progress not shown yet, and that the worker is through. The window looks
+    /// at both some sixty times a second; progress comes faster than it can be shown.
+    static constexpr float kNoProgress = -1; ///< nothing new to show
+    std::atomic<float> mProgress{kNoProgress};
+    std::atomic<bool> mWorkerDone{false};
+    QTimer mPoll;
+};

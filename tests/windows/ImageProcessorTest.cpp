@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The batch window by its fields and buttons, over a real canvas.
+#include "base/Folders.h"
+#include "base/NotificationCenter.h"
+#include "batch/Watermarks.h"
+#include "codecs/ImageImporter.h"
+#include "desktop/Panels.h"
+#include "desktop/Sounds.h"
+#include "support/CanvasFixture.h"
+#include "windows/ZPImageProcessor.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTimer>
+#include <algorithm>
+#include <any>
+
+using namespace zp;
+
+namespace
+{
+
+std::string picture(const std::string& name) { return std::string(ZP_TESTDATA) + "/images/" + name; }
+
+class ImageProcessor : public zp::test::CanvasTest
+{
+protected:
+    ImageProcessor()
+    {
+        for (const std::string& folder : {source(), destination()}) {
+            removeItem(folder);
+            createFolder(folder);
+        }
+        NotificationCenter::defaultCenter().addObserver(this, "_giveMeCanvasNotif", [this](const Notification&) {
+            ++mAsked;
+            NotificationCenter::defaultCenter().post("_canvasNotif", std::any(canvas.get()));
+        });
+        takeSounds();
+    }
+    ~ImageProcessor() override { NotificationCenter::defaultCenter().removeObserver(this); }
+
+    static std::string source() { return temporaryFolder() + "/window source"; }
+    static std::string destination() { return temporaryFolder() + "/window destination"; }
+    static void add(const std::string& original, const std::string& name)
+    {
+        ASSERT_TRUE(copyItem(picture(original), source() + "/" + name));
+    }
+    template <class T>
+    T* control(const char* name) const
+    {
+        T* found = processor().window()->findChild<T*>(name);
+        EXPECT_TRUE(found) << name;
+        return found;
+    }
+    static ZPImageProcessor& processor() { return *ZPImageProcessor::sharedImageProcessor(); }
+    static void click(QPushButton* button) { button->click(); }
+
+    /// Opens the window, does @p inside once it runs, answers alerts that come, and returns when it closed.
+    std::vector<AlertState> show(const std::function<void()>& inside)
+    {
+        std::vector<AlertState> alerts;
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, [&] {
+            if (const auto alert = currentAlert()) {
+                alerts.push_back(*alert);
+                answerAlert(alert->buttons[0]);
+            }
+        });
+        watch.start(5);
+        QTimer::singleShot(0, [&] { inside(); });
+        processor().showWindow();
+        return alerts;
+    }
+    void fillIn(const std::string& from, const std::string& to, bool tiff = false, bool jpeg = true, int fit = 0)
+    {
+        control<QLineEdit>("mSrcFolder")->setText(QString::fromStdString(from));
+        control<QLineEdit>("mDstFolder")->setText(QString::fromStdString(to));
+        control<QCheckBox>("mFileTypeTIFF")->setChecked(tiff);
+        control<QCheckBox>("mFileTypeJPEG")->setChecked(jpeg);
+        control<QCheckBox>("mImageSizeFit")->setChecked(fit > 0);
+        if (fit > 0) {
+            control<QSpinBox>("mImageSizeW")->setValue(fit);
+            control<QSpinBox>("mImageSizeH")->setValue(fit);
+        }
+    }
+    void run() { click(control<QPushButton>("mRunButton")); }
+    int mAsked = 0;
+};
+
+std::size_t count(const std::vector<std::string>& sounds, const char* name)
+{
+    return std::size_t(std::count(sounds.begin(), sounds.end(), name));
+}
+
+TEST_F(ImageProcessor, IsOneModalWindowWithItsOutletsAndActions)
+{
+    EXPECT_EQ(ZPImageProcessor::sharedImageProcessor(), &processor());
+    EXPECT_EQ(processor().window()->objectName(), "ImageProcessor");
+    show([&] {
+        EXPECT_TRUE(processor().window()->isVisible());
+        EXPECT_TRUE(processor().window()->isModal());
+        EXPECT_EQ(control<QPushButton>("mRunButton")->property("action"), "run:");
+        EXPECT_EQ(control<QPushButton>("mCancelButton")->property("action"), "cancel:");
+        EXPECT_EQ(control<QPushButton>("mSelectSrcButton")->property("action"), "selectSrc:");
+        EXPECT_EQ(control<QPushButton>("mSelectDstButton")->property("action"), "selectDst:");
+        control<QCheckBox>("mImageSizeFit")->setChecked(false);
+        EXPECT_FALSE(control<QSpinBox>("mImageSizeW")->isEnabled());
+        EXPECT_FALSE(control<QSpinBox>("mImageSizeH")->isEnabled());
+        control<QCheckBox>("mImageSizeFit")->setChecked(true);
+        EXPECT_TRUE(control<QSpinBox>("mImageSizeW")->isEnabled());
+        click(control<QPushButton>("mCancelButton"));
+    });
+    EXPECT_FALSE(processor().window()->isVisible());
+}
+
+TEST_F(ImageProcessor, RefusesInOrderAndCloses)
+{
+    struct Case {
+        std::string from, to;
+        const char* title;
+        bool beeps;
+    };
+    for (const Case& c :
+         {Case{"", "", "Choose a source folder.", false}, Case{"/x", "", "Choose a destination folder.", false},
+          Case{"/x", "/x", "Source and destination folder cannot be the same.", false},
+          Case{source(), "/nowhere", "Error: Source or destination folder does not exist.", true}}) {
+        const auto alerts = show([&] {
+            fillIn(c.from, c.to);
+            run();
+        });
+        ASSERT_EQ(alerts.size(), 1u);
+        EXPECT_EQ(alerts[0].title, c.title);
+        EXPECT_EQ(alerts[0].message, "");
+        EXPECT_EQ(alerts[0].buttons, QStringList{"OK"});
+        EXPECT_FALSE(processor().window()->isVisible());
+        EXPECT_EQ(count(takeSounds(), "beep"), c.beeps ? 1u : 0u);
+    }
+    EXPECT_EQ(mAsked, 0);
+}
+
+TEST_F(ImageProcessor, AnEmptyRunIsSilent)
+{
+    add("made/valid/base.png", "a.png");
+    add("made/valid/base.jpg", "b.JPG");
+    const auto alerts = show([&] {
+        fillIn(source(), destination());
+        run();
+    });
+    EXPECT_TRUE(alerts.empty());
+    EXPECT_EQ(count(takeSounds(), "Glass"), 0u);
+    EXPECT_TRUE(contentsOfFolder(destination()).empty());
+    EXPECT_FALSE(processor().window()->isVisible());
+}
+
+TEST_F(ImageProcessor, RunsThroughTheCanvas)
+{
+    add("photos/tahoe-gps.jpg", "photo.jpg");
+    add("made/valid/base.tif", "small.tiff");
+    show([&] {
+        fillIn(source(), destination(), true, true, 100);
+        run();
+    });
+    EXPECT_EQ(mAsked, 4); // twice an image
+    EXPECT_EQ(contentsOfFolder(destination()),
+              (std::vector<std::string>{"photo.jpg", "photo.tiff", "small.jpg", "small.tiff"}));
+    EXPECT_EQ(importImageFile(destination() + "/photo.tiff").bitmap->pixelsWide(), 100);
+    EXPECT_EQ(importImageFile(destination() + "/photo.jpg").bitmap->pixelsHigh(), 75);
+    EXPECT_EQ(importImageFile(destination() + "/small.jpg").bitmap->pixelsHigh(), 56); // 64 x 36 enlarged, cut off
+    EXPECT_EQ(count(takeSounds(), "Glass"), 1u);
+    EXPECT_FALSE(canvas->mDontTakeSnapshot);
+    settle();
+}
+
+TEST_F(ImageProcessor, FailuresAreListedAtTheEnd)
+{
+    add("made/valid/base.jpg", "good.jpg");
+    add("made/wrong-ext/svg-external.jpg", "bad.jpg");
+    const auto alerts = show([&] {
+        fillIn(source(), destination());
+        run();
+    });
+    ASSERT_EQ(alerts.size(), 1u); // none during the run
+    EXPECT_EQ(alerts[0].title, "One file could not be processed.");
+    EXPECT_TRUE(alerts[0].message.contains("bad.jpg"));
+    EXPECT_EQ(contentsOfFolder(destination()), std::vector<std::string>{"good.jpg"});
+    settle();
+}
+
+TEST_F(ImageProcessor, CancelEndsTheRunAfterTheImageAtWork)
+{
+    for (int i = 0; i < 12; ++i) add("made/valid/base.jpg", std::to_string(10 + i) + ".jpg");
+    QTimer press;
+    QObject::connect(&press, &QTimer::timeout, [&] {
+        if (processor().isRunning() && contentsOfFolder(destination()).size() >= 3)
+            control<QPushButton>("mCancelButton")->click();
+    });
+    press.start(0);
+    show([&] {
+        fillIn(source(), destination());
+        run();
+    });
+    const auto names = contentsOfFolder(destination());
+    EXPECT_GE(names.size(), 3u);
+    EXPECT_LT(names.size(), 12u);
+    for (const std::string& name : names) EXPECT_TRUE(importImageFile(destination() + "/" + name).bitmap) << name;
+    EXPECT_FALSE(processor().window()->isVisible());
+    EXPECT_FALSE(processor().isRunning());
+    settle();
+}
+
+TEST_F(ImageProcessor, WatermarksAreOfferedAndStamped)
+{
+    removeItem(watermarkFolder());
+    createFolder(watermarkFolder());
+    ASSERT_TRUE(copyItem(picture("made/valid/base.tif"), watermarkFolder() + "/mark.tiff"));
+    add("made/exif/orientation-1.tif", "a.tiff");
+    show([&] {
+        fillIn(source(), destination(), true, false);
+        auto* marks = control<QComboBox>("mWatermark");
+        EXPECT_EQ(marks->count(), 2);
+        EXPECT_EQ(marks->itemText(0), "None");
+        EXPECT_EQ(marks->currentIndex(), 0);
+        marks->setCurrentIndex(1);
+        control<QSpinBox>("mWatermarkPositionX")->setValue(0);
+        control<QSpinBox>("mWatermarkPositionY")->setValue(0);
+        control<QSpinBox>("mWatermarkOpacity")->setValue(100);
+        run();
+    });
+    const auto out = importImageFile(destination() + "/a.tiff").bitmap;
+    const auto mark = importImageFile(picture("made/valid/base.tif")).bitmap;
+    ASSERT_TRUE(out);
+    EXPECT_EQ(out->view().row(95)[0], mark->view().row(35)[0]); // lower left on lower left
+    settle();
+}
+
+TEST_F(ImageProcessor, PresetsFillInThePosition)
+{
+    show([&] {
+        auto* places = control<QComboBox>("mWatermarkPosition");
+        control<QCheckBox>("mImageSizeFit")->setChecked(true);
+        control<QSpinBox>("mImageSizeW")->setValue(1000);
+        control<QSpinBox>("mImageSizeH")->setValue(500);
+        places->setCurrentIndex(5);
+        emit places->activated(5);
+        EXPECT_EQ(control<QSpinBox>("mWatermarkPositionX")->value(),
+                  500); // no watermark chosen: its own size is nothing
+        EXPECT_EQ(control<QSpinBox>("mWatermarkPositionY")->value(), 250);
+        click(control<QPushButton>("mCancelButton"));
+    });
+}
+
+TEST_F(ImageProcessor, FolderPanelsFillInTheFields)
+{
+    setPanelsAutomated(true);
+    const std::string odd = temporaryFolder() + "/\xFF odd";
+    createFolder(odd);
+    ASSERT_TRUE(copyItem(picture("made/valid/base.jpg"), odd + "/a.jpg"));
+    show([&] {
+        fillIn("", destination());
+        queuePanelChoice(std::nullopt);
+        click(control<QPushButton>("mSelectSrcButton"));
+        EXPECT_EQ(control<QLineEdit>("mSrcFolder")->text(), "");
+        EXPECT_EQ(lastPanel()->title, "Choose source folder");
+        EXPECT_EQ(lastPanel()->prompt, "Choose");
+        queuePanelChoice(odd);
+        click(control<QPushButton>("mSelectSrcButton"));
+        queuePanelChoice(destination());
+        click(control<QPushButton>("mSelectDstButton"));
+        EXPECT_EQ(lastPanel()->title, "Choose destination folder");
+        run();
+    });
+    setPanelsAutomated(false);
+    EXPECT_EQ(contentsOfFolder(destination()), std::vector<std::string>{"a.jpg"}); // a name that is no text still works
+    settle();
+}
+
+} // namespace
