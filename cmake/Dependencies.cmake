@@ -4,6 +4,7 @@ set(CMAKE_AUTOMOC OFF) # only the targets that hold widgets ask for it
 find_package(Threads REQUIRED)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Network PrintSupport Svg Test)
 find_package(PkgConfig REQUIRED)
+pkg_check_modules(HIGHWAY REQUIRED IMPORTED_TARGET libhwy)
 pkg_check_modules(AGG REQUIRED IMPORTED_TARGET libagg)
 pkg_check_modules(JPEG REQUIRED IMPORTED_TARGET libjpeg)
 pkg_check_modules(TIFF REQUIRED IMPORTED_TARGET libtiff-4)

@@ -91,7 +91,7 @@ function(zp_add_bench name)
     add_executable(bench_${name} ${A_FILES})
     target_include_directories(bench_${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/bench
                                                      ${CMAKE_SOURCE_DIR}/tests)
-    target_link_libraries(bench_${name} PRIVATE ${A_LINK} benchmark::benchmark_main zp_flags)
+    target_link_libraries(bench_${name} PRIVATE ${A_LINK} zp_bench_main zp_flags)
     target_compile_definitions(bench_${name} PRIVATE ZP_TESTDATA="${CMAKE_SOURCE_DIR}/tests/data"
                                                      ZP_RESOURCES="${CMAKE_SOURCE_DIR}/resources")
 endfunction()

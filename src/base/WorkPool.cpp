@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The standing workers: one queue of passes, each pass a counter that caller and workers draw parts from.
 #include "base/WorkPool.h"
+#include "base/CpuHints.h"
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
@@ -165,11 +166,7 @@ void parallelFor(int count, const std::function<void(int)>& body)
     }
     Workers::shared().withdraw(pass);
     // The others' last parts mostly end within microseconds: look a little before going to sleep.
-    for (int spins = 0; spins < 2000 && pass->done.load(std::memory_order_acquire) < count; ++spins) {
-#if defined(__x86_64__)
-        __builtin_ia32_pause();
-#endif
-    }
+    for (int spins = 0; spins < 2000 && pass->done.load(std::memory_order_acquire) < count; ++spins) pauseSpinning();
     std::unique_lock lock(pass->mutex);
     pass->finished.wait(lock, [&] { return pass->done.load(std::memory_order_acquire) == count; });
     if (pass->failure) std::rethrow_exception(pass->failure);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Paths into 8-bit masks.
+#include "base/CpuHints.h"
 #include "base/Simd.h"
 #include "drawing/BitmapContext.h"
 #include "drawing/CoverageStroke.h"
@@ -41,7 +42,7 @@ public:
         moveTowards(mMask.row(y) + x0, cover, x1 - x0, mValue);
     }
 
-    void expect(int y, int x) override { __builtin_prefetch(mMask.row(y) + x, 1); }
+    void expect(int y, int x) override { prefetchForWriting(mMask.row(y) + x); }
 
 private:
     MaskView mMask;
