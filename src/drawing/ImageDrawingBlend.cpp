@@ -1,205 +1,243 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Blending of premultiplied words: two 16-bit lanes to a word, so that plain loops vectorise.
+/// Blending of premultiplied pixels.
 #include "drawing/ImageDrawingBlend.h"
-#include "base/Simd.h"
 #include <algorithm>
 #include <cstring>
 
-namespace zp
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "drawing/ImageDrawingBlend.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "base/PixelVectors-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zp::HWY_NAMESPACE
 {
 
-namespace
-{
-constexpr std::uint32_t kLanes = 0x00FF00FF;
 /// Opaque and empty stretches are looked for in pieces of this many pixels.
 constexpr int kPiece = 128;
 
-/// Both 16-bit lanes divided by 255, rounded; exact for lanes up to 65,407.
-inline std::uint32_t div255Lanes(std::uint32_t v)
+/// d = f(tag, place, what is there) for every pixel of a run.
+template <class F>
+HWY_INLINE void change(std::uint32_t* pixels, int count, F&& f)
 {
-    v += 0x00800080;
-    return ((v + ((v >> 8) & kLanes)) >> 8) & kLanes;
-}
-inline std::uint32_t div255(std::uint32_t v)
-{
-    v += 128;
-    return (v + (v >> 8)) >> 8;
-}
-inline std::uint32_t scaled(std::uint32_t pixel, std::uint32_t by)
-{
-    return div255Lanes((pixel & kLanes) * by) | div255Lanes(((pixel >> 8) & kLanes) * by) << 8;
-}
-/// a * wa + b * wb, over 255; the weighted lanes must not exceed 255 * 255 in sum.
-inline std::uint32_t mixed(std::uint32_t a, std::uint32_t wa, std::uint32_t b, std::uint32_t wb)
-{
-    return div255Lanes((a & kLanes) * wa + (b & kLanes) * wb) |
-           div255Lanes(((a >> 8) & kLanes) * wa + ((b >> 8) & kLanes) * wb) << 8;
-}
-inline std::uint32_t over(std::uint32_t s, std::uint32_t d, std::uint32_t weight)
-{
-    return mixed(s, weight, d, 255 - div255((s & 255) * weight));
+    forEachVector<std::uint32_t>(std::size_t(count), [&](auto d, std::size_t at) HWY_ATTR {
+        const auto there = widen(d, hn::LoadU(d, pixels + at));
+        hn::StoreU(narrow(d, f(d, at, there)), d, pixels + at);
+    });
 }
 
-ZP_MULTIVERSION void overImage(std::uint32_t* d, const std::uint32_t* s, int n)
+template <class D>
+HWY_INLINE hn::Vec<Wide16<D>> rest(D, hn::Vec<Wide16<D>> weight)
 {
-    for (int i = 0; i < n; ++i) d[i] = mixed(s[i], 255, d[i], 255 - (s[i] & 255));
+    return hn::Sub(hn::Set(Wide16<D>(), 255), weight);
 }
-ZP_MULTIVERSION void overImageFaded(std::uint32_t* d, const std::uint32_t* s, int n, unsigned opacity)
+
+template <class D>
+HWY_INLINE hn::Vec<Wide16<D>> all(D, unsigned value)
 {
-    for (int i = 0; i < n; ++i) d[i] = over(s[i], d[i], opacity);
+    return hn::Set(Wide16<D>(), std::uint16_t(value));
 }
-ZP_MULTIVERSION void overImageCovered(std::uint32_t* d, const std::uint32_t* s, const std::uint8_t* c, int n)
-{
-    for (int i = 0; i < n; ++i) d[i] = over(s[i], d[i], c[i]);
-}
-ZP_MULTIVERSION void overImageCoveredFaded(std::uint32_t* d, const std::uint32_t* s, const std::uint8_t* c, int n,
-                                           unsigned opacity)
-{
-    for (int i = 0; i < n; ++i) d[i] = over(s[i], d[i], div255(c[i] * opacity));
-}
-ZP_MULTIVERSION void overWord(std::uint32_t* d, std::uint32_t word, int n)
-{
-    const std::uint32_t rest = 255 - (word & 255);
-    for (int i = 0; i < n; ++i) d[i] = mixed(word, 255, d[i], rest);
-}
-ZP_MULTIVERSION void overWordCovered(std::uint32_t* d, std::uint32_t word, const std::uint8_t* c, int n)
-{
-    for (int i = 0; i < n; ++i) d[i] = over(word, d[i], c[i]);
-}
-ZP_MULTIVERSION void copyImageFaded(std::uint32_t* d, const std::uint32_t* s, int n, unsigned opacity)
-{
-    for (int i = 0; i < n; ++i) d[i] = scaled(s[i], opacity);
-}
-ZP_MULTIVERSION void copyImageCovered(std::uint32_t* d, const std::uint32_t* s, const std::uint8_t* c, int n,
-                                      unsigned opacity)
-{
-    for (int i = 0; i < n; ++i) d[i] = mixed(scaled(s[i], opacity), c[i], d[i], 255u - c[i]);
-}
-ZP_MULTIVERSION void copyWordCovered(std::uint32_t* d, std::uint32_t word, const std::uint8_t* c, int n)
-{
-    for (int i = 0; i < n; ++i) d[i] = mixed(word, c[i], d[i], 255u - c[i]);
-}
-ZP_MULTIVERSION void inImage(std::uint32_t* d, const std::uint32_t* s, int n, unsigned opacity)
-{
-    for (int i = 0; i < n; ++i) d[i] = scaled(s[i], div255((d[i] & 255) * opacity));
-}
-ZP_MULTIVERSION void inImageCovered(std::uint32_t* d, const std::uint32_t* s, const std::uint8_t* c, int n,
-                                    unsigned opacity)
-{
-    for (int i = 0; i < n; ++i) d[i] = mixed(scaled(s[i], div255((d[i] & 255) * opacity)), c[i], d[i], 255u - c[i]);
-}
-ZP_MULTIVERSION void inWordCovered(std::uint32_t* d, std::uint32_t word, const std::uint8_t* c, int n)
-{
-    for (int i = 0; i < n; ++i) {
-        const std::uint32_t weight = c ? c[i] : 255u;
-        d[i] = mixed(scaled(word, d[i] & 255), weight, d[i], 255u - weight);
+
+/// The source of a run at a place, faded.
+struct Source {
+    const std::uint32_t* pixels; ///< null: word everywhere
+    std::uint32_t word;          ///< faded already
+    unsigned opacity;            ///< of the pixels
+
+    template <class D>
+    HWY_INLINE hn::Vec<D> at(D d, std::size_t place) const
+    {
+        return pixels ? hn::LoadU(d, pixels + place) : hn::Set(d, word);
     }
-}
-ZP_MULTIVERSION void clearCovered(std::uint32_t* d, const std::uint8_t* c, int n)
+    template <class D>
+    HWY_INLINE Samples<D> faded(D d, std::size_t place) const
+    {
+        const auto samples = widen(d, at(d, place));
+        return pixels && opacity != 255 ? scaled(d, samples, all(d, opacity)) : samples;
+    }
+};
+
+/// Source-over, every pixel's source weighed by @p weight(tag, place).
+template <class Weight>
+HWY_INLINE void over(std::uint32_t* pixels, const Source& source, int count, Weight&& weight)
 {
-    for (int i = 0; i < n; ++i) d[i] = scaled(d[i], 255u - c[i]);
+    change(pixels, count, [&](auto d, std::size_t at, const auto& there) HWY_ATTR {
+        const auto from = source.at(d, at);
+        const auto share = weight(d, at);
+        const auto kept = rest(d, divide255(Wide16<decltype(d)>(), hn::Mul(alphaOf(d, from), share)));
+        return mixed(d, widen(d, from), share, there, kept);
+    });
 }
 
-ZP_MULTIVERSION std::uint32_t andOf(const std::uint32_t* s, int n)
+/// Whether all pixels are opaque, and whether all are nothing.
+struct Look {
+    bool opaque, empty;
+};
+Look look(const std::uint32_t* pixels, int count)
 {
-    std::uint32_t v = ~0u;
-    for (int i = 0; i < n; ++i) v &= s[i];
-    return v;
-}
-ZP_MULTIVERSION std::uint32_t orOf(const std::uint32_t* s, int n)
-{
-    std::uint32_t v = 0;
-    for (int i = 0; i < n; ++i) v |= s[i];
-    return v;
+    const hn::ScalableTag<std::uint32_t> d;
+    auto every = hn::Set(d, ~0u), any = hn::Zero(d);
+    const int lanes = int(hn::Lanes(d));
+    int i = 0;
+    for (; i + lanes <= count; i += lanes) {
+        const auto v = hn::LoadU(d, pixels + i);
+        every = hn::And(every, v);
+        any = hn::Or(any, v);
+    }
+    std::uint32_t restEvery = ~0u, restAny = 0;
+    for (; i < count; ++i) restEvery &= pixels[i], restAny |= pixels[i];
+    const auto alpha = hn::Set(d, 255u);
+    return {(restEvery & 255) == 255 && hn::AllTrue(d, hn::Eq(hn::And(every, alpha), alpha)),
+            restAny == 0 && hn::AllTrue(d, hn::Eq(any, hn::Zero(d)))};
 }
 
 /// Source-over at full cover: opaque stretches are copied and empty ones left, without reading the destination.
-void overImageInPieces(std::uint32_t* d, const std::uint32_t* s, int n)
+void overInPieces(std::uint32_t* pixels, const std::uint32_t* source, int count)
 {
-    for (int at = 0; at < n; at += kPiece) {
-        const int count = std::min(kPiece, n - at);
-        if ((andOf(s + at, count) & 255) == 255)
-            std::memmove(d + at, s + at, std::size_t(count) * 4);
-        else if (orOf(s + at, count) != 0)
-            overImage(d + at, s + at, count);
+    for (int at = 0; at < count; at += kPiece) {
+        const int piece = std::min(kPiece, count - at);
+        const Look seen = look(source + at, piece);
+        if (seen.opaque)
+            std::memmove(pixels + at, source + at, std::size_t(piece) * 4);
+        else if (!seen.empty)
+            over(pixels + at, {source + at, 0, 255}, piece, [](auto d, std::size_t) HWY_ATTR { return all(d, 255); });
     }
 }
 
-void sourceOver(const BlendRun& r, unsigned opacity)
+void sourceOver(const BlendRun& r, std::uint32_t word, unsigned opacity)
 {
-    if (!r.source) {
-        const std::uint32_t word = opacity == 255 ? r.word : scaled(r.word, opacity);
-        if ((word & 255) == 0) return;
-        if (r.cover)
-            overWordCovered(r.destination, word, r.cover, r.count);
-        else if ((word & 255) == 255)
-            std::fill_n(r.destination, r.count, word);
-        else
-            overWord(r.destination, word, r.count);
+    const Source source{r.source, word, 255}; // the weights do the fading of pixels
+    if (!r.source && (word & 255) == 0) return;
+    if (r.cover) {
+        const std::uint8_t* const cover = r.cover;
+        if (!r.source || opacity == 255)
+            return over(r.destination, source, r.count,
+                        [=](auto d, std::size_t at) HWY_ATTR { return loadSpread(d, cover + at); });
+        return over(r.destination, source, r.count, [=](auto d, std::size_t at) HWY_ATTR {
+            return divide255(Wide16<decltype(d)>(), hn::Mul(loadSpread(d, cover + at), all(d, opacity)));
+        });
+    }
+    if (!r.source && (word & 255) == 255) {
+        std::fill_n(r.destination, r.count, word);
         return;
     }
-    if (r.cover)
-        opacity == 255 ? overImageCovered(r.destination, r.source, r.cover, r.count)
-                       : overImageCoveredFaded(r.destination, r.source, r.cover, r.count, opacity);
-    else
-        opacity == 255 ? overImageInPieces(r.destination, r.source, r.count)
-                       : overImageFaded(r.destination, r.source, r.count, opacity);
+    if (r.source && opacity == 255) return overInPieces(r.destination, r.source, r.count);
+    const unsigned weight = r.source ? opacity : 255;
+    over(r.destination, source, r.count, [=](auto d, std::size_t) HWY_ATTR { return all(d, weight); });
 }
 
-void copy(const BlendRun& r, unsigned opacity)
+void copy(const BlendRun& r, std::uint32_t word, unsigned opacity)
 {
-    if (!r.source) {
-        const std::uint32_t word = opacity == 255 ? r.word : scaled(r.word, opacity);
-        if (r.cover)
-            copyWordCovered(r.destination, word, r.cover, r.count);
-        else
-            std::fill_n(r.destination, r.count, word);
-        return;
+    const Source source{r.source, word, opacity};
+    if (r.cover) {
+        const std::uint8_t* const cover = r.cover;
+        return change(r.destination, r.count, [=](auto d, std::size_t at, const auto& there) HWY_ATTR {
+            const auto share = loadSpread(d, cover + at);
+            return mixed(d, source.faded(d, at), share, there, rest(d, share));
+        });
     }
-    if (r.cover)
-        copyImageCovered(r.destination, r.source, r.cover, r.count, opacity);
+    if (!r.source)
+        std::fill_n(r.destination, r.count, word);
     else if (opacity == 255)
         std::memmove(r.destination, r.source, std::size_t(r.count) * 4);
     else
-        copyImageFaded(r.destination, r.source, r.count, opacity);
+        change(r.destination, r.count,
+               [=](auto d, std::size_t at, const auto&) HWY_ATTR { return source.faded(d, at); });
 }
-} // namespace
+
+/// The source where the destination is: faded by its alpha.
+void sourceIn(const BlendRun& r, std::uint32_t word, unsigned opacity)
+{
+    const unsigned fade = r.source ? opacity : 255;
+    const Source source{r.source, word, 255};
+    const std::uint8_t* const cover = r.cover;
+    change(r.destination, r.count, [=](auto d, std::size_t at, const auto& there) HWY_ATTR {
+        const Wide16<decltype(d)> d16;
+        const auto alpha = alphaOf(d, narrow(d, there));
+        const auto inside = scaled(d, widen(d, source.at(d, at)), divide255(d16, hn::Mul(alpha, all(d, fade))));
+        if (!cover) return inside;
+        const auto share = loadSpread(d, cover + at);
+        return mixed(d, inside, share, there, rest(d, share));
+    });
+}
+
+void clear(const BlendRun& r)
+{
+    if (!r.cover) {
+        std::fill_n(r.destination, r.count, 0u);
+        return;
+    }
+    const std::uint8_t* const cover = r.cover;
+    change(r.destination, r.count, [=](auto d, std::size_t at, const auto& there) HWY_ATTR {
+        return scaled(d, there, rest(d, loadSpread(d, cover + at)));
+    });
+}
 
 void blendRun(const BlendRun& r, CompositingOperation operation, unsigned opacity)
 {
-    if (r.count <= 0) return;
+    std::uint32_t word = r.word;
+    if (!r.source && opacity != 255) {
+        const hn::CappedTag<std::uint32_t, 1> one;
+        word = hn::GetLane(narrow(one, scaled(one, widen(one, hn::Set(one, r.word)), all(one, opacity))));
+    }
     switch (operation) {
     case CompositingOperation::Clear:
-        if (r.cover)
-            clearCovered(r.destination, r.cover, r.count);
-        else
-            std::fill_n(r.destination, r.count, 0u);
-        break;
+        return clear(r);
     case CompositingOperation::Copy:
-        copy(r, opacity);
-        break;
+        return copy(r, word, opacity);
     case CompositingOperation::SourceOver:
-        if (opacity != 0) sourceOver(r, opacity);
-        break;
+        if (opacity != 0) sourceOver(r, word, opacity);
+        return;
     case CompositingOperation::SourceIn:
-        if (!r.source)
-            inWordCovered(r.destination, opacity == 255 ? r.word : scaled(r.word, opacity), r.cover, r.count);
-        else if (r.cover)
-            inImageCovered(r.destination, r.source, r.cover, r.count, opacity);
-        else
-            inImage(r.destination, r.source, r.count, opacity);
-        break;
+        return sourceIn(r, word, opacity);
     }
 }
 
-ZP_MULTIVERSION void multiplyCover(std::uint8_t* cover, const std::uint8_t* other, int count)
+/// cover = cover * (other ^ flip) / 255.
+HWY_INLINE void multiply(std::uint8_t* cover, const std::uint8_t* other, int count, std::uint8_t flip)
 {
-    for (int i = 0; i < count; ++i) cover[i] = std::uint8_t(div255(std::uint32_t(cover[i]) * other[i]));
+    forEachVector<std::uint16_t>(std::size_t(count), [&](auto d, std::size_t at) HWY_ATTR {
+        const hn::Rebind<std::uint8_t, decltype(d)> bytes;
+        const auto by = hn::Xor(hn::LoadU(bytes, other + at), hn::Set(bytes, flip));
+        const auto product = hn::Mul(hn::PromoteTo(d, hn::LoadU(bytes, cover + at)), hn::PromoteTo(d, by));
+        const hn::RebindToSigned<decltype(d)> whole;
+        hn::StoreU(hn::DemoteTo(bytes, hn::BitCast(whole, divide255(d, product))), bytes, cover + at);
+    });
 }
 
-ZP_MULTIVERSION void multiplyCoverByMask(std::uint8_t* cover, const std::uint8_t* mask, int count)
+void multiplyCover(std::uint8_t* cover, const std::uint8_t* other, int count) { multiply(cover, other, count, 0); }
+void multiplyCoverByMask(std::uint8_t* cover, const std::uint8_t* mask, int count)
 {
-    for (int i = 0; i < count; ++i) cover[i] = std::uint8_t(div255(std::uint32_t(cover[i]) * (255u - mask[i])));
+    multiply(cover, mask, count, 255);
+}
+
+} // namespace zp::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace zp
+{
+
+HWY_EXPORT(blendRun);
+HWY_EXPORT(multiplyCover);
+HWY_EXPORT(multiplyCoverByMask);
+
+void blendRun(const BlendRun& run, CompositingOperation operation, unsigned opacity)
+{
+    if (run.count > 0) HWY_DYNAMIC_DISPATCH(blendRun)(run, operation, opacity);
+}
+
+void multiplyCover(std::uint8_t* cover, const std::uint8_t* other, int count)
+{
+    HWY_DYNAMIC_DISPATCH(multiplyCover)(cover, other, count);
+}
+
+void multiplyCoverByMask(std::uint8_t* cover, const std::uint8_t* mask, int count)
+{
+    HWY_DYNAMIC_DISPATCH(multiplyCoverByMask)(cover, mask, count);
 }
 
 } // namespace zp
+#endif

@@ -23,7 +23,7 @@ public:
 template <class Body>
 void onEveryTarget(Body&& body)
 {
-    const std::int64_t all = hwy::SupportedTargets();
+    const std::int64_t all = hwy::SupportedTargets() & ~HWY_SCALAR; // compiled nowhere; EMU128 is the plain one
     ASSERT_NE(all, 0);
     // A better target is a lower bit.
     for (std::int64_t left = all; left != 0; left &= left - 1) {
