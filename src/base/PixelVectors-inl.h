@@ -15,6 +15,11 @@
 #include <cstdint>
 #include <hwy/highway.h>
 
+/// Behind the parameters of a lambda that is handed to a loop below: a call for each vector would cost more than its
+/// work.
+#undef ZP_LANES
+#define ZP_LANES HWY_ATTR __attribute__((always_inline))
+
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {

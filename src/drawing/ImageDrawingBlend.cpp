@@ -22,7 +22,7 @@ constexpr int kPiece = 128;
 template <class F>
 HWY_INLINE void change(std::uint32_t* pixels, int count, F&& f)
 {
-    forEachVector<std::uint32_t>(std::size_t(count), [&](auto d, std::size_t at) HWY_ATTR {
+    forEachVector<std::uint32_t>(std::size_t(count), [&](auto d, std::size_t at) ZP_LANES {
         const auto there = widen(d, hn::LoadU(d, pixels + at));
         hn::StoreU(narrow(d, f(d, at, there)), d, pixels + at);
     });
@@ -63,7 +63,7 @@ struct Source {
 template <class Weight>
 HWY_INLINE void over(std::uint32_t* pixels, const Source& source, int count, Weight&& weight)
 {
-    change(pixels, count, [&](auto d, std::size_t at, const auto& there) HWY_ATTR {
+    change(pixels, count, [&](auto d, std::size_t at, const auto& there) ZP_LANES {
         const auto from = source.at(d, at);
         const auto share = weight(d, at);
         const auto kept = rest(d, divide255(Wide16<decltype(d)>(), hn::Mul(alphaOf(d, from), share)));
@@ -102,7 +102,7 @@ void overInPieces(std::uint32_t* pixels, const std::uint32_t* source, int count)
         if (seen.opaque)
             std::memmove(pixels + at, source + at, std::size_t(piece) * 4);
         else if (!seen.empty)
-            over(pixels + at, {source + at, 0, 255}, piece, [](auto d, std::size_t) HWY_ATTR { return all(d, 255); });
+            over(pixels + at, {source + at, 0, 255}, piece, [](auto d, std::size_t) ZP_LANES { return all(d, 255); });
     }
 }
 
@@ -114,8 +114,8 @@ void sourceOver(const BlendRun& r, std::uint32_t word, unsigned opacity)
         const std::uint8_t* const cover = r.cover;
         if (!r.source || opacity == 255)
             return over(r.destination, source, r.count,
-                        [=](auto d, std::size_t at) HWY_ATTR { return loadSpread(d, cover + at); });
-        return over(r.destination, source, r.count, [=](auto d, std::size_t at) HWY_ATTR {
+                        [=](auto d, std::size_t at) ZP_LANES { return loadSpread(d, cover + at); });
+        return over(r.destination, source, r.count, [=](auto d, std::size_t at) ZP_LANES {
             return divide255(Wide16<decltype(d)>(), hn::Mul(loadSpread(d, cover + at), all(d, opacity)));
         });
     }
@@ -125,7 +125,7 @@ void sourceOver(const BlendRun& r, std::uint32_t word, unsigned opacity)
     }
     if (r.source && opacity == 255) return overInPieces(r.destination, r.source, r.count);
     const unsigned weight = r.source ? opacity : 255;
-    over(r.destination, source, r.count, [=](auto d, std::size_t) HWY_ATTR { return all(d, weight); });
+    over(r.destination, source, r.count, [=](auto d, std::size_t) ZP_LANES { return all(d, weight); });
 }
 
 void copy(const BlendRun& r, std::uint32_t word, unsigned opacity)
@@ -133,7 +133,7 @@ void copy(const BlendRun& r, std::uint32_t word, unsigned opacity)
     const Source source{r.source, word, opacity};
     if (r.cover) {
         const std::uint8_t* const cover = r.cover;
-        return change(r.destination, r.count, [=](auto d, std::size_t at, const auto& there) HWY_ATTR {
+        return change(r.destination, r.count, [=](auto d, std::size_t at, const auto& there) ZP_LANES {
             const auto share = loadSpread(d, cover + at);
             return mixed(d, source.faded(d, at), share, there, rest(d, share));
         });
@@ -144,7 +144,7 @@ void copy(const BlendRun& r, std::uint32_t word, unsigned opacity)
         std::memmove(r.destination, r.source, std::size_t(r.count) * 4);
     else
         change(r.destination, r.count,
-               [=](auto d, std::size_t at, const auto&) HWY_ATTR { return source.faded(d, at); });
+               [=](auto d, std::size_t at, const auto&) ZP_LANES { return source.faded(d, at); });
 }
 
 /// The source where the destination is: faded by its alpha.
@@ -153,7 +153,7 @@ void sourceIn(const BlendRun& r, std::uint32_t word, unsigned opacity)
     const unsigned fade = r.source ? opacity : 255;
     const Source source{r.source, word, 255};
     const std::uint8_t* const cover = r.cover;
-    change(r.destination, r.count, [=](auto d, std::size_t at, const auto& there) HWY_ATTR {
+    change(r.destination, r.count, [=](auto d, std::size_t at, const auto& there) ZP_LANES {
         const Wide16<decltype(d)> d16;
         const auto alpha = alphaOf(d, narrow(d, there));
         const auto inside = scaled(d, widen(d, source.at(d, at)), divide255(d16, hn::Mul(alpha, all(d, fade))));
@@ -170,7 +170,7 @@ void clear(const BlendRun& r)
         return;
     }
     const std::uint8_t* const cover = r.cover;
-    change(r.destination, r.count, [=](auto d, std::size_t at, const auto& there) HWY_ATTR {
+    change(r.destination, r.count, [=](auto d, std::size_t at, const auto& there) ZP_LANES {
         return scaled(d, there, rest(d, loadSpread(d, cover + at)));
     });
 }
@@ -198,7 +198,7 @@ void blendRun(const BlendRun& r, CompositingOperation operation, unsigned opacit
 /// cover = cover * (other ^ flip) / 255.
 HWY_INLINE void multiply(std::uint8_t* cover, const std::uint8_t* other, int count, std::uint8_t flip)
 {
-    forEachVector<std::uint16_t>(std::size_t(count), [&](auto d, std::size_t at) HWY_ATTR {
+    forEachVector<std::uint16_t>(std::size_t(count), [&](auto d, std::size_t at) ZP_LANES {
         const hn::Rebind<std::uint8_t, decltype(d)> bytes;
         const auto by = hn::Xor(hn::LoadU(bytes, other + at), hn::Set(bytes, flip));
         const auto product = hn::Mul(hn::PromoteTo(d, hn::LoadU(bytes, cover + at)), hn::PromoteTo(d, by));

@@ -40,9 +40,4 @@ private:
     std::size_t mWordsPerRow = 0;
 };
 
-/// Packs one row of mask bytes: bit x is set where bytes[x] is not 255. Writes (width + 64) / 64 words.
-void packSelectedBits(const std::uint8_t* bytes, int width, std::uint64_t* words);
-/// The same without vector instructions, for comparison.
-void packSelectedBitsPlain(const std::uint8_t* bytes, int width, std::uint64_t* words);
-
 } // namespace zp

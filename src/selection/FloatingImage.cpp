@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Lifting, placing, drawing and copying the floating selection's picture, and the pixel work of cut and crop.
 #include "selection/FloatingImage.h"
-#include "base/Simd.h"
 #include "base/WorkPool.h"
+#include "selection/SelectionRows.h"
 #include <algorithm>
 #include <cstring>
 
@@ -49,16 +49,6 @@ void copyRegion(ConstBitmapView from, std::int64_t x, std::int64_t y, BitmapView
             std::memset(out + 4 * x1, 0, std::size_t(to.width - x1) * 4);
         }
     });
-}
-
-ZP_MULTIVERSION void clearTranslucentRow(std::uint32_t* row, int width)
-{
-    for (int x = 0; x < width; ++x) row[x] = (row[x] & 255) == 255 ? row[x] : 0;
-}
-
-ZP_MULTIVERSION void clearBlackRow(std::uint32_t* row, int width)
-{
-    for (int x = 0; x < width; ++x) row[x] = row[x] == 0x000000FF ? 0 : row[x];
 }
 } // namespace
 

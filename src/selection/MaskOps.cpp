@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The selection mask's plain loops.
+/// Filling, inverting and tinting by the selection mask.
 #include "selection/MaskOps.h"
-#include "base/Simd.h"
 #include "drawing/BitmapContext.h"
+#include "selection/SelectionRows.h"
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -13,11 +13,6 @@ namespace zp
 
 namespace
 {
-
-ZP_MULTIVERSION void invertRow(std::uint8_t* bytes, std::size_t count)
-{
-    for (std::size_t i = 0; i < count; ++i) bytes[i] = std::uint8_t(255 - bytes[i]);
-}
 
 std::array<std::uint8_t, 256> tintTable(double add)
 {
@@ -41,7 +36,7 @@ void fillMask(MaskView mask, std::uint8_t value)
 void invertMask(MaskView mask)
 {
     if (mask.isEmpty()) return;
-    for (int y = 0; y < mask.height; ++y) invertRow(mask.row(y), std::size_t(mask.width));
+    for (int y = 0; y < mask.height; ++y) invertRow(mask.row(y), mask.width);
 }
 
 void renderPathInMask(MaskView mask, const BezierPath& path, std::uint8_t value)

@@ -23,8 +23,5 @@ std::size_t countCorners(const std::uint64_t* above, const std::uint64_t* below,
 /// Writes those corners from left to right, a crossing as two: first the end of what lies left and above it, then the
 /// start of what lies right and below. @p out has room for 16 more than there are. @return how many
 std::size_t findCorners(const std::uint64_t* above, const std::uint64_t* below, std::size_t words, FoundCorner* out);
-/// The same without vector instructions, for comparison.
-std::size_t findCornersPlain(const std::uint64_t* above, const std::uint64_t* below, std::size_t words,
-                             FoundCorner* out);
 
 } // namespace zp

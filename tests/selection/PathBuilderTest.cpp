@@ -142,21 +142,6 @@ TEST(PathBuilder, PicturesWiderThanSixteenBitsAreTracedAsWell)
     EXPECT_EQ(text(traced(mask)), text(reference::MaskTracer(mask.view()).path()));
 }
 
-TEST(PathBuilder, WordsOfBitsAreTheSameByEveryWay)
-{
-    std::mt19937 random(12);
-    for (int width = 1; width < 300; ++width) {
-        std::vector<std::uint8_t> bytes(std::size_t(width) + 1);
-        for (std::uint8_t& b : bytes) b = random() % 3 ? 255 : std::uint8_t(random());
-        std::vector<std::uint64_t> fast(std::size_t(width) / 64 + 1, 77), plain = fast;
-        packSelectedBits(bytes.data(), width, fast.data());
-        packSelectedBitsPlain(bytes.data(), width, plain.data());
-        ASSERT_EQ(fast, plain) << width;
-        for (int x = 0; x < width; ++x)
-            ASSERT_EQ(fast[std::size_t(x) / 64] >> (x % 64) & 1, std::uint64_t(bytes[std::size_t(x)] != 255));
-    }
-}
-
 TEST(OutlineTracer, TellsTheNumberOfCornersBeforehand)
 {
     std::mt19937 random(5);
@@ -167,39 +152,4 @@ TEST(OutlineTracer, TellsTheNumberOfCornersBeforehand)
         [&](std::size_t count) { expected = count; });
     EXPECT_LE(found, expected);
     EXPECT_GT(found, expected / 2);
-}
-
-TEST(OutlineTracer, CornersAreTheSameByEveryWay)
-{
-    std::mt19937 random(8);
-    for (int round = 0; round < 2000; ++round) {
-        const std::size_t words = 1 + random() % 20;
-        // The word before each row is readable and 0, the last bit of each row is 0.
-        std::vector<std::uint64_t> above(words + 1), below(words + 1);
-        for (std::size_t w = 1; w <= words; ++w) {
-            const auto any = [&] { return std::uint64_t(random()) << 32 | random(); };
-            above[w] = any(), below[w] = any();
-            switch (random() % 4) {
-            case 0:
-                below[w] = above[w];
-                break;
-            case 1:
-                above[w] &= any() & any() & any(), below[w] = above[w] ^ (any() & any() & any());
-                break;
-            case 2:
-                above[w] = 0x5555555555555555, below[w] = ~above[w];
-                break;
-            default:
-                break;
-            }
-        }
-        above[words] &= ~(std::uint64_t{1} << 63), below[words] &= ~(std::uint64_t{1} << 63);
-        std::vector<FoundCorner> fast(words * 128 + 16), plain(words * 128 + 16);
-        fast.resize(findCorners(above.data() + 1, below.data() + 1, words, fast.data()));
-        plain.resize(findCornersPlain(above.data() + 1, below.data() + 1, words, plain.data()));
-        ASSERT_EQ(fast.size(), plain.size());
-        ASSERT_EQ(fast.size(), countCorners(above.data() + 1, below.data() + 1, words));
-        ASSERT_EQ(fast.size() % 2, 0u);
-        for (std::size_t i = 0; i < fast.size(); ++i) ASSERT_EQ(fast[i].x, plain[i].x) << "round " << round;
-    }
 }
