@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// What a program may tell the processor beside its work: nothing here changes a result.
+/// What a program may tell the processor about memory and waiting.
 #pragma once
 #include <hwy/cache_control.h>
 
@@ -13,5 +13,8 @@ inline void pauseSpinning() { hwy::Pause(); }
 inline void prefetch(const void* place) { __builtin_prefetch(place); }
 /// The same for a line that will be written.
 inline void prefetchForWriting(void* place) { __builtin_prefetch(place, 1); }
+
+/// Behind stores that went past the cache: other threads see them once this thread has said that it is done.
+inline void finishStreaming() { hwy::FlushStream(); }
 
 } // namespace zp

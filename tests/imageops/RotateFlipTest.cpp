@@ -3,6 +3,7 @@
 /// edge.
 #include "imageops/RotateFlip.h"
 #include "base/BitmapRep.h"
+#include "support/EveryTarget.h"
 #include <gtest/gtest.h>
 #include <random>
 #include <tuple>
@@ -57,57 +58,44 @@ protected:
 
 TEST_P(Moves, CounterClockwisePutsTheTopEdgeLeft)
 {
-    Picture turned(h, w);
-    rotateCounterClockwise(source.view(), turned.view());
-    for (int v = 0; v < h; ++v)
-        for (int u = 0; u < w; ++u)
-            ASSERT_EQ(turned.view().row(w - 1 - u)[v], source.view().row(v)[u]) << u << ", " << v;
-    EXPECT_TRUE(turned.spareUntouched());
+    test::onEveryTarget([&] {
+        Picture turned(h, w);
+        rotateCounterClockwise(source.view(), turned.view());
+        for (int v = 0; v < h; ++v)
+            for (int u = 0; u < w; ++u)
+                ASSERT_EQ(turned.view().row(w - 1 - u)[v], source.view().row(v)[u]) << u << ", " << v;
+        EXPECT_TRUE(turned.spareUntouched());
+    });
 }
 
 TEST_P(Moves, ClockwisePutsTheTopEdgeRight)
 {
-    Picture turned(h, w);
-    rotateClockwise(source.view(), turned.view());
-    for (int v = 0; v < h; ++v)
-        for (int u = 0; u < w; ++u)
-            ASSERT_EQ(turned.view().row(u)[h - 1 - v], source.view().row(v)[u]) << u << ", " << v;
-    EXPECT_TRUE(turned.spareUntouched());
+    test::onEveryTarget([&] {
+        Picture turned(h, w);
+        rotateClockwise(source.view(), turned.view());
+        for (int v = 0; v < h; ++v)
+            for (int u = 0; u < w; ++u)
+                ASSERT_EQ(turned.view().row(u)[h - 1 - v], source.view().row(v)[u]) << u << ", " << v;
+        EXPECT_TRUE(turned.spareUntouched());
+    });
 }
 
 TEST_P(Moves, FlipsExchangeTheSidesAndTwoOfThemNothing)
 {
-    const auto before = source.pixels();
-    const auto at = [&](int x, int y) { return before[std::size_t(y) * std::size_t(w) + std::size_t(x)]; };
-    flipHorizontally(source.view());
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x) ASSERT_EQ(source.view().row(y)[w - 1 - x], at(x, y)) << x << ", " << y;
-    flipHorizontally(source.view());
-    ASSERT_EQ(source.pixels(), before);
-    flipVertically(source.view());
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x) ASSERT_EQ(source.view().row(h - 1 - y)[x], at(x, y)) << x << ", " << y;
-    flipVertically(source.view());
-    ASSERT_EQ(source.pixels(), before);
-}
-
-TEST_P(Moves, EveryVectorWidthGivesTheSamePixels)
-{
-    for (const VectorWidth width : {VectorWidth::None, VectorWidth::Bits256}) {
-        Picture wide(h, w), narrow(h, w), wideBack(h, w), narrowBack(h, w);
-        rotateClockwise(source.view(), wide.view());
-        rotateClockwise(source.view(), narrow.view(), width);
-        ASSERT_EQ(wide.pixels(), narrow.pixels());
-        EXPECT_TRUE(narrow.spareUntouched());
-        rotateCounterClockwise(source.view(), wideBack.view());
-        rotateCounterClockwise(source.view(), narrowBack.view(), width);
-        ASSERT_EQ(wideBack.pixels(), narrowBack.pixels());
-        EXPECT_TRUE(narrowBack.spareUntouched());
+    test::onEveryTarget([&] {
         const auto before = source.pixels();
-        flipHorizontally(source.view(), width);
+        const auto at = [&](int x, int y) { return before[std::size_t(y) * std::size_t(w) + std::size_t(x)]; };
+        flipHorizontally(source.view());
+        for (int y = 0; y < h; ++y)
+            for (int x = 0; x < w; ++x) ASSERT_EQ(source.view().row(y)[w - 1 - x], at(x, y)) << x << ", " << y;
         flipHorizontally(source.view());
         ASSERT_EQ(source.pixels(), before);
-    }
+        flipVertically(source.view());
+        for (int y = 0; y < h; ++y)
+            for (int x = 0; x < w; ++x) ASSERT_EQ(source.view().row(h - 1 - y)[x], at(x, y)) << x << ", " << y;
+        flipVertically(source.view());
+        ASSERT_EQ(source.pixels(), before);
+    });
 }
 
 TEST_P(Moves, FourQuarterTurnsAreNone)
