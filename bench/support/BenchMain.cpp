@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Google Benchmark's own main, and one option beside its own: --targets avx3,avx2,sse4 runs every row on each of these
-/// vector targets in turn, --rounds times over (5 when not given), and prints a row's medians side by side.
+/// vector targets in turn, --rounds times over (5 when not given), and prints a row's medians side by side. On a busy
+/// machine ZELPANE_JOBS=1 and --cpu-time, the calling thread's own time, tell more.
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstdint>
@@ -45,19 +46,23 @@ bool findTarget(std::string_view name, Target& found)
 class Collector final : public benchmark::BenchmarkReporter
 {
 public:
+    explicit Collector(bool cpu = false) : mCpu(cpu) {}
     bool ReportContext(const Context&) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override
     {
         for (const Run& run : runs) {
             if (run.run_type != Run::RT_Iteration) continue;
             failed = failed || run.error_occurred;
-            time = run.GetAdjustedRealTime();
+            time = mCpu ? run.GetAdjustedCPUTime() : run.GetAdjustedRealTime();
             unit = benchmark::GetTimeUnitString(run.time_unit);
         }
     }
     double time = 0;
     std::string unit;
     bool failed = false;
+
+private:
+    bool mCpu;
 };
 
 /// The names of the rows that the options given choose, in their order.
@@ -98,7 +103,7 @@ double median(std::vector<double> values)
                              : (values[values.size() / 2 - 1] + values[values.size() / 2]) / 2;
 }
 
-int runTargets(const std::vector<Target>& targets, int rounds)
+int runTargets(const std::vector<Target>& targets, int rounds, bool cpu)
 {
     const std::vector<std::string> names = rowNames();
     std::map<std::string, std::vector<std::vector<double>>> times;
@@ -110,7 +115,7 @@ int runTargets(const std::vector<Target>& targets, int rounds)
             row.resize(targets.size());
             for (std::size_t t = 0; t < targets.size(); ++t) {
                 hwy::SetSupportedTargetsForTest(targets[t].allowed);
-                Collector one;
+                Collector one(cpu);
                 one.SetOutputStream(&nowhere);
                 one.SetErrorStream(&nowhere);
                 benchmark::RunSpecifiedBenchmarks(&one, exactly(name));
@@ -143,6 +148,7 @@ int main(int argc, char** argv)
 {
     std::vector<Target> targets;
     int rounds = 5, kept = 1;
+    bool cpu = false;
     const auto value = [&](int& i, std::string_view option, std::string& text) {
         const std::string_view given = argv[i];
         if (given.substr(0, option.size()) != option) return false;
@@ -168,6 +174,8 @@ int main(int argc, char** argv)
             }
         } else if (value(i, "--rounds", text)) {
             rounds = std::max(1, std::atoi(text.c_str()));
+        } else if (std::string_view(argv[i]) == "--cpu-time") {
+            cpu = true;
         } else {
             argv[kept++] = argv[i];
         }
@@ -175,7 +183,7 @@ int main(int argc, char** argv)
     argc = kept;
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
-    if (!targets.empty()) return runTargets(targets, rounds);
+    if (!targets.empty()) return runTargets(targets, rounds, cpu);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return EXIT_SUCCESS;

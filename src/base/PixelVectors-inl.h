@@ -11,6 +11,7 @@
 #define ZP_PIXEL_VECTORS
 #endif
 
+#include "base/CpuHints.h"
 #include <cstddef>
 #include <cstdint>
 #include <hwy/highway.h>
@@ -40,6 +41,15 @@ HWY_INLINE void forEachVector(std::size_t count, F&& f)
         for (const std::size_t lanes = hn::Lanes(block); at + lanes <= count; at += lanes) f(block, at);
     const hn::CappedTag<T, 1> single;
     for (; at < count; ++at) f(single, at);
+}
+
+/// For one long pass over memory: announces the line that will be read two pages later. With vectors of whole lines the
+/// processor sees far enough ahead by itself, with lesser ones the work between two lines hides the next from it.
+/// Without this the fingerprint of a picture takes 2.5 times as long on AVX2.
+HWY_INLINE void announce(const std::uint8_t* place)
+{
+    constexpr std::size_t kAhead = 8192;
+    if (hn::MaxLanes(hn::ScalableTag<std::uint8_t>()) < 64) prefetch(place + kAhead);
 }
 
 /// The 16-bit lanes in the place of 32-bit ones.
@@ -97,6 +107,16 @@ template <class D>
 HWY_INLINE hn::Vec<Wide16<D>> loadSpread(D d, const std::uint8_t* bytes)
 {
     return spread(d, hn::PromoteTo(d, hn::LoadU(hn::Rebind<std::uint8_t, D>(), bytes)));
+}
+
+/// No colour of a pixel above its alpha.
+template <class D>
+HWY_INLINE hn::Vec<D> withColourAtMostAlpha(D d, hn::Vec<D> pixels)
+{
+    const hn::Repartition<std::uint8_t, D> d8;
+    HWY_ALIGN static constexpr std::uint8_t kAlphas[16] = {0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12};
+    const auto bytes = hn::BitCast(d8, pixels);
+    return hn::BitCast(d, hn::Min(bytes, hn::TableLookupBytes(bytes, hn::LoadDup128(d8, kAlphas))));
 }
 
 /// Every sample times its pixel's weight (0 to 255) over 255.

@@ -2,13 +2,13 @@
 /// Undo of the canvas: snapshots written on a worker, restored by number, and the alpha file operations.
 #include "base/Folders.h"
 #include "base/Log.h"
-#include "base/Simd.h"
 #include "base/WorkPool.h"
 #include "canvas/ZPCanvas.h"
 #include "desktop/MainThreadWake.h"
 #include "desktop/Sounds.h"
 #include "desktop/SystemProbes.h"
 #include "undo/AlphaRLE.h"
+#include "undo/AlphaRows.h"
 #include "undo/SnapshotJPEG.h"
 #include "undo/SnapshotNumbers.h"
 #include "undo/SnapshotStore.h"
@@ -32,18 +32,6 @@ using Half = SnapshotStore::Half;
 constexpr int kFirstSnapshotDelay = 300; ///< milliseconds after an open, so that the picture is on screen first
 /// Paths of the alpha file operations go through a buffer of this size, its closing zero included.
 constexpr std::size_t kPathBuffer = 512;
-
-/// The colour file is lossy: beside an edge of transparency it may bring back more colour than the alpha allows, which
-/// every blend after it would carry on beyond white.
-ZP_MULTIVERSION void limitColourToAlpha(std::uint32_t* row, int width)
-{
-    for (int x = 0; x < width; ++x) {
-        const std::uint32_t word = row[x], alpha = word & 0xFF;
-        const std::uint32_t red = std::min(word >> 8 & 0xFF, alpha), green = std::min(word >> 16 & 0xFF, alpha),
-                            blue = std::min(word >> 24, alpha);
-        row[x] = blue << 24 | green << 16 | red << 8 | alpha;
-    }
-}
 
 double secondsSince(Clock::time_point start) { return std::chrono::duration<double>(Clock::now() - start).count(); }
 
@@ -279,6 +267,8 @@ void ZPCanvas::restoreSnapshot(std::int32_t number)
     if (alpha && mBitmapRep) {
         const BitmapView pixels = mBitmapRep->view();
         decodeAlphaRLE(*alpha, pixels);
+        // The colour file is lossy: beside an edge of transparency it may bring back more colour than the alpha allows,
+        // which every blend after it would carry on beyond white.
         const auto limitRows = [&pixels](int first, int last) {
             for (int y = first; y < last; ++y) limitColourToAlpha(pixels.row(y), pixels.width);
         };

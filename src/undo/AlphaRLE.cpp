@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The alpha run-length format at memory speed: alpha gathered row by row into the cache, runs compared in blocks.
 #include "undo/AlphaRLE.h"
-#include "base/Simd.h"
 #include "base/WorkPool.h"
+#include "undo/AlphaRows.h"
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -14,42 +14,10 @@ namespace zp
 namespace
 {
 
-constexpr std::size_t kBlock = 64;
 /// Alpha bytes gathered at a time: half a first-level cache, and a multiple of the block.
 constexpr int kPiece = 16384;
 /// Pixels from which a second core is worth waking.
 constexpr std::int64_t kWorthSharing = 1 << 20;
-
-ZP_MULTIVERSION void gatherAlpha(const std::uint8_t* __restrict pixels, std::uint8_t* __restrict alpha, int count)
-{
-    for (int i = 0; i < count; ++i) alpha[i] = pixels[std::ptrdiff_t{4} * i];
-}
-
-// The three below look at one block; the compiler turns each into a few vector instructions.
-// "Differs" is accumulated instead of left early, since a loop with two ways out is not vectorised.
-
-ZP_MULTIVERSION std::size_t equalBlocks(const std::uint8_t* bytes, std::size_t count, std::uint8_t value)
-{
-    std::size_t i = 0;
-    for (; i + kBlock <= count; i += kBlock) {
-        std::uint8_t differs = 0;
-        for (std::size_t k = 0; k < kBlock; ++k) differs |= std::uint8_t(bytes[i + k] ^ value);
-        if (differs) break;
-    }
-    return i;
-}
-
-/// How many whole blocks from the start hold no byte equal to the one before it (the byte before bytes[0] included).
-ZP_MULTIVERSION std::size_t pairlessBlocks(const std::uint8_t* bytes, std::size_t count)
-{
-    std::size_t i = 0;
-    for (; i + kBlock <= count; i += kBlock) {
-        std::uint8_t pair = 0;
-        for (std::size_t k = 0; k < kBlock; ++k) pair |= std::uint8_t(bytes[i + k] == bytes[i + k - 1]);
-        if (pair) break;
-    }
-    return i;
-}
 
 std::uint64_t load64(const std::uint8_t* bytes)
 {
@@ -95,16 +63,6 @@ std::size_t firstPair(const std::uint8_t* bytes, std::size_t count)
     return i;
 }
 
-ZP_MULTIVERSION void fillAlpha(std::uint32_t* row, int count, std::uint32_t keep, std::uint32_t value)
-{
-    for (int i = 0; i < count; ++i) row[i] = (row[i] & keep) | value;
-}
-
-ZP_MULTIVERSION void copyAlpha(std::uint8_t* __restrict pixels, const std::uint8_t* __restrict alpha, int count)
-{
-    for (int i = 0; i < count; ++i) pixels[std::ptrdiff_t{4} * i] = alpha[i];
-}
-
 /// A place in the alpha plane to which runs and copies are written, over the ends of rows.
 class PlaneWriter
 {
@@ -115,14 +73,12 @@ public:
 
     void fill(std::uint8_t value, std::int64_t count)
     {
-        const std::uint32_t alphaByte = std::bit_cast<std::uint32_t>(std::array<std::uint8_t, 4>{255, 0, 0, 0});
-        const std::uint32_t alpha = std::bit_cast<std::uint32_t>(std::array<std::uint8_t, 4>{value, 0, 0, 0});
-        forEachStretch(count, [&](int stretch) { fillAlpha(mPixels.row(mRow) + mColumn, stretch, ~alphaByte, alpha); });
+        forEachStretch(count, [&](int stretch) { fillAlpha(mPixels.row(mRow) + mColumn, value, stretch); });
     }
     void copy(const std::uint8_t* bytes, std::int64_t count)
     {
         forEachStretch(count, [&](int stretch) {
-            copyAlpha(mPixels.pixel(mColumn, mRow), bytes, stretch);
+            scatterAlpha(mPixels.row(mRow) + mColumn, bytes, stretch);
             bytes += stretch;
         });
     }
@@ -240,7 +196,7 @@ struct Band {
         for (int y = first; y < last; ++y)
             for (int x = 0; x < pixels.width; x += kPiece) {
                 const auto count = std::size_t(std::min(kPiece, pixels.width - x));
-                gatherAlpha(pixels.pixel(x, y), piece.data(), int(count));
+                gatherAlpha(pixels.row(y) + x, piece.data(), int(count));
                 const std::size_t same = copying ? runLength(piece.data(), count, before) : 0;
                 copies += std::int64_t(same);
                 copying = copying && same == count;

@@ -1,16 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Sixty-four multiply-and-rotate chains side by side, so that the vector units see 512 independent bytes a step.
 #include "undo/Fingerprint.h"
-#include "base/Simd.h"
 #include <array>
 #include <bit>
 #include <cstddef>
 #include <cstring>
 
-namespace zp
-{
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "undo/Fingerprint.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
 
-namespace
+#include "base/PixelVectors-inl.h"
+
+#ifndef ZP_FINGERPRINT_ONCE
+#define ZP_FINGERPRINT_ONCE
+namespace zp
 {
 
 constexpr int kLanes = 64;
@@ -19,21 +24,64 @@ constexpr std::size_t kStep = kLanes * sizeof(std::uint64_t);
 constexpr std::uint64_t kSpread = 0x9E6C63D0676A9A99u;
 constexpr std::uint64_t kSpread2 = 0xC3A5C85C97CB3127u;
 
-using Lanes = std::array<std::uint64_t, kLanes>;
+} // namespace zp
+#endif
+
+HWY_BEFORE_NAMESPACE();
+namespace zp::HWY_NAMESPACE
+{
+
+using Words = hn::CappedTag<std::uint64_t, 8>;
+using Vector = hn::Vec<Words>;
+
+/// v * k modulo 2^64, of the products that every target has: 32 by 32 bits.
+HWY_INLINE Vector times(Vector v, std::uint64_t k)
+{
+    const Words d;
+    const hn::Repartition<std::uint32_t, Words> halves;
+    const auto low = hn::BitCast(halves, hn::Set(d, k & 0xFFFFFFFFu)), high = hn::BitCast(halves, hn::Set(d, k >> 32));
+    const auto v32 = hn::BitCast(halves, v);
+    const auto crossed = hn::Add(hn::MulEven(v32, high), hn::MulEven(hn::BitCast(halves, hn::ShiftRight<32>(v)), low));
+    return hn::Add(hn::MulEven(v32, low), hn::ShiftLeft<32>(crossed));
+}
 
 /// Each step is a bijection of a lane, so one changed word can never be lost again. The first multiplication makes a
 /// difference of the word dense upwards, the rotation brings its high bits down, the second spreads those: with one
 /// multiplication only, two changes of a single bit each, a lane's step apart, could cancel.
-ZP_MULTIVERSION void absorb(std::uint64_t* __restrict lanes, const std::uint8_t* __restrict bytes, std::size_t steps)
+void absorb(std::uint64_t* HWY_RESTRICT lanes, const std::uint8_t* HWY_RESTRICT bytes, std::size_t steps)
 {
+    const Words d;
+    constexpr int kVectors = kLanes / int(hn::MaxLanes(Words()));
+    Vector chains[kVectors];
+    for (int i = 0; i < kVectors; ++i) chains[i] = hn::LoadU(d, lanes + i * int(hn::MaxLanes(d)));
     for (std::size_t s = 0; s < steps; ++s, bytes += kStep) {
-        std::uint64_t words[kLanes];
-        std::memcpy(words, bytes, kStep);
-        for (int i = 0; i < kLanes; ++i) {
-            const std::uint64_t mixed = lanes[i] + words[i] * kSpread2;
-            lanes[i] = ((mixed << 29) | (mixed >> 35)) * kSpread;
+        for (std::size_t line = 0; line < kStep; line += 64) announce(bytes + line);
+        for (int i = 0; i < kVectors; ++i) {
+            const hn::Repartition<std::uint8_t, Words> d8;
+            const auto words = hn::BitCast(d, hn::LoadU(d8, bytes + i * int(hn::MaxLanes(d8))));
+            chains[i] = times(hn::RotateRight<64 - 29>(hn::Add(chains[i], times(words, kSpread2))), kSpread);
         }
     }
+    for (int i = 0; i < kVectors; ++i) hn::StoreU(chains[i], d, lanes + i * int(hn::MaxLanes(d)));
+}
+
+} // namespace zp::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace zp
+{
+
+HWY_EXPORT(absorb);
+
+namespace
+{
+
+using Lanes = std::array<std::uint64_t, kLanes>;
+
+void absorb(Lanes& lanes, const std::uint8_t* bytes, std::size_t steps)
+{
+    HWY_DYNAMIC_DISPATCH(absorb)(lanes.data(), bytes, steps);
 }
 
 Lanes freshLanes()
@@ -47,11 +95,11 @@ Lanes freshLanes()
 void absorbRow(Lanes& lanes, const std::uint8_t* bytes, std::size_t count)
 {
     const std::size_t steps = count / kStep;
-    absorb(lanes.data(), bytes, steps);
+    absorb(lanes, bytes, steps);
     if (const std::size_t rest = count - steps * kStep) {
         std::array<std::uint8_t, kStep> padded{};
         std::memcpy(padded.data(), bytes + steps * kStep, rest);
-        absorb(lanes.data(), padded.data(), 1);
+        absorb(lanes, padded.data(), 1);
     }
 }
 
@@ -92,3 +140,4 @@ Fingerprint fingerprint(std::span<const std::uint8_t> bytes)
 }
 
 } // namespace zp
+#endif
