@@ -19,6 +19,8 @@ namespace zp
 
 /// Pixels of one cache line. Bands of the result's columns are whole lines, so that no two threads write one.
 constexpr int kLine = 16;
+/// Source pixels announced beforehand where vectors are less than a line: see announce().
+constexpr int kAhead = 128;
 /// A picture of this many bytes does not stay in the cache anyway: stores that go past it save reading the lines first.
 constexpr std::int64_t kStreamFrom = std::int64_t{8} << 20;
 
@@ -48,7 +50,12 @@ HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
 
+#if HWY_MAX_BYTES >= 64
 using Pixels = hn::CappedTag<std::uint32_t, kLine>;
+#else
+// Also where vectors have 32 bytes: their halves exchange so badly that squares of eight take longer than of four.
+using Pixels = hn::CappedTag<std::uint32_t, 4>;
+#endif
 using Vector = hn::Vec<Pixels>;
 constexpr int kSide = int(hn::MaxLanes(Pixels())); ///< of the squares that are transposed in registers
 
@@ -85,28 +92,29 @@ HWY_INLINE void transpose(Vector (&a)[kSide])
         a[k] = hn::ConcatLowerLower(d, b[8 + k], b[k]);
         a[8 + k] = hn::ConcatUpperUpper(d, b[8 + k], b[k]);
     }
-#elif HWY_MAX_BYTES >= 32
-    for (int k = 0; k < 4; ++k) {
-        b[k] = hn::ConcatLowerLower(d, a[4 + k], a[k]);
-        b[4 + k] = hn::ConcatUpperUpper(d, a[4 + k], a[k]);
-    }
-    for (int k = 0; k < 8; ++k) a[k] = b[k];
 #endif
 }
 
-/// Source columns u to u + kSide - 1 into columns x to x + kSide - 1 of the result.
-HWY_INLINE void turnSquare(const Turn& turn, int u, int x, bool stream)
+/// Source columns u to u + kSide - 1 into one cache line of each of kSide rows of the result, from column x on.
+HWY_INLINE void turnLines(const Turn& turn, int u, int x, bool stream)
 {
+    constexpr int kSquares = kLine / kSide;
     const Pixels d;
-    Vector a[kSide];
-    for (int i = 0; i < kSide; ++i) a[i] = hn::LoadU(d, turn.from.row(turn.sourceRow(x + i)) + u);
-    transpose(a);
+    // Whole lines leave one by one: as halves or quarters many would be open at a time, more than there are buffers
+    // for.
+    Vector lines[kSquares][kSide];
+    for (int s = 0; s < kSquares; ++s) {
+        for (int i = 0; i < kSide; ++i) {
+            const std::uint32_t* const from = turn.from.row(turn.sourceRow(x + s * kSide + i)) + u;
+            if (kSquares > 1) prefetch(from + kAhead);
+            lines[s][i] = hn::LoadU(d, from);
+        }
+        transpose(lines[s]);
+    }
     for (int c = 0; c < kSide; ++c) {
         std::uint32_t* const target = turn.to.row(turn.targetRow(u + c)) + x;
-        if (stream)
-            hn::Stream(a[c], d, target);
-        else
-            hn::StoreU(a[c], d, target);
+        for (int s = 0; s < kSquares; ++s)
+            stream ? hn::Stream(lines[s][c], d, target + s * kSide) : hn::StoreU(lines[s][c], d, target + s * kSide);
     }
 }
 
@@ -123,13 +131,10 @@ void turnPart(const Turn& turn, int u0, int u1, int x0, int x1)
 void turnBand(const Turn& turn, int x0, int x1)
 {
     const bool stream = turn.streams();
-    const int wholeX = x0 + (x1 - x0) / kSide * kSide, wholeU = turn.from.width / kSide * kSide;
+    const int wholeX = x0 + (x1 - x0) / kLine * kLine, wholeU = turn.from.width / kSide * kSide;
     for (int x = x0; x < wholeX; x += kLine) {
-        const int end = std::min(x + kLine, wholeX);
-        // All parts of a cache line of the result are written one soon after the other.
-        for (int u = 0; u < wholeU; u += kSide)
-            for (int i = x; i < end; i += kSide) turnSquare(turn, u, i, stream);
-        turnPart(turn, wholeU, turn.from.width, x, end);
+        for (int u = 0; u < wholeU; u += kSide) turnLines(turn, u, x, stream);
+        turnPart(turn, wholeU, turn.from.width, x, x + kLine);
     }
     turnPart(turn, 0, turn.from.width, wholeX, x1);
     if (stream) finishStreaming();
@@ -137,12 +142,13 @@ void turnBand(const Turn& turn, int x0, int x1)
 
 void mirrorRow(std::uint32_t* row, int width)
 {
-    const Pixels d;
+    const hn::ScalableTag<std::uint32_t> d;
+    const int lanes = int(hn::Lanes(d));
     int left = 0, right = width;
-    for (; right - left >= 2 * kSide; left += kSide, right -= kSide) {
-        const auto a = hn::LoadU(d, row + left), b = hn::LoadU(d, row + right - kSide);
+    for (; right - left >= 2 * lanes; left += lanes, right -= lanes) {
+        const auto a = hn::LoadU(d, row + left), b = hn::LoadU(d, row + right - lanes);
         hn::StoreU(hn::Reverse(d, b), d, row + left);
-        hn::StoreU(hn::Reverse(d, a), d, row + right - kSide);
+        hn::StoreU(hn::Reverse(d, a), d, row + right - lanes);
     }
     std::reverse(row + left, row + right);
 }
