@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Making brush tips, and the blending loops.
+/// Making brush tips, and stamping them.
 #include "tools/BrushTip.h"
-#include "base/Simd.h"
+#include "base/FixedPoint.h"
 #include "drawing/BitmapContext.h"
+#include "tools/BrushRows.h"
 #include <cmath>
 #include <cstring>
 
@@ -14,27 +15,6 @@ namespace
 
 /// Far beyond any brush of the interface, far below where a side squared would not fit a signed word.
 constexpr int kLargestSide = 16384;
-
-std::uint32_t divide255(std::uint32_t v) { return (v + 128 + ((v + 128) >> 8)) >> 8; }
-
-/// d = s + d * keep / 255, byte by byte. Rounded to nearest for every input.
-ZP_MULTIVERSION void blendBytes(std::uint8_t* __restrict d, const std::uint8_t* __restrict s,
-                                const std::uint8_t* __restrict keep, std::size_t count)
-{
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::uint16_t v = std::uint16_t(d[i] * keep[i] + 128);
-        d[i] = std::uint8_t(s[i] + (std::uint16_t(v + (v >> 8)) >> 8));
-    }
-}
-
-ZP_MULTIVERSION void eraseRow(std::uint8_t* __restrict d, const std::uint8_t* __restrict mask, int width)
-{
-    for (int x = 0; x < width; ++x)
-        for (int c = 0; c < 4; ++c) {
-            const std::uint16_t v = std::uint16_t(d[4 * x + c] * mask[x] + 128);
-            d[4 * x + c] = std::uint8_t(std::uint16_t(v + (v >> 8)) >> 8);
-        }
-}
 
 void drawRoundShape(BitmapView tip)
 {
@@ -105,15 +85,16 @@ void BrushStamp::drawAt(BitmapView pixels, int x, int y) const
         const int first = std::max(span.first, -x);
         const int last = int(std::min(std::int64_t{span.last}, std::int64_t{pixels.width} - x));
         if (last <= first) continue;
-        const std::size_t offset = mStride * std::size_t(row) + std::size_t(first) * 4;
-        blendBytes(pixels.pixel(x + first, y + row), mSource.get() + offset, mKeep.get() + offset,
-                   std::size_t(last - first) * 4);
+        const auto part = [&](const PixelMemory& plane) {
+            return reinterpret_cast<const std::uint32_t*>(plane.get() + mStride * std::size_t(row)) + first;
+        };
+        stampRow(pixels.row(y + row) + (x + first), part(mSource), part(mKeep), last - first);
     }
 }
 
 void eraseThroughMask(BitmapView pixels, ConstMaskView mask)
 {
-    for (int y = 0; y < pixels.height; ++y) eraseRow(pixels.rowData(y), mask.row(y), pixels.width);
+    for (int y = 0; y < pixels.height; ++y) eraseRow(pixels.row(y), mask.row(y), pixels.width);
 }
 
 } // namespace zp
