@@ -1,80 +1,136 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Means of squares, summed two bytes to a word.
+/// Means of squares: rows are summed in 16-bit lanes, then neighbours are added as often as the side was halved.
 #include "drawing/Halving.h"
-#include "base/Simd.h"
 #include <algorithm>
-#include <array>
 
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "drawing/Halving.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "base/PixelVectors-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zp::HWY_NAMESPACE
+{
+
+/// Sums of pixels, two bytes to a lane of 32 bits. The most there are, 256 bytes and half of it for rounding, just fit
+/// 16 bits without a sign.
+template <class D>
+struct Sums {
+    hn::Vec<D> even, odd;
+};
+
+template <class D>
+HWY_INLINE hn::Vec<D> addHalves(D d, hn::Vec<D> a, hn::Vec<D> b)
+{
+    const Wide16<D> d16;
+    return hn::BitCast(d, hn::Add(hn::BitCast(d16, a), hn::BitCast(d16, b)));
+}
+
+/// A vector's pixels from each of the rows, rowBytes apart.
+template <class D>
+HWY_INLINE Sums<D> sumRows(D d, const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int rows)
+{
+    Sums<D> sums{hn::Zero(d), hn::Zero(d)};
+    for (int r = 0; r < rows; ++r, pixels += rowBytes) {
+        announce(pixels);
+        const auto both = widen(d, hn::LoadU(d, reinterpret_cast<const std::uint32_t*>(pixels)));
+        sums.even = addHalves(d, sums.even, hn::BitCast(d, both.even));
+        sums.odd = addHalves(d, sums.odd, hn::BitCast(d, both.odd));
+    }
+    return sums;
+}
+
+/// Lanes 0 and 1, 2 and 3, … of two vectors added.
+template <class D>
+HWY_INLINE hn::Vec<D> addNeighbours(D d, hn::Vec<D> low, hn::Vec<D> high)
+{
+    return addHalves(d, hn::ConcatEven(d, high, low), hn::ConcatOdd(d, high, low));
+}
+
+/// Back to pixels: means of 1 << shift, rounded.
+template <class D>
+HWY_INLINE hn::Vec<D> means(D d, const Sums<D>& sums, int shift)
+{
+    const Wide16<D> d16;
+    const auto half = hn::Set(d16, std::uint16_t(1u << (shift - 1)));
+    const auto mean = [&](hn::Vec<D> v)
+                          ZP_LANES { return hn::ShiftRightSame(hn::Add(hn::BitCast(d16, v), half), shift); };
+    return narrow(d, Samples<D>{mean(sums.even), mean(sums.odd)});
+}
+
+using Pixels = hn::ScalableTag<std::uint32_t>;
+using Pixel = hn::CappedTag<std::uint32_t, 1>;
+
+/// The sums of two neighbouring pixels of all rows, for one vector of such pairs.
+HWY_INLINE Sums<Pixels> sumPairs(Pixels d, const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int rows)
+{
+    const auto low = sumRows(d, pixels, rowBytes, rows);
+    const auto high = sumRows(d, pixels + 4 * hn::Lanes(d), rowBytes, rows);
+    return {addNeighbours(d, low.even, high.even), addNeighbours(d, low.odd, high.odd)};
+}
+
+/// One mean, without looking beyond its square.
+HWY_INLINE std::uint32_t meanOfSquare(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int level)
+{
+    const Pixel d;
+    Sums<Pixel> sum{hn::Zero(d), hn::Zero(d)};
+    for (int i = 0; i < 1 << level; ++i) {
+        const auto column = sumRows(d, pixels + 4 * i, rowBytes, 1 << level);
+        sum = {addHalves(d, sum.even, column.even), addHalves(d, sum.odd, column.odd)};
+    }
+    return hn::GetLane(means(d, sum, 2 * level));
+}
+
+void averageSquares(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int count, int level, std::uint32_t* out)
+{
+    const Pixels d;
+    const int lanes = int(hn::Lanes(d)), rows = 1 << level;
+    int done = 0;
+    if (level == 1) {
+        for (; done + lanes <= count; done += lanes)
+            hn::StoreU(means(d, sumPairs(d, pixels + std::ptrdiff_t{8} * done, rowBytes, 2), 2), d, out + done);
+    } else {
+        // A vector of results takes 1 << level of source: the sums wait in registers' worth of memory.
+        constexpr std::size_t kMost = (std::size_t{1} << (kMostHalvings - 1)) * hn::MaxLanes(Pixels());
+        HWY_ALIGN std::uint32_t even[kMost], odd[kMost];
+        for (; done + lanes <= count; done += lanes) {
+            const std::uint8_t* from = pixels + (std::ptrdiff_t{4} * done << level);
+            int held = rows / 2; // vectors
+            for (int v = 0; v < held; ++v) {
+                const auto sums = sumPairs(d, from + std::ptrdiff_t{8} * v * lanes, rowBytes, rows);
+                hn::Store(sums.even, d, even + v * lanes);
+                hn::Store(sums.odd, d, odd + v * lanes);
+            }
+            const auto fold = [&](std::uint32_t* sums, int v) ZP_LANES {
+                return addNeighbours(d, hn::Load(d, sums + 2 * v * lanes), hn::Load(d, sums + (2 * v + 1) * lanes));
+            };
+            for (; held > 2; held /= 2)
+                for (int v = 0; v < held / 2; ++v) {
+                    hn::Store(fold(even, v), d, even + v * lanes);
+                    hn::Store(fold(odd, v), d, odd + v * lanes);
+                }
+            hn::StoreU(means(d, Sums<Pixels>{fold(even, 0), fold(odd, 0)}, 2 * level), d, out + done);
+        }
+    }
+    for (; done < count; ++done)
+        out[done] = meanOfSquare(pixels + (std::ptrdiff_t{4} * done << level), rowBytes, level);
+}
+
+} // namespace zp::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
 namespace zp
 {
 
-namespace
-{
-
-/// Two of a pixel's four bytes, each with 16 bits of room: sums of up to 257 pixels do not meet.
-constexpr std::uint32_t kPairMask = 0x00FF00FF;
-/// Sums of two rows, byte by byte, in pairs with room; added to what is there or put in its place.
-ZP_MULTIVERSION void sumTwoRows(const std::uint32_t* __restrict a, const std::uint32_t* __restrict b,
-                                std::uint32_t* __restrict even, std::uint32_t* __restrict odd, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        even[i] = (a[i] & kPairMask) + (b[i] & kPairMask);
-        odd[i] = ((a[i] >> 8) & kPairMask) + ((b[i] >> 8) & kPairMask);
-    }
-}
-
-ZP_MULTIVERSION void addTwoRows(const std::uint32_t* __restrict a, const std::uint32_t* __restrict b,
-                                std::uint32_t* __restrict even, std::uint32_t* __restrict odd, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        even[i] += (a[i] & kPairMask) + (b[i] & kPairMask);
-        odd[i] += ((a[i] >> 8) & kPairMask) + ((b[i] >> 8) & kPairMask);
-    }
-}
-
-ZP_MULTIVERSION void addNeighbours(const std::uint32_t* __restrict in, std::uint32_t* __restrict out, int count)
-{
-    for (int i = 0; i < count; ++i) out[i] = in[2 * i] + in[2 * i + 1];
-}
-
-/// Sums of 1 << shift pixels back to pixels, rounded.
-ZP_MULTIVERSION void divideSums(const std::uint32_t* __restrict even, const std::uint32_t* __restrict odd,
-                                std::uint32_t* __restrict pixels, int count, int shift)
-{
-    const std::uint32_t half = 0x00010001u << (shift - 1);
-    for (int i = 0; i < count; ++i) {
-        const std::uint32_t e = ((even[i] + half) >> shift) & kPairMask;
-        const std::uint32_t o = ((odd[i] + half) >> shift) & kPairMask;
-        pixels[i] = e | (o << 8);
-    }
-}
-
-} // namespace
+HWY_EXPORT(averageSquares);
 
 void averageSquares(ConstBitmapView image, int x, int y, int count, int level, std::uint32_t* pixels)
 {
-    constexpr int kPiece = 1024; // source pixels a piece: its sums stay in the first cache
-    const int step = 1 << level;
-    alignas(64) std::array<std::array<std::uint32_t, kPiece>, 2> even, odd;
-    for (int done = 0; done < count; done += kPiece >> level) {
-        const int piece = std::min(kPiece >> level, count - done);
-        int wide = piece << level;
-        for (int r = 0; r < step; r += 2) {
-            const std::uint32_t* a = image.row((y << level) + r) + (std::ptrdiff_t{x + done} << level);
-            const std::uint32_t* b = image.row((y << level) + r + 1) + (std::ptrdiff_t{x + done} << level);
-            if (r == 0)
-                sumTwoRows(a, b, even[0].data(), odd[0].data(), wide);
-            else
-                addTwoRows(a, b, even[0].data(), odd[0].data(), wide);
-        }
-        std::size_t full = 0;
-        for (int fold = 0; fold < level; ++fold, full ^= 1) {
-            wide >>= 1;
-            addNeighbours(even[full].data(), even[full ^ 1].data(), wide);
-            addNeighbours(odd[full].data(), odd[full ^ 1].data(), wide);
-        }
-        divideSums(even[full].data(), odd[full].data(), pixels + done, piece, 2 * level);
-    }
+    HWY_DYNAMIC_DISPATCH(averageSquares)(image.pixel(x, y), image.rowBytes, count, level, pixels);
 }
 
 } // namespace zp
+#endif

@@ -116,7 +116,7 @@ void resample(ConstBitmapView source, BitmapView destination)
             source.height == std::int64_t(destination.height) << level) {
             parallelBands(destination.height, grain, [&](int from, int to) {
                 for (int y = from; y < to; ++y)
-                    averageSquares(source, 0, y, destination.width, level, destination.row(y));
+                    averageSquares(source, 0, y << level, destination.width, level, destination.row(y));
             });
             return;
         }

@@ -101,7 +101,7 @@ void renderHalves(ConstBitmapView image, std::uint32_t* out, std::ptrdiff_t outS
 {
     std::vector<std::uint32_t> pixels(std::size_t(box.width()));
     for (int y = box.y0; y < box.y1; ++y) {
-        averageSquares(image, box.x0, y, box.width(), level, pixels.data());
+        averageSquares(image, box.x0 << level, y << level, box.width(), level, pixels.data());
         convertRow(pixels.data(), out + outStride * (y - box.y0), box.width());
     }
 }
