@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Chooses how an image is sampled: in place, averaged down first, by smooth interpolation, or the nearest pixel.
 #include "drawing/ImageDrawingSampler.h"
+#include "base/WorkPool.h"
 #include <algorithm>
 #include <cmath>
 
@@ -13,6 +14,8 @@ namespace
 constexpr double kInvisible = 1.0 / 128;
 /// Scales from here to 1 are left to interpolation.
 constexpr double kHardlyReduced = 0.9985;
+/// Source pixels below which another worker is not worth waking.
+constexpr double kPixelsPerBand = 300'000;
 /// Interpolation looks this many pixels around.
 constexpr int kReach = 3;
 
@@ -62,34 +65,40 @@ void ImageSampler::reduce(double scaleX, double scaleY, AffineTransform& toTarge
         grid.stepX = 1 / toTarget.m11, grid.stepY = 1 / toTarget.m22;
         grid.left = (target.x0 - toTarget.tX) * grid.stepX, grid.top = (target.y0 - toTarget.tY) * grid.stepY;
         grid.columns = target.width(), grid.rows = target.height();
-        toTarget = {1, 0, 0, 1, double(target.x0), double(target.y0)};
-    } else {
-        // Cells of about a target pixel, the image's extent a whole number of them; only those that can be seen.
-        const auto divide = [](int extent, double scale) {
-            return double(extent) / std::max(1.0, std::min(double(extent), std::nearbyint(extent * scale)));
-        };
-        grid.stepX = divide(mPart.width(), std::min(scaleX, 1.0));
-        grid.stepY = divide(mPart.height(), std::min(scaleY, 1.0));
-        const Rect seen = toTarget.inverted().apply(target.rect());
-        const auto cell = [](double v, double step, int extent) {
-            return int(std::clamp(std::floor(v / step), 0.0, std::nearbyint(extent / step)));
-        };
-        const int c0 = cell(double(seen.minX()) - mPart.x0, grid.stepX, mPart.width()) - kReach;
-        const int c1 = cell(double(seen.maxX()) - mPart.x0, grid.stepX, mPart.width()) + 1 + kReach;
-        const int r0 = cell(double(seen.minY()) - mPart.y0, grid.stepY, mPart.height()) - kReach;
-        const int r1 = cell(double(seen.maxY()) - mPart.y0, grid.stepY, mPart.height()) + 1 + kReach;
-        grid.columns = c1 - c0, grid.rows = r1 - r0;
-        grid.left = mPart.x0 + c0 * grid.stepX, grid.top = mPart.y0 + r0 * grid.stepY;
-        toTarget.translate(grid.left, grid.top);
-        toTarget.scale(grid.stepX, grid.stepY);
+        mAverager = std::make_unique<const GridAverager>(mImage, mPart, grid);
+        mTarget = target;
+        return;
     }
+    // Cells of about a target pixel, the image's extent a whole number of them; only those that can be seen.
+    const auto divide = [](int extent, double scale) {
+        return double(extent) / std::max(1.0, std::min(double(extent), std::nearbyint(extent * scale)));
+    };
+    grid.stepX = divide(mPart.width(), std::min(scaleX, 1.0));
+    grid.stepY = divide(mPart.height(), std::min(scaleY, 1.0));
+    const Rect seen = toTarget.inverted().apply(target.rect());
+    const auto cell = [](double v, double step, int extent) {
+        return int(std::clamp(std::floor(v / step), 0.0, std::nearbyint(extent / step)));
+    };
+    const int c0 = cell(double(seen.minX()) - mPart.x0, grid.stepX, mPart.width()) - kReach;
+    const int c1 = cell(double(seen.maxX()) - mPart.x0, grid.stepX, mPart.width()) + 1 + kReach;
+    const int r0 = cell(double(seen.minY()) - mPart.y0, grid.stepY, mPart.height()) - kReach;
+    const int r1 = cell(double(seen.maxY()) - mPart.y0, grid.stepY, mPart.height()) + 1 + kReach;
+    grid.columns = c1 - c0, grid.rows = r1 - r0;
+    grid.left = mPart.x0 + c0 * grid.stepX, grid.top = mPart.y0 + r0 * grid.stepY;
+    toTarget.translate(grid.left, grid.top);
+    toTarget.scale(grid.stepX, grid.stepY);
     const std::ptrdiff_t rowBytes = (std::ptrdiff_t{4} * grid.columns + 63) / 64 * 64;
     mReduced = allocatePixelsUninitialized(std::size_t(rowBytes) * std::size_t(grid.rows));
     if (!mReduced) {
         toTarget = before; // interpolated from the full image instead: coarse, but drawn
         return;
     }
-    averageOverGrid(mImage, mPart, grid, mReduced.get(), rowBytes);
+    const GridAverager averager(mImage, mPart, grid);
+    const double perRow = double(mPart.width()) * std::max(1.0, grid.stepY);
+    parallelBands(grid.rows, std::max(1, int(kPixelsPerBand / perRow)), [&](int first, int last) {
+        for (int row = first; row < last; ++row)
+            averager.average(row, 0, grid.columns, reinterpret_cast<std::uint32_t*>(mReduced.get() + rowBytes * row));
+    });
     mImage = {mReduced.get(), grid.columns, grid.rows, rowBytes};
     mPart = mImage.box();
     mDirect = isNearlyShift(toTarget, mPart, mShiftX, mShiftY);
@@ -98,6 +107,10 @@ void ImageSampler::reduce(double scaleX, double scaleY, AffineTransform& toTarge
 const std::uint32_t* ImageSampler::generate(int y, int x0, int x1, std::uint32_t* room) const
 {
     if (mShift || mDirect) return mImage.row(y - mShiftY) + (x0 - mShiftX);
+    if (mAverager) {
+        mAverager->average(y - mTarget.y0, x0 - mTarget.x0, x1 - mTarget.x0, room);
+        return room;
+    }
     // The middle of the first pixel, in image pixels.
     const double u = mToImage.m11 * (x0 + 0.5) + mToImage.m21 * (y + 0.5) + mToImage.tX;
     const double v = mToImage.m12 * (x0 + 0.5) + mToImage.m22 * (y + 0.5) + mToImage.tY;

@@ -4,8 +4,9 @@
 #include "base/AffineTransform.h"
 #include "base/BitmapView.h"
 #include "base/PixelMemory.h"
+#include "drawing/GridAverager.h"
 #include <cstdint>
-#include <vector>
+#include <memory>
 
 namespace zp
 {
@@ -42,18 +43,10 @@ private:
     bool mNearest, mShift = false, mDirect = false;
     int mShiftX = 0, mShiftY = 0;
     PixelMemory mReduced;
+    std::unique_ptr<const GridAverager>
+        mAverager; ///< whose cells are the target's own pixels, from mTarget's corner on
+    PixelBox mTarget;
 };
-
-/// The average over each cell of a grid laid over @p image: column i of the grid covers [left + i * stepX, left + (i +
-/// 1)
-/// * stepX) of image pixels, rows likewise. Cells reach beyond @p part: only what lies inside counts. Exact for flat
-/// colours. Steps of 1 and more; @p out holds rows of @p columns words, @p outRowBytes apart. Uses the work pool.
-struct AveragingGrid {
-    double left = 0, top = 0, stepX = 1, stepY = 1;
-    int columns = 0, rows = 0;
-};
-void averageOverGrid(ConstBitmapView image, PixelBox part, const AveragingGrid& grid, std::uint8_t* out,
-                     std::ptrdiff_t outRowBytes);
 
 /// Catmull-Rom interpolation along a line through the image: pixel k is taken at (x + k * dx, y + k * dy), 2^-32
 /// pixels, where whole numbers are the middles of pixels. Positions beyond @p part take its border pixels. Alpha stays
