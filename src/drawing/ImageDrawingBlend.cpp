@@ -15,9 +15,6 @@ HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
 
-/// Opaque and empty stretches are looked for in pieces of this many pixels.
-constexpr int kPiece = 128;
-
 /// d = f(tag, place, what is there) for every pixel of a run.
 template <class F>
 HWY_INLINE void change(std::uint32_t* pixels, int count, F&& f)
@@ -71,39 +68,19 @@ HWY_INLINE void over(std::uint32_t* pixels, const Source& source, int count, Wei
     });
 }
 
-/// Whether all pixels are opaque, and whether all are nothing.
-struct Look {
-    bool opaque, empty;
-};
-Look look(const std::uint32_t* pixels, int count)
+/// Source-over at full cover: opaque vectors are copied and empty ones left, without reading the destination.
+void overWhole(std::uint32_t* pixels, const std::uint32_t* source, int count)
 {
-    const hn::ScalableTag<std::uint32_t> d;
-    auto every = hn::Set(d, ~0u), any = hn::Zero(d);
-    const int lanes = int(hn::Lanes(d));
-    int i = 0;
-    for (; i + lanes <= count; i += lanes) {
-        const auto v = hn::LoadU(d, pixels + i);
-        every = hn::And(every, v);
-        any = hn::Or(any, v);
-    }
-    std::uint32_t restEvery = ~0u, restAny = 0;
-    for (; i < count; ++i) restEvery &= pixels[i], restAny |= pixels[i];
-    const auto alpha = hn::Set(d, 255u);
-    return {(restEvery & 255) == 255 && hn::AllTrue(d, hn::Eq(hn::And(every, alpha), alpha)),
-            restAny == 0 && hn::AllTrue(d, hn::Eq(any, hn::Zero(d)))};
-}
-
-/// Source-over at full cover: opaque stretches are copied and empty ones left, without reading the destination.
-void overInPieces(std::uint32_t* pixels, const std::uint32_t* source, int count)
-{
-    for (int at = 0; at < count; at += kPiece) {
-        const int piece = std::min(kPiece, count - at);
-        const Look seen = look(source + at, piece);
-        if (seen.opaque)
-            std::memmove(pixels + at, source + at, std::size_t(piece) * 4);
-        else if (!seen.empty)
-            over(pixels + at, {source + at, 0, 255}, piece, [](auto d, std::size_t) ZP_LANES { return all(d, 255); });
-    }
+    forEachVector<std::uint32_t>(std::size_t(count), [=](auto d, std::size_t at) ZP_LANES {
+        const auto from = hn::LoadU(d, source + at), opaque = hn::Set(d, 255u);
+        if (hn::AllTrue(d, hn::Eq(hn::And(from, opaque), opaque))) {
+            hn::StoreU(from, d, pixels + at);
+        } else if (!hn::AllTrue(d, hn::Eq(from, hn::Zero(d)))) {
+            const auto kept = rest(d, alphaOf(d, from));
+            const auto there = widen(d, hn::LoadU(d, pixels + at));
+            hn::StoreU(narrow(d, mixed(d, widen(d, from), all(d, 255), there, kept)), d, pixels + at);
+        }
+    });
 }
 
 void sourceOver(const BlendRun& r, std::uint32_t word, unsigned opacity)
@@ -123,7 +100,7 @@ void sourceOver(const BlendRun& r, std::uint32_t word, unsigned opacity)
         std::fill_n(r.destination, r.count, word);
         return;
     }
-    if (r.source && opacity == 255) return overInPieces(r.destination, r.source, r.count);
+    if (r.source && opacity == 255) return overWhole(r.destination, r.source, r.count);
     const unsigned weight = r.source ? opacity : 255;
     over(r.destination, source, r.count, [=](auto d, std::size_t) ZP_LANES { return all(d, weight); });
 }
