@@ -138,6 +138,21 @@ HWY_INLINE Samples<D> mixed(D d, const Samples<D>& a, hn::Vec<Wide16<D>> wa, con
             divide255(d16, hn::Add(hn::Mul(a.odd, wa), hn::Mul(b.odd, wb)))};
 }
 
+/// Source-over of pixels onto those at @p to; where all are opaque or all are nothing, what is there is not looked at.
+template <class D>
+HWY_INLINE void storeOver(D d, hn::Vec<D> pixels, std::uint32_t* to)
+{
+    const Wide16<D> d16;
+    const auto opaque = hn::Set(d, 255u);
+    if (hn::AllTrue(d, hn::Eq(hn::And(pixels, opaque), opaque))) {
+        hn::StoreU(pixels, d, to);
+    } else if (!hn::AllTrue(d, hn::Eq(pixels, hn::Zero(d)))) {
+        const auto whole = hn::Set(d16, 255), kept = hn::Sub(whole, alphaOf(d, pixels));
+        const auto there = widen(d, hn::LoadU(d, to));
+        hn::StoreU(narrow(d, mixed(d, widen(d, pixels), whole, there, kept)), d, to);
+    }
+}
+
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

@@ -112,6 +112,8 @@ public:
 private:
     void paint(int y, int x0, int x1, const std::uint8_t* cover)
     {
+        const bool wholly = !cover && mOpacity == 255 && mOperation == CompositingOperation::SourceOver;
+        if (wholly && mSampler.drawOver(y, x0, x1, mPixels.row(y) + x0)) return;
         // A shift needs no room: small images drawn by the thousand, a stroke's stamps, should not pay for it.
         if (!mSampler.isShift() && mRoom.size() < std::size_t(x1 - x0)) mRoom.resize(std::size_t(x1 - x0));
         const std::uint32_t* const source = mSampler.generate(y, x0, x1, mRoom.data());

@@ -2,6 +2,7 @@
 /// Averages over cells: rows of pixels are summed first, while they are in cache, then columns.
 #include "drawing/GridAverager.h"
 #include "drawing/Halving.h"
+#include "drawing/ImageDrawingBlend.h"
 #include <algorithm>
 #include <cmath>
 
@@ -73,21 +74,23 @@ GridAverager::GridAverager(ConstBitmapView image, PixelBox part, const Averaging
     findWhole(mRows, grid.top, grid.stepY, part.y0, part.y1);
 }
 
-void GridAverager::average(int row, int first, int last, std::uint32_t* out) const
+void GridAverager::average(int row, int first, int last, std::uint32_t* out, bool over) const
 {
     const AverageCell& cell = mRows.cells[std::size_t(row)];
-    if (mLevel == 0 || row < mRows.wholeFirst || row >= mRows.wholeLast) return averageWeighed(cell, first, last, out);
+    if (mLevel == 0 || row < mRows.wholeFirst || row >= mRows.wholeLast)
+        return averageWeighed(cell, first, last, out, over);
     // The same sums and roundings, without weights.
     const int from = std::clamp(mColumns.wholeFirst, first, last), to = std::clamp(mColumns.wholeLast, from, last);
-    averageWeighed(cell, first, from, out);
+    averageWeighed(cell, first, from, out, over);
     if (from < to)
-        averageSquares(mImage, mColumns.cells[std::size_t(from)].first, cell.first, to - from, mLevel,
-                       out + (from - first));
-    averageWeighed(cell, to, last, out + (to - first));
+        (over ? averageSquaresOver : averageSquares)(mImage, mColumns.cells[std::size_t(from)].first, cell.first,
+                                                     to - from, mLevel, out + (from - first));
+    averageWeighed(cell, to, last, out + (to - first), over);
 }
 
-void GridAverager::averageWeighed(const AverageCell& row, int first, int last, std::uint32_t* out) const
+void GridAverager::averageWeighed(const AverageCell& row, int first, int last, std::uint32_t* out, bool over) const
 {
+    std::uint32_t means[kStretch];
     std::uint32_t room[4 * kStretch];
     std::vector<std::uint32_t> wideRoom;
     const std::uint32_t* const weight = &mRows.weights[row.weights];
@@ -97,7 +100,7 @@ void GridAverager::averageWeighed(const AverageCell& row, int first, int last, s
         int count = 0, high = cells[0].first;
         while (first + count < last) {
             const int end = std::max(high, cells[count].first + cells[count].count);
-            if (count > 0 && end - cells[0].first > kStretch) break;
+            if (count == kStretch || (count > 0 && end - cells[0].first > kStretch)) break;
             high = end;
             ++count;
         }
@@ -110,7 +113,8 @@ void GridAverager::averageWeighed(const AverageCell& row, int first, int last, s
         startWeighing(mImage.pixel(low, row.first), weight[0], sums, 4 * columns);
         for (int k = 1; k < row.count; ++k)
             if (weight[k]) addWeighed(mImage.pixel(low, row.first + k), weight[k], sums, 4 * columns);
-        averageCells(sums, columns, low, cells, mColumns.weights.data(), out, count);
+        averageCells(sums, columns, low, cells, mColumns.weights.data(), over ? means : out, count);
+        if (over) blendRun({out, means, 0, nullptr, count}, CompositingOperation::SourceOver, 255);
         first += count;
         out += count;
     }

@@ -25,7 +25,12 @@ public:
     int columns() const { return int(mColumns.cells.size()); }
     int rows() const { return int(mRows.cells.size()); }
     /// Cells [first, last) of a row of the grid. Any number of threads may ask.
-    void average(int row, int first, int last, std::uint32_t* out) const;
+    void average(int row, int first, int last, std::uint32_t* out) const { average(row, first, last, out, false); }
+    /// The same averages drawn source-over onto @p pixels: one way through them instead of two.
+    void drawOver(int row, int first, int last, std::uint32_t* pixels) const
+    {
+        average(row, first, last, pixels, true);
+    }
 
 private:
     struct Cells {
@@ -34,7 +39,8 @@ private:
         int wholeFirst = 0, wholeLast = 0; ///< cells that lie wholly inside, in a halved grid
         Cells(double start, double step, int count, int low, int high);
     };
-    void averageWeighed(const AverageCell& row, int first, int last, std::uint32_t* out) const;
+    void average(int row, int first, int last, std::uint32_t* out, bool over) const;
+    void averageWeighed(const AverageCell& row, int first, int last, std::uint32_t* out, bool over) const;
 
     ConstBitmapView mImage;
     Cells mColumns, mRows;

@@ -72,7 +72,7 @@ HWY_INLINE Sums<Pixels> sumPairs(Pixels d, const std::uint8_t* pixels, std::ptrd
 }
 
 /// One mean, without looking beyond its square.
-HWY_INLINE std::uint32_t meanOfSquare(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int level)
+HWY_INLINE hn::Vec<Pixel> meanOfSquare(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int level)
 {
     const Pixel d;
     Sums<Pixel> sum{hn::Zero(d), hn::Zero(d)};
@@ -80,17 +80,26 @@ HWY_INLINE std::uint32_t meanOfSquare(const std::uint8_t* pixels, std::ptrdiff_t
         const auto column = sumRows(d, pixels + 4 * i, rowBytes, 1 << level);
         sum = {addHalves(d, sum.even, column.even), addHalves(d, sum.odd, column.odd)};
     }
-    return hn::GetLane(means(d, sum, 2 * level));
+    return means(d, sum, 2 * level);
 }
 
-void averageSquares(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int count, int level, std::uint32_t* out)
+/// @tparam kOver draws the means over what is there, instead of putting them in its place
+template <bool kOver>
+HWY_INLINE void averageInto(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int count, int level,
+                            std::uint32_t* out)
 {
     const Pixels d;
+    const auto store = [](auto tag, auto mean, std::uint32_t* to) ZP_LANES {
+        if constexpr (kOver)
+            storeOver(tag, mean, to);
+        else
+            hn::StoreU(mean, tag, to);
+    };
     const int lanes = int(hn::Lanes(d)), rows = 1 << level;
     int done = 0;
     if (level == 1) {
         for (; done + lanes <= count; done += lanes)
-            hn::StoreU(means(d, sumPairs(d, pixels + std::ptrdiff_t{8} * done, rowBytes, 2), 2), d, out + done);
+            store(d, means(d, sumPairs(d, pixels + std::ptrdiff_t{8} * done, rowBytes, 2), 2), out + done);
     } else {
         // A vector of results takes 1 << level of source: the sums wait in registers' worth of memory.
         constexpr std::size_t kMost = (std::size_t{1} << (kMostHalvings - 1)) * hn::MaxLanes(Pixels());
@@ -111,11 +120,21 @@ void averageSquares(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int cou
                     hn::Store(fold(even, v), d, even + v * lanes);
                     hn::Store(fold(odd, v), d, odd + v * lanes);
                 }
-            hn::StoreU(means(d, Sums<Pixels>{fold(even, 0), fold(odd, 0)}, 2 * level), d, out + done);
+            store(d, means(d, Sums<Pixels>{fold(even, 0), fold(odd, 0)}, 2 * level), out + done);
         }
     }
     for (; done < count; ++done)
-        out[done] = meanOfSquare(pixels + (std::ptrdiff_t{4} * done << level), rowBytes, level);
+        store(Pixel(), meanOfSquare(pixels + (std::ptrdiff_t{4} * done << level), rowBytes, level), out + done);
+}
+
+void averageSquares(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int count, int level, std::uint32_t* out)
+{
+    averageInto<false>(pixels, rowBytes, count, level, out);
+}
+
+void averageSquaresOver(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int count, int level, std::uint32_t* out)
+{
+    averageInto<true>(pixels, rowBytes, count, level, out);
 }
 
 } // namespace zp::HWY_NAMESPACE
@@ -126,10 +145,16 @@ namespace zp
 {
 
 HWY_EXPORT(averageSquares);
+HWY_EXPORT(averageSquaresOver);
 
 void averageSquares(ConstBitmapView image, int x, int y, int count, int level, std::uint32_t* pixels)
 {
     HWY_DYNAMIC_DISPATCH(averageSquares)(image.pixel(x, y), image.rowBytes, count, level, pixels);
+}
+
+void averageSquaresOver(ConstBitmapView image, int x, int y, int count, int level, std::uint32_t* pixels)
+{
+    HWY_DYNAMIC_DISPATCH(averageSquaresOver)(image.pixel(x, y), image.rowBytes, count, level, pixels);
 }
 
 } // namespace zp

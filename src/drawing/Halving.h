@@ -13,5 +13,7 @@ inline constexpr int kMostHalvings = 4;
 /// corner is pixel (x, y). All of them must lie inside the image. @param level 1 to kMostHalvings. Allocates nothing.
 /// Any thread.
 void averageSquares(ConstBitmapView image, int x, int y, int count, int level, std::uint32_t* pixels);
+/// The same means, drawn source-over onto @p pixels.
+void averageSquaresOver(ConstBitmapView image, int x, int y, int count, int level, std::uint32_t* pixels);
 
 } // namespace zp

@@ -68,18 +68,11 @@ HWY_INLINE void over(std::uint32_t* pixels, const Source& source, int count, Wei
     });
 }
 
-/// Source-over at full cover: opaque vectors are copied and empty ones left, without reading the destination.
+/// Source-over at full cover.
 void overWhole(std::uint32_t* pixels, const std::uint32_t* source, int count)
 {
     forEachVector<std::uint32_t>(std::size_t(count), [=](auto d, std::size_t at) ZP_LANES {
-        const auto from = hn::LoadU(d, source + at), opaque = hn::Set(d, 255u);
-        if (hn::AllTrue(d, hn::Eq(hn::And(from, opaque), opaque))) {
-            hn::StoreU(from, d, pixels + at);
-        } else if (!hn::AllTrue(d, hn::Eq(from, hn::Zero(d)))) {
-            const auto kept = rest(d, alphaOf(d, from));
-            const auto there = widen(d, hn::LoadU(d, pixels + at));
-            hn::StoreU(narrow(d, mixed(d, widen(d, from), all(d, 255), there, kept)), d, pixels + at);
-        }
+        storeOver(d, hn::LoadU(d, source + at), pixels + at);
     });
 }
 

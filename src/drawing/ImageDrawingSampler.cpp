@@ -104,6 +104,13 @@ void ImageSampler::reduce(double scaleX, double scaleY, AffineTransform& toTarge
     mDirect = isNearlyShift(toTarget, mPart, mShiftX, mShiftY);
 }
 
+bool ImageSampler::drawOver(int y, int x0, int x1, std::uint32_t* to) const
+{
+    if (!mAverager) return false;
+    mAverager->drawOver(y - mTarget.y0, x0 - mTarget.x0, x1 - mTarget.x0, to);
+    return true;
+}
+
 const std::uint32_t* ImageSampler::generate(int y, int x0, int x1, std::uint32_t* room) const
 {
     if (mShift || mDirect) return mImage.row(y - mShiftY) + (x0 - mShiftX);

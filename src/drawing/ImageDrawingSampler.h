@@ -27,6 +27,9 @@ public:
     /// else written to @p room (x1 - x0 words)
     const std::uint32_t* generate(int y, int x0, int x1, std::uint32_t* room) const;
 
+    /// The same pixels drawn source-over onto @p to. @return false where that is no quicker: then nothing was drawn
+    bool drawOver(int y, int x0, int x1, std::uint32_t* to) const;
+
     /// Whether the map is, to within what an eye could see, a shift by whole pixels.
     bool isShift() const { return mShift; }
     int shiftX() const { return mShiftX; }

@@ -2,6 +2,7 @@
 /// Means of squares, on every vector target, against sums over their pixels.
 #include "drawing/Halving.h"
 #include "base/BitmapRep.h"
+#include "drawing/ImageDrawingBlend.h"
 #include "support/EveryTarget.h"
 #include "support/KernelCases.h"
 #include <gtest/gtest.h>
@@ -39,6 +40,34 @@ TEST(Halving, GivesTheRoundedMeanOfEverySquare)
                         ASSERT_EQ(int(means[std::size_t(i)] >> 8 * c & 255), (sum + side * side / 2) / (side * side))
                             << "level " << level << ", square " << i << " of " << count;
                     }
+            }
+    });
+}
+
+TEST(Halving, MeansDrawnOverAreTheMeansBlended)
+{
+    test::onEveryTarget([] {
+        std::mt19937 random(42);
+        for (int level = 1; level <= kMostHalvings; ++level)
+            for (const int count : {1, 3, 16, 17, 40, 70}) {
+                const auto rep = BitmapRep::create(count << level, 1 << level);
+                // Stretches of opaque, of empty and of any pixels.
+                for (int y = 0; y < 1 << level; ++y) {
+                    const auto pixels = test::extremePixels(random, std::size_t(count) << level);
+                    for (int x = 0; x < count << level; ++x) {
+                        const int kind = (x >> level) / 16 % 3;
+                        rep->view().row(y)[x] = kind == 0   ? pixels[std::size_t(x)] | 255u
+                                                : kind == 1 ? 0
+                                                            : pixels[std::size_t(x)];
+                    }
+                }
+                auto drawn = test::extremePixels(random, std::size_t(count) + 1);
+                auto blended = drawn;
+                std::vector<std::uint32_t> means(static_cast<std::size_t>(count));
+                averageSquares(rep->view(), 0, 0, count, level, means.data());
+                blendRun({blended.data(), means.data(), 0, nullptr, count}, CompositingOperation::SourceOver, 255);
+                averageSquaresOver(rep->view(), 0, 0, count, level, drawn.data());
+                ASSERT_EQ(drawn, blended) << "level " << level << ", " << count;
             }
     });
 }
