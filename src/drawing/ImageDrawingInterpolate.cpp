@@ -4,16 +4,19 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstring>
-#if defined(__x86_64__)
-#include <immintrin.h>
-#endif
 
-namespace zp
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "drawing/ImageDrawingInterpolate.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "base/PixelVectors-inl.h"
+
+#ifndef ZP_IMAGE_DRAWING_INTERPOLATE_ONCE
+#define ZP_IMAGE_DRAWING_INTERPOLATE_ONCE
+namespace zp::interpolation
 {
 
-namespace
-{
 constexpr int kPhases = 256;
 /// Samples carry six bits below the point: with the curve's overshoot they just fit 16 bits.
 constexpr int kSampleBits = 6;
@@ -40,35 +43,7 @@ struct Weights {
     }
 };
 
-const Weights& weights()
-{
-    static const Weights table;
-    return table;
-}
-
-/// What one vector instruction does: the high half of the product, rounded.
-inline int rounded15(int a, int b) { return (a * b + 0x4000) >> 15; }
-
-/// @param rows the first of four pixels in each of four rows
-inline std::uint32_t interpolatePixel(const std::uint8_t* const (&rows)[4], int phaseX, int phaseY, const Weights& w)
-{
-    int result[4];
-    for (int channel = 0; channel < 4; ++channel) {
-        int sum = 0;
-        for (int column = 0; column < 4; ++column) {
-            int v = 0;
-            for (int row = 0; row < 4; ++row)
-                v += rounded15(rows[row][column * 4 + channel] << kSampleBits, w.each[phaseY][row]);
-            sum += rounded15(v, w.each[phaseX][column]);
-        }
-        result[channel] = std::clamp((sum + (1 << (kSampleBits - 1))) >> kSampleBits, 0, 255);
-    }
-    std::uint32_t word = std::uint32_t(result[0]);
-    for (int channel = 1; channel < 4; ++channel)
-        word |= std::uint32_t(std::min(result[channel], result[0])) << (8 * channel);
-    return word;
-}
-
+/// The pixel at or before a place, and how far behind it the place lies.
 struct Position {
     int column, row, phaseX, phaseY;
 };
@@ -80,18 +55,120 @@ inline Position positionAt(const SampleLine& line, std::int64_t k)
     return {int(x >> 32), int(y >> 32), int((x >> 24) & 255), int((y >> 24) & 255)};
 }
 
-/// Near and beyond the border: the four by four pixels are gathered first, each from the nearest that exists.
-std::uint32_t interpolateAtBorder(ConstBitmapView image, PixelBox part, Position p, const Weights& w)
+} // namespace zp::interpolation
+#endif
+
+HWY_BEFORE_NAMESPACE();
+namespace zp::HWY_NAMESPACE
 {
+
+using namespace interpolation;
+using Four = hn::CappedTag<std::int16_t, 16>; ///< the samples of four pixels, or of two where vectors are short
+using Two = hn::FixedTag<std::int16_t, 8>;
+
+/// Four rows from @p at on, weighed and summed, then weighed across: each pixel of the four its share of the result.
+HWY_INLINE hn::Vec<Four> weighedColumns(const std::uint8_t* at, std::ptrdiff_t rowBytes, const std::int16_t* down,
+                                        const std::int16_t* across)
+{
+    const Four d;
+    const hn::Rebind<std::uint8_t, Four> bytes;
+    auto columns = hn::Zero(d);
+    for (int r = 0; r < 4; ++r) {
+        const auto row = hn::ShiftLeft<kSampleBits>(hn::PromoteTo(d, hn::LoadU(bytes, at + r * rowBytes)));
+        columns = hn::Add(columns, hn::MulFixedPoint15(row, hn::Set(d, down[r])));
+    }
+    return hn::MulFixedPoint15(columns, hn::Load(d, across));
+}
+
+/// The result at a position as two pixels' worth of samples whose sum it is.
+HWY_INLINE hn::Vec<Two> twoParts(ConstBitmapView image, const SampleLine& line, std::int64_t k, const Weights& w)
+{
+    const Position p = positionAt(line, k);
+    const std::uint8_t* const at = image.pixel(p.column - 1, p.row - 1);
+    const std::int16_t* const down = w.each[p.phaseY];
+    const std::int16_t* const across = w.spread[p.phaseX];
+#if HWY_MAX_BYTES >= 32
+    const auto four = weighedColumns(at, image.rowBytes, down, across);
+    return hn::Add(hn::LowerHalf(Two(), four), hn::UpperHalf(Two(), four));
+#else
+    return hn::Add(weighedColumns(at, image.rowBytes, down, across),
+                   weighedColumns(at + 8, image.rowBytes, down, across + 8));
+#endif
+}
+
+/// Two results, rounded to whole levels.
+HWY_INLINE hn::Vec<Two> twoPixels(ConstBitmapView image, const SampleLine& line, std::int64_t k, std::int64_t next,
+                                  const Weights& w)
+{
+    const Two d;
+    const hn::Repartition<std::uint64_t, Two> pixels;
+    const auto a = hn::BitCast(pixels, twoParts(image, line, k, w));
+    const auto b = hn::BitCast(pixels, twoParts(image, line, next, w));
+    const auto sum =
+        hn::Add(hn::BitCast(d, hn::InterleaveLower(pixels, a, b)), hn::BitCast(d, hn::InterleaveUpper(pixels, a, b)));
+    return hn::ShiftRight<kSampleBits>(hn::Add(sum, hn::Set(d, 1 << (kSampleBits - 1))));
+}
+
+/// Positions [first, last) of the line, all of whose four by four pixels exist.
+void interpolateInside(ConstBitmapView image, const SampleLine& line, const Weights& w, std::uint32_t* out,
+                       std::int64_t first, std::int64_t last)
+{
+    const hn::FixedTag<std::uint32_t, 4> d;
+    const hn::FixedTag<std::uint8_t, 8> half;
+    const hn::FixedTag<std::uint8_t, 16> bytes;
+    const auto four = [&](std::int64_t a, std::int64_t b, std::int64_t c, std::int64_t e) ZP_LANES {
+        const auto low = hn::DemoteTo(half, twoPixels(image, line, a, b, w));
+        const auto high = hn::DemoteTo(half, twoPixels(image, line, c, e, w));
+        return withColourAtMostAlpha(d, hn::BitCast(d, hn::Combine(bytes, high, low)));
+    };
+    std::int64_t k = first;
+    for (; k + 4 <= last; k += 4) hn::StoreU(four(k, k + 1, k + 2, k + 3), d, out + k);
+    if (k >= last) return;
+    HWY_ALIGN std::uint32_t rest[4];
+    hn::Store(four(k, std::min(k + 1, last - 1), std::min(k + 2, last - 1), k), d, rest);
+    std::copy_n(rest, last - k, out + k);
+}
+
+} // namespace zp::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace zp
+{
+
+HWY_EXPORT(interpolateInside);
+
+namespace
+{
+
+using namespace interpolation;
+
+const Weights& weights()
+{
+    static const Weights table;
+    return table;
+}
+
+void interpolateInside(ConstBitmapView image, const SampleLine& line, std::uint32_t* out, std::int64_t first,
+                       std::int64_t last)
+{
+    HWY_DYNAMIC_DISPATCH(interpolateInside)(image, line, weights(), out, first, last);
+}
+
+/// Near and beyond the border: the four by four pixels are gathered first, each from the nearest that exists.
+void interpolateAtBorder(ConstBitmapView image, PixelBox part, const SampleLine& line, std::int64_t k,
+                         std::uint32_t* out)
+{
+    const Position p = positionAt(line, k);
     std::uint32_t gathered[4][4];
     for (int row = 0; row < 4; ++row) {
         const std::uint32_t* const in = image.row(std::clamp(p.row - 1 + row, part.y0, part.y1 - 1));
         for (int column = 0; column < 4; ++column)
             gathered[row][column] = in[std::clamp(p.column - 1 + column, part.x0, part.x1 - 1)];
     }
-    const std::uint8_t* rows[4];
-    for (int row = 0; row < 4; ++row) rows[row] = reinterpret_cast<const std::uint8_t*>(gathered[row]);
-    return interpolatePixel({rows[0], rows[1], rows[2], rows[3]}, p.phaseX, p.phaseY, w);
+    const ConstBitmapView around{reinterpret_cast<const std::uint8_t*>(gathered), 4, 4, sizeof gathered[0]};
+    const auto within = [](int phase) { return (std::int64_t{1} << 32) + (std::int64_t{phase} << 24); };
+    interpolateInside(around, {within(p.phaseX), within(p.phaseY), 0, 0}, out + k, 0, 1);
 }
 
 /// Narrows [first, last) to the k for which low <= start + k * step < high.
@@ -113,61 +190,9 @@ void narrow(std::int64_t start, std::int64_t step, std::int64_t low, std::int64_
     if (last < first) last = first;
 }
 
-void interpolateInside(ConstBitmapView image, const SampleLine& line, std::uint32_t* out, std::int64_t first,
-                       std::int64_t last)
-{
-    const Weights& w = weights();
-    for (std::int64_t k = first; k < last; ++k) {
-        const Position p = positionAt(line, k);
-        const std::uint8_t* const at = image.pixel(p.column - 1, p.row - 1);
-        const std::uint8_t* const rows[4] = {at, at + image.rowBytes, at + 2 * image.rowBytes, at + 3 * image.rowBytes};
-        out[k] = interpolatePixel(rows, p.phaseX, p.phaseY, w);
-    }
-}
+} // namespace
 
-#if defined(__x86_64__)
-__attribute__((target("avx2"))) inline __m128i interpolateOne(ConstBitmapView image, const SampleLine& line,
-                                                              std::int64_t k, const Weights& w)
-{
-    const Position p = positionAt(line, k);
-    const std::uint8_t* at = image.pixel(p.column - 1, p.row - 1);
-    const auto row = [&](int r) __attribute__((target("avx2")))
-    {
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + r * image.rowBytes));
-        return _mm256_mulhrs_epi16(_mm256_slli_epi16(_mm256_cvtepu8_epi16(bytes), kSampleBits),
-                                   _mm256_set1_epi16(w.each[p.phaseY][r]));
-    };
-    const __m256i columns = _mm256_add_epi16(_mm256_add_epi16(row(0), row(1)), _mm256_add_epi16(row(2), row(3)));
-    const __m256i weighted =
-        _mm256_mulhrs_epi16(columns, _mm256_load_si256(reinterpret_cast<const __m256i*>(w.spread[p.phaseX])));
-    const __m128i halves = _mm_add_epi16(_mm256_castsi256_si128(weighted), _mm256_extracti128_si256(weighted, 1));
-    return _mm_add_epi16(halves, _mm_unpackhi_epi64(halves, halves));
-}
-
-__attribute__((target("avx2"))) void interpolateInsideAvx2(ConstBitmapView image, const SampleLine& line,
-                                                           std::uint32_t* out, std::int64_t first, std::int64_t last)
-{
-    const Weights& w = weights();
-    const __m128i half = _mm_set1_epi16(1 << (kSampleBits - 1));
-    const __m128i alphaOfEach = _mm_setr_epi8(0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12);
-    std::int64_t k = first;
-    for (; k + 4 <= last; k += 4) {
-        const __m128i a = _mm_unpacklo_epi64(interpolateOne(image, line, k, w), interpolateOne(image, line, k + 1, w));
-        const __m128i b =
-            _mm_unpacklo_epi64(interpolateOne(image, line, k + 2, w), interpolateOne(image, line, k + 3, w));
-        const __m128i bytes = _mm_packus_epi16(_mm_srai_epi16(_mm_add_epi16(a, half), kSampleBits),
-                                               _mm_srai_epi16(_mm_add_epi16(b, half), kSampleBits));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(out + k),
-                         _mm_min_epu8(bytes, _mm_shuffle_epi8(bytes, alphaOfEach)));
-    }
-    interpolateInside(image, line, out, k, last);
-}
-#endif
-
-using InsideFunction = void (*)(ConstBitmapView, const SampleLine&, std::uint32_t*, std::int64_t, std::int64_t);
-
-void interpolateWith(InsideFunction inside, ConstBitmapView image, PixelBox part, SampleLine line, std::uint32_t* out,
-                     int count)
+void interpolateLine(ConstBitmapView image, PixelBox part, SampleLine line, std::uint32_t* out, int count)
 {
     // Where all four by four pixels exist, they are read straight from the rows.
     std::int64_t first = 0, last = count;
@@ -177,25 +202,10 @@ void interpolateWith(InsideFunction inside, ConstBitmapView image, PixelBox part
     narrow(line.y + half, line.dy, position(part.y0 + 1), position(part.y1 - 2), first, last);
     first = std::min<std::int64_t>(first, count);
     last = std::clamp<std::int64_t>(last, first, count);
-    const Weights& w = weights();
-    for (std::int64_t k = 0; k < first; ++k) out[k] = interpolateAtBorder(image, part, positionAt(line, k), w);
-    inside(image, line, out, first, last);
-    for (std::int64_t k = last; k < count; ++k) out[k] = interpolateAtBorder(image, part, positionAt(line, k), w);
-}
-} // namespace
-
-void interpolateLinePlain(ConstBitmapView image, PixelBox part, SampleLine line, std::uint32_t* out, int count)
-{
-    interpolateWith(interpolateInside, image, part, line, out, count);
-}
-
-void interpolateLine(ConstBitmapView image, PixelBox part, SampleLine line, std::uint32_t* out, int count)
-{
-#if defined(__x86_64__)
-    static const bool avx2 = __builtin_cpu_supports("avx2");
-    if (avx2) return interpolateWith(interpolateInsideAvx2, image, part, line, out, count);
-#endif
-    interpolateWith(interpolateInside, image, part, line, out, count);
+    for (std::int64_t k = 0; k < first; ++k) interpolateAtBorder(image, part, line, k, out);
+    interpolateInside(image, line, out, first, last);
+    for (std::int64_t k = last; k < count; ++k) interpolateAtBorder(image, part, line, k, out);
 }
 
 } // namespace zp
+#endif

@@ -58,7 +58,5 @@ struct SampleLine {
     std::int64_t x = 0, y = 0, dx = 0, dy = 0;
 };
 void interpolateLine(ConstBitmapView image, PixelBox part, SampleLine line, std::uint32_t* out, int count);
-/// The same bytes without vector instructions, for tests.
-void interpolateLinePlain(ConstBitmapView image, PixelBox part, SampleLine line, std::uint32_t* out, int count);
 
 } // namespace zp

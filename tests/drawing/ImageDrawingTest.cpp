@@ -5,6 +5,7 @@
 #include "drawing/BitmapContext.h"
 #include "drawing/ImageDrawingBlend.h"
 #include "drawing/ImageDrawingSampler.h"
+#include "support/EveryTarget.h"
 #include <array>
 #include <cmath>
 #include <functional>
@@ -506,24 +507,67 @@ TEST(ImageDrawing, APictureInPartsIsTheSameAsWhole)
         }
 }
 
-TEST(Interpolation, VectorsGiveTheSameBytesAsPlainCode)
+/// a * b / 2^15, rounded half up.
+int rounded15(int a, int b) { return (a * b + 0x4000) >> 15; }
+
+/// The curve's shares of the four neighbours at a phase of 256.
+std::array<int, 4> curveShares(int phase)
+{
+    const double t = phase / 256.0;
+    const double w[4] = {((-0.5 * t + 1) * t - 0.5) * t, (1.5 * t - 2.5) * t * t + 1, ((-1.5 * t + 2) * t + 0.5) * t,
+                         (0.5 * t - 0.5) * t * t};
+    std::array<int, 4> shares;
+    int rest = 32768;
+    for (std::size_t k = 0; k < 4; ++k) rest -= shares[k] = int(std::min(32767L, std::lround(w[k] * 32768)));
+    int& largest = shares[phase < 128 ? 1 : 2];
+    largest = std::min(32767, largest + rest);
+    return shares;
+}
+
+TEST(Interpolation, IsTheFixedPointSumOnEveryTarget)
 {
     const auto image = noise(70, 50, 15);
-    std::mt19937_64 random(16);
-    for (int round = 0; round < 500; ++round) {
-        const auto number = [&](double low, double high) {
-            return std::int64_t((low + (high - low) * double(random() % 100000) / 100000) * 4294967296.0);
-        };
-        const SampleLine line{number(-20, 80), number(-20, 60), number(-1.5, 1.5), number(-1.5, 1.5)};
-        std::vector<std::uint32_t> a(90), b(90);
-        interpolateLine(image->view(), image->view().box(), line, a.data(), 90);
-        interpolateLinePlain(image->view(), image->view().box(), line, b.data(), 90);
-        ASSERT_EQ(a, b) << "round " << round;
-        const PixelBox part{20, 10, 23, 13}; // smaller than the curve's reach
-        interpolateLine(image->view(), part, line, a.data(), 90);
-        interpolateLinePlain(image->view(), part, line, b.data(), 90);
-        ASSERT_EQ(a, b) << "round " << round;
-    }
+    const auto expected = [&](PixelBox part, const SampleLine& line, std::int64_t k) {
+        const std::int64_t half = std::int64_t{1} << 23;
+        const std::int64_t x = line.x + k * line.dx + half, y = line.y + k * line.dy + half;
+        const auto across = curveShares(int(x >> 24 & 255)), down = curveShares(int(y >> 24 & 255));
+        std::uint32_t word = 0;
+        int alpha = 255;
+        for (int channel = 0; channel < 4; ++channel) {
+            int sum = 0;
+            for (int column = 0; column < 4; ++column) {
+                int v = 0;
+                for (int row = 0; row < 4; ++row) {
+                    const int px = std::clamp(int(x >> 32) - 1 + column, part.x0, part.x1 - 1);
+                    const int py = std::clamp(int(y >> 32) - 1 + row, part.y0, part.y1 - 1);
+                    v += rounded15(channelOf(image->view().row(py)[px], channel) << 6, down[std::size_t(row)]);
+                }
+                sum += rounded15(v, across[std::size_t(column)]);
+            }
+            const int level = std::clamp((sum + 32) >> 6, 0, alpha);
+            if (channel == 0) alpha = level;
+            word |= std::uint32_t(level) << 8 * channel;
+        }
+        return word;
+    };
+    test::onEveryTarget([&] {
+        std::mt19937_64 random(16);
+        for (int round = 0; round < 200; ++round) {
+            const auto number = [&](double low, double high) {
+                return std::int64_t((low + (high - low) * double(random() % 100000) / 100000) * 4294967296.0);
+            };
+            const SampleLine line{number(-20, 80), number(-20, 60), number(-1.5, 1.5), number(-1.5, 1.5)};
+            // The second part is smaller than the curve's reach.
+            for (const PixelBox part : {image->view().box(), PixelBox{20, 10, 23, 13}}) {
+                const int count = 80 + round % 11;
+                std::vector<std::uint32_t> got(std::size_t(count) + 1, 0x5A5A5A5A);
+                interpolateLine(image->view(), part, line, got.data(), count);
+                ASSERT_EQ(got.back(), 0x5A5A5A5Au);
+                for (int k = 0; k < count; ++k)
+                    ASSERT_EQ(got[std::size_t(k)], expected(part, line, k)) << "round " << round << ", " << k;
+            }
+        }
+    });
 }
 
 TEST(Interpolation, OnPixelsItIsTheIdentity)
