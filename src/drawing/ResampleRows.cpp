@@ -1,241 +1,215 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Row passes of the resampler: plain loops that vectorise, and the pass along a row by hand.
+/// Row passes of the resampler in 16-bit lanes.
 #include "drawing/ResampleRows.h"
-#include "base/Simd.h"
 #include <algorithm>
-#include <cmath>
-#include <cstring>
-#if defined(__x86_64__)
-#include <immintrin.h>
-#endif
 
-namespace zp::resampling
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "drawing/ResampleRows.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "base/PixelVectors-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zp::HWY_NAMESPACE
 {
 
-namespace
-{
+using resampling::kFirstBits;
+using resampling::kSourceBits;
+using resampling::kTapGroup;
+using resampling::Wide;
 
-/// a * b / 32768, rounded; the form the compiler knows as one instruction.
-inline Wide mulRound(Wide a, Wide b) { return Wide(((std::int32_t(a) * b >> 14) + 1) >> 1); }
-
-/// Rows times their shares, from sample @p from on.
-void sumRowsPlain(const std::uint8_t* const* rows, const std::int16_t* shares, int count, Wide* out, int from,
-                  int samples)
+template <class D>
+HWY_INLINE hn::Vec<D> widened(D d, const std::uint8_t* bytes)
 {
-    for (int i = from; i < samples; ++i) {
-        int sum = 0;
-        for (int k = 0; k < count; ++k) sum += mulRound(Wide(rows[k][i] << kSourceBits), shares[k]);
-        out[i] = Wide(sum);
+    return hn::ShiftLeft<kSourceBits>(hn::PromoteTo(d, hn::LoadU(hn::Rebind<std::uint8_t, D>(), bytes)));
+}
+
+void widenRow(const std::uint32_t* pixels, Wide* out, int count)
+{
+    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(pixels);
+    forEachVector<Wide>(std::size_t(count) * 4,
+                        [=](auto d, std::size_t at) ZP_LANES { hn::StoreU(widened(d, bytes + at), d, out + at); });
+}
+
+/// Rows times their shares, for so many vectors at once: their sums stay in registers, each share is loaded once.
+template <int kVectors, class D>
+HWY_INLINE void sumRowsAt(D d, const std::uint8_t* const* rows, const std::int16_t* shares, int count, std::size_t at,
+                          Wide* out)
+{
+    const std::size_t lanes = hn::Lanes(d);
+    hn::Vec<D> sum[kVectors];
+    for (auto& s : sum) s = hn::Zero(d);
+    for (int k = 0; k < count; ++k) {
+        const auto share = hn::Set(d, shares[k]);
+        for (std::size_t v = 0; v < kVectors; ++v)
+            sum[v] = hn::Add(sum[v], hn::MulFixedPoint15(widened(d, rows[k] + at + v * lanes), share));
     }
+    for (std::size_t v = 0; v < kVectors; ++v) hn::StoreU(sum[v], d, out + at + v * lanes);
 }
 
-ZP_MULTIVERSION void addLong(const std::uint8_t* __restrict bytes, std::uint32_t share, std::uint32_t* __restrict sums,
-                             int samples)
+void sumRows(const std::uint8_t* const* rows, const std::int16_t* shares, int count, Wide* out, int samples)
 {
-    for (int i = 0; i < samples; ++i) sums[i] += bytes[i] * share;
+    constexpr int kVectors = 4;
+    const hn::ScalableTag<Wide> d;
+    const std::size_t step = kVectors * hn::Lanes(d), all = std::size_t(samples);
+    std::size_t at = 0;
+    for (; at + step <= all; at += step) sumRowsAt<kVectors>(d, rows, shares, count, at, out);
+    forEachVector<Wide>(all - at, [=](auto tag, std::size_t more)
+                                      ZP_LANES { sumRowsAt<1>(tag, rows, shares, count, at + more, out); });
 }
 
-ZP_MULTIVERSION void shortenLong(const std::uint32_t* __restrict sums, Wide* __restrict out, int samples)
+void addLong(const std::uint8_t* bytes, std::uint32_t share, std::uint32_t* sums, int samples)
+{
+    forEachVector<std::uint32_t>(std::size_t(samples), [=](auto d, std::size_t at) ZP_LANES {
+        const auto wide = hn::PromoteTo(d, hn::LoadU(hn::Rebind<std::uint8_t, decltype(d)>(), bytes + at));
+        hn::StoreU(hn::Add(hn::LoadU(d, sums + at), hn::Mul(wide, hn::Set(d, share))), d, sums + at);
+    });
+}
+
+void shortenLong(const std::uint32_t* sums, Wide* out, int samples)
 {
     // From shares of 16384 to kFirstBits.
     constexpr int kShift = 14 - kFirstBits;
-    for (int i = 0; i < samples; ++i) out[i] = Wide((sums[i] + (1u << (kShift - 1))) >> kShift);
+    forEachVector<std::uint32_t>(std::size_t(samples), [=](auto d, std::size_t at) ZP_LANES {
+        const hn::Rebind<std::int32_t, decltype(d)> whole;
+        const hn::Rebind<Wide, decltype(d)> narrow;
+        const auto rounded = hn::ShiftRight<kShift>(hn::Add(hn::LoadU(d, sums + at), hn::Set(d, 1u << (kShift - 1))));
+        hn::StoreU(hn::DemoteTo(narrow, hn::BitCast(whole, rounded)), narrow, out + at);
+    });
 }
 
-/// Places with too many shares for rounded products. Only those that count are read: the last place may have few.
-ZP_MULTIVERSION void sumAlongExact(const Wide* __restrict row, const int* __restrict first, const int* __restrict count,
-                                   const std::int16_t* __restrict shares, int perPlace, Wide* __restrict out,
-                                   int places)
+void sumAlongExact(const Wide* row, const int* first, const int* count, const std::int16_t* shares, int perPlace,
+                   Wide* out, int places)
 {
-    for (int x = 0; x < places; ++x) {
-        const Wide* p = row + std::ptrdiff_t{4} * first[x];
-        std::int32_t sum[4] = {1 << 14, 1 << 14, 1 << 14, 1 << 14};
+    const hn::FixedTag<std::int32_t, 4> d;
+    const hn::Rebind<Wide, decltype(d)> narrow;
+    for (int x = 0; x < places; ++x, shares += perPlace) {
+        const Wide* const p = row + std::ptrdiff_t{4} * first[x];
+        auto sum = hn::Set(d, 1 << 14);
         for (int k = 0; k < count[x]; ++k)
-            for (int c = 0; c < 4; ++c) sum[c] += p[4 * k + c] * shares[k];
-        for (int c = 0; c < 4; ++c) out[4 * x + c] = Wide(sum[c] >> 15);
-        shares += perPlace;
+            sum = hn::Add(sum, hn::Mul(hn::PromoteTo(d, hn::LoadU(narrow, p + 4 * k)), hn::Set(d, shares[k])));
+        hn::StoreU(hn::DemoteTo(narrow, hn::ShiftRight<15>(sum)), narrow, out + 4 * x);
     }
 }
 
-void sumAlongPlain(const Wide* row, const int* first, const std::int16_t* shares, int perPlace, Wide* out, int places)
+/// As many pixels as a vector holds times as many shares, each share once for every sample of its pixel.
+template <class D>
+HWY_INLINE hn::Vec<D> products(D d, const Wide* pixels, const std::int16_t* shares)
 {
-    for (int x = 0; x < places; ++x) {
-        const Wide* p = row + std::ptrdiff_t{4} * first[x];
-        int sum[4] = {0, 0, 0, 0};
-        for (int k = 0; k < perPlace; ++k)
-            for (int c = 0; c < 4; ++c) sum[c] += mulRound(p[4 * k + c], shares[k]);
-        for (int c = 0; c < 4; ++c) out[4 * x + c] = Wide(sum[c]);
-        shares += perPlace;
-    }
+    const hn::Repartition<std::uint8_t, D> bytes;
+    // Byte 2s of share s, four times over: every block of 16 bytes picks its own two.
+    HWY_ALIGN static constexpr std::uint8_t kSpread[64] = {
+        0,  1,  0,  1,  0,  1,  0,  1,  2,  3,  2,  3,  2,  3,  2,  3,  4,  5,  4,  5,  4,  5,
+        4,  5,  6,  7,  6,  7,  6,  7,  6,  7,  8,  9,  8,  9,  8,  9,  8,  9,  10, 11, 10, 11,
+        10, 11, 10, 11, 12, 13, 12, 13, 12, 13, 12, 13, 14, 15, 14, 15, 14, 15, 14, 15};
+    const auto each = hn::TableLookupBytes(hn::LoadDup128(bytes, reinterpret_cast<const std::uint8_t*>(shares)),
+                                           hn::Load(bytes, kSpread));
+    return hn::MulFixedPoint15(hn::LoadU(d, pixels), hn::BitCast(d, each));
 }
 
-#if defined(__x86_64__)
-#define ZP_AVX2 __attribute__((target("avx2")))
-
-/// Four pixels times their four shares; the products of a place lie in the four quarters.
-ZP_AVX2 inline __m256i products(const Wide* pixels, const std::int16_t* shares)
+/// The products of a place, its pixels side by side.
+template <class D>
+HWY_INLINE hn::Vec<D> placeProducts(D d, const Wide* row, int first, const std::int16_t* shares, int perPlace)
 {
-    // Each share four times: the 8 bytes of four shares to both halves, then each word spread over its quarter.
-    const __m256i four = _mm256_set1_epi64x([&] {
-        long long v;
-        std::memcpy(&v, shares, sizeof v);
-        return v;
-    }());
-    const __m256i spread = _mm256_setr_epi8(0, 1, 0, 1, 0, 1, 0, 1, 2, 3, 2, 3, 2, 3, 2, 3, //
-                                            4, 5, 4, 5, 4, 5, 4, 5, 6, 7, 6, 7, 6, 7, 6, 7);
-    return _mm256_mulhrs_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(pixels)),
-                               _mm256_shuffle_epi8(four, spread));
-}
-
-ZP_AVX2 inline __m256i placeProducts(const Wide* row, int first, const std::int16_t* shares, int perPlace)
-{
-    const Wide* p = row + std::ptrdiff_t{4} * first;
-    __m256i sum = products(p, shares);
-    for (int k = kTapGroup; k < perPlace; k += kTapGroup) sum = _mm256_add_epi16(sum, products(p + 4 * k, shares + k));
+    constexpr int kPixels = int(hn::MaxLanes(D())) / 4;
+    const Wide* const p = row + std::ptrdiff_t{4} * first;
+    auto sum = products(d, p, shares);
+    for (int k = kPixels; k < perPlace; k += kPixels) sum = hn::Add(sum, products(d, p + 4 * k, shares + k));
     return sum;
 }
 
-ZP_AVX2 void sumAlongAvx2(const Wide* row, const int* first, const std::int16_t* shares, int perPlace, Wide* out,
-                          int places)
+/// Adds up the pixels of every place; perPlace is a multiple of the pixels of a vector.
+template <class D>
+HWY_INLINE void sumAlongBy(D d, const Wide* row, const int* first, const std::int16_t* shares, int perPlace, Wide* out,
+                           int places)
 {
+    // In blocks of two pixels: a pair of places leaves its two sums in every block, whose sum is what is left to do.
+    const hn::Repartition<std::uint64_t, D> pixels;
+    const hn::FixedTag<Wide, 8> block;
+    const auto pairOf = [&](int x, int next) ZP_LANES {
+        const auto a = hn::BitCast(pixels, placeProducts(d, row, first[x], shares + x * perPlace, perPlace));
+        const auto b = hn::BitCast(pixels, placeProducts(d, row, first[next], shares + next * perPlace, perPlace));
+        const auto sum = hn::Add(hn::BitCast(d, hn::InterleaveLower(pixels, a, b)),
+                                 hn::BitCast(d, hn::InterleaveUpper(pixels, a, b)));
+        if constexpr (hn::MaxLanes(D()) == 8) {
+            return sum;
+        } else {
+            const hn::Half<D> half;
+            const auto two = hn::Add(hn::LowerHalf(half, sum), hn::UpperHalf(half, sum));
+            if constexpr (hn::MaxLanes(D()) == 16) {
+                return two;
+            } else {
+                return hn::Add(hn::LowerHalf(block, two), hn::UpperHalf(block, two));
+            }
+        }
+    };
     int x = 0;
-    for (; x + 4 <= places; x += 4) {
-        __m256i p[4];
-        for (int i = 0; i < 4; ++i) p[i] = placeProducts(row, first[x + i], shares + i * perPlace, perPlace);
-        // Quarters added up across the four places, so that they come out in order.
-        const __m256i even =
-            _mm256_add_epi16(_mm256_permute2x128_si256(p[0], p[2], 0x20), _mm256_permute2x128_si256(p[0], p[2], 0x31));
-        const __m256i odd =
-            _mm256_add_epi16(_mm256_permute2x128_si256(p[1], p[3], 0x20), _mm256_permute2x128_si256(p[1], p[3], 0x31));
-        const __m256i sum = _mm256_add_epi16(_mm256_unpacklo_epi64(even, odd), _mm256_unpackhi_epi64(even, odd));
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(out + 4 * x), sum);
-        shares += 4 * perPlace;
+    for (; x + 2 <= places; x += 2) hn::StoreU(pairOf(x, x + 1), block, out + 4 * x);
+    if (x < places) {
+        const hn::FixedTag<Wide, 4> one;
+        hn::StoreU(hn::LowerHalf(one, pairOf(x, x)), one, out + 4 * x);
     }
-    sumAlongPlain(row, first + x, shares, perPlace, out + 4 * x, places - x);
 }
 
-/// All rows of a block are summed before the next block: the sums stay in registers. @return samples done
-ZP_AVX2 int sumRowsAvx2(const std::uint8_t* const* rows, const std::int16_t* shares, int count, Wide* out, int samples)
+void sumAlong(const Wide* row, const int* first, const std::int16_t* shares, int perPlace, Wide* out, int places)
 {
-    int i = 0;
-    for (; i + 64 <= samples; i += 64) {
-        __m256i sum[4] = {};
-        for (int k = 0; k < count; ++k) {
-            const __m256i share = _mm256_set1_epi16(shares[k]);
-            for (int v = 0; v < 4; ++v) {
-                const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(rows[k] + i + 16 * v));
-                const __m256i wide = _mm256_slli_epi16(_mm256_cvtepu8_epi16(bytes), kSourceBits);
-                sum[v] = _mm256_add_epi16(sum[v], _mm256_mulhrs_epi16(wide, share));
-            }
-        }
-        for (int v = 0; v < 4; ++v) _mm256_storeu_si256(reinterpret_cast<__m256i*>(out + i + 16 * v), sum[v]);
-    }
-    return i;
-}
-
-__attribute__((target("avx512f,avx512bw"))) int
-sumRowsAvx512(const std::uint8_t* const* rows, const std::int16_t* shares, int count, Wide* out, int samples)
-{
-    int i = 0;
-    for (; i + 128 <= samples; i += 128) {
-        __m512i sum[4] = {};
-        for (int k = 0; k < count; ++k) {
-            const __m512i share = _mm512_set1_epi16(shares[k]);
-            for (int v = 0; v < 4; ++v) {
-                const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(rows[k] + i + 32 * v));
-                const __m512i wide = _mm512_slli_epi16(_mm512_cvtepu8_epi16(bytes), kSourceBits);
-                sum[v] = _mm512_add_epi16(sum[v], _mm512_mulhrs_epi16(wide, share));
-            }
-        }
-        for (int v = 0; v < 4; ++v) _mm512_storeu_si512(out + i + 32 * v, sum[v]);
-    }
-    return i;
-}
-
-ZP_AVX2 int finishAvx2(const Wide* row, std::uint32_t* pixels, int count, int bits)
-{
-    const __m256i half = _mm256_set1_epi16(std::int16_t(1 << (bits - 1)));
-    const __m256i zero = _mm256_setzero_si256(), most = _mm256_set1_epi16(255);
-    const __m128i shift = _mm_cvtsi32_si128(bits);
-    int i = 0;
-    for (; i + 8 <= count; i += 8) {
-        __m256i v[2];
-        for (int h = 0; h < 2; ++h) {
-            const __m256i wide = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(row + 4 * i + 16 * h));
-            const __m256i levels =
-                _mm256_min_epi16(most, _mm256_max_epi16(zero, _mm256_sra_epi16(_mm256_add_epi16(wide, half), shift)));
-            const __m256i alpha = _mm256_shufflehi_epi16(_mm256_shufflelo_epi16(levels, 0), 0);
-            v[h] = _mm256_min_epi16(levels, alpha);
-        }
-        const __m256i bytes = _mm256_permute4x64_epi64(_mm256_packus_epi16(v[0], v[1]), 0xD8);
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(pixels + i), bytes);
-    }
-    return i;
-}
+#if HWY_MAX_BYTES >= 64
+    const hn::CappedTag<Wide, 32> eight;
+    if (perPlace % 8 == 0) return sumAlongBy(eight, row, first, shares, perPlace, out, places);
 #endif
-
-bool haveAvx512()
-{
-#if defined(__x86_64__)
-    static const bool have = __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw");
-    return have;
-#else
-    return false;
-#endif
+    static_assert(kTapGroup == 4);
+    sumAlongBy(hn::CappedTag<Wide, 16>(), row, first, shares, perPlace, out, places);
 }
 
-bool haveAvx2()
+void sumFourRows(const Wide* const* rows, const std::int16_t* shares, Wide* out, int count)
 {
-#if defined(__x86_64__)
-    static const bool have = __builtin_cpu_supports("avx2");
-    return have;
-#else
-    return false;
-#endif
+    forEachVector<Wide>(std::size_t(count) * 4, [=](auto d, std::size_t at) ZP_LANES {
+        auto sum = hn::Zero(d);
+        for (int k = 0; k < 4; ++k)
+            sum = hn::Add(sum, hn::MulFixedPoint15(hn::LoadU(d, rows[k] + at), hn::Set(d, shares[k])));
+        hn::StoreU(sum, d, out + at);
+    });
 }
 
-} // namespace
-
-Taps TapsBuilder::build() const
+void finishRow(const Wide* row, std::uint32_t* pixels, int count, int bits)
 {
-    std::size_t most = 1;
-    for (const Place& place : mPlaces) most = std::max(most, place.shares.size());
-    Taps taps;
-    taps.perPlace = int(most + kTapGroup - 1) / kTapGroup * kTapGroup;
-    taps.first.reserve(mPlaces.size());
-    taps.count.reserve(mPlaces.size());
-    taps.shares.reserve(mPlaces.size() * std::size_t(taps.perPlace));
-    for (const Place& place : mPlaces) {
-        taps.first.push_back(place.first);
-        taps.count.push_back(int(place.shares.size()));
-        double reached = 0;
-        int before = 0;
-        for (const double share : place.shares) {
-            reached += share;
-            const int now = int(std::lround(reached * kShareOne));
-            taps.shares.push_back(std::int16_t(now - before));
-            before = now;
-        }
-        taps.shares.resize(taps.first.size() * std::size_t(taps.perPlace), 0);
-    }
-    return taps;
+    auto* const bytes = reinterpret_cast<std::uint8_t*>(pixels);
+    const auto half = Wide(1 << (bits - 1));
+    // By 16-bit lanes of whole pixels; a byte's sign cannot be mistaken, for it is cut to 0 and 255 on the way.
+    const auto store = [=](auto d, std::size_t at) ZP_LANES {
+        const hn::Rebind<std::uint8_t, decltype(d)> narrow;
+        const hn::Repartition<std::uint32_t, decltype(narrow)> pixel;
+        const auto levels = hn::ShiftRightSame(hn::Add(hn::LoadU(d, row + at), hn::Set(d, half)), bits);
+        const auto whole = hn::BitCast(pixel, hn::DemoteTo(narrow, levels));
+        hn::StoreU(hn::BitCast(narrow, withColourAtMostAlpha(pixel, whole)), narrow, bytes + at);
+    };
+    const hn::ScalableTag<Wide> d;
+    std::size_t at = 0;
+    for (; at + hn::Lanes(d) <= std::size_t(count) * 4; at += hn::Lanes(d)) store(d, at);
+    for (; at < std::size_t(count) * 4; at += 4) store(hn::CappedTag<Wide, 4>(), at);
 }
 
-void PaddedRow::repeatEnds()
-{
-    Wide* begin = samples();
-    Wide* end = begin + std::ptrdiff_t{4} * mPixels;
-    for (int i = 0; i < kPadding; ++i) {
-        std::memcpy(begin - 4 * (i + 1), begin, 4 * sizeof(Wide));
-        std::memcpy(end + 4 * i, end - 4, 4 * sizeof(Wide));
-    }
-}
+} // namespace zp::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
 
-ZP_MULTIVERSION void widenRow(const std::uint32_t* __restrict pixels, Wide* __restrict out, int count)
+#if HWY_ONCE
+namespace zp
 {
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(pixels);
-    for (int i = 0; i < 4 * count; ++i) out[i] = Wide(bytes[i] << kSourceBits);
-}
+
+HWY_EXPORT(widenRow);
+HWY_EXPORT(sumRows);
+HWY_EXPORT(addLong);
+HWY_EXPORT(shortenLong);
+HWY_EXPORT(sumAlongExact);
+HWY_EXPORT(sumAlong);
+HWY_EXPORT(sumFourRows);
+HWY_EXPORT(finishRow);
+
+namespace resampling
+{
+
+void widenRow(const std::uint32_t* pixels, Wide* out, int count) { HWY_DYNAMIC_DISPATCH(widenRow)(pixels, out, count); }
 
 void sumRows(ConstBitmapView source, const Taps& rows, std::size_t place, Wide* out,
              std::vector<std::uint32_t>& longSums)
@@ -244,60 +218,34 @@ void sumRows(ConstBitmapView source, const Taps& rows, std::size_t place, Wide* 
     const std::int16_t* shares = &rows.shares[place * std::size_t(rows.perPlace)];
     if (count > kMostRounded) {
         longSums.assign(std::size_t(samples), 0);
-        for (int k = 0; k < count; ++k)
-            addLong(source.rowData(first + k), std::uint32_t(shares[k]), longSums.data(), samples);
-        return shortenLong(longSums.data(), out, samples);
+        for (int k = 0; k < count; ++k) HWY_DYNAMIC_DISPATCH(addLong)
+        (source.rowData(first + k), std::uint32_t(shares[k]), longSums.data(), samples);
+        return HWY_DYNAMIC_DISPATCH(shortenLong)(longSums.data(), out, samples);
     }
     const std::uint8_t* lines[kMostRounded];
     for (int k = 0; k < count; ++k) lines[k] = source.rowData(first + k);
-    int done = 0;
-#if defined(__x86_64__)
-    if (haveAvx512())
-        done = sumRowsAvx512(lines, shares, count, out, samples);
-    else if (haveAvx2())
-        done = sumRowsAvx2(lines, shares, count, out, samples);
-#endif
-    sumRowsPlain(lines, shares, count, out, done, samples);
+    HWY_DYNAMIC_DISPATCH(sumRows)(lines, shares, count, out, samples);
 }
 
 void sumAlong(const Wide* row, const Taps& columns, Wide* out)
 {
     const int places = int(columns.first.size());
-    if (columns.perPlace > kMostRounded)
-        sumAlongExact(row, columns.first.data(), columns.count.data(), columns.shares.data(), columns.perPlace, out,
-                      places);
-#if defined(__x86_64__)
-    else if (haveAvx2())
-        sumAlongAvx2(row, columns.first.data(), columns.shares.data(), columns.perPlace, out, places);
-#endif
-    else
-        sumAlongPlain(row, columns.first.data(), columns.shares.data(), columns.perPlace, out, places);
+    if (columns.perPlace > kMostRounded) HWY_DYNAMIC_DISPATCH(sumAlongExact)
+    (row, columns.first.data(), columns.count.data(), columns.shares.data(), columns.perPlace, out, places);
+    else HWY_DYNAMIC_DISPATCH(sumAlong)(row, columns.first.data(), columns.shares.data(), columns.perPlace, out,
+                                        places);
 }
 
-ZP_MULTIVERSION void sumFourRows(const Wide* const* rows, const std::int16_t* shares, Wide* __restrict out, int count)
+void sumFourRows(const Wide* const* rows, const std::int16_t* shares, Wide* out, int count)
 {
-    const Wide *a = rows[0], *b = rows[1], *c = rows[2], *d = rows[3];
-    const std::int16_t wa = shares[0], wb = shares[1], wc = shares[2], wd = shares[3];
-    for (int i = 0; i < 4 * count; ++i)
-        out[i] = Wide(mulRound(a[i], wa) + mulRound(b[i], wb) + mulRound(c[i], wc) + mulRound(d[i], wd));
+    HWY_DYNAMIC_DISPATCH(sumFourRows)(rows, shares, out, count);
 }
 
 void finishRow(const Wide* row, std::uint32_t* pixels, int count, int bits)
 {
-    int done = 0;
-#if defined(__x86_64__)
-    if (haveAvx2()) done = finishAvx2(row, pixels, count, bits);
-#endif
-    for (int i = done; i < count; ++i) {
-        std::uint32_t word = 0;
-        int alpha = 255;
-        for (int c = 0; c < 4; ++c) {
-            const int level = std::clamp((row[4 * i + c] + (1 << (bits - 1))) >> bits, 0, alpha);
-            if (c == 0) alpha = level;
-            word |= std::uint32_t(level) << (8 * c);
-        }
-        pixels[i] = word;
-    }
+    HWY_DYNAMIC_DISPATCH(finishRow)(row, pixels, count, bits);
 }
 
-} // namespace zp::resampling
+} // namespace resampling
+} // namespace zp
+#endif
