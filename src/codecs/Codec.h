@@ -54,11 +54,4 @@ inline bool swapsSides(int orientation) { return orientation >= 5 && orientation
 /// A message of a library as the end of a sentence of ours: one line, printable, without a final dot.
 std::string tidyMessage(const char* message);
 
-/// Multiplies colour by alpha, rounded, in place; pixels are bytes A, R, G, B.
-void premultiplyRow(std::uint8_t* pixels, int count);
-/// Straight-alpha bytes R, G, B, A from premultiplied A, R, G, B, rounded; colour under zero alpha becomes 0.
-void unpremultiplyRowToRGBA(const std::uint8_t* argb, std::uint8_t* rgba, int count);
-/// Whether every pixel is opaque.
-bool isOpaque(ConstBitmapView pixels);
-
 } // namespace zp::codec

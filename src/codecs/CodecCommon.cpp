@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Size limits, turning upright, and the alpha arithmetic of the readers and writers.
-#include "base/Simd.h"
+/// Size limits, turning upright, and messages of libraries.
 #include "base/WorkPool.h"
 #include "codecs/Codec.h"
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstring>
 #include <unistd.h>
@@ -45,37 +43,6 @@ void copyTurned(ConstBitmapView from, BitmapView to, Target target)
             }
         }
     });
-}
-
-struct Reciprocals {
-    /// 2^24 / alpha rounded up: n * r >> 24 is n / alpha rounded down for every n of 16 bits.
-    std::array<std::uint32_t, 256> of{};
-    constexpr Reciprocals()
-    {
-        for (std::uint32_t a = 1; a < 256; ++a) of[a] = ((1u << 24) + a - 1) / a;
-    }
-};
-constexpr Reciprocals kReciprocals;
-
-ZP_MULTIVERSION void premultiplyPixels(std::uint8_t* pixels, int count)
-{
-    auto* words = reinterpret_cast<std::uint32_t*>(pixels);
-    for (int i = 0; i < count; ++i) {
-        const std::uint32_t w = words[i], a = w & 0xFF;
-        // Two channels at a time; (p + 128 + ((p + 128) >> 8)) >> 8 is p / 255 rounded for every product of bytes.
-        std::uint32_t rb = ((w >> 8) & 0xFF) * a + 128, g = ((w >> 16) & 0xFF) * a + 128, b = (w >> 24) * a + 128;
-        rb = (rb + (rb >> 8)) >> 8;
-        g = (g + (g >> 8)) >> 8;
-        b = (b + (b >> 8)) >> 8;
-        words[i] = a | (rb << 8) | (g << 16) | (b << 24);
-    }
-}
-
-ZP_MULTIVERSION std::uint32_t leastAlpha(const std::uint32_t* words, int count)
-{
-    std::uint32_t all = 0xFF;
-    for (int i = 0; i < count; ++i) all &= words[i];
-    return all & 0xFF;
 }
 
 } // namespace
@@ -145,34 +112,6 @@ std::string tidyMessage(const char* message)
     for (const char* p = message; p && *p && out.size() < 150; ++p) out += *p >= 0x20 && *p < 0x7F ? *p : ' ';
     while (!out.empty() && (out.back() == '.' || out.back() == ' ')) out.pop_back();
     return out.empty() ? "its data is damaged" : out;
-}
-
-void premultiplyRow(std::uint8_t* pixels, int count) { premultiplyPixels(pixels, count); }
-
-void unpremultiplyRowToRGBA(const std::uint8_t* argb, std::uint8_t* rgba, int count)
-{
-    for (int i = 0; i < count; ++i, argb += 4, rgba += 4) {
-        const std::uint32_t a = argb[0];
-        if (a == 255) {
-            rgba[0] = argb[1];
-            rgba[1] = argb[2];
-            rgba[2] = argb[3];
-        } else {
-            const std::uint64_t r = kReciprocals.of[a];
-            for (int k = 0; k < 3; ++k) {
-                const std::uint64_t colour = std::min<std::uint32_t>(argb[k + 1], a);
-                rgba[k] = std::uint8_t((colour * 255 + a / 2) * r >> 24);
-            }
-        }
-        rgba[3] = std::uint8_t(a);
-    }
-}
-
-bool isOpaque(ConstBitmapView pixels)
-{
-    for (int y = 0; y < pixels.height; ++y)
-        if (leastAlpha(pixels.row(y), pixels.width) != 0xFF) return false;
-    return true;
 }
 
 } // namespace zp::codec

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// JPEG files straight from A, R, G, B rows.
-#include "base/Simd.h"
+/// JPEG files from A, R, G, B rows: strips coded on all cores and joined into one file.
+#include "base/PixelMemory.h"
+#include "base/WorkPool.h"
 #include "codecs/Codec.h"
 #include "codecs/CodecWriters.h"
+#include "codecs/JPEGStrips.h"
 #include "codecs/MetadataBlocks.h"
+#include "codecs/PixelRows.h"
 #include <algorithm>
+#include <atomic>
 #include <cmath>
-#include <csetjmp>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
-#include <jpeglib.h>
 
 namespace zp::codec
 {
@@ -18,107 +18,18 @@ namespace
 {
 
 constexpr std::size_t kMaxMarkerBytes = 65533;
+/// A strip's least size: the coder's set-up vanishes in it, and a file has so few restart markers that they cost
+/// nothing.
+constexpr int kStripPixels = 1 << 19;
 
-struct ErrorManager : jpeg_error_mgr {
-    std::jmp_buf jump;
-};
-
-/// Everything that lives across libjpeg's long jumps. The function that sets the jump owns no object itself.
-struct Session {
-    jpeg_compress_struct info{};
-    ErrorManager errors{};
-    bool created = false;
-    unsigned char* bytes = nullptr;
-    unsigned long count = 0;
-    std::vector<std::uint8_t> exif, xmp;
-    const ImageProperties* properties = nullptr;
-    ConstBitmapView pixels;
-    std::uint32_t background = 0; ///< opaque word that transparent pixels are composed over
-    std::vector<std::uint8_t> composed;
-
-    ~Session()
-    {
-        if (created) jpeg_destroy_compress(&info);
-        std::free(bytes);
-    }
-};
-
-[[noreturn]] void onError(j_common_ptr info) { std::longjmp(static_cast<ErrorManager*>(info->err)->jump, 1); }
-void onMessage(j_common_ptr) {}
-
-/// Premultiplied pixels over an opaque background, rounded. @return whether any pixel needed it
-ZP_MULTIVERSION bool composeRow(const std::uint32_t* from, std::uint32_t* to, int count, std::uint32_t background)
+/// Strips by the picture's size alone, so that the same picture gives the same file on every machine.
+int blockRowsPerStrip(int width, int height)
 {
-    std::uint32_t all = 0xFF;
-    for (int i = 0; i < count; ++i) all &= from[i];
-    if ((all & 0xFF) == 0xFF) return false;
-    const std::uint32_t r = background >> 8 & 0xFF, g = background >> 16 & 0xFF, b = background >> 24;
-    const auto part = [](std::uint32_t colour, std::uint32_t rest) {
-        const std::uint32_t product = colour * rest + 128;
-        return (product + (product >> 8)) >> 8;
-    };
-    for (int i = 0; i < count; ++i) {
-        const std::uint32_t w = from[i], rest = 255 - (w & 0xFF);
-        const std::uint32_t x = (w >> 8 & 0xFF) + part(r, rest), y = (w >> 16 & 0xFF) + part(g, rest),
-                            z = (w >> 24) + part(b, rest);
-        to[i] = 0xFF | std::min(x, 255u) << 8 | std::min(y, 255u) << 16 | std::min(z, 255u) << 24;
-    }
-    return true;
+    const int all = (height + jpeg::kBlockRow - 1) / jpeg::kBlockRow;
+    return std::clamp(kStripPixels / (jpeg::kBlockRow * width), 1, all);
 }
 
-void writeMarkers(Session& s)
-{
-    jpeg_compress_struct* info = &s.info;
-    if (!s.exif.empty()) jpeg_write_marker(info, JPEG_APP0 + 1, s.exif.data(), unsigned(s.exif.size()));
-    if (!s.xmp.empty()) jpeg_write_marker(info, JPEG_APP0 + 1, s.xmp.data(), unsigned(s.xmp.size()));
-    const auto& profile = s.properties->iccProfile;
-    if (!profile.empty() && profile.size() < 255 * (kMaxMarkerBytes - 14))
-        jpeg_write_icc_profile(info, profile.data(), unsigned(profile.size()));
-}
-
-bool encode(Session& s, int quality)
-{
-    s.info.err = jpeg_std_error(&s.errors);
-    s.errors.error_exit = onError;
-    s.errors.output_message = onMessage;
-    if (setjmp(s.errors.jump)) return false;
-    jpeg_compress_struct* info = &s.info;
-    jpeg_create_compress(info);
-    s.created = true;
-    jpeg_mem_dest(info, &s.bytes, &s.count);
-    info->image_width = JDIMENSION(s.pixels.width);
-    info->image_height = JDIMENSION(s.pixels.height);
-    info->input_components = 4;
-    info->in_color_space = JCS_EXT_XRGB;
-    jpeg_set_defaults(info); // YCbCr with the chroma halved both ways
-    jpeg_set_quality(info, quality, TRUE);
-    const double x = s.properties->xDpi, y = s.properties->yDpi;
-    if (x >= 1 && y >= 1 && x < 65535 && y < 65535) {
-        info->density_unit = 1;
-        info->X_density = UINT16(std::lround(x));
-        info->Y_density = UINT16(std::lround(y));
-    }
-    jpeg_start_compress(info, TRUE);
-    writeMarkers(s);
-
-    constexpr int kRows = 16;
-    JSAMPROW rows[kRows];
-    while (info->next_scanline < info->image_height) {
-        const int y0 = int(info->next_scanline), count = std::min(kRows, s.pixels.height - y0);
-        for (int i = 0; i < count; ++i) {
-            const std::uint32_t* from = s.pixels.row(y0 + i);
-            auto* composed = reinterpret_cast<std::uint32_t*>(s.composed.data()) + std::ptrdiff_t{i} * s.pixels.width;
-            const bool changed = composeRow(from, composed, s.pixels.width, s.background);
-            rows[i] = changed ? reinterpret_cast<JSAMPROW>(composed)
-                              : const_cast<JSAMPROW>(reinterpret_cast<const JSAMPLE*>(from)); // libjpeg only reads it
-        }
-        jpeg_write_scanlines(info, rows, JDIMENSION(count));
-    }
-    jpeg_finish_compress(info);
-    return true;
-}
-
-std::vector<std::uint8_t> withPrefix(const char* prefix, std::size_t length, std::span<const std::uint8_t> bytes)
+std::vector<std::uint8_t> withPrefix(const char* prefix, std::size_t length, Bytes bytes)
 {
     if (bytes.empty() || length + bytes.size() > kMaxMarkerBytes) return {};
     std::vector<std::uint8_t> out;
@@ -142,25 +53,98 @@ std::vector<std::uint8_t> exifMarker(const ImageProperties& properties, int widt
     return withPrefix("Exif\0", 6, serialiseExif(exifForSaving(bare, width, height)));
 }
 
+/// What stands between the JFIF segment and the picture.
+class Segments
+{
+public:
+    Segments(const ImageProperties& properties, int width, int height)
+    {
+        add(1, exifMarker(properties, width, height));
+        static constexpr char kXMP[] = "http://ns.adobe.com/xap/1.0/";
+        const std::string packet = xmpForSaving(properties);
+        add(1, withPrefix(kXMP, sizeof kXMP, {reinterpret_cast<const std::uint8_t*>(packet.data()), packet.size()}));
+        addProfile(properties.iccProfile);
+    }
+    std::vector<std::pair<int, Bytes>> views() const
+    {
+        std::vector<std::pair<int, Bytes>> all;
+        for (const auto& [marker, bytes] : mSegments) all.emplace_back(marker, bytes);
+        return all;
+    }
+
+private:
+    void add(int number, std::vector<std::uint8_t> bytes)
+    {
+        if (!bytes.empty()) mSegments.emplace_back(JPEG_APP0 + number, std::move(bytes));
+    }
+    /// In numbered pieces, of which there can be 255.
+    void addProfile(Bytes profile)
+    {
+        constexpr std::size_t kPiece = kMaxMarkerBytes - 14;
+        const std::size_t count = (profile.size() + kPiece - 1) / kPiece;
+        if (count > 255) return;
+        for (std::size_t i = 0; i < count; ++i) {
+            char prefix[] = "ICC_PROFILE\0\0"; // and the zero at the end of the text: number and count
+            prefix[12] = char(i + 1);
+            prefix[13] = char(count);
+            const std::size_t from = i * kPiece;
+            add(2, withPrefix(prefix, 14, profile.subspan(from, std::min(kPiece, profile.size() - from))));
+        }
+    }
+    std::vector<std::pair<int, std::vector<std::uint8_t>>> mSegments;
+};
+
+/// Rows of a strip as they are when they are opaque, else composed over the background into @p memory.
+ConstBitmapView composed(ConstBitmapView rows, std::uint32_t background, PixelMemory& memory)
+{
+    if (isOpaque(rows)) return rows;
+    memory = allocatePixelsUninitialized(std::size_t(rows.rowBytes) * std::size_t(rows.height));
+    if (!memory) throw std::bad_alloc();
+    const BitmapView to{memory.get(), rows.width, rows.height, rows.rowBytes};
+    for (int y = 0; y < rows.height; ++y)
+        composeRow(rows.rowData(y), to.rowData(y), std::size_t(rows.width), background);
+    return to;
+}
+
 } // namespace
 
 std::vector<std::uint8_t> writeJPEG(ConstBitmapView pixels, const ImageProperties& properties, int quality,
                                     const std::optional<Color>& background)
 {
-    Session s;
-    s.properties = &properties;
-    s.pixels = pixels;
-    s.exif = exifMarker(properties, pixels.width, pixels.height);
-    static constexpr char kXMP[] = "http://ns.adobe.com/xap/1.0/";
-    const std::string packet = xmpForSaving(properties);
-    s.xmp = withPrefix(kXMP, sizeof kXMP, {reinterpret_cast<const std::uint8_t*>(packet.data()), packet.size()});
     const auto byte = [](float v) { return std::uint32_t(std::lround(std::clamp(v, 0.0f, 1.0f) * 255)); };
-    s.background =
+    const std::uint32_t behind =
         background ? 0xFF | byte(background->red) << 8 | byte(background->green) << 16 | byte(background->blue) << 24
                    : 0xFF;
-    s.composed.resize(std::size_t(pixels.width) * 4 * 16);
-    if (!encode(s, quality)) return {};
-    return {s.bytes, s.bytes + s.count};
+    const Segments segments(properties, pixels.width, pixels.height);
+    jpeg::StripEncoder encoder;
+    if (!encoder.prepare({.width = pixels.width,
+                          .height = pixels.height,
+                          .quality = quality,
+                          .stripRows = blockRowsPerStrip(pixels.width, pixels.height),
+                          .xDpi = properties.xDpi,
+                          .yDpi = properties.yDpi},
+                         segments.views()))
+        return {};
+
+    std::vector<std::vector<std::uint8_t>> strips(std::size_t(encoder.format().strips()));
+    parallelFor(int(strips.size()), [&](int i) {
+        PixelMemory memory;
+        const ConstBitmapView rows = composed(pixels.part(encoder.format().rowsOf(i)), behind, memory);
+        encoder.encode(rows, strips[std::size_t(i)]);
+    });
+
+    std::size_t size = encoder.head().size();
+    for (const auto& strip : strips) size += strip.size() + 2;
+    std::vector<std::uint8_t> file;
+    file.reserve(size);
+    file.insert(file.end(), encoder.head().begin(), encoder.head().end());
+    for (std::size_t i = 0; i < strips.size(); ++i) {
+        file.insert(file.end(), strips[i].begin(), strips[i].end());
+        file.push_back(jpeg::kMark);
+        file.push_back(i + 1 < strips.size() ? std::uint8_t(jpeg::kRestart0 + i % jpeg::kRestartCycle)
+                                             : jpeg::kEndOfImage);
+    }
+    return file;
 }
 
 } // namespace zp::codec

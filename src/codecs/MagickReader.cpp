@@ -2,6 +2,7 @@
 /// PSD, GIF, BMP, WebP and the other kinds, by ImageMagick's readers, each called by name over bytes in memory.
 #include "codecs/MagickReader.h"
 #include "codecs/MetadataBlocks.h"
+#include "codecs/PixelRows.h"
 #include <Magick++.h>
 #include <algorithm>
 #include <cstring>
@@ -179,7 +180,7 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
         if (!transparent)
             for (std::size_t x = 0; x < row.size(); x += 4) row[x] = 255;
         else
-            premultiplyRow(row.data(), columns);
+            premultiplyRow(row.data(), std::size_t(columns));
         const int x0 = std::max(0, left), x1 = std::min(width, left + columns);
         if (x0 < x1) std::memcpy(out.pixel(x0, to), &row[std::size_t(x0 - left) * 4], std::size_t(x1 - x0) * 4);
     }

@@ -2,6 +2,7 @@
 /// The filters as plain loops that the compiler turns into vector code.
 #include "codecs/PNGFilter.h"
 #include "base/Simd.h"
+#include "codecs/PixelRows.h"
 #include "codecs/Codec.h"
 #include <algorithm>
 #include <cstdlib>
@@ -73,7 +74,7 @@ void RowFilter::unpack(ConstBitmapView pixels, int y)
     if (mSamples == 3)
         toRGB(pixels.rowData(y), mRow.data() + 3, mWidth);
     else
-        unpremultiplyRowToRGBA(pixels.rowData(y), mRow.data() + 4, mWidth);
+        unpremultiplyRowToRGBA(pixels.rowData(y), mRow.data() + 4, std::size_t(mWidth));
 }
 
 void RowFilter::filterRow(ConstBitmapView pixels, int y, bool fresh, std::uint8_t* out)

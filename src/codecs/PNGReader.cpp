@@ -3,6 +3,7 @@
 #include "codecs/Codec.h"
 #include "codecs/MetadataBlocks.h"
 #include "codecs/PNGChunks.h"
+#include "codecs/PixelRows.h"
 #include <csetjmp>
 #include <cstring>
 #include <png.h>
@@ -178,7 +179,7 @@ Decoded decodePNG(Bytes bytes, const ImportOptions& options)
     if (!complete && !interlaced)
         for (int y = s.rowsDone; y < out.height; ++y) std::memset(out.rowData(y), 0, std::size_t(out.rowBytes));
     if (transparent)
-        for (int y = 0; y < out.height; ++y) premultiplyRow(out.rowData(y), out.width);
+        for (int y = 0; y < out.height; ++y) premultiplyRow(out.rowData(y), std::size_t(out.width));
     if (complete) readEnd(s);
 
     ImageProperties& properties = s.bitmap->properties;

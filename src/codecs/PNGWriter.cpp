@@ -6,6 +6,7 @@
 #include "codecs/MetadataBlocks.h"
 #include "codecs/PNGDeflate.h"
 #include "codecs/PNGFilter.h"
+#include "codecs/PixelRows.h"
 #include <algorithm>
 #include <cmath>
 #include <cstring>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Unpacks TIFF samples; bytes of red, green and blue, the usual case, take a short way.
 #include "codecs/TIFFSamples.h"
+#include "codecs/PixelRows.h"
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -211,7 +212,7 @@ void SampleConverter::finish(std::uint8_t* argb, int count) const
 {
     if (!mLayout.hasAlpha()) return;
     if (mLayout.alphaKind == EXTRASAMPLE_UNASSALPHA) {
-        premultiplyRow(argb, count);
+        premultiplyRow(argb, std::size_t(count));
         return;
     }
     for (int x = 0; x < count; ++x, argb += 4)

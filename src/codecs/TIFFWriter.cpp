@@ -4,6 +4,7 @@
 #include "codecs/Codec.h"
 #include "codecs/CodecWriters.h"
 #include "codecs/MetadataBlocks.h"
+#include "codecs/PixelRows.h"
 #include "codecs/TIFFLZW.h"
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The bytes of a JPEG file that cutting and joining strips has to know, and the segment that vouches for a file.
 #pragma once
+#include "codecs/JPEGStrips.h"
 #include "undo/Fingerprint.h"
 #include <array>
 #include <cstddef>
@@ -13,7 +14,7 @@
 namespace zp::jpeg
 {
 
-inline constexpr std::uint8_t kMark = 0xFF, kStartOfImage = 0xD8, kEndOfImage = 0xD9, kRestart0 = 0xD0;
+inline constexpr std::uint8_t kStartOfImage = 0xD8;
 inline constexpr std::uint8_t kFrameBaseline = 0xC0, kFrameExtended = 0xC1, kHuffmanTables = 0xC4, kArithmetic = 0xCC;
 inline constexpr std::uint8_t kQuantisation = 0xDB;
 inline constexpr std::uint8_t kRestartInterval = 0xDD, kStartOfScan = 0xDA, kApp0 = 0xE0, kApp9 = 0xE9;

@@ -3,15 +3,13 @@
 #include "base/BitmapRep.h"
 #include "base/PixelMemory.h"
 #include "base/WorkPool.h"
+#include "codecs/LibJPEG.h"
 #include "undo/JPEGMarkers.h"
 #include "undo/SnapshotJPEG.h"
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <csetjmp>
-#include <cstdio>
 #include <cstring>
-#include <jpeglib.h>
 #include <new>
 
 namespace zp
@@ -19,22 +17,6 @@ namespace zp
 
 namespace
 {
-
-/// Restart markers are numbered modulo 8, and a decoder that starts anew expects number 0 first.
-constexpr int kRestartCycle = 8;
-
-struct Failure {
-    jpeg_error_mgr base;
-    std::jmp_buf way;
-};
-
-[[noreturn]] void fail(j_common_ptr info) { std::longjmp(reinterpret_cast<Failure*>(info->err)->way, 1); }
-/// Damage is counted in num_warnings, where the caller looks; nothing is printed.
-void countWarnings(j_common_ptr info, int level)
-{
-    if (level < 0) ++info->err->num_warnings;
-}
-void printNothing(j_common_ptr) {}
 
 /// What the file's head says, as far as cutting it needs.
 struct Layout {
@@ -72,8 +54,8 @@ std::optional<Layout> readLayout(std::span<const std::uint8_t> file)
         if (segment->marker == jpeg::kStartOfScan) {
             if (!layout.frame) return std::nullopt;
             layout.data = segment->end;
-            layout.cuttable =
-                baseline && size >= 1 && body[0] == 3 && interval == (layout.width + kStripRows - 1) / kStripRows;
+            const bool marked = interval == (layout.width + kStripRows - 1) / kStripRows;
+            layout.cuttable = baseline && size >= 1 && body[0] == 3 && (marked || layout.strips() == 1);
         }
     }
     if (!layout.data || !isSensibleImageSize(layout.width, layout.height)) return std::nullopt;
@@ -85,80 +67,36 @@ bool sealHolds(std::span<const std::uint8_t> file, const jpeg::Segment& seal)
     return fingerprint(file.subspan(seal.end)) == jpeg::sealedFingerprint(file, seal);
 }
 
-/// Bytes handed to the decoder as up to three stretches of memory, nothing copied.
-struct Source {
-    jpeg_source_mgr base;
-    std::array<std::span<const std::uint8_t>, 3> stretches;
-    std::size_t next = 0;
-};
-
 constexpr std::array<std::uint8_t, 2> kEnd = {jpeg::kMark, jpeg::kEndOfImage};
 
-void beginInput(j_decompress_ptr) {}
-boolean moreInput(j_decompress_ptr info)
-{
-    auto& source = *reinterpret_cast<Source*>(info->src);
-    // Behind the last stretch stands the end, as often as it is asked for.
-    std::span<const std::uint8_t> stretch = kEnd;
-    if (source.next < source.stretches.size())
-        stretch = source.stretches[source.next++];
-    else
-        ++info->err->num_warnings;
-    if (stretch.empty()) stretch = kEnd;
-    source.base.next_input_byte = stretch.data();
-    source.base.bytes_in_buffer = stretch.size();
-    return TRUE;
-}
-void skipInput(j_decompress_ptr info, long count)
-{
-    jpeg_source_mgr& source = *info->src;
-    while (count > long(source.bytes_in_buffer)) {
-        count -= long(source.bytes_in_buffer);
-        moreInput(info);
-    }
-    if (count > 0) {
-        source.next_input_byte += count;
-        source.bytes_in_buffer -= std::size_t(count);
-    }
-}
-void endInput(j_decompress_ptr) {}
-
 /// Decodes rows of one JPEG: the first @p skip are dropped, the following ones go into @p into (as many as it has), the
-/// rest is not decoded. Holds nothing that a jump could leak. @return false when the bytes are damaged or no such JPEG
-bool decodeRows(Source& source, int width, int height, int skip, BitmapView into, std::uint8_t* scratchRow)
+/// rest is not decoded. Owns nothing that a jump could leak. @return false when the bytes are damaged or no such JPEG
+bool decodeRows(jpeg_decompress_struct* info, jpeg::Errors& errors, jpeg::Input& input, int width, int height, int skip,
+                BitmapView into, std::uint8_t* scratchRow)
 {
-    jpeg_decompress_struct info;
-    Failure failure;
-    info.err = jpeg_std_error(&failure.base);
-    failure.base.error_exit = fail;
-    failure.base.emit_message = countWarnings;
-    failure.base.output_message = printNothing;
-    if (setjmp(failure.way)) {
-        jpeg_destroy_decompress(&info);
-        return false;
-    }
-    jpeg_create_decompress(&info);
-    source.base.init_source = beginInput;
-    source.base.fill_input_buffer = moreInput;
-    source.base.skip_input_data = skipInput;
-    source.base.resync_to_restart = jpeg_resync_to_restart;
-    source.base.term_source = endInput;
-    source.base.next_input_byte = nullptr;
-    source.base.bytes_in_buffer = 0;
-    info.src = &source.base;
-    jpeg_read_header(&info, TRUE);
-    if (int(info.image_width) != width || int(info.image_height) != height) fail(reinterpret_cast<j_common_ptr>(&info));
-    info.out_color_space = JCS_EXT_ARGB;
-    jpeg_start_decompress(&info);
+    info->err = &errors;
+    if (setjmp(errors.jump)) return false;
+    jpeg_create_decompress(info);
+    info->src = &input;
+    jpeg_read_header(info, TRUE);
+    if (int(info->image_width) != width || int(info->image_height) != height) errors.fail("another size");
+    info->out_color_space = JCS_EXT_ARGB;
+    jpeg_start_decompress(info);
     const int last = skip + into.height;
-    while (int(info.output_scanline) < last) {
+    while (int(info->output_scanline) < last) {
         JSAMPROW rows[kStripRows];
-        const int y = int(info.output_scanline);
+        const int y = int(info->output_scanline);
         const int count = std::min(kStripRows, last - y);
         for (int i = 0; i < count; ++i) rows[i] = y + i < skip ? scratchRow : into.rowData(y + i - skip);
-        jpeg_read_scanlines(&info, rows, JDIMENSION(count));
+        jpeg_read_scanlines(info, rows, JDIMENSION(count));
     }
-    const bool sound = info.err->num_warnings == 0;
+    return errors.num_warnings == 0;
+}
+bool decodeRows(jpeg::Input& input, int width, int height, int skip, BitmapView into, std::uint8_t* scratchRow)
+{
+    jpeg_decompress_struct info{};
+    jpeg::Errors errors;
+    const bool sound = decodeRows(&info, errors, input, width, height, skip, into, scratchRow);
     jpeg_destroy_decompress(&info);
     return sound;
 }
@@ -173,7 +111,7 @@ std::optional<std::vector<std::size_t>> findStrips(std::span<const std::uint8_t>
         starts.push_back(at);
         const std::size_t end = jpeg::findMarker(file, at);
         const bool lastOne = strip + 1 == layout.strips();
-        const int expected = lastOne ? int(jpeg::kEndOfImage) : jpeg::kRestart0 + strip % kRestartCycle;
+        const int expected = lastOne ? int(jpeg::kEndOfImage) : jpeg::kRestart0 + strip % jpeg::kRestartCycle;
         if (end == file.size() || file[end + 1] != expected) return std::nullopt;
         at = end + 2;
     }
@@ -188,12 +126,12 @@ bool decodeInBands(std::span<const std::uint8_t> file, const Layout& layout, con
 {
     const int strips = layout.strips();
     // At least four cycles to a band keeps the double work at the borders under 7 %.
-    const int cycles = (strips + kRestartCycle - 1) / kRestartCycle;
+    const int cycles = (strips + jpeg::kRestartCycle - 1) / jpeg::kRestartCycle;
     const int bands = workerCount() == 1 ? 1 : std::clamp(cycles / 4, 1, workerCount() * 3);
     std::atomic<bool> sound{true};
     parallelFor(bands, [&](int band) {
         // Context strips stand on multiples of the cycle, where the marker behind them is number 0.
-        const auto context = [&](int b) { return int(std::int64_t{cycles} * b / bands) * kRestartCycle; };
+        const auto context = [&](int b) { return int(std::int64_t{cycles} * b / bands) * jpeg::kRestartCycle; };
         const int from = context(band);
         const int first = band ? from + 1 : 0;
         const int last = band + 1 < bands ? context(band + 1) + 1 : strips;
@@ -203,10 +141,8 @@ bool decodeInBands(std::span<const std::uint8_t> file, const Layout& layout, con
         std::vector<std::uint8_t> header(file.begin(), file.begin() + std::ptrdiff_t(layout.data));
         const int height = std::min(to * kStripRows, layout.height) - from * kStripRows;
         jpeg::write16(header.data() + layout.frame + jpeg::kFrameHeightOffset, height);
-        Source source;
-        source.stretches = {
-            header, file.subspan(starts[std::size_t(from)], starts[std::size_t(to)] - 2 - starts[std::size_t(from)]),
-            kEnd};
+        const std::size_t begin = starts[std::size_t(from)];
+        jpeg::Input source(header, file.subspan(begin, starts[std::size_t(to)] - 2 - begin), kEnd);
         std::vector<std::uint8_t> scratchRow(first > from ? std::size_t(pixels.width) * 4 + 64 : 0);
         const PixelBox rows{0, first * kStripRows, pixels.width, std::min(last * kStripRows, pixels.height)};
         if (!decodeRows(source, layout.width, height, (first - from) * kStripRows, pixels.part(rows),
@@ -222,8 +158,7 @@ bool decodePlainly(std::span<const std::uint8_t> file, const Layout& layout, Bit
     const PixelMemory beside = allocatePixelsUninitialized(std::size_t(rowBytes) * std::size_t(pixels.height));
     if (!beside) return false;
     const BitmapView decoded{beside.get(), pixels.width, pixels.height, rowBytes};
-    Source source;
-    source.stretches = {file, kEnd, kEnd};
+    jpeg::Input source(file, kEnd);
     if (!decodeRows(source, layout.width, layout.height, 0, decoded, nullptr)) return false;
     for (int y = 0; y < pixels.height; ++y)
         std::memcpy(pixels.rowData(y), decoded.rowData(y), std::size_t(pixels.width) * 4);

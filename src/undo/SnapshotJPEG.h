@@ -7,9 +7,9 @@
 /// before a pixel is touched.
 #pragma once
 #include "base/BitmapView.h"
+#include "codecs/JPEGStrips.h"
 #include "undo/Fingerprint.h"
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -17,10 +17,8 @@
 namespace zp
 {
 
-class StripCoder;
-
 inline constexpr int kSnapshotQuality = 70; ///< compression factor 0.7
-inline constexpr int kStripRows = 16;       ///< height of a block row at half-resolution colour (4:2:0)
+inline constexpr int kStripRows = jpeg::kBlockRow;
 
 /// Encodes one picture after the other and remembers the compressed strips of the last, by the fingerprint of their
 /// pixels: strips that did not change are not encoded again. One thread at a time; the work itself uses the pool.
@@ -37,24 +35,16 @@ public:
     void forget();
     /// How many strips the last call had to encode.
     int stripsEncoded() const { return mStripsEncoded; }
-    /// Set to false before the first picture, everything is left to the JPEG library. The bytes are the same.
-    bool useVectors = true;
 
 private:
     struct Strip {
         std::optional<Fingerprint> pixels; ///< of the rows that bytes were made from
         std::vector<std::uint8_t> bytes;   ///< entropy-coded data without the restart marker behind it
     };
-    bool prepare(ConstBitmapView pixels);
-    bool encodeStrips(ConstBitmapView pixels, int first, int last);
-    bool encodeStripsByLibrary(ConstBitmapView pixels, int first, int last);
     void join();
 
-    int mWidth = 0, mHeight = 0;
+    std::optional<jpeg::StripEncoder> mCoder; ///< for pictures of the last one's size
     std::vector<Strip> mStrips;
-    std::shared_ptr<StripCoder> mCoder;
-    bool mVectors = false;             ///< whole strips go through the coder
-    std::vector<std::uint8_t> mHeader; ///< everything up to the first strip, with the picture's height
     std::vector<std::uint8_t> mFile;
     int mStripsEncoded = 0;
 };

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Files as other libraries read them, what travels along, and the arithmetic inside.
 #include "codecs/ImageEncoder.h"
-#include "codecs/Codec.h"
 #include "codecs/ImageImporter.h"
 #include "codecs/MetadataBlocks.h"
 #include "codecs/PNGDeflate.h"
+#include "codecs/PixelRows.h"
 #include "codecs/TIFFLZW.h"
 #include "codecs/TIFFSource.h"
 #include "codecs/TestPictures.h"

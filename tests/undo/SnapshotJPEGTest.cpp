@@ -53,20 +53,17 @@ TEST_P(SnapshotJPEGSizes, IsTheLibrarysOwnFileButForTheSeal)
 {
     Picture picture(GetParam().width, GetParam().height);
     PlainOptions options;
-    options.restartRows = 1;
+    options.restartRows = GetParam().height > kStripRows; // one strip has no marker behind it
     for (const int kind : {0, 1, 2, 3, 4}) {
         if (kind < 3)
             paintPhoto(picture.view(), 5, kind == 0 ? 0 : kind == 1 ? 12 : 120);
         else
             paintExtremes(picture.view(), kind == 3 ? 1 : 8);
         const Bytes plain = plainEncode(picture.view(), options);
-        for (const bool vectors : {true, false}) {
-            SnapshotEncoder encoder;
-            encoder.useVectors = vectors;
-            const Bytes file = copyOf(encoder.encode(picture.view()));
-            EXPECT_TRUE(withoutSeal(file) == plain) << "kind " << kind << ", vectors " << vectors;
-            EXPECT_EQ(encoder.stripsEncoded(), (GetParam().height + 15) / 16);
-        }
+        SnapshotEncoder encoder;
+        const Bytes file = copyOf(encoder.encode(picture.view()));
+        EXPECT_TRUE(withoutSeal(file) == plain) << "kind " << kind;
+        EXPECT_EQ(encoder.stripsEncoded(), (GetParam().height + 15) / 16);
     }
 }
 
