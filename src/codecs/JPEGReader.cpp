@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// JPEG files straight into A, R, G, B rows.
 #include "codecs/Codec.h"
+#include "codecs/JPEGPlanes.h"
+#include "codecs/LibJPEG.h"
 #include "codecs/MetadataBlocks.h"
-#include <csetjmp>
-#include <cstdio>
+#include "codecs/PixelRows.h"
+#include <algorithm>
 #include <cstring>
-#include <jerror.h>
-#include <jpeglib.h>
 
 namespace zp::codec
 {
@@ -21,36 +21,16 @@ constexpr double kMaxScanPixels = 3e10;
 /// Coefficients of a progressive file are held in memory, all of them.
 constexpr long kMaxCoefficientBytes = 1L << 30;
 
-struct ErrorManager : jpeg_error_mgr {
-    std::jmp_buf jump;
-    char message[JMSG_LENGTH_MAX] = {};
-    int code = 0;
-};
-
 /// Everything that lives across libjpeg's long jumps. The functions that set the jump own no object themselves.
 struct Session {
     jpeg_decompress_struct info{};
-    ErrorManager errors{};
+    jpeg::Errors errors;
     jpeg_progress_mgr progress{};
-    bool created = false;
     std::shared_ptr<BitmapRep> bitmap;
     std::vector<std::uint8_t> inkRow; ///< one row of a four-ink picture
 
-    ~Session()
-    {
-        if (created) jpeg_destroy_decompress(&info);
-    }
+    ~Session() { jpeg_destroy_decompress(&info); } // harmless on one that was never created
 };
-
-[[noreturn]] void onError(j_common_ptr info)
-{
-    auto* errors = static_cast<ErrorManager*>(info->err);
-    errors->format_message(info, errors->message);
-    errors->code = errors->msg_code;
-    std::longjmp(errors->jump, 1);
-}
-
-void onMessage(j_common_ptr) {}
 
 void onProgress(j_common_ptr common)
 {
@@ -58,21 +38,15 @@ void onProgress(j_common_ptr common)
     const int scan = info->input_scan_number;
     if (scan <= 1) return;
     const double pixels = double(info->image_width) * double(info->image_height);
-    if (scan > kMaxScans || scan * pixels > kMaxScanPixels) {
-        auto* errors = static_cast<ErrorManager*>(info->err);
-        std::snprintf(errors->message, sizeof errors->message, "it has too many scans");
-        std::longjmp(errors->jump, 1);
-    }
+    if (scan > kMaxScans || scan * pixels > kMaxScanPixels)
+        static_cast<jpeg::Errors*>(info->err)->fail("it has too many scans");
 }
 
 bool readHeader(Session& s, Bytes bytes, bool keepMarkers)
 {
-    s.info.err = jpeg_std_error(&s.errors);
-    s.errors.error_exit = onError;
-    s.errors.output_message = onMessage;
+    s.info.err = &s.errors;
     if (setjmp(s.errors.jump)) return false;
     jpeg_create_decompress(&s.info);
-    s.created = true;
     s.info.mem->max_memory_to_use = kMaxCoefficientBytes;
     s.progress.progress_monitor = onProgress;
     s.info.progress = &s.progress;
@@ -86,6 +60,7 @@ bool readHeader(Session& s, Bytes bytes, bool keepMarkers)
 bool startDecoding(Session& s)
 {
     if (setjmp(s.errors.jump)) return false;
+    s.info.raw_data_out = jpeg::PlaneDecoder::handles(s.info);
     jpeg_start_decompress(&s.info);
     return true;
 }
@@ -96,10 +71,7 @@ void inksToColours(const std::uint8_t* inks, std::uint8_t* argb, int count, bool
     const unsigned flip = inverted ? 0 : 255;
     for (int x = 0; x < count; ++x, inks += 4, argb += 4) {
         const unsigned k = inks[3] ^ flip;
-        const auto scale = [k](unsigned ink) {
-            const unsigned product = ink * k + 128;
-            return std::uint8_t((product + (product >> 8)) >> 8);
-        };
+        const auto scale = [k](unsigned ink) { return std::uint8_t(dividedBy255(ink * k)); };
         argb[0] = 255;
         argb[1] = scale(inks[0] ^ flip);
         argb[2] = scale(inks[1] ^ flip);
@@ -107,10 +79,10 @@ void inksToColours(const std::uint8_t* inks, std::uint8_t* argb, int count, bool
     }
 }
 
-/// @return false when an error ended the decoding; the rows so far are in the bitmap
-bool readRows(Session& s)
+/// Row by row, what cannot be decoded as planes. An error ends it; the rows so far are in the bitmap.
+void readRows(Session& s)
 {
-    if (setjmp(s.errors.jump)) return false;
+    if (setjmp(s.errors.jump)) return;
     const BitmapView out = s.bitmap->view();
     if (s.info.out_color_space == JCS_CMYK) {
         JSAMPROW row = s.inkRow.data();
@@ -119,7 +91,7 @@ bool readRows(Session& s)
             jpeg_read_scanlines(&s.info, &row, 1);
             inksToColours(row, out.rowData(y), out.width, s.info.saw_Adobe_marker);
         }
-        return true;
+        return;
     }
     constexpr int kRows = 16;
     JSAMPROW rows[kRows];
@@ -129,7 +101,14 @@ bool readRows(Session& s)
         for (int i = 0; i < count; ++i) rows[i] = out.rowData(y + i);
         jpeg_read_scanlines(&s.info, rows, JDIMENSION(count));
     }
-    return true;
+}
+
+/// @return how many rows are whole
+int decodeRows(Session& s)
+{
+    if (s.info.raw_data_out) return jpeg::PlaneDecoder(s.info, s.bitmap->view()).decode();
+    readRows(s);
+    return int(s.info.output_scanline);
 }
 
 /// The rest of the file is only looked at for warnings.
@@ -199,8 +178,7 @@ int orientationOf(const jpeg_decompress_struct& info)
 
 std::string sentence(const Session& s)
 {
-    if (s.errors.code == JERR_OUT_OF_MEMORY || s.errors.code == JERR_NO_BACKING_STORE)
-        return "There is not enough memory for this JPEG picture.";
+    if (s.errors.ranOutOfMemory()) return "There is not enough memory for this JPEG picture.";
     return "The JPEG data cannot be read: " + tidyMessage(s.errors.message) + ".";
 }
 
@@ -235,10 +213,10 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
     s.bitmap = BitmapRep::createUninitialized(int(s.info.output_width), int(s.info.output_height));
     if (!s.bitmap) return Decoded::failure("There is not enough memory for this picture.");
     if (inks) s.inkRow.resize(std::size_t{4} * s.info.output_width);
-    const bool complete = readRows(s);
+    const BitmapView out = s.bitmap->view();
+    const int done = decodeRows(s);
+    const bool complete = done == out.height;
     if (!complete) {
-        const BitmapView out = s.bitmap->view();
-        const int done = int(s.info.output_scanline);
         if (done == 0) return Decoded::failure(sentence(s));
         for (int y = done; y < out.height; ++y) std::memset(out.rowData(y), 0, std::size_t(out.rowBytes));
     }

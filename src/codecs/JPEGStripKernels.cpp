@@ -15,6 +15,8 @@
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "codecs/JPEGStripKernels.cpp"
 #include <hwy/foreach_target.h>
+
+#include "codecs/PairProducts-inl.h"
 #include <hwy/highway.h>
 
 #ifndef ZP_JPEG_STRIP_KERNELS_ONCE
@@ -89,6 +91,7 @@ namespace zp::jpeg::HWY_NAMESPACE
 namespace
 {
 namespace hn = hwy::HWY_NAMESPACE;
+using namespace zp::codec::HWY_NAMESPACE;
 
 using D16 = hn::CappedTag<std::int16_t, 32>; // four blocks; the colour rows of a unit have no more
 using D32 = hn::Repartition<std::int32_t, D16>;
@@ -99,20 +102,6 @@ using V32 = hn::Vec<D32>;
 HWY_INLINE std::size_t lanes() { return hn::Lanes(D16()); }
 HWY_INLINE std::size_t groupBlocks() { return lanes() / 8; }
 
-/// Sums of the products of neighbours.
-HWY_INLINE V32 multiplyPairs(V16 a, V16 b)
-{
-    const D32 d;
-    V32 second = hn::Zero(d);
-    const V32 first = hn::ReorderWidenMulAccumulate(d, a, b, hn::Zero(d), second);
-    return hn::RearrangeToOddPlusEven(first, second);
-}
-/// Two signed 16-bit factors, over and over.
-HWY_INLINE V16 factors(int low, int high)
-{
-    const D32 d;
-    return hn::BitCast(D16(), hn::Set(d, std::int32_t((std::uint32_t(low) & 0xFFFFu) | std::uint32_t(high) << 16)));
-}
 /// Pairs of 16-bit numbers from two of the bytes A, R, G, B of each pixel.
 HWY_INLINE V16 pairs(V32 pixels, unsigned low, unsigned high)
 {
@@ -136,10 +125,11 @@ HWY_INLINE Colours convert(const std::uint8_t* pixels)
     const V32 eight = hn::Set(d, 0xFF << 15);
     const auto u = [&](V32 v) { return hn::BitCast(hn::Repartition<std::uint32_t, D16>(), v); };
     // The factors of 16 bits: those above 32767 are halved and taken twice, or are a power of two, which is a shift.
-    const V32 y = hn::Add(multiplyPairs(rb, factors(19595, 7471)), multiplyPairs(gg, factors(19235, 19235)));
-    const V32 cb =
-        hn::Add(multiplyPairs(rg, factors(-11059, -21709)), hn::And(hn::BitCast(d, hn::ShiftRight<9>(u(x))), eight));
-    const V32 cr = hn::Add(multiplyPairs(gb, factors(-27439, -5329)), hn::And(hn::ShiftLeft<7>(x), eight));
+    const V32 y = hn::Add(multiplyPairs(rb, pairOfFactors(D16(), 19595, 7471)),
+                          multiplyPairs(gg, pairOfFactors(D16(), 19235, 19235)));
+    const V32 cb = hn::Add(multiplyPairs(rg, pairOfFactors(D16(), -11059, -21709)),
+                           hn::And(hn::BitCast(d, hn::ShiftRight<9>(u(x))), eight));
+    const V32 cr = hn::Add(multiplyPairs(gb, pairOfFactors(D16(), -27439, -5329)), hn::And(hn::ShiftLeft<7>(x), eight));
     return {hn::ShiftRight<16>(hn::Add(y, half)), hn::ShiftRight<16>(hn::Add(cb, centre)),
             hn::ShiftRight<16>(hn::Add(cr, centre))};
 }
@@ -203,18 +193,14 @@ struct Products {
 HWY_INLINE Products multiply(V16 a, V16 b, int fa, int fb)
 {
     const D16 d;
-    const V16 f = factors(fa, fb);
+    const V16 f = pairOfFactors(D16(), fa, fb);
     return {multiplyPairs(hn::InterleaveLower(d, a, b), f), multiplyPairs(hn::InterleaveUpper(d, a, b), f)};
 }
 HWY_INLINE Products add(Products p, Products q) { return {hn::Add(p.low, q.low), hn::Add(p.high, q.high)}; }
-/// Rounded, shifted down and packed again: both kinds of packing work inside blocks of 128 bits.
 template <int Shift>
 HWY_INLINE V16 descale(Products p)
 {
-    const D32 d;
-    const V32 half = hn::Set(d, 1 << (Shift - 1));
-    return hn::ReorderDemote2To(D16(), hn::ShiftRight<Shift>(hn::Add(p.low, half)),
-                                hn::ShiftRight<Shift>(hn::Add(p.high, half)));
+    return packRounded<Shift>(D16(), p.low, p.high);
 }
 
 /// One dimension of the accurate integer cosine transform; constants have 13 fraction bits.

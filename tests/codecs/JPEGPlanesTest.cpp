@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Decoding by planes gives the very bytes of the JPEG library's own way: all samplings, sizes, kinds and damages.
+#include "codecs/ImageImporter.h"
+#include "codecs/LibJPEG.h"
+#include "codecs/TestPictures.h"
+#include "support/EveryTarget.h"
+#include <algorithm>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace zp
+{
+namespace
+{
+
+using File = std::vector<std::uint8_t>;
+
+struct Kind {
+    const char* name;
+    int samplings[4][2]; ///< of the components, across and down; 0 ends the list
+    J_COLOR_SPACE space = JCS_YCbCr;
+    bool progressive = false;
+    int restart = 0;
+};
+void PrintTo(const Kind& kind, std::ostream* out) { *out << kind.name; }
+
+const Kind kKinds[] = {
+    {"444", {{1, 1}, {1, 1}, {1, 1}}},
+    {"422", {{2, 1}, {1, 1}, {1, 1}}},
+    {"420", {{2, 2}, {1, 1}, {1, 1}}},
+    {"440", {{1, 2}, {1, 1}, {1, 1}}},
+    {"411", {{4, 1}, {1, 1}, {1, 1}}},
+    {"410", {{4, 2}, {1, 1}, {1, 1}}},
+    {"441", {{1, 4}, {1, 1}, {1, 1}}},
+    {"mixed", {{2, 2}, {1, 2}, {2, 1}}},
+    {"fullBlue", {{2, 2}, {2, 2}, {1, 1}}},
+    {"halfBrightness", {{1, 1}, {2, 2}, {1, 1}}},
+    {"third", {{3, 1}, {1, 1}, {1, 1}}},
+    {"grey", {{1, 1}}, JCS_GRAYSCALE},
+    {"greyTwo", {{2, 2}}, JCS_GRAYSCALE},
+    {"rgb", {{1, 1}, {1, 1}, {1, 1}}, JCS_RGB},
+    {"progressive420", {{2, 2}, {1, 1}, {1, 1}}, JCS_YCbCr, true},
+    {"progressive422", {{2, 1}, {1, 1}, {1, 1}}, JCS_YCbCr, true},
+    {"progressiveGrey", {{1, 1}}, JCS_GRAYSCALE, true},
+    {"restarts420", {{2, 2}, {1, 1}, {1, 1}}, JCS_YCbCr, false, 3},
+    {"restarts444", {{1, 1}, {1, 1}, {1, 1}}, JCS_YCbCr, false, 1},
+};
+
+File write(int width, int height, const Kind& kind)
+{
+    jpeg_compress_struct info{};
+    jpeg_error_mgr errors{};
+    info.err = jpeg_std_error(&errors); // ends the test program on an error
+    jpeg_create_compress(&info);
+    jpeg::Output output;
+    info.dest = &output;
+    info.image_width = JDIMENSION(width);
+    info.image_height = JDIMENSION(height);
+    info.input_components = kind.space == JCS_GRAYSCALE ? 1 : 3;
+    info.in_color_space = kind.space == JCS_GRAYSCALE ? JCS_GRAYSCALE : JCS_RGB;
+    jpeg_set_defaults(&info);
+    jpeg_set_colorspace(&info, kind.space);
+    jpeg_set_quality(&info, 85, TRUE);
+    for (int i = 0; i < info.num_components; ++i) {
+        info.comp_info[i].h_samp_factor = kind.samplings[i][0];
+        info.comp_info[i].v_samp_factor = kind.samplings[i][1];
+    }
+    if (kind.progressive) jpeg_simple_progression(&info);
+    info.restart_interval = unsigned(kind.restart);
+    jpeg_start_compress(&info, TRUE);
+    File row(std::size_t(3 * width));
+    std::mt19937 random(unsigned(width + 100 * height));
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < 3 * width; ++x)
+            row[std::size_t(x)] = std::uint8_t((x * 2 + y * (x % 3)) % 200 + int(random() % 56));
+        std::uint8_t* rows = row.data();
+        jpeg_write_scanlines(&info, &rows, 1);
+    }
+    jpeg_finish_compress(&info);
+    const auto written = output.written();
+    File file(written.begin(), written.end());
+    jpeg_destroy_compress(&info);
+    return file;
+}
+
+/// What the library makes of a file that it does not give up on.
+std::shared_ptr<BitmapRep> byLibrary(const File& file, unsigned scale)
+{
+    jpeg_decompress_struct info{};
+    jpeg::Errors errors;
+    info.err = &errors;
+    std::shared_ptr<BitmapRep> rep;
+    if (setjmp(errors.jump)) {
+        ADD_FAILURE() << errors.message;
+        jpeg_destroy_decompress(&info);
+        return BitmapRep::create(1, 1);
+    }
+    jpeg_create_decompress(&info);
+    jpeg_mem_src(&info, file.data(), file.size());
+    jpeg_read_header(&info, TRUE);
+    info.out_color_space = JCS_EXT_ARGB;
+    info.scale_num = 1;
+    info.scale_denom = scale;
+    jpeg_start_decompress(&info);
+    rep = BitmapRep::create(int(info.output_width), int(info.output_height));
+    while (info.output_scanline < info.output_height) {
+        std::uint8_t* row = rep->view().rowData(int(info.output_scanline));
+        jpeg_read_scanlines(&info, &row, 1);
+    }
+    jpeg_destroy_decompress(&info);
+    return rep;
+}
+
+class JPEGKinds : public testing::TestWithParam<Kind>
+{
+};
+
+TEST_P(JPEGKinds, OpenAsTheLibraryDecodesThem)
+{
+    const int sizes[][2] = {{1, 1},    {2, 3},    {3, 2},    {4, 4},    {5, 17},    {8, 8},
+                            {16, 16},  {17, 15},  {31, 33},  {63, 65},  {64, 64},   {66, 40},
+                            {127, 30}, {129, 50}, {200, 10}, {257, 90}, {1000, 300}};
+    for (const auto& [width, height] : sizes) {
+        SCOPED_TRACE(testing::Message() << width << " x " << height);
+        const File file = write(width, height, GetParam());
+        const auto expected = byLibrary(file, 1);
+        test::onEveryTarget([&] {
+            const ImportedImage image = importImage(file);
+            ASSERT_TRUE(image.bitmap) << image.error;
+            ASSERT_TRUE(test::samePixels(image.bitmap->view(), expected->view()));
+            EXPECT_TRUE(image.bitmap->properties.warnings.empty());
+        });
+        for (const unsigned scale : {2u, 4u, 8u}) {
+            if (width < 16 || height < 16) continue;
+            ImportOptions options;
+            options.atLeastWidth = width / int(scale);
+            options.atLeastHeight = height / int(scale);
+            const ImportedImage image = importImage(file, options);
+            ASSERT_TRUE(image.bitmap) << image.error;
+            ASSERT_TRUE(test::samePixels(image.bitmap->view(), byLibrary(file, scale)->view())) << "1 / " << scale;
+        }
+    }
+}
+
+TEST_P(JPEGKinds, ATruncatedFileShowsWhatTheLibraryShows)
+{
+    const File file = write(300, 500, GetParam());
+    for (const std::size_t percent : {15, 40, 70, 99}) {
+        SCOPED_TRACE(percent);
+        const File part(file.begin(), file.begin() + std::ptrdiff_t(file.size() * percent / 100));
+        const ImportedImage image = importImage(part);
+        ASSERT_TRUE(image.bitmap) << image.error;
+        EXPECT_TRUE(test::samePixels(image.bitmap->view(), byLibrary(part, 1)->view()));
+        EXPECT_EQ(image.bitmap->properties.warnings.size(), 1u);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, JPEGKinds, testing::ValuesIn(kKinds),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+/// The ring turns many times, with and without another thread's help.
+TEST(JPEGPlanes, APictureOfManyBandsIsWhole)
+{
+    const File file = write(4000, 3000, kKinds[2]);
+    const auto expected = byLibrary(file, 1);
+    for (int round = 0; round < 3; ++round) {
+        const ImportedImage image = importImage(file);
+        ASSERT_TRUE(image.bitmap) << image.error;
+        EXPECT_TRUE(test::samePixels(image.bitmap->view(), expected->view()));
+    }
+}
+
+} // namespace
+} // namespace zp
