@@ -42,7 +42,9 @@ Decoded decodeTIFF(Bytes bytes, const ImportOptions& options);
 /// Whether a picture of this size may be decoded from a file of @p fileBytes; fills @p error with a sentence when not.
 /// Asked before memory is taken: sizes out of bounds, more than the machine can hold, and files so small for their
 /// size that they can only be bombs.
-bool checkSize(std::int64_t width, std::int64_t height, std::uint64_t fileBytes, std::string& error);
+/// @param workBytes what the reader needs beside the picture
+bool checkSize(std::int64_t width, std::int64_t height, std::uint64_t fileBytes, std::string& error,
+               std::uint64_t workBytes = 0);
 
 /// A new picture with the pixels turned upright from EXIF orientation @p orientation (2 to 8), properties moved along.
 /// Null when memory fails.

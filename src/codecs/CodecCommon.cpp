@@ -47,7 +47,8 @@ void copyTurned(ConstBitmapView from, BitmapView to, Target target)
 
 } // namespace
 
-bool checkSize(std::int64_t width, std::int64_t height, std::uint64_t fileBytes, std::string& error)
+bool checkSize(std::int64_t width, std::int64_t height, std::uint64_t fileBytes, std::string& error,
+               std::uint64_t workBytes)
 {
     char text[160];
     if (width <= 0 || height <= 0) {
@@ -63,7 +64,7 @@ bool checkSize(std::int64_t width, std::int64_t height, std::uint64_t fileBytes,
     if (width * height > kSuspiciousPixels && std::uint64_t(width * height) > kMaxPixelsPerByte * fileBytes)
         return refuse("The file is far too small for the %lld x %lld pixels it claims to hold.");
     const std::uint64_t memory = machineMemory();
-    if (memory && std::uint64_t(width * height) * 4 > memory / 2)
+    if (memory && (std::uint64_t(width * height) * 4 > memory / 2 || workBytes > memory / 4))
         return refuse("The picture of %lld x %lld pixels does not fit this machine's memory.");
     return true;
 }

@@ -2,8 +2,8 @@
 /// The filters as plain loops that the compiler turns into vector code.
 #include "codecs/PNGFilter.h"
 #include "base/Simd.h"
-#include "codecs/PixelRows.h"
 #include "codecs/Codec.h"
+#include "codecs/PixelRows.h"
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// PNG files straight into A, R, G, B rows.
+/// PNG files straight into A, R, G, B rows: unpacked in one go into the end of the picture's own memory, from where the
+/// rows are unfiltered to their places.
 #include "codecs/Codec.h"
 #include "codecs/MetadataBlocks.h"
-#include "codecs/PNGChunks.h"
+#include "codecs/PNGInflate.h"
+#include "codecs/PNGParts.h"
+#include "codecs/PNGSamples.h"
+#include "codecs/PNGUnfilter.h"
 #include "codecs/PixelRows.h"
-#include <csetjmp>
+#include <algorithm>
 #include <cstring>
-#include <png.h>
 
 namespace zp::codec
 {
@@ -14,181 +17,224 @@ namespace
 {
 
 /// A chunk may unpack to this much: profiles and packets of real files are smaller, bombs are not.
-constexpr png_alloc_size_t kMaxUnpackedBytes = 8 << 20;
+constexpr std::size_t kMaxUnpackedBytes = 8 << 20;
 
-/// Everything that lives across libpng's long jumps. The functions that set the jump own no object themselves.
-struct Session {
-    png_structp png = nullptr;
-    png_infop info = nullptr;
-    PNGChunks chunks;
-    char message[200] = {};
-    bool warned = false; ///< damage that libpng passed over
-    std::shared_ptr<BitmapRep> bitmap;
-    png_bytep* rows = nullptr;
-    std::vector<png_bytep> rowStore;
-    int rowsDone = 0, passes = 1, pass = 0;
+/// The pixels of one pass over an interlaced picture, or all of them.
+struct Pass {
+    std::uint32_t x = 0, y = 0, stepX = 1, stepY = 1;
+    std::uint32_t blockWidth = 1, blockHeight = 1; ///< what a pixel stands for until later passes come
+    std::uint32_t width = 0, height = 0;           ///< in pixels of the pass
 
-    ~Session()
-    {
-        if (png) png_destroy_read_struct(&png, info ? &info : nullptr, nullptr);
-    }
+    std::size_t rowBytes(const PNGHeader& header) const { return 1 + header.rowBytes(width); }
+    std::size_t bytes(const PNGHeader& header) const { return width == 0 ? 0 : rowBytes(header) * height; }
 };
 
-[[noreturn]] void onError(png_structp png, png_const_charp message)
+std::vector<Pass> passesOf(const PNGHeader& header)
 {
-    auto* s = static_cast<Session*>(png_get_error_ptr(png));
-    std::strncpy(s->message, message, sizeof s->message - 1);
-    png_longjmp(png, 1);
-}
-
-void onWarning(png_structp png, png_const_charp message)
-{
-    // Of the many remarks on harmless chunks these two say that the picture itself is not whole.
-    if (std::strstr(message, "IDAT") || std::strstr(message, "CRC"))
-        static_cast<Session*>(png_get_error_ptr(png))->warned = true;
-}
-
-void onRead(png_structp png, png_bytep out, png_size_t count)
-{
-    if (!static_cast<Session*>(png_get_io_ptr(png))->chunks.read(out, count)) png_error(png, "the file ends too early");
-}
-
-bool readHeader(Session& s)
-{
-    s.png = png_create_read_struct(PNG_LIBPNG_VER_STRING, &s, onError, onWarning);
-    if (!s.png) return false;
-    if (setjmp(png_jmpbuf(s.png))) return false;
-    s.info = png_create_info_struct(s.png);
-    if (!s.info) png_error(s.png, "out of memory");
-    png_set_read_fn(s.png, &s, onRead);
-    png_set_user_limits(s.png, 0x7FFFFFFF, 0x7FFFFFFF); // sizes are checked where all readers check them
-    png_set_chunk_malloc_max(s.png, kMaxUnpackedBytes);
-    png_set_benign_errors(s.png, 1);
-    png_set_crc_action(s.png, PNG_CRC_ERROR_QUIT, PNG_CRC_WARN_DISCARD);
-    // libpng's checks of profiles would refuse harmless ones; ours come later.
-    png_set_option(s.png, PNG_SKIP_sRGB_CHECK_PROFILE, PNG_OPTION_ON);
-    png_read_info(s.png, s.info);
-    return true;
-}
-
-bool prepare(Session& s)
-{
-    if (setjmp(png_jmpbuf(s.png))) return false;
-    const int depth = png_get_bit_depth(s.png, s.info), type = png_get_color_type(s.png, s.info);
-    const bool transparent = (type & PNG_COLOR_MASK_ALPHA) || png_get_valid(s.png, s.info, PNG_INFO_tRNS);
-    png_set_expand(s.png);
-    if (depth == 16) png_set_scale_16(s.png);
-    if (!(type & PNG_COLOR_MASK_COLOR)) png_set_gray_to_rgb(s.png);
-    if (!transparent)
-        png_set_filler(s.png, 0xFF, PNG_FILLER_BEFORE);
-    else
-        png_set_swap_alpha(s.png);
-    s.passes = png_set_interlace_handling(s.png);
-    png_read_update_info(s.png, s.info);
-    if (png_get_rowbytes(s.png, s.info) != png_size_t{4} * png_get_image_width(s.png, s.info))
-        png_error(s.png, "an unexpected layout of pixels");
-    return true;
-}
-
-bool readRows(Session& s)
-{
-    if (setjmp(png_jmpbuf(s.png))) return false;
-    const int height = int(png_get_image_height(s.png, s.info));
-    for (s.pass = 0; s.pass < s.passes; ++s.pass)
-        for (s.rowsDone = 0; s.rowsDone < height; ++s.rowsDone) png_read_row(s.png, s.rows[s.rowsDone], nullptr);
-    return true;
-}
-
-/// Chunks behind the pixels.
-void readEnd(Session& s)
-{
-    if (setjmp(png_jmpbuf(s.png))) return;
-    png_read_end(s.png, s.info);
-}
-
-void collectProperties(Session& s, ImageProperties& properties)
-{
-    png_uint_32 x = 0, y = 0;
-    int unit = 0;
-    if (png_get_pHYs(s.png, s.info, &x, &y, &unit) && unit == PNG_RESOLUTION_METER && x && y) {
-        // Pixels a metre are whole numbers: 72 a inch is stored as 2835, which shall read as 72 again.
-        const auto perInch = [](png_uint_32 perMetre) {
-            const double exact = perMetre * 0.0254, whole = double(png_uint_32(exact + 0.5));
-            return png_uint_32(whole / 0.0254 + 0.5) == perMetre ? whole : exact;
-        };
-        properties.xDpi = perInch(x);
-        properties.yDpi = perInch(y);
+    if (!header.interlaced) return {{.width = header.width, .height = header.height}};
+    std::vector<Pass> passes = {{0, 0, 8, 8, 8, 8}, {4, 0, 8, 8, 4, 8}, {0, 4, 4, 8, 4, 4}, {2, 0, 4, 4, 2, 4},
+                                {0, 2, 2, 4, 2, 2}, {1, 0, 2, 2, 1, 2}, {0, 1, 1, 2, 1, 1}};
+    for (Pass& pass : passes) {
+        pass.width = (header.width - std::min(header.width, pass.x) + pass.stepX - 1) / pass.stepX;
+        pass.height = (header.height - std::min(header.height, pass.y) + pass.stepY - 1) / pass.stepY;
     }
-    png_uint_32 exifBytes = 0;
-    png_bytep exif = nullptr;
-    if (png_get_eXIf_1(s.png, s.info, &exifBytes, &exif) && exifBytes > 4)
-        keepExif(properties, {exif, exif + exifBytes});
-    png_charp name = nullptr;
-    png_bytep profile = nullptr;
-    png_uint_32 profileBytes = 0;
-    int method = 0;
-    if (png_get_iCCP(s.png, s.info, &name, &method, &profile, &profileBytes)) {
-        const bool grey = !(png_get_color_type(s.png, s.info) & PNG_COLOR_MASK_COLOR);
-        keepProfile(properties, {profile, profile + profileBytes}, grey ? "GRAY" : "RGB ");
+    return passes;
+}
+
+/// Takes filtered rows one after the other. @return false when a row's filter is none that exists
+class RowReader
+{
+public:
+    RowReader(const PNGHeader& header, const PNGSamples& samples, std::uint32_t width)
+        : mSamples(samples), mWidth(width), mBytes(header.rowBytes(width)), mStep(header.pixelBytes())
+    {
+        const bool straight = samples.isPlain() && samples.hasAlpha();
+        const std::size_t work = straight ? (std::size_t{width} + 3) / 4 * 16 : samples.isPlain() ? 0 : mBytes;
+        mRow.resize(work);
+        mAbove.resize(work);
     }
-    png_textp texts = nullptr;
-    int count = 0;
-    png_get_text(s.png, s.info, &texts, &count);
-    for (int i = 0; i < count; ++i)
-        if (properties.xmp.empty() && std::strcmp(texts[i].key, "XML:com.adobe.xmp") == 0) {
-            const std::size_t length = texts[i].itxt_length ? texts[i].itxt_length : texts[i].text_length;
-            keepXMP(properties, {texts[i].text, length});
+    /// @param filtered may lie in the same memory as @p argb where it begins further behind than the pixels need
+    /// @param above the pixels that came out for the row before, null for the first
+    bool read(const std::uint8_t* filtered, const std::uint8_t* above, std::uint8_t* argb)
+    {
+        if (*filtered >= kPNGFilters) return false;
+        const auto filter = PNGFilter(*filtered);
+        if (!mSamples.isPlain()) {
+            std::swap(mRow, mAbove);
+            unfilterBytes(filter, filtered + 1, mAbove.data(), mRow.data(), mBytes, mStep);
+            mSamples.convertRow(mRow.data(), argb, mWidth);
+        } else if (!mSamples.hasAlpha()) {
+            unfilterRGB(filter, filtered + 1, above, argb, mWidth);
+        } else {
+            std::swap(mRow, mAbove);
+            unfilterRGBA(filter, filtered + 1, above ? mAbove.data() : nullptr, mRow.data(), mWidth);
+            std::memcpy(argb, mRow.data(), std::size_t{mWidth} * 4);
+            premultiplyRow(argb, mWidth);
         }
-}
+        return true;
+    }
 
-int orientationOf(Session& s)
+private:
+    const PNGSamples& mSamples;
+    std::size_t mWidth, mBytes;
+    unsigned mStep;
+    std::vector<std::uint8_t> mRow, mAbove; ///< what later rows are predicted from, where the pixels are not that
+};
+
+/// @param rows filtered, @p bytes of them. @return how many came out
+int readPlainRows(const PNGHeader& header, const PNGSamples& samples, const std::uint8_t* rows, std::size_t bytes,
+                  BitmapView out)
 {
-    png_uint_32 count = 0;
-    png_bytep exif = nullptr;
-    return png_get_eXIf_1(s.png, s.info, &count, &exif) ? exifOrientation({exif, count}) : 1;
+    const std::size_t rowBytes = 1 + header.rowBytes(header.width);
+    const int whole = int(std::min<std::size_t>(bytes / rowBytes, header.height));
+    RowReader reader(header, samples, header.width);
+    for (int y = 0; y < whole; ++y)
+        if (!reader.read(rows + rowBytes * std::size_t(y), y > 0 ? out.rowData(y - 1) : nullptr, out.rowData(y)))
+            return y;
+    return whole;
 }
 
-std::string sentence(const Session& s) { return "The PNG data cannot be read: " + tidyMessage(s.message) + "."; }
+/// @param fill  whether pixels shall stand for those of passes that may not come. @return whether all came out
+bool readInterlacedRows(const PNGHeader& header, const PNGSamples& samples, const std::uint8_t* rows, std::size_t bytes,
+                        bool fill, BitmapView out, int& done)
+{
+    const std::size_t room = (std::size_t{header.width} + 3) / 4 * 16;
+    std::vector<std::uint8_t> row(room), above(room);
+    for (const Pass& pass : passesOf(header)) {
+        if (pass.width == 0) continue;
+        RowReader reader(header, samples, pass.width);
+        for (std::uint32_t j = 0; j < pass.height; ++j, ++done) {
+            if (bytes < pass.rowBytes(header)) return false;
+            std::swap(row, above);
+            if (!reader.read(rows, j > 0 ? above.data() : nullptr, row.data())) return false;
+            rows += pass.rowBytes(header);
+            bytes -= pass.rowBytes(header);
+            const std::uint32_t y0 = pass.y + j * pass.stepY, down = fill ? pass.blockHeight : 1;
+            for (std::uint32_t y = y0; y < std::min(header.height, y0 + down); ++y)
+                for (std::uint32_t i = 0; i < pass.width; ++i) {
+                    const std::uint32_t x0 = pass.x + i * pass.stepX, across = fill ? pass.blockWidth : 1;
+                    for (std::uint32_t x = x0; x < std::min(header.width, x0 + across); ++x)
+                        std::memcpy(out.pixel(int(x), int(y)), &row[std::size_t{i} * 4], 4);
+                }
+        }
+    }
+    return true;
+}
+
+std::uint32_t big32(const std::uint8_t* p)
+{
+    return std::uint32_t(p[0]) << 24 | std::uint32_t(p[1]) << 16 | std::uint32_t(p[2]) << 8 | p[3];
+}
+
+void keepDensity(ImageProperties& properties, Bytes density)
+{
+    if (density.size() != 9 || density[8] != 1) return; // pixels a metre, or only a shape
+    const std::uint32_t x = big32(density.data()), y = big32(density.data() + 4);
+    if (x == 0 || y == 0) return;
+    // Pixels a metre are whole numbers: 72 a inch is stored as 2835, which shall read as 72 again.
+    const auto perInch = [](std::uint32_t perMetre) {
+        const double exact = perMetre * 0.0254, whole = double(std::uint32_t(exact + 0.5));
+        return std::uint32_t(whole / 0.0254 + 0.5) == perMetre ? whole : exact;
+    };
+    properties.xDpi = perInch(x);
+    properties.yDpi = perInch(y);
+}
+
+/// A name of 1 to 79 bytes, a zero, the way of compression (there is one), the compressed profile.
+void keepPackedProfile(ImageProperties& properties, Bytes chunk, bool grey)
+{
+    if (chunk.empty()) return;
+    const auto end = std::find(chunk.begin(), chunk.end(), std::uint8_t{0});
+    const auto name = std::size_t(end - chunk.begin());
+    std::optional<std::vector<std::uint8_t>> profile;
+    if (name > 0 && name < 80 && chunk.size() > name + 2 && chunk[name + 1] == 0)
+        profile = inflateBounded(chunk.subspan(name + 2), kMaxUnpackedBytes);
+    if (profile && !profile->empty())
+        keepProfile(properties, std::move(*profile), grey ? "GRAY" : "RGB ");
+    else
+        properties.warnings.emplace_back("The colour profile is damaged and was left out.");
+}
+
+/// Keyword, zero, whether it is compressed, the way, language, zero, translated keyword, zero, text.
+void keepXMPText(ImageProperties& properties, Bytes chunk)
+{
+    const auto skipText = [&chunk] {
+        const auto end = std::find(chunk.begin(), chunk.end(), std::uint8_t{0});
+        if (end == chunk.end()) return false;
+        chunk = chunk.subspan(std::size_t(end - chunk.begin()) + 1);
+        return true;
+    };
+    if (!skipText() || chunk.size() < 2) return;
+    const bool packed = chunk[0] != 0;
+    chunk = chunk.subspan(2);
+    if (!skipText() || !skipText()) return;
+    std::optional<std::vector<std::uint8_t>> text;
+    if (packed) {
+        text = inflateBounded(chunk, kMaxUnpackedBytes);
+        if (!text) return;
+        chunk = *text;
+    }
+    keepXMP(properties, {reinterpret_cast<const char*>(chunk.data()), chunk.size()});
+}
+
+void collectProperties(const PNGParts& parts, ImageProperties& properties)
+{
+    keepDensity(properties, parts.density);
+    if (parts.exif.size() > 4) keepExif(properties, parts.exif);
+    const unsigned type = parts.header.type;
+    keepPackedProfile(properties, parts.profile, type == PNGHeader::Grey || type == PNGHeader::GreyAlpha);
+    keepXMPText(properties, parts.xmp);
+}
 
 } // namespace
 
 Decoded decodePNG(Bytes bytes, const ImportOptions& options)
 {
-    Session s;
-    s.chunks.open(bytes);
-    if (!readHeader(s)) return Decoded::failure(sentence(s));
     Decoded result;
-    const auto width = png_get_image_width(s.png, s.info), height = png_get_image_height(s.png, s.info);
-    if (!checkSize(width, height, bytes.size(), result.error)) return result;
-    const bool deep = png_get_bit_depth(s.png, s.info) == 16;
-    const bool transparent =
-        (png_get_color_type(s.png, s.info) & PNG_COLOR_MASK_ALPHA) || png_get_valid(s.png, s.info, PNG_INFO_tRNS);
-    const bool interlaced = png_get_interlace_type(s.png, s.info) != PNG_INTERLACE_NONE;
-    if (!prepare(s)) return Decoded::failure(sentence(s));
+    const PNGParts parts = takePNGApart(bytes, result.error);
+    if (!result.error.empty()) return result;
+    const PNGHeader& header = parts.header;
+    std::uint64_t size = 0;
+    for (const Pass& pass : passesOf(header)) size += pass.bytes(header);
+    // Where a row takes more than its pixels, and where passes are woven into each other, it needs memory of its own.
+    const bool inPlace = !header.interlaced && header.samples() * header.depth <= 32;
+    if (!checkSize(header.width, header.height, bytes.size(), result.error, inPlace ? 0 : size)) return result;
 
-    s.bitmap = interlaced ? BitmapRep::create(int(width), int(height)) // passes fill in what earlier ones left
-                          : BitmapRep::createUninitialized(int(width), int(height));
-    if (!s.bitmap) return Decoded::failure("There is not enough memory for this picture.");
-    const BitmapView out = s.bitmap->view();
-    s.rowStore.resize(height);
-    s.rows = s.rowStore.data();
-    for (int y = 0; y < out.height; ++y) s.rows[y] = out.rowData(y);
-    const bool complete = readRows(s);
-    const bool corrupt = std::strstr(s.message, "CRC") && !s.chunks.endsTooEarly();
-    if (!complete && ((s.pass == 0 && s.rowsDone == 0) || corrupt)) return Decoded::failure(sentence(s));
-    if (!complete && !interlaced)
-        for (int y = s.rowsDone; y < out.height; ++y) std::memset(out.rowData(y), 0, std::size_t(out.rowBytes));
-    if (transparent)
-        for (int y = 0; y < out.height; ++y) premultiplyRow(out.rowData(y), std::size_t(out.width));
-    if (complete) readEnd(s);
+    const int width = int(header.width), height = int(header.height);
+    const auto bitmap = header.interlaced ? BitmapRep::create(width, height) // passes fill in what earlier ones left
+                                          : BitmapRep::createUninitialized(width, height);
+    if (!bitmap) return Decoded::failure("There is not enough memory for this picture.");
+    const BitmapView out = bitmap->view();
+    PixelMemory own;
+    if (!inPlace && !(own = allocatePixelsUninitialized(size)))
+        return Decoded::failure("There is not enough memory for this picture.");
+    std::uint8_t* const rows = own ? own.get() : out.rowData(height) - size;
 
-    ImageProperties& properties = s.bitmap->properties;
-    if (!complete || s.warned)
+    std::size_t unpacked = 0;
+    const PixelState state = inflatePixels(parts, rows, size, unpacked);
+    if (state == PixelState::NoMemory) return Decoded::failure("There is not enough memory for this picture.");
+    const PNGSamples samples(parts);
+    int done = 0;
+    bool complete = state == PixelState::Whole;
+    if (header.interlaced) {
+        complete &= readInterlacedRows(header, samples, rows, unpacked, unpacked < size, out, done);
+    } else {
+        done = readPlainRows(header, samples, rows, unpacked, out);
+        complete &= done == height;
+        for (int y = done; y < height; ++y) std::memset(out.rowData(y), 0, std::size_t(out.rowBytes));
+    }
+    if (done == 0)
+        return Decoded::failure(state == PixelState::Corrupt
+                                    ? "The PNG data cannot be read: a checksum of its pixels is wrong."
+                                    : "The PNG data cannot be read: not one row of its pixels is whole.");
+
+    ImageProperties& properties = bitmap->properties;
+    if (!complete || parts.damaged)
         properties.warnings.emplace_back("The PNG data is damaged; what could be read is shown.");
-    if (deep) properties.warnings.emplace_back("The picture had 16 bits a colour; it was reduced to 8.");
-    result.orientation = orientationOf(s);
-    if (options.properties) collectProperties(s, properties);
-    result.bitmap = std::move(s.bitmap);
+    if (header.depth == 16) properties.warnings.emplace_back("The picture had 16 bits a colour; it was reduced to 8.");
+    result.orientation = exifOrientation(parts.exif);
+    if (options.properties) collectProperties(parts, properties);
+    result.bitmap = bitmap;
     return result;
 }
 
