@@ -72,7 +72,8 @@ void BatchToJPEG(benchmark::State& state)
     for (int y = 0; y < 96; ++y)
         for (int x = 0; x < 256; ++x) mark->view().row(y)[x] = 0x40404080;
     settings.watermark = mark;
-    const auto names = batchNames(settings);
+    std::vector<std::string> names;
+    batchNames(settings, names);
     for (auto _ : state) {
         const auto failures = runBatch(settings, names, {});
         if (!failures.empty()) state.SkipWithError(failures[0].error.c_str());

@@ -53,6 +53,9 @@ bool moveItem(const std::string& from, const std::string& to);
 bool copyItem(const std::string& from, const std::string& to);
 /// Names of the entries, "." and ".." left out, sorted without regard to case, dot files first. Empty when unreadable.
 std::vector<std::string> contentsOfFolder(const std::string& path);
+/// The same for whoever must tell an empty folder from one that cannot be listed. @return why it cannot, in the
+/// system's words, with @p names empty; empty when it can
+std::string listFolder(const std::string& path, std::vector<std::string>& names);
 
 struct FileAttributes {
     std::int64_t size = 0;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/sendfile.h>
@@ -224,15 +225,37 @@ bool copyItem(const std::string& from, const std::string& to)
 std::vector<std::string> contentsOfFolder(const std::string& path)
 {
     std::vector<std::string> names;
+    listFolder(path, names);
+    return names;
+}
+
+std::string listFolder(const std::string& path, std::vector<std::string>& names)
+{
+    names.clear();
+    const auto why = [](int code) {
+        char room[256];
+        return std::string(::strerror_r(code, room, sizeof room));
+    };
     DIR* folder = ::opendir(path.c_str());
-    if (!folder) return names;
-    while (const dirent* entry = ::readdir(folder)) {
+    if (!folder) return why(errno);
+    int failure = 0;
+    while (true) {
+        errno = 0; // the end of a listing differs from a failure within it by this alone
+        const dirent* entry = ::readdir(folder);
+        if (!entry) {
+            failure = errno;
+            break;
+        }
         std::string name = entry->d_name;
         if (name != "." && name != "..") names.push_back(std::move(name));
     }
     ::closedir(folder);
+    if (failure != 0) {
+        names.clear();
+        return why(failure);
+    }
     std::sort(names.begin(), names.end(), listedBefore);
-    return names;
+    return {};
 }
 
 std::optional<FileAttributes> fileAttributes(const std::string& path)

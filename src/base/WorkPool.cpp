@@ -10,7 +10,9 @@
 #include <exception>
 #include <memory>
 #include <mutex>
+#include <system_error>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace zp
@@ -170,6 +172,34 @@ void parallelFor(int count, const std::function<void(int)>& body)
     std::unique_lock lock(pass->mutex);
     pass->finished.wait(lock, [&] { return pass->done.load(std::memory_order_acquire) == count; });
     if (pass->failure) std::rethrow_exception(pass->failure);
+}
+
+void parallelThreads(int count, const std::function<void(int)>& body)
+{
+    if (count <= 0) return;
+    std::mutex mutex;
+    std::exception_ptr failure; // the first; guarded by mutex
+    const auto run = [&](int i) {
+        const bool outer = std::exchange(insideBody, true);
+        try {
+            body(i);
+        } catch (...) {
+            const std::scoped_lock lock(mutex);
+            if (!failure) failure = std::current_exception();
+        }
+        insideBody = outer;
+    };
+    std::vector<std::jthread> threads;
+    int started = 1;
+    try {
+        for (; started < count; ++started) threads.emplace_back(run, started);
+    } catch (const std::system_error&) {
+        // the caller takes over below
+    }
+    run(0);
+    for (int i = started; i < count; ++i) run(i);
+    threads.clear(); // joins
+    if (failure) std::rethrow_exception(failure);
 }
 
 void parallelBands(int rows, int grain, const std::function<void(int, int)>& body)

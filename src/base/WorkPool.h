@@ -15,6 +15,12 @@ int workerCount();
 /// Any thread may call. Worth it from about half a millisecond of work.
 void parallelFor(int count, const std::function<void(int)>& body);
 
+/// Calls body(i) for i in [0, count) all at once, each in a thread of its own (the caller's is one), for work that
+/// waits for a disk or a network as much as it computes, where more threads than processors make sense. Passes started
+/// inside a body run in its thread. Returns when all are done; an exception of a body is thrown again then. Where the
+/// system allows fewer threads, the caller runs what is left.
+void parallelThreads(int count, const std::function<void(int)>& body);
+
 /// Splits [0, rows) into bands of at least @p grain rows, at most a few per worker, and calls body(first, last) for
 /// each.
 void parallelBands(int rows, int grain, const std::function<void(int, int)>& body);

@@ -9,7 +9,6 @@
 #include <charconv>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <optional>
 #include <string_view>
@@ -32,13 +31,16 @@ Converts every .tiff and .jpg image of the folder SRC into the folder DST.
   --at X,Y            where its lower left corner goes, Y upwards (0,0)
   --opacity P         in percent (100)
   --jobs N            images at a time (as many as there are processors)
-  --shard K/N         only every N-th image by name, beginning with the K-th
+  --shard K/N         only every N-th image by name, beginning with the K-th;
+                      sources of one result go together
+  --shard auto/N      the same; K comes from SLURM_ARRAY_TASK_ID (counted from
+                      SLURM_ARRAY_TASK_MIN) or from JOB_COMPLETION_INDEX
   --skip-existing     leave images alone whose results exist
-  --dry-run           say what would be done
+  --dry-run           print what would be written, in order; write nothing
   --help              this text
 
-Exit status: 0 all done, 1 some images failed (a line each on standard error),
-2 wrong usage.
+Exit status: 0 all done, 1 some images failed (a line each on standard error)
+or SRC cannot be listed, 2 wrong usage.
 )";
 
 std::optional<int> number(std::string_view text)
@@ -88,10 +90,9 @@ std::string takeValue(BatchCommandLine& line, const std::string& option, const s
         if (!jobs || *jobs < 1 || *jobs > 256) return wrong;
         s.jobs = *jobs;
     } else {
-        const auto share = pairOf(value, '/');
-        if (!share || share->second < 1 || share->first < 1 || share->first > share->second) return wrong;
-        s.shard = unsigned(share->first);
-        s.shards = unsigned(share->second);
+        std::string error;
+        s.shard = parseShard(value, error);
+        return error;
     }
     return {};
 }
@@ -163,7 +164,7 @@ BatchCommandLine parseBatchCommandLine(int argc, char** argv)
         } else if (word == "--skip-existing") {
             line.settings.skipExisting = true;
         } else if (word == "--dry-run") {
-            line.settings.dryRun = true;
+            line.dryRun = true;
         } else if (word == "--help" || word == "-h") {
             line.help = true;
             return line;
@@ -198,25 +199,31 @@ int runBatchCommandLine(int argc, char** argv)
         std::fprintf(stderr, "zelpane: %s\nTry \"zelpane --batch --help\".\n", line.error.c_str());
         return 2;
     }
-    // Before the pool starts: it has as many workers as there are images at a time.
-    if (line.settings.jobs > 0) setenv("ZELPANE_JOBS", std::to_string(line.settings.jobs).c_str(), 1);
-    line.settings.jobs = workerCount();
+    std::vector<std::string> names;
+    if (const std::string why = batchNames(line.settings, names); !why.empty()) {
+        std::fprintf(stderr, "zelpane: the folder %s cannot be listed: %s.\n", printable(line.settings.source).c_str(),
+                     why.c_str());
+        return 1;
+    }
+    if (line.dryRun) {
+        for (const std::string& file : batchPlan(line.settings, names)) std::printf("%s\n", printable(file).c_str());
+        return 0;
+    }
+    if (line.settings.jobs == 0) line.settings.jobs = workerCount();
 
-    const std::vector<std::string> names = batchNames(line.settings);
     const bool terminal = isatty(STDOUT_FILENO) != 0;
     std::signal(SIGINT, onInterrupt);
     std::signal(SIGTERM, onInterrupt);
-    std::size_t skipped = 0, done = 0;
+    std::size_t skipped = 0, superseded = 0, done = 0;
     const auto failures = runBatch(line.settings, names, [&](const BatchOutcome& outcome, std::size_t count) {
         done = count;
         skipped += outcome.skipped;
+        superseded += outcome.superseded;
         const std::string name = printable(outcome.name);
         if (terminal) std::printf("\r\033[K");
         if (!outcome.error.empty()) {
             std::fflush(stdout);
             std::fprintf(stderr, "%s: %s\n", name.c_str(), outcome.error.c_str());
-        } else if (line.settings.dryRun) {
-            std::printf("%s%s\n", name.c_str(), outcome.skipped ? " (exists)" : "");
         }
         if (terminal) {
             std::printf("%zu of %zu  %.60s", count, names.size(), name.c_str());
@@ -224,9 +231,12 @@ int runBatchCommandLine(int argc, char** argv)
         }
         return !interrupted;
     });
-    if (terminal)
-        std::printf("\r\033[K%zu of %zu done, %zu skipped, %zu failed\n", done - failures.size() - skipped,
+    if (terminal) {
+        std::printf("\r\033[K%zu of %zu done, %zu skipped, %zu failed", done - failures.size() - skipped - superseded,
                     names.size(), skipped, failures.size());
+        if (superseded > 0) std::printf(", %zu superseded by a later source of the same name", superseded);
+        std::printf("\n");
+    }
     if (done < names.size()) std::fprintf(stderr, "zelpane: interrupted after %zu of %zu images\n", done, names.size());
     return failures.empty() && done == names.size() ? 0 : 1;
 }

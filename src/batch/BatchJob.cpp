@@ -51,6 +51,19 @@ bool resultsExist(const BatchSettings& settings, const std::string& name)
     return settings.tiff || settings.jpeg;
 }
 
+/// The places of the names that share a base name, and so their results; groups in the order of their first.
+std::vector<std::vector<std::size_t>> groupsByBaseName(const std::vector<std::string>& names)
+{
+    std::vector<std::vector<std::size_t>> groups;
+    std::map<std::string, std::size_t> groupOf;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto [found, isNew] = groupOf.try_emplace(pathWithoutExtension(names[i]), groups.size());
+        if (isNew) groups.emplace_back();
+        groups[found->second].push_back(i);
+    }
+    return groups;
+}
+
 /// Asks the system to read a file while something else is worked on.
 void readAhead(const std::string& path)
 {
@@ -62,14 +75,27 @@ void readAhead(const std::string& path)
 
 } // namespace
 
-std::vector<std::string> batchNames(const BatchSettings& settings)
+std::string batchNames(const BatchSettings& settings, std::vector<std::string>& names)
 {
-    std::vector<std::string> names = contentsOfFolder(settings.source);
+    if (const std::string why = listFolder(settings.source, names); !why.empty()) return why;
     std::erase_if(names, [](const std::string& name) { return !isBatchSource(name); });
-    return settings.shards > 1 ? shardOf(std::move(names), settings.shard, settings.shards) : names;
+    if (settings.shard.count > 1) names = shardOf(std::move(names), settings.shard);
+    return {};
 }
 
-std::string processBatchImage(const BatchSettings& settings, const std::string& name)
+std::vector<std::string> batchPlan(const BatchSettings& settings, const std::vector<std::string>& names)
+{
+    std::vector<std::string> files;
+    for (const std::vector<std::size_t>& group : groupsByBaseName(names)) {
+        const std::string& name = names[group.front()];
+        if (settings.skipExisting && resultsExist(settings, name)) continue;
+        if (settings.tiff) files.push_back(batchOutput(settings.destination, name, "tiff"));
+        if (settings.jpeg) files.push_back(batchOutput(settings.destination, name, "jpg"));
+    }
+    return files;
+}
+
+std::string processBatchImage(const BatchSettings& settings, const std::string& name, BatchResults& missing)
 {
     const std::string entry = settings.source + "/" + name;
     const std::string path = resolveAlias(entry).value_or(entry);
@@ -102,50 +128,53 @@ std::string processBatchImage(const BatchSettings& settings, const std::string& 
         drawWatermark(image->view(), settings.watermark->view(), sizeInPoints(*settings.watermark),
                       settings.watermarkPoint, settings.watermarkAlpha);
 
-    std::string error;
-    if (settings.tiff)
-        error =
+    std::string tiffError, jpegError;
+    if (missing.tiff) {
+        tiffError =
             writeResult(encodeTIFF(image->view(), image->properties), batchOutput(settings.destination, name, "tiff"));
-    if (settings.jpeg && error.empty())
-        error = writeResult(encodeJPEG(image->view(), image->properties, {.factor = 0.7, .fallbackBackground = kWhite}),
-                            batchOutput(settings.destination, name, "jpg"));
-    return error;
+        missing.tiff = !tiffError.empty();
+    }
+    if (missing.jpeg) {
+        jpegError =
+            writeResult(encodeJPEG(image->view(), image->properties, {.factor = 0.7, .fallbackBackground = kWhite}),
+                        batchOutput(settings.destination, name, "jpg"));
+        missing.jpeg = !jpegError.empty();
+    }
+    if (tiffError.empty() || jpegError.empty() || tiffError == jpegError)
+        return tiffError.empty() ? jpegError : tiffError;
+    return tiffError + " " + jpegError;
 }
 
 std::vector<BatchOutcome> runBatch(const BatchSettings& settings, const std::vector<std::string>& names,
                                    const std::function<bool(const BatchOutcome&, std::size_t done)>& onDone)
 {
-    std::vector<std::vector<std::size_t>> groups;
-    std::map<std::string, std::size_t> groupOf;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        const auto [found, isNew] = groupOf.try_emplace(pathWithoutExtension(names[i]), groups.size());
-        if (isNew) groups.emplace_back();
-        groups[found->second].push_back(i);
-    }
-
+    const std::vector<std::vector<std::size_t>> groups = groupsByBaseName(names);
     std::vector<BatchOutcome> outcomes(names.size());
     std::atomic<std::size_t> next{0};
     std::atomic<bool> stopped{false};
     std::mutex mutex;
     std::size_t done = 0;
-    const auto work = [&](int) {
+    const auto workOnGroup = [&](const std::vector<std::size_t>& group) {
+        const bool skipped = settings.skipExisting && resultsExist(settings, names[group.front()]);
+        BatchResults missing{settings.tiff, settings.jpeg};
+        for (auto i = group.rbegin(); i != group.rend() && !stopped; ++i) {
+            BatchOutcome& outcome = outcomes[*i];
+            outcome.name = names[*i];
+            outcome.skipped = skipped;
+            outcome.superseded = !skipped && i != group.rbegin() && !missing.tiff && !missing.jpeg;
+            if (!skipped && !outcome.superseded) outcome.error = processBatchImage(settings, names[*i], missing);
+            const std::scoped_lock lock(mutex);
+            if (onDone && !onDone(outcome, ++done)) stopped = true;
+        }
+    };
+    parallelThreads(std::max(1, settings.jobs), [&](int) {
         while (!stopped) {
             const std::size_t group = next.fetch_add(1);
             if (group >= groups.size()) return;
-            if (group + 1 < groups.size() && !settings.dryRun)
-                readAhead(settings.source + "/" + names[groups[group + 1].front()]);
-            for (const std::size_t i : groups[group]) {
-                if (stopped) return;
-                BatchOutcome& outcome = outcomes[i];
-                outcome.name = names[i];
-                outcome.skipped = settings.skipExisting && resultsExist(settings, names[i]);
-                if (!outcome.skipped && !settings.dryRun) outcome.error = processBatchImage(settings, names[i]);
-                const std::scoped_lock lock(mutex);
-                if (onDone && !onDone(outcome, ++done)) stopped = true;
-            }
+            if (group + 1 < groups.size()) readAhead(settings.source + "/" + names[groups[group + 1].back()]);
+            workOnGroup(groups[group]);
         }
-    };
-    parallelFor(std::max(1, settings.jobs), work);
+    });
 
     std::vector<BatchOutcome> failures;
     for (BatchOutcome& outcome : outcomes)

@@ -3,6 +3,7 @@
 #pragma once
 #include "base/BitmapRep.h"
 #include "base/Geometry.h"
+#include "batch/BatchShard.h"
 #include <functional>
 #include <memory>
 #include <string>
@@ -18,28 +19,40 @@ struct BatchSettings {
     Point watermarkPoint; ///< lower-left corner, y upwards
     float watermarkAlpha = 1;
     bool tiff = false, jpeg = false;
-    bool skipExisting = false; ///< images whose results are all there are passed over
-    bool dryRun = false;       ///< nothing is read or written
-    int jobs = 1;              ///< images at a time
-    unsigned shard = 1, shards = 1;
+    bool skipExisting = false;   ///< images whose results are all there are passed over
+    int jobs = 1;                ///< images at a time
+    Shard shard;                 ///< of the source folder
     bool reducedDecoding = true; ///< JPEG files are decoded at a half, a quarter or an eighth where that suffices
 };
 
 struct BatchOutcome {
-    std::string name;  ///< of the source
-    std::string error; ///< a sentence; empty: done
-    bool skipped = false;
+    std::string name;        ///< of the source
+    std::string error;       ///< sentences; empty: done
+    bool skipped = false;    ///< its results were there
+    bool superseded = false; ///< a later source of the same base name made its results
 };
 
-/// The names of the source folder that the settings' share covers.
-std::vector<std::string> batchNames(const BatchSettings& settings);
+/// The sources of the source folder that the settings' share covers. @return why the folder cannot be listed, else
+/// empty
+std::string batchNames(const BatchSettings& settings, std::vector<std::string>& names);
 
-/// One image from file to files. @return why it failed, empty when it did not. Any thread.
-std::string processBatchImage(const BatchSettings& settings, const std::string& name);
+/// The files that a run of the names would write, in order. Nothing is read.
+std::vector<std::string> batchPlan(const BatchSettings& settings, const std::vector<std::string>& names);
 
-/// Runs the names through. Sources of one base name write the same results: they are worked on one after the other, in
-/// order. @p onDone is called after each image, one call at a time, on any thread; when it answers false no further
-/// image is begun. Memory: about two fitted or reduced images a job. @return all failures, in the order of the names
+/// Results of one image.
+struct BatchResults {
+    bool tiff = false, jpeg = false;
+};
+/// One image from file to files; a result that cannot be written does not keep the other from being. Any thread.
+/// @param missing  in: the results to make; out: those that were not made
+/// @return why, empty when all were made
+std::string processBatchImage(const BatchSettings& settings, const std::string& name, BatchResults& missing);
+
+/// Runs the names through. Sources of one base name have the same results, which the last in the order of the names
+/// makes; one before it is read only when those behind it failed. A result that is there is therefore final, and a run
+/// that was killed ends up with the same files when it is run again with skipExisting. @p onDone is called after each
+/// image, one call at a time, on any thread; when it answers false no further image is begun. Memory: about two fitted
+/// or reduced images a job. @return all failures, in the order of the names
 std::vector<BatchOutcome> runBatch(const BatchSettings& settings, const std::vector<std::string>& names,
                                    const std::function<bool(const BatchOutcome&, std::size_t done)>& onDone);
 

@@ -2,7 +2,6 @@
 /// Names, sizes and positions of a batch run.
 #include "batch/BatchRules.h"
 #include "base/Folders.h"
-#include <algorithm>
 #include <cmath>
 
 namespace zp
@@ -56,15 +55,6 @@ const char* batchFaultText(BatchFolderFault fault)
         break;
     }
     return "";
-}
-
-std::vector<std::string> shardOf(std::vector<std::string> names, unsigned number, unsigned count)
-{
-    std::sort(names.begin(), names.end());
-    if (count <= 1) return names;
-    std::vector<std::string> share;
-    for (std::size_t i = number - 1; i < names.size(); i += count) share.push_back(std::move(names[i]));
-    return share;
 }
 
 Point watermarkPosition(WatermarkPlace place, Size image, Size watermark)

@@ -3,7 +3,6 @@
 #pragma once
 #include "base/Geometry.h"
 #include <string>
-#include <vector>
 
 namespace zp
 {
@@ -25,10 +24,6 @@ enum class BatchFolderFault { None, NoSource, NoDestination, Same, Missing };
 BatchFolderFault checkBatchFolders(const std::string& source, const std::string& destination);
 /// The sentence for a fault; empty for none.
 const char* batchFaultText(BatchFolderFault fault);
-
-/// Every count-th name, beginning with the number-th (from 1), in the order of the names' bytes: the shares of all
-/// numbers together are the whole, whatever machine works on them.
-std::vector<std::string> shardOf(std::vector<std::string> names, unsigned number, unsigned count);
 
 /// Presets that fill in the watermark's position.
 enum class WatermarkPlace { Custom, LowerLeft, LowerRight, UpperLeft, UpperRight, Center };

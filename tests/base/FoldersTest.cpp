@@ -114,6 +114,11 @@ TEST_F(Folders, AreListedWithoutRegardToCaseDotFilesFirst)
     const auto place = [&](const char* name) { return std::find(listed.begin(), listed.end(), name) - listed.begin(); };
     EXPECT_LT(place("äh"), place("Äpfel"));
     EXPECT_TRUE(contentsOfFolder(at("nowhere")).empty());
+    std::vector<std::string> names{"left over"};
+    EXPECT_EQ(listFolder(at("nowhere"), names), "No such file or directory");
+    EXPECT_TRUE(names.empty());
+    EXPECT_EQ(listFolder(mRoot, names), "");
+    EXPECT_EQ(names, listed);
 }
 
 TEST_F(Folders, RemovingALinkLeavesItsTarget)

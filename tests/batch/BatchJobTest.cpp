@@ -45,7 +45,13 @@ protected:
     {
         ASSERT_TRUE(copyItem(picture(original), source() + "/" + name)) << name;
     }
-    std::vector<BatchOutcome> run() { return runBatch(mSettings, batchNames(mSettings), {}); }
+    std::vector<std::string> names() const
+    {
+        std::vector<std::string> listed;
+        EXPECT_EQ(batchNames(mSettings, listed), "");
+        return listed;
+    }
+    std::vector<BatchOutcome> run() { return runBatch(mSettings, names(), {}); }
     std::vector<std::string> results() const { return contentsOfFolder(destination()); }
     std::shared_ptr<BitmapRep> result(const std::string& name) const
     {
@@ -182,39 +188,107 @@ TEST_F(Batch, TwoHundredOddNames)
         names.push_back("name " + std::string(std::size_t(i) % 50, char(0xC0 + i % 60)) + std::to_string(i));
     for (std::size_t i = 0; i < names.size(); ++i)
         add("made/valid/base.jpg", names[i] + (i % 3 == 0 && names[i].size() < 249 ? ".tiff" : ".jpg"));
-    EXPECT_EQ(batchNames(mSettings).size(), 200u);
+    EXPECT_EQ(this->names().size(), 200u);
     EXPECT_TRUE(run().empty());
     EXPECT_EQ(results().size(), 200u);
     for (const std::string& name : names) EXPECT_TRUE(fileExists(destination() + "/" + name + ".jpg")) << name;
 }
 
-TEST_F(Batch, SourcesOfOneNameAreWorkedOnInOrder)
+TEST_F(Batch, OfTheSourcesOfOneNameTheLastMakesTheResult)
 {
     for (int i = 0; i < 20; ++i) {
-        add("made/valid/base.jpg", std::to_string(i) + ".jpg");
-        add("made/exif/orientation-1.tif", std::to_string(i) + ".tiff"); // behind .jpg in the folder's order
+        add("made/valid/base.jpg", std::to_string(i) + ".jpg");          // 64 wide
+        add("made/exif/orientation-1.tif", std::to_string(i) + ".tiff"); // 160 wide, behind .jpg in the folder's order
     }
-    EXPECT_TRUE(run().empty());
+    std::size_t superseded = 0;
+    const auto failures = runBatch(mSettings, names(), [&](const BatchOutcome& outcome, std::size_t) {
+        EXPECT_EQ(outcome.superseded, outcome.name.ends_with(".jpg")) << outcome.name;
+        superseded += outcome.superseded;
+        return true;
+    });
+    EXPECT_TRUE(failures.empty());
+    EXPECT_EQ(superseded, 20u);
     for (int i = 0; i < 20; ++i) EXPECT_EQ(result(std::to_string(i) + ".jpg")->pixelsWide(), 160) << i;
+}
+
+TEST_F(Batch, OfTheSourcesOfOneNameTheLastThatCanBeReadMakesTheResult)
+{
+    add("made/valid/base.jpg", "a.jpg");
+    add("made/truncated/zero-bytes.jpg", "a.tiff");
+    const auto failures = run();
+    ASSERT_EQ(failures.size(), 1u);
+    EXPECT_EQ(failures[0].name, "a.tiff");
+    EXPECT_EQ(result("a.jpg")->pixelsWide(), 64);
+}
+
+TEST_F(Batch, ARunThatWasKilledBetweenSourcesOfOneNameEndsWithTheSameFiles)
+{
+    add("made/valid/base.jpg", "a.jpg");
+    add("made/exif/orientation-1.tif", "a.tiff");
+    mSettings.jobs = 1;
+    mSettings.skipExisting = true;
+    runBatch(mSettings, names(), [](const BatchOutcome&, std::size_t) { return false; }); // after the first image
+    EXPECT_TRUE(run().empty());
+    EXPECT_EQ(result("a.jpg")->pixelsWide(), 160);
+}
+
+TEST_F(Batch, AResultThatCannotBeWrittenDoesNotKeepTheOtherFromBeing)
+{
+    add("made/valid/base.jpg", "a.jpg");
+    mSettings.tiff = true;
+    ASSERT_TRUE(createFolder(destination() + "/a.tiff")); // in the way
+    const auto failures = run();
+    ASSERT_EQ(failures.size(), 1u);
+    EXPECT_EQ(failures[0].error, "There is a folder of that name.");
+    EXPECT_EQ(result("a.jpg")->pixelsWide(), 64);
+}
+
+TEST_F(Batch, AnEarlierSourceMakesOnlyWhatALaterOneCouldNot)
+{
+    add("made/valid/base.jpg", "a.jpg");
+    add("made/exif/orientation-1.tif", "a.tiff");
+    mSettings.tiff = true;
+    ASSERT_TRUE(createFolder(destination() + "/a.tiff"));
+    EXPECT_EQ(run().size(), 2u); // the folder is in both sources' way
+    EXPECT_EQ(result("a.jpg")->pixelsWide(), 160);
+}
+
+TEST_F(Batch, ThePlanIsWhatWillBeWrittenInOrder)
+{
+    for (const char* name : {"b.jpg", "B2.jpg", "a.jpg", "a.tiff", "c.tiff"})
+        add(std::string(name).ends_with("jpg") ? "made/valid/base.jpg" : "made/valid/base.tif", name);
+    mSettings.tiff = true;
+    const auto in = [&](std::vector<std::string> files) {
+        for (std::string& name : files) name.insert(0, destination() + "/");
+        return files;
+    };
+    EXPECT_EQ(batchPlan(mSettings, names()),
+              in({"a.tiff", "a.jpg", "b.tiff", "b.jpg", "B2.tiff", "B2.jpg", "c.tiff", "c.jpg"}));
+    EXPECT_TRUE(results().empty());
+    writeFileSafely(destination() + "/b.tiff", "x", 1);
+    writeFileSafely(destination() + "/b.jpg", "x", 1);
+    writeFileSafely(destination() + "/c.jpg", "x", 1); // one of two: both are made again
+    mSettings.skipExisting = true;
+    const auto plan = batchPlan(mSettings, names());
+    EXPECT_EQ(plan, in({"a.tiff", "a.jpg", "B2.tiff", "B2.jpg", "c.tiff", "c.jpg"}));
+    EXPECT_TRUE(run().empty());
+    for (const std::string& file : plan) EXPECT_TRUE(importImageFile(file).bitmap) << file;
+    EXPECT_EQ(readWholeFile(destination() + "/b.jpg"), "x");
 }
 
 TEST_F(Batch, StopsWhenToldAndWritesNothingHalf)
 {
     for (int i = 0; i < 30; ++i) add("made/valid/base.jpg", std::to_string(i) + ".jpg");
     mSettings.jobs = 1;
-    runBatch(mSettings, batchNames(mSettings), [](const BatchOutcome&, std::size_t done) { return done < 5; });
+    runBatch(mSettings, names(), [](const BatchOutcome&, std::size_t done) { return done < 5; });
     EXPECT_EQ(results().size(), 5u);
     for (const std::string& name : results()) EXPECT_TRUE(result(name)) << name;
 }
 
-TEST_F(Batch, SkipsWhatIsThereAndTouchesNothingOnADryRun)
+TEST_F(Batch, SkipsWhatIsThere)
 {
     add("made/valid/base.jpg", "a.jpg");
     add("made/valid/base.jpg", "b.jpg");
-    mSettings.dryRun = true;
-    EXPECT_TRUE(run().empty());
-    EXPECT_TRUE(results().empty());
-    mSettings.dryRun = false;
     mSettings.skipExisting = true;
     writeFileSafely(destination() + "/a.jpg", "kept", 4);
     EXPECT_TRUE(run().empty());
@@ -225,7 +299,7 @@ TEST_F(Batch, SkipsWhatIsThereAndTouchesNothingOnADryRun)
 TEST_F(Batch, ASourceThatLosesFilesIsReported)
 {
     for (int i = 0; i < 10; ++i) add("made/valid/base.jpg", std::to_string(i) + ".jpg");
-    const auto names = batchNames(mSettings);
+    const auto names = this->names();
     mSettings.jobs = 1;
     const auto failures = runBatch(mSettings, names, [&](const BatchOutcome&, std::size_t done) {
         if (done == 4)
@@ -277,10 +351,10 @@ TEST_F(Batch, CommandLineUnderstandsItsOptions)
     EXPECT_EQ(line.settings.fitHeight, 768);
     EXPECT_EQ(line.settings.watermarkPoint, (Point{-10, 20}));
     EXPECT_EQ(line.settings.watermarkAlpha, 0.5f);
-    EXPECT_TRUE(line.settings.tiff && line.settings.jpeg && line.settings.skipExisting && line.settings.dryRun);
+    EXPECT_TRUE(line.settings.tiff && line.settings.jpeg && line.settings.skipExisting && line.dryRun);
     EXPECT_EQ(line.settings.jobs, 3);
-    EXPECT_EQ(line.settings.shard, 2u);
-    EXPECT_EQ(line.settings.shards, 5u);
+    EXPECT_EQ(line.settings.shard.number, 2u);
+    EXPECT_EQ(line.settings.shard.count, 5u);
     EXPECT_EQ(line.watermarkPath, "w.jpg");
     for (const std::vector<std::string>& wrong : {std::vector<std::string>{source(), destination()},
                                                   {source(), "--jpeg"},
@@ -291,6 +365,7 @@ TEST_F(Batch, CommandLineUnderstandsItsOptions)
                                                   {source(), destination(), "--jpeg", "--fit", "0x10"},
                                                   {source(), destination(), "--jpeg", "--shard", "3/2"},
                                                   {source(), destination(), "--jpeg", "--shard", "0/2"},
+                                                  {source(), destination(), "--jpeg", "--shard", "auto/2"},
                                                   {source(), destination(), "--jpeg", "--jobs", "0"},
                                                   {source(), destination(), "--jpeg", "--fit"},
                                                   {source(), destination(), "--jpeg", "--what"},
@@ -316,6 +391,22 @@ TEST_F(Batch, CommandLineAnswersByItsStatus)
     EXPECT_EQ(run({source(), destination(), "--jpeg"}), 1);
     EXPECT_EQ(run({source(), destination(), "--jpeg", "--shard", "1/2"}), 0);
     EXPECT_EQ(run({source(), destination(), "--jpeg", "--shard", "2/2"}), 1);
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(run({source(), destination(), "--jpeg", "--tiff", "--dry-run", "--shard", "2/2"}), 0);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), destination() + "/b.tiff\n" + destination() + "/b.jpg\n");
+}
+
+TEST_F(Batch, ASourceFolderThatCannotBeListedIsAFailure)
+{
+    const std::string file = temporaryFolder() + "/no folder";
+    writeFileSafely(file, "x", 1);
+    std::string words[] = {"zelpane", "--batch", file, destination(), "--jpeg"};
+    char* argv[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data(), words[4].data()};
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(runBatchCommandLine(5, argv), 1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "zelpane: the folder " + file + " cannot be listed: Not a directory.\n");
+    removeItem(file);
 }
 
 } // namespace

@@ -60,22 +60,6 @@ TEST(BatchRules, FoldersAreCheckedInOrder)
     removeItem(b);
 }
 
-TEST(BatchRules, SharesTogetherAreTheWhole)
-{
-    std::vector<std::string> names;
-    for (int i = 0; i < 23; ++i) names.push_back(std::string(1, char('a' + (i * 7) % 23)) + ".jpg");
-    for (const unsigned count : {1u, 2u, 5u, 40u}) {
-        std::multiset<std::string> all;
-        for (unsigned k = 1; k <= count; ++k)
-            for (const std::string& name : shardOf(names, k, count)) all.insert(name);
-        EXPECT_EQ(all, std::multiset<std::string>(names.begin(), names.end())) << count;
-    }
-    // whatever the order in which a machine lists them
-    auto reversed = names;
-    std::reverse(reversed.begin(), reversed.end());
-    EXPECT_EQ(shardOf(names, 2, 3), shardOf(reversed, 2, 3));
-}
-
 TEST(BatchRules, PresetsCountFromTheLowerLeft)
 {
     const Size image{1000, 500}, mark{100, 50};
