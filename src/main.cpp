@@ -15,6 +15,19 @@
 
 using namespace zp;
 
+/// One word of a start: a file to open, or what to begin with.
+static void carryOut(ZPAppController& controller, const std::string& request)
+{
+    if (!request.starts_with("--")) {
+        controller.application(request);
+        return;
+    }
+    if (QApplication::activeModalWidget()) return; // one question at a time
+    if (request == "--new") controller.newDocument();
+    if (request == "--open") controller.openDocument();
+    if (request == "--image-processor") controller.imageProcessor();
+}
+
 int main(int argc, char** argv)
 {
     if (argc > 1 && std::string(argv[1]) == "--batch") return runBatchCommandLine(argc, argv);
@@ -51,8 +64,11 @@ int main(int argc, char** argv)
     applyColorScheme();
     QApplication::setQuitOnLastWindowClosed(false);
 
+    // What to begin with goes behind the files, in the words of the command line: a path that is absolute is never one.
+    std::vector<std::string> requests = line.files;
+    if (!line.request.empty()) requests.push_back(line.request);
     SingleInstance instance;
-    if (!scripted && instance.handOver(line.files)) return 0;
+    if (!scripted && instance.handOver(requests)) return 0;
 
     installKeyModifierWatch();
     ZPAppController controller;
@@ -61,14 +77,15 @@ int main(int argc, char** argv)
     std::unique_ptr<ScriptDriver> driver;
     if (scripted) driver = std::make_unique<ScriptDriver>(controller, line.script);
     if (!scripted)
-        instance.listen([&controller](const std::vector<std::string>& files) {
+        instance.listen([&controller](const std::vector<std::string>& received) {
             controller.imageEditor();
-            for (const std::string& file : files) controller.application(file);
+            for (const std::string& request : received) carryOut(controller, request);
         });
     // The launch sequence asks its question in a loop of its own, once the window is on screen.
     QTimer::singleShot(0, &controller, [&] {
         for (const std::string& file : line.files) controller.application(file);
-        controller.applicationDidFinishLaunching(line.startChoice);
+        controller.applicationDidFinishLaunching(line.startChoice && line.request.empty());
+        if (!line.request.empty()) carryOut(controller, line.request);
     });
     if (driver) QTimer::singleShot(0, driver.get(), [&driver] { driver->start(); });
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The command line and the colour scheme.
 #include "app/CommandLine.h"
+#include "base/Simd.h"
 #include <QApplication>
 #include <QPalette>
 #include <QSettings>
@@ -12,21 +13,39 @@ namespace zp
 namespace
 {
 
-const char* const kHelp = R"(Usage: zelpane [OPTION…] [FILE]
+const char* const kHelp = R"(Usage: zelpane [OPTION…] [FILE…]
        zelpane --script FILE [--show | --offscreen] [--no-start-choice] [IMAGE]
        zelpane --batch SRC DST [OPTION…]     (zelpane --batch --help says more)
 
 A bitmap image editor.
 
+  --new               begin with a new image
+  --open              begin with the panel that opens an image
+  --image-processor   begin with the image processor
   --script FILE       play automation commands from FILE, "-" for standard input
   --show              with --script: the windows are on screen
   --offscreen         needs no display
   --no-start-choice   do not ask for a new or an existing image at the start
   --help              this text
-  --version           the version
+  --version           the version, the libraries and the vector instructions in use
 )";
 
+bool isRequest(const std::string& word) { return word == "--new" || word == "--open" || word == "--image-processor"; }
+
 } // namespace
+
+std::string versionText()
+{
+    std::string text = "Zelpane " ZP_VERSION "\nLibraries: Qt ";
+    text += qVersion();
+    text += ", " ZP_LIBRARIES "\nVector targets: ";
+    bool first = true;
+    for (const std::string& target : vectorTargets()) {
+        text += first ? target + " (in use)" : ", " + target;
+        first = false;
+    }
+    return text + "\n";
+}
 
 CommandLine parseCommandLine(int argc, char** argv)
 {
@@ -44,7 +63,13 @@ CommandLine parseCommandLine(int argc, char** argv)
         } else if (word == "--help" || word == "-h") {
             line.answer = kHelp;
         } else if (word == "--version") {
-            line.answer = "Zelpane " ZP_VERSION "\n";
+            line.answer = versionText();
+        } else if (isRequest(word)) {
+            if (!line.request.empty() && line.request != word) {
+                line.error = line.request + " and " + word + " cannot be combined.";
+                return line;
+            }
+            line.request = word;
         } else if (word == "--script") {
             if (++i >= argc) {
                 line.error = "--script needs a file.";

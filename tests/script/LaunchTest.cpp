@@ -32,6 +32,23 @@ TEST(Launch, NewLeadsToTheSizeDialog)
     EXPECT_TRUE(image["gworld"].toBool());
 }
 
+TEST(Launch, AWordLeadsStraightToWhatItNames)
+{
+    {
+        Session s({"--new"});
+        EXPECT_EQ(s.must("windows")["windows"].toArray()[0].toObject()["name"], "New");
+        EXPECT_TRUE(s.must("alert")["alert"].isNull());
+    }
+    {
+        Session s({"--image-processor"});
+        EXPECT_EQ(s.must("alert")["alert"].toObject()["title"], "Do you really want to use the image processor?");
+    }
+    {
+        Session s({"--open"});
+        EXPECT_FALSE(s.must("panel")["panel"].isNull());
+    }
+}
+
 TEST(Launch, ADocumentLeavesTheQuestionOut)
 {
     QTemporaryDir home;
