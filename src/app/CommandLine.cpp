@@ -36,9 +36,9 @@ bool isRequest(const std::string& word) { return word == "--new" || word == "--o
 
 std::string versionText()
 {
-    std::string text = "Zelpane " ZP_VERSION "\nLibraries: Qt ";
+    std::string text = "Zelpane " ZP_VERSION "\nLibraries: Qt (";
     text += qVersion();
-    text += ", " ZP_LIBRARIES "\nVector targets: ";
+    text += "), " ZP_LIBRARIES "\nVector targets: ";
     bool first = true;
     for (const std::string& target : vectorTargets()) {
         text += first ? target + " (in use)" : ", " + target;

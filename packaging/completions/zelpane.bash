@@ -1,0 +1,33 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Completion of zelpane's command line for bash.
+_zelpane() {
+    local cur prev words cword
+    _init_completion || return
+    case $prev in
+    --script | --watermark)
+        _filedir
+        return
+        ;;
+    --shard)
+        COMPREPLY=($(compgen -W 'auto/' -- "$cur"))
+        compopt -o nospace
+        return
+        ;;
+    --fit | --at | --opacity | --jobs)
+        return
+        ;;
+    esac
+    local options='--new --open --image-processor --script --show --offscreen --no-start-choice --help --version'
+    [ "$cword" -eq 1 ] && options+=' --batch'
+    if [ "${words[1]}" = --batch ] && [ "$cword" -gt 1 ]; then
+        options='--tiff --jpeg --fit --watermark --at --opacity --jobs --shard --skip-existing --dry-run --help'
+    fi
+    if [[ $cur == -* ]]; then
+        COMPREPLY=($(compgen -W "$options" -- "$cur"))
+    elif [ "${words[1]}" = --batch ]; then
+        _filedir -d
+    else
+        _filedir
+    fi
+} &&
+    complete -F _zelpane zelpane
