@@ -50,7 +50,8 @@ function(zp_add_room room)
     target_link_libraries(zp_${room} PUBLIC ${A_USES} ${A_LINK} PRIVATE zp_flags ${A_PRIVATE_LINK})
 endfunction()
 
-# zp_add_tests(NAME FILES... LINK libs): one GoogleTest program; each test runs alone, in a home folder of its own.
+# zp_add_tests(NAME FILES... LINK libs): one GoogleTest program; each test runs alone, in a home folder of its own. A suite whose
+# name ends in "Long" is a long form: it has the label "long", and only ./test --long runs it.
 function(zp_add_tests name)
     cmake_parse_arguments(A "QT" "" "FILES;LINK" ${ARGN})
     if(NOT A_FILES)
@@ -68,7 +69,10 @@ function(zp_add_tests name)
     target_compile_definitions(test_${name} PRIVATE ZP_TESTDATA="${CMAKE_SOURCE_DIR}/tests/data"
                                                     ZP_RESOURCES="${CMAKE_SOURCE_DIR}/resources"
                                                     ZP_SOURCE="${CMAKE_SOURCE_DIR}")
-    gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+    gtest_discover_tests(test_${name} TEST_FILTER "-*Long.*" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+                         PROPERTIES TIMEOUT 300)
+    gtest_discover_tests(test_${name} TEST_FILTER "*Long.*" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+                         PROPERTIES TIMEOUT 3600 LABELS long)
 endfunction()
 
 # zp_add_room_tests(ROOM [QT] [LINK libs]): the tests of a folder of src, in the folder of the same name.
@@ -79,6 +83,17 @@ function(zp_add_room_tests room)
         zp_add_tests(${room} QT FILES ${tests} LINK zp_${room} ${A_LINK})
     else()
         zp_add_tests(${room} FILES ${tests} LINK zp_${room} ${A_LINK})
+    endif()
+endfunction()
+
+# zp_add_script_test(NAME SCRIPT [LONG]): a test that is a shell script; see tests/support/script.sh. LONG: only for ./test --long.
+function(zp_add_script_test name script)
+    cmake_parse_arguments(A "LONG" "" "" ${ARGN})
+    add_test(NAME ${name} COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/${script})
+    set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 300
+        ENVIRONMENT "ROOT=${CMAKE_SOURCE_DIR};BUILD=${CMAKE_BINARY_DIR};ZELPANE=$<TARGET_FILE:zelpane>")
+    if(A_LONG)
+        set_tests_properties(${name} PROPERTIES LABELS long TIMEOUT 3600)
     endif()
 endfunction()
 
