@@ -7,7 +7,7 @@ cleanups=()
 clean_up() {
     local i
     for ((i = ${#cleanups[@]} - 1; i >= 0; i--)); do eval "${cleanups[i]}" || true; done
-    rm -rf "$work"
+    rm -rf --one-file-system "$work" # a root of a test may have had something mounted
 }
 trap clean_up EXIT
 at_end() { cleanups+=("$1"); } # a command; the last one given runs first
