@@ -21,8 +21,8 @@ mkdir -p "$empty/pictures/in" "$empty/pictures/out" "$empty/pictures/kinds" "$em
 
 # The Containerfile's content.
 cp "$package" "$empty/tmp/"
-[ "$(sed -n 's/^COPY //p' "$ROOT/packaging/Containerfile")" = "zelpane_*.deb /tmp/" ] || fail "the Containerfile copies something else"
-sed -e ':join' -e '/\\$/{N;s/\\\n//;bjoin}' "$ROOT/packaging/Containerfile" | sed -n 's/^RUN //p' >"$work/run"
+[ "$(sed -n 's/^COPY //p' "$ROOT/examples/at-scale/Containerfile")" = "zelpane_*.deb /tmp/" ] || fail "the Containerfile copies something else"
+sed -e ':join' -e '/\\$/{N;s/\\\n//;bjoin}' "$ROOT/examples/at-scale/Containerfile" | sed -n 's/^RUN //p' >"$work/run"
 [ -s "$work/run" ] || fail "the Containerfile runs nothing"
 disk=$(du -smx "$empty" | cut -f1)
 while read -r command; do
@@ -57,8 +57,8 @@ inside zelpane --batch /pictures/kinds /pictures/opened --jpeg 2>"$work/errors" 
 # The Indexed Job's command, once for each index, as the Containerfile's user.
 sources "$empty/pictures/in" 40
 chown -R 65534:65534 "$empty/pictures/out"
-user=$(sed -n 's/^USER //p' "$ROOT/packaging/Containerfile")
-program=$(sed -n 's/^ENTRYPOINT \["\(.*\)"\]$/\1/p' "$ROOT/packaging/Containerfile")
+user=$(sed -n 's/^USER //p' "$ROOT/examples/at-scale/Containerfile")
+program=$(sed -n 's/^ENTRYPOINT \["\(.*\)"\]$/\1/p' "$ROOT/examples/at-scale/Containerfile")
 mapfile -t arguments < <(sed -n '/^ *args:/,/^ *resources:/s/^ *- "\{0,1\}\([^"]*\)"\{0,1\}$/\1/p' "$ROOT/examples/at-scale/kubernetes-job.yaml")
 completions=$(sed -n 's/^ *completions: //p' "$ROOT/examples/at-scale/kubernetes-job.yaml")
 [ "${arguments[0]}" = --batch ] && [ "$completions" -ge 2 ] || fail "the job was not understood: ${arguments[*]}"

@@ -72,8 +72,11 @@ state_of() { scontrol -o show job "$1" | grep -oE 'JobState=[A-Z]+' | sort | uni
 submit() { (cd "$d/log" && sbatch --parsable "$@" "$ROOT/examples/at-scale/zelpane.sbatch" "$work/in" "$work/out" "${options[@]}"); }
 
 # An undisturbed array, numbered from 10.
+SECONDS=0
 job=$(submit --array=10-13)
 wait_for_jobs
+echo "$(ls "$work/in" | wc -l) pictures, 4 tasks: at most $SECONDS s from the submission to the empty queue"
+scontrol -o show job "$job" | grep -oE 'ArrayTaskId=[0-9]+|RunTime=[0-9:]+' | paste - - # for the log
 [ "$(state_of "$job")" = " 4 JobState=COMPLETED " ] || fail "the array ended as$(state_of "$job"): $(cat "$d"/log/zelpane-*)"
 same_files "$work/whole" "$work/out"
 
