@@ -2,8 +2,8 @@
 /// Controller of the adjust dialog.
 #include "app/AdjustDialog.h"
 #include "app/PairedControls.h"
-#include "canvas/ZPCanvas.h"
 #include "desktop/Sounds.h"
+#include "document/Document.h"
 #include "ui_Adjust.h"
 #include <QDialog>
 #include <array>
@@ -16,7 +16,7 @@ namespace
 class AdjustDialog : public QDialog
 {
 public:
-    AdjustDialog(ZPCanvas& canvas, QWidget* parent) : QDialog(parent), mCanvas(canvas)
+    AdjustDialog(Document& document, QWidget* parent) : QDialog(parent), mDocument(document)
     {
         mUi.setupUi(this);
         mPairs = {{{mUi.mAdjust_HueField, mUi.mAdjust_HueSlider},
@@ -36,7 +36,7 @@ public:
     /// The selection floats from here on, unfiltered at first.
     void begin()
     {
-        mCanvas.adjust();
+        mDocument.perform("adjust");
         adjustReset();
         mUi.mAdjust_HueSlider->setFocus();
     }
@@ -48,26 +48,31 @@ private:
         const std::array<int, 5> values{neutral.hue, neutral.saturation, neutral.brightness, neutral.contrast,
                                         neutral.sharpness};
         for (std::size_t i = 0; i < mPairs.size(); ++i) mPairs[i].show(values[i]);
-        mCanvas.adjust_set(neutral);
+        send();
     }
     void adjustSet(int tag)
     {
         for (const PairedControls& pair : mPairs) pair.synchronise(tag);
-        mCanvas.adjust_set({mPairs[0].field->value(), mPairs[1].field->value(), mPairs[2].field->value(),
-                            mPairs[3].field->value(), mPairs[4].field->value()});
+        send();
+    }
+    void send()
+    {
+        Arguments settings;
+        for (const PairedControls& pair : mPairs) settings.numbers.push_back(pair.field->value());
+        mDocument.perform("adjust_set:", settings);
     }
 
     Ui::Adjust mUi;
     std::array<PairedControls, 5> mPairs;
-    ZPCanvas& mCanvas;
+    Document& mDocument;
 };
 
 } // namespace
 
-void runAdjustDialog(ZPCanvas& canvas, QWidget* parent)
+void runAdjustDialog(Document& document, QWidget* parent)
 {
-    if (canvas.selectionNil()) return beep();
-    AdjustDialog dialog(canvas, parent);
+    if (document.selection().isNil()) return beep();
+    AdjustDialog dialog(document, parent);
     placeBesidePicture(dialog);
     dialog.begin();
     // However it is closed, what is shown stays: taking it back is left to undo.

@@ -10,6 +10,10 @@
 class QAction;
 class QMenu;
 class QMenuBar;
+namespace zp
+{
+struct Command;
+}
 
 /// Builds the menus and keeps their items validated. Items carry their action's name as the dynamic property "action".
 class MainMenu : public QObject
@@ -19,8 +23,9 @@ class MainMenu : public QObject
 public:
     /// Answers whether the command can be chosen now, and may give the item another title.
     using Validator = std::function<bool(const QString& action, QString* title)>;
-    using Performer = std::function<void(QAction* item)>;
-    MainMenu(QMenuBar* bar, Validator validate, Performer perform);
+    using Performer = std::function<void(const QString& action)>;
+    /// @param prepare  before a chosen command is validated: what is in progress ends first
+    MainMenu(QMenuBar* bar, Validator validate, Performer prepare, Performer perform);
 
     QAction* item(const QString& action) const { return mItems.value(action); }
     const QList<QAction*>& items() const { return mOrder; }
@@ -33,9 +38,10 @@ public:
     QMenu* recentMenu() const { return mRecent; }
 
 private:
+    void addRow(QMenu& menu, const zp::Command& row);
     void choose(QAction* item);
     Validator mValidate;
-    Performer mPerform;
+    Performer mPrepare, mPerform;
     QHash<QString, QAction*> mItems;
     QHash<QString, QMenu*> mMenus;
     QList<QAction*> mOrder;

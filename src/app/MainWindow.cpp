@@ -3,13 +3,16 @@
 #include "app/MainWindow.h"
 #include "app/Icons.h"
 #include "base/Folders.h"
+#include "canvas/ToolTable.h"
 #include "canvas/ZPCanvas.h"
 #include "desktop/ColorWell.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/ScrollView.h"
+#include "document/Document.h"
 #include "ui_Main.h"
 #include <QButtonGroup>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QLabel>
@@ -26,102 +29,75 @@ using namespace zp;
 namespace
 {
 
-struct ToolTitle {
-    const char *title, *tip;
-};
-/// In the order of the tool numbers.
-const ToolTitle kTools[] = {
-    {"Rectangle Selection", "Selects a rectangle; square and oval by switch or key"},
-    {"Lasso", "Selects by a drawn outline; polygon by switch or key, ended with Return"},
-    {"Magic Wand", "Selects the area of similar colour"},
-    {"Brush", "Paints with a brush tip"},
-    {"Pencil", "Draws a line; straight with Shift"},
-    {"Eraser", "Makes pixels transparent; straight with Shift"},
-    {"Paint Bucket", "Fills the area of similar colour"},
-    {"Eyedropper", "Picks the colour under the pointer"},
-    {"Text", "Places text as a selection"},
-    {"Clone Stamp", "Paints with pixels from elsewhere; Option-click sets the source"},
-};
+constexpr const char* kZoomTitles[] = {"6.25%", "12.5%", "25%", "50%", "100%", "200%", "400%", "800%", "1600%"};
+static_assert(std::size(kZoomTitles) == kZoomLevels.size());
 
-/// Nine levels, powers of two, so that picture pixels and screen pixels always meet evenly.
-const char* const kZoomTitles[] = {"6.25%", "12.5%", "25%", "50%", "100%", "200%", "400%", "800%", "1600%"};
-constexpr int kActualSizeIndex = 4;
-
-double zoomOfTitle(const char* title) { return QByteArray(title).chopped(1).toDouble() / 100; }
+QString tool(const char* text) { return QCoreApplication::translate("Tools", text); }
 
 } // namespace
 
-MainWindow::MainWindow() : mUi(std::make_unique<Ui::Main>()), mCanvas(new ZPCanvas)
+MainWindow::MainWindow(Document& document)
+    : mUi(std::make_unique<Ui::Main>()), mDocument(document), mCanvas(new ZPCanvas(document))
 {
     mUi->setupUi(this);
     mUi->mScrollView->setWidget(mCanvas);
     mUi->mScrollView->viewport()->setCursor(Qt::CrossCursor);
+    setUpTools();
     setUpToolOptions();
+    setUpZoom();
     setUpSwitches();
     setUpStatusLine();
     mUi->optionsBar->setMinimumHeight(mUi->mZoomPopUp->sizeHint().height() + 13);
 
-    connect(mUi->mScrollView, &ScrollView::zoomRequested, this, [this](int steps, QPointF p) {
-        const float z = mCanvas->effectiveZoom();
-        const Point anchor{float(p.x() / z), float(p.y() / z)};
-        const int index = std::clamp(mUi->mZoomPopUp->currentIndex() + steps, 0, mUi->mZoomPopUp->count() - 1);
-        mCanvas->setZoom(float(zoomOfTitle(kZoomTitles[index])), anchor);
-    });
-    connect(mCanvas, &ZPCanvas::zoomChanged, this, &MainWindow::showZoom);
-    connect(mCanvas, &ZPCanvas::imageReplaced, this, &MainWindow::showTitle);
-    connect(mCanvas, &ZPCanvas::pointerMoved, this, &MainWindow::showPointer);
-    connect(mCanvas, &ZPCanvas::busyChanged, mUi->mBusyIndicator, &QWidget::setVisible);
+    connect(&mDocument, &Document::toolChosen, this, &MainWindow::showTool);
+    connect(&mDocument, &Document::paintChanged, this, &MainWindow::showPaint);
+    connect(&mDocument, &Document::zoomChanged, this, &MainWindow::showZoom);
+    connect(&mDocument, &Document::changed, this, &MainWindow::showStatus);
+    connect(&mDocument, &Document::pointerMoved, this, &MainWindow::showPointer);
+    connect(&mDocument, &Document::busyChanged, mUi->mBusyIndicator, &QWidget::setVisible);
+    showTool();
+    showPaint();
+    showZoom();
+    showStatus();
     resize(1180, 780);
     mCanvas->setFocus(); // single keys are commands of the canvas
 }
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::setUpToolOptions()
+void MainWindow::setUpTools()
 {
     auto* group = new QButtonGroup(this);
-    for (int i = 0; i < int(std::size(kTools)); ++i) {
-        const QString title = tr(kTools[i].title), key = QString::number((i + 1) % 10);
+    for (const ToolRow& row : toolTable()) {
+        const QString title = tool(row.title), tip = tool(row.tip), key(row.key);
         mUi->mToolPopUp->addItem(title);
-        mUi->mToolPopUp->setItemData(i, QString("%1 (%2)").arg(tr(kTools[i].tip), key), Qt::ToolTipRole);
+        mUi->mToolPopUp->setItemData(int(row.tool), QString("%1 (%2)").arg(tip, key), Qt::ToolTipRole);
         auto* button = new QToolButton(mUi->toolStrip);
         button->setCheckable(true);
         button->setAutoRaise(true);
         button->setIconSize({22, 22});
         button->setFocusPolicy(Qt::TabFocus);
-        button->setToolTip(QString("<b>%1</b> (%2)<br>%3").arg(title, key, tr(kTools[i].tip)));
+        button->setToolTip(QString("<b>%1</b> (%2)<br>%3").arg(title, key, tip));
         button->setAccessibleName(title);
-        group->addButton(button, i);
+        group->addButton(button, int(row.tool));
         mUi->toolColumn->addWidget(button);
         mToolButtons.push_back(button);
     }
     mUi->toolColumn->addStretch();
     mUi->mToolPopUp->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    mToolButtons[0]->setChecked(true);
     const auto choose = [this](int index) {
         mCanvas->setTool(index);
         giveFocusBack();
     };
     connect(group, &QButtonGroup::idClicked, this, choose);
     connect(mUi->mToolPopUp, &QComboBox::activated, this, choose);
-    connect(mCanvas, &ZPCanvas::toolOptionsChanged, this, &MainWindow::showToolOptions);
+}
 
-    for (const char* title : kZoomTitles) mUi->mZoomPopUp->addItem(title);
-    mUi->mZoomPopUp->setCurrentIndex(kActualSizeIndex);
-    connect(mUi->mZoomPopUp, &QComboBox::activated, this, [this] {
-        mCanvas->zoom(mUi->mZoomPopUp);
-        giveFocusBack();
-    });
+void MainWindow::setUpToolOptions()
+{
+    connect(mUi->mColorWell, &ColorWell::colorChosen, this, [this](Color c) { mDocument.setPaintColor(c); });
 
-    connect(mUi->mColorWell, &ColorWell::colorChosen, this, [this](Color c) { mCanvas->setPaintColor(c); });
-    connect(mCanvas, &ZPCanvas::paintColorChanged, this, [this] { mUi->mColorWell->setColor(mCanvas->mColor); });
-
-    const auto setSize = [this](int size) {
-        const QSignalBlocker quietSlider(mUi->mSizeSlider), quietField(mUi->mSizeField);
-        mUi->mSizeSlider->setValue(size);
-        mUi->mSizeField->setValue(size);
-        mCanvas->setBrushSize(float(size));
-    };
+    const auto setSize = [this](int size) { mDocument.setBrushSize(float(size)); };
     connect(mUi->mSizeSlider, &QSlider::valueChanged, this, setSize);
     connect(mUi->mSizeField, &QSpinBox::valueChanged, this, setSize);
     connect(mUi->mSizeSlider, &QSlider::sliderReleased, this, &MainWindow::giveFocusBack);
@@ -130,23 +106,35 @@ void MainWindow::setUpToolOptions()
         mUi->mBrushPopUp->addItem(tr("Brush %1").arg(i));
     }
     mUi->mBrushPopUp->setIconSize({20, 20});
+    connect(mUi->mBrushPopUp, &QComboBox::currentIndexChanged, this,
+            [this](int index) { mDocument.setBrushShape(std::max(0, index)); });
     connect(mUi->mBrushPopUp, &QComboBox::activated, this, &MainWindow::giveFocusBack);
 
-    connect(mUi->mToleranceSlider, &QSlider::valueChanged, this,
-            [this] { mCanvas->toleranceSlider(mUi->mToleranceSlider); });
+    connect(mUi->mToleranceSlider, &QSlider::valueChanged, this, [this](int value) {
+        mUi->mToleranceField->setValue(value);
+        mDocument.setToleranceSetting(value);
+    });
+    mDocument.setToleranceSetting(mUi->mToleranceSlider->value());
     connect(mUi->mToleranceSlider, &QSlider::sliderReleased, this, &MainWindow::giveFocusBack);
     connect(mUi->mToleranceField, &QSpinBox::valueChanged, mUi->mToleranceSlider, &QSlider::setValue);
     for (QSpinBox* field : {mUi->mSizeField, mUi->mToleranceField})
         connect(field, &QSpinBox::editingFinished, this, [this] { giveFocusBack(); });
+}
 
-    mCanvas->mToolPopUp = mUi->mToolPopUp;
-    mCanvas->mColorWell = mUi->mColorWell;
-    mCanvas->mZoomPopUp = mUi->mZoomPopUp;
-    mCanvas->mBrushPopUp = mUi->mBrushPopUp;
-    mCanvas->mToleranceSlider = mUi->mToleranceSlider;
-    mCanvas->mToleranceField = mUi->mToleranceField;
-    mCanvas->mBusyIndicator = mUi->mBusyIndicator;
-    mCanvas->tool(mUi->mToolPopUp);
+void MainWindow::setUpZoom()
+{
+    for (const char* title : kZoomTitles) mUi->mZoomPopUp->addItem(title);
+    connect(mUi->mZoomPopUp, &QComboBox::activated, this, [this](int index) {
+        mCanvas->zoom(double(kZoomLevels[std::size_t(index)]) * 100);
+        giveFocusBack();
+    });
+    connect(mUi->mScrollView, &ScrollView::zoomRequested, this, [this](int steps, QPointF p) {
+        const float z = mDocument.view().effectiveZoom();
+        const Point anchor{float(p.x() / z), float(p.y() / z)};
+        for (int i = std::abs(steps); i > 0; --i) mCanvas->stepZoom(steps > 0 ? 1 : -1, anchor);
+    });
+    for (const QScrollBar* bar : {mUi->mScrollView->horizontalScrollBar(), mUi->mScrollView->verticalScrollBar()})
+        connect(bar, &QScrollBar::valueChanged, mCanvas, &ZPCanvas::pictureMovedUnderPointer);
 }
 
 void MainWindow::setUpSwitches()
@@ -154,18 +142,17 @@ void MainWindow::setUpSwitches()
     // Window managers take some modifier keys away: each role also has a switch here, beside the tools that use it.
     struct Role {
         const char *title, *tip;
-        unsigned bit;
-        std::vector<int> tools;
+        unsigned bit, option;
     };
     const Role roles[] = {
-        {"Square", "As if Command were held: the marquee becomes a square", kCommandKey, {0}},
-        {"Oval", "As if Control were held: the marquee becomes an oval", kControlKey, {0}},
-        {"Polygon", "As if Control were held: click corners, Return ends", kControlKey, {1}},
-        {"Add", "As if Shift were held: the new shape joins the selection", kShiftKey, {0, 1, 2}},
-        {"Subtract", "As if Option were held: the new shape is cut from the selection", kOptionKey, {0, 1, 2}},
-        {"Float", "As if Command were held: dragging the selection lifts its pixels", kCommandKey, {1, 2, 8}},
-        {"Straight", "As if Shift were held: one straight line from press to release", kShiftKey, {4, 5}},
-        {"Set source", "As if Option were held: the click sets where pixels come from", kOptionKey, {9}},
+        {"Square", "As if Command were held: the marquee becomes a square", kCommandKey, options::Square},
+        {"Oval", "As if Control were held: the marquee becomes an oval", kControlKey, options::Oval},
+        {"Polygon", "As if Control were held: click corners, Return ends", kControlKey, options::Polygon},
+        {"Add", "As if Shift were held: the new shape joins the selection", kShiftKey, options::Add},
+        {"Subtract", "As if Option were held: the new shape is cut from the selection", kOptionKey, options::Subtract},
+        {"Float", "As if Command were held: dragging the selection lifts its pixels", kCommandKey, options::Float},
+        {"Straight", "As if Shift were held: one straight line from press to release", kShiftKey, options::Straight},
+        {"Set source", "As if Option were held: the click sets where pixels come from", kOptionKey, options::SetSource},
     };
     for (const Role& role : roles) {
         auto* button = new QToolButton(mUi->switches);
@@ -175,7 +162,7 @@ void MainWindow::setUpSwitches()
         button->setFocusPolicy(Qt::TabFocus);
         button->setObjectName(QString("mSwitch_%1").arg(QString(role.title).remove(' ')));
         mUi->switchRow->addWidget(button);
-        mSwitches.push_back({button, role.bit, role.tools});
+        mSwitches.push_back({button, role.bit, role.option});
         connect(button, &QToolButton::toggled, this, [this] {
             unsigned bits = 0;
             for (const Switch& s : mSwitches)
@@ -184,7 +171,6 @@ void MainWindow::setUpSwitches()
         });
         connect(button, &QToolButton::clicked, this, &MainWindow::giveFocusBack);
     }
-    showToolOptions(0);
 }
 
 void MainWindow::setUpStatusLine()
@@ -202,16 +188,15 @@ void MainWindow::setUpStatusLine()
     mPointerLabel = label("Position and colour under the pointer", "00000, 00000   #00000000", 0);
     mPointerLabel->setObjectName("mPointerField");
     mImageLabel = label("Size of the image and zoom", "00000 × 00000 · 1600 %", 0);
-    mCanvas->mInfoField = mInfoField;
 }
 
 void MainWindow::setToolImages()
 {
     QApplication::setWindowIcon(applicationImage("zelpane", palette()));
-    for (int i = 0; i < int(std::size(kTools)); ++i) {
-        const QIcon icon = applicationImage(kTools[i].title, palette());
-        mUi->mToolPopUp->setItemIcon(i, icon);
-        mToolButtons[std::size_t(i)]->setIcon(icon);
+    for (const ToolRow& row : toolTable()) {
+        const QIcon icon = applicationImage(row.title, palette());
+        mUi->mToolPopUp->setItemIcon(int(row.tool), icon);
+        mToolButtons[std::size_t(row.tool)]->setIcon(icon);
     }
     for (int i = 0; i < mUi->mBrushPopUp->count(); ++i) {
         QImage tip(QFile::decodeName(shippedResourcesFolder().c_str()) + QString("/B%1.png").arg(i + 1));
@@ -226,32 +211,49 @@ void MainWindow::setToolImages()
     }
 }
 
-void MainWindow::showToolOptions(int tool)
+void MainWindow::showTool()
 {
-    const bool tolerance = tool == 2 || tool == 6;
-    mUi->toleranceLabel->setVisible(tolerance);
-    const bool sized = tool == 3 || tool == 4 || tool == 5 || tool == 8 || tool == 9;
-    // The size is also the width of the Stroke command, so it stays reachable with every selection tool.
-    const bool showSize = sized || tool == 0 || tool == 1;
+    const ToolRow& row = rowOf(mDocument.gesture().tool());
+    const auto has = [&row](unsigned option) { return (row.options & option) != 0; };
+    for (QWidget* w : std::initializer_list<QWidget*>{mUi->toleranceLabel, mUi->mToleranceSlider, mUi->mToleranceField})
+        w->setVisible(has(options::Tolerance));
     for (QWidget* w : std::initializer_list<QWidget*>{mUi->sizeLabel, mUi->mSizeSlider, mUi->mSizeField})
-        w->setVisible(showSize);
+        w->setVisible(has(options::Size));
+    mUi->mBrushPopUp->setVisible(has(options::BrushShape));
     for (const Switch& s : mSwitches) {
-        const bool used = std::find(s.tools.begin(), s.tools.end(), tool) != s.tools.end();
-        s.button->setVisible(used);
-        if (!used) s.button->setChecked(false);
+        s.button->setVisible(has(s.option));
+        if (!has(s.option)) s.button->setChecked(false);
     }
-    if (tool >= 0 && tool < int(mToolButtons.size())) mToolButtons[std::size_t(tool)]->setChecked(true);
+    mToolButtons[std::size_t(row.tool)]->setChecked(true);
+    const QSignalBlocker quiet(mUi->mToolPopUp); // what follows a choice by hand has been done
+    mUi->mToolPopUp->setCurrentIndex(int(row.tool));
+}
+
+void MainWindow::showPaint()
+{
+    mUi->mColorWell->setColor(mDocument.paint().color());
+    const int size = int(std::lround(mDocument.paint().size()));
+    const QSignalBlocker quietSlider(mUi->mSizeSlider), quietField(mUi->mSizeField);
+    mUi->mSizeSlider->setValue(size);
+    mUi->mSizeField->setValue(size);
+}
+
+void MainWindow::showZoom()
+{
+    const QSignalBlocker quiet(mUi->mZoomPopUp);
+    mUi->mZoomPopUp->setCurrentIndex(mDocument.view().nearestLevel());
 }
 
 void MainWindow::giveFocusBack() { mCanvas->setFocus(); }
 
-void MainWindow::showPointer(QPointF p)
+void MainWindow::showPointer()
 {
-    const int x = int(std::floor(p.x())), y = int(std::floor(p.y()));
+    const Point p = mDocument.view().pointer();
+    const int x = int(std::floor(p.x)), y = int(std::floor(p.y));
     QString text = QString("%1, %2").arg(x).arg(y);
-    const Rect bounds = mCanvas->bounds();
-    if (bounds.contains({float(p.x()), float(p.y())}) && mCanvas->mBitmapRep) {
-        const std::uint8_t* pixel = std::as_const(*mCanvas->mBitmapRep).view().pixel(x, y);
+    const ConstBitmapView pixels = mDocument.picture().pixels();
+    if (pixels.box().contains(x, y)) {
+        const std::uint8_t* pixel = pixels.pixel(x, y);
         const int alpha = pixel[0];
         const auto plain = [alpha](int c) { return alpha ? std::min(255, (c * 255 + alpha / 2) / alpha) : 0; };
         text += QString("   #%1%2%3")
@@ -263,65 +265,34 @@ void MainWindow::showPointer(QPointF p)
     mPointerLabel->setText(text);
 }
 
-void MainWindow::showZoom()
+void MainWindow::showStatus()
 {
-    int nearest = 0;
-    const double wanted = std::log(double(mCanvas->mZoom));
-    for (int i = 1; i < int(std::size(kZoomTitles)); ++i)
-        if (std::abs(std::log(zoomOfTitle(kZoomTitles[i])) - wanted) <
-            std::abs(std::log(zoomOfTitle(kZoomTitles[nearest])) - wanted))
-            nearest = i;
-    const QSignalBlocker quiet(mUi->mZoomPopUp);
-    mUi->mZoomPopUp->setCurrentIndex(nearest);
-    showTitle();
-}
-
-void MainWindow::showTitle()
-{
-    const Size size = mCanvas->imageSize();
-    if (!mCanvas->imageLoaded()) {
+    mInfoField->setText(QString::fromStdString(mDocument.infoText()));
+    showPointer();
+    const Picture& picture = mDocument.picture();
+    if (!picture.isLoaded()) {
         mImageLabel->clear();
         setWindowTitle("Zelpane");
         return;
     }
     mImageLabel->setText(QString("%1 × %2 · %3 %")
-                             .arg(int(size.width))
-                             .arg(int(size.height))
-                             .arg(double(mCanvas->mZoom) * 100, 0, 'g', 4));
-    const std::string& path = mCanvas->mImagePath;
-    setWindowTitle(path.empty()
-                       ? tr("Untitled — Zelpane")
-                       : QString("%1 — Zelpane").arg(QString::fromStdString(displayName(lastPathComponent(path)))));
-}
-
-void MainWindow::zoomIn()
-{
-    mUi->mZoomPopUp->setCurrentIndex(std::min(mUi->mZoomPopUp->currentIndex() + 1, mUi->mZoomPopUp->count() - 1));
-    mCanvas->zoom(mUi->mZoomPopUp);
-}
-
-void MainWindow::zoomOut()
-{
-    mUi->mZoomPopUp->setCurrentIndex(std::max(mUi->mZoomPopUp->currentIndex() - 1, 0));
-    mCanvas->zoom(mUi->mZoomPopUp);
-}
-
-void MainWindow::actualSize()
-{
-    mUi->mZoomPopUp->setCurrentIndex(kActualSizeIndex);
-    mCanvas->zoom(mUi->mZoomPopUp);
+                             .arg(picture.width())
+                             .arg(picture.height())
+                             .arg(double(mDocument.view().zoom()) * 100, 0, 'g', 4));
+    const std::string name = displayName(lastPathComponent(picture.path()));
+    setWindowTitle(name.empty() ? tr("Untitled — Zelpane") : QString("%1 — Zelpane").arg(QString::fromStdString(name)));
 }
 
 void MainWindow::fitToWindow()
 {
-    const Size size = mCanvas->imageSize();
-    if (!mCanvas->imageLoaded()) return;
+    const Size size = mDocument.picture().size();
+    if (!mDocument.picture().isLoaded()) return;
     // The viewport without scroll bars, whether they show now or not.
     const QSize room = mUi->mScrollView->size();
     // Half a pixel less, so that rounding up never brings a scroll bar.
     const float scale =
         std::min((float(room.width()) - 0.5f) / size.width, (float(room.height()) - 0.5f) / size.height);
-    mCanvas->setZoom(mCanvas->m2xRetina ? scale * 2 : scale);
+    mCanvas->setZoom(mDocument.view().isRetina() ? scale * 2 : scale);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -7,11 +7,14 @@
 #include <string>
 #include <vector>
 
-class MainMenu;
 class QLabel;
 class QToolButton;
 class ScrollView;
 class ZPCanvas;
+namespace zp
+{
+class Document;
+}
 namespace Ui
 {
 class Main;
@@ -22,18 +25,13 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    MainWindow();
+    /// @param document  must outlive the window
+    explicit MainWindow(zp::Document& document);
     ~MainWindow() override;
     ZPCanvas* canvas() const { return mCanvas; }
     /// Sets every item of the tool pop-up and of the strip to the image named like it.
     void setToolImages();
-    void zoomIn();
-    void zoomOut();
-    void actualSize();
     void fitToWindow();
-    /// The pop-up shows the level nearest to the canvas's zoom.
-    void showZoom();
-    void showTitle();
 
     std::function<bool()> mayClose; ///< asked before the window closes
     std::function<void(const std::string&)> openDroppedFile;
@@ -45,14 +43,20 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void setUpTools();
     void setUpToolOptions();
+    void setUpZoom();
     void setUpSwitches();
     void setUpStatusLine();
-    void showToolOptions(int tool);
-    void showPointer(QPointF imagePoint);
+    void showTool();   ///< the chosen tool and the options that its row puts on show
+    void showPaint();  ///< colour and size
+    void showZoom();   ///< the level nearest to the zoom
+    void showStatus(); ///< status line and title, all of it from the document
+    void showPointer();
     void giveFocusBack();
 
     std::unique_ptr<Ui::Main> mUi;
+    zp::Document& mDocument;
     ZPCanvas* mCanvas;
     QLabel* mInfoField;
     QLabel* mPointerLabel;
@@ -61,7 +65,7 @@ private:
     struct Switch {
         QToolButton* button;
         unsigned keyBit;
-        std::vector<int> tools;
+        unsigned option; ///< the bit of a tool's row that shows it
     };
     std::vector<Switch> mSwitches;
 };

@@ -2,8 +2,8 @@
 /// Controllers of the save- and load-selection dialogs.
 #include "app/SavedSelectionDialogs.h"
 #include "base/Folders.h"
-#include "canvas/ZPCanvas.h"
 #include "desktop/Panels.h"
+#include "document/Document.h"
 #include "ui_LoadSelection.h"
 #include "ui_SaveSelection.h"
 #include <QDialog>
@@ -71,7 +71,12 @@ private:
     {
         const int index = mUi.mLoadSelection_PopUp->currentIndex();
         if (index < 0) return; // or the folder itself would go
-        if (fileAttributes(chosenPath())) removeItem(chosenPath());
+        const auto attributes = fileAttributes(chosenPath());
+        const bool hasContent = attributes && attributes->folder && !contentsOfFolder(chosenPath()).empty();
+        if (hasContent && runAlert(tr("Do you wish to delete the folder with all that is in it?"),
+                                   mUi.mLoadSelection_PopUp->currentText(), {tr("Delete"), tr("Cancel")}) != 0)
+            return;
+        if (attributes) removeItem(chosenPath());
         mUi.mLoadSelection_PopUp->removeItem(index);
     }
     std::string mFolder;
@@ -80,18 +85,18 @@ private:
 
 } // namespace
 
-void runSaveSelectionDialog(ZPCanvas& canvas, QWidget* parent)
+void runSaveSelectionDialog(Document& document, QWidget* parent)
 {
     SaveSelectionDialog dialog(parent);
     centerWindow(&dialog, parent);
     const std::string folder = selectionsFolder();
     if (dialog.exec() != QDialog::Accepted) return;
-    canvas.saveSelection(folder + "/" + dialog.name());
+    document.perform("saveSelection:", {{}, folder + "/" + dialog.name()});
 }
 
-void runLoadSelectionDialog(ZPCanvas& canvas, QWidget* parent)
+void runLoadSelectionDialog(Document& document, QWidget* parent)
 {
     LoadSelectionDialog dialog(parent);
     centerWindow(&dialog, parent);
-    if (dialog.exec() == QDialog::Accepted) canvas.loadSelection(dialog.chosenPath());
+    if (dialog.exec() == QDialog::Accepted) document.perform("loadSelection:", {{}, dialog.chosenPath()});
 }

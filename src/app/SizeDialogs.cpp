@@ -3,11 +3,12 @@
 #include "app/SizeDialogs.h"
 #include "app/SizeArithmetic.h"
 #include "base/Folders.h"
-#include "canvas/ZPCanvas.h"
 #include "codecs/FileNames.h"
 #include "codecs/ImageImporter.h"
 #include "desktop/Panels.h"
 #include "desktop/Pasteboard.h"
+#include "document/Document.h"
+#include "operations/Files.h"
 #include "ui_Name.h"
 #include "ui_New.h"
 #include "ui_Resize.h"
@@ -119,7 +120,7 @@ private:
 
 } // namespace
 
-void runNewDialog(ZPCanvas& canvas, QWidget* parent, const std::function<void()>& beforeActing)
+void runNewDialog(Document& document, QWidget* parent, const std::function<void()>& beforeActing)
 {
     NewDialog dialog(parent);
     static QSize last(640, 480); // the dialog opens with what was asked for last
@@ -139,21 +140,22 @@ void runNewDialog(ZPCanvas& canvas, QWidget* parent, const std::function<void()>
     const Size size{float(dialog.ui.mNew_Width->value()), float(dialog.ui.mNew_Height->value())};
     last = QSize(dialog.ui.mNew_Width->value(), dialog.ui.mNew_Height->value());
     beforeActing();
-    canvas.newImageWithSize(size);
-    canvas.setImagePath("");
+    newPicture(document, size);
 }
 
-void runResizeDialog(ZPCanvas& canvas, QWidget* parent)
+void runResizeDialog(Document& document, QWidget* parent)
 {
-    ResizeDialog dialog(parent, canvas.imageSize());
+    ResizeDialog dialog(parent, document.picture().size());
     dialog.ui.mResize_Width->selectAll();
     centerWindow(&dialog, parent);
     if (dialog.exec() != QDialog::Accepted) return;
-    canvas.setImageSize({float(dialog.ui.mResize_Width->value()), float(dialog.ui.mResize_Height->value())},
-                        dialog.ui.mResize_ScaleImage->isChecked());
+    document.perform("setImageSize:scale:",
+                     {{double(dialog.ui.mResize_Width->value()), double(dialog.ui.mResize_Height->value()),
+                       dialog.ui.mResize_ScaleImage->isChecked() ? 1.0 : 0.0},
+                      {}});
 }
 
-void runNameDialog(ZPCanvas& canvas, QWidget* parent, const std::function<void()>& afterSaving)
+void runNameDialog(Document& document, QWidget* parent, const std::function<void()>& afterSaving)
 {
     NameDialog dialog(parent);
     dialog.ui.mName_Name_Field->setText(
@@ -161,6 +163,5 @@ void runNameDialog(ZPCanvas& canvas, QWidget* parent, const std::function<void()
     dialog.ui.mName_Name_Field->selectAll();
     centerWindow(&dialog, parent);
     if (dialog.exec() != QDialog::Accepted) return;
-    canvas.quickSave(pathWithExtension(dialog.typedPath(), "tiff"));
-    afterSaving();
+    if (document.perform("quickSave:", {{}, pathWithExtension(dialog.typedPath(), "tiff")})) afterSaving();
 }

@@ -4,12 +4,15 @@
 #include <functional>
 
 class QWidget;
-class ZPCanvas;
+namespace zp
+{
+class Document;
+}
 
 /// Proposes the size of an image on the pasteboard, makes a new image and leaves it without a file.
 /// @param beforeActing brings the canvas's window to the front
-void runNewDialog(ZPCanvas& canvas, QWidget* parent, const std::function<void()>& beforeActing);
-void runResizeDialog(ZPCanvas& canvas, QWidget* parent);
+void runNewDialog(zp::Document& document, QWidget* parent, const std::function<void()>& beforeActing);
+void runResizeDialog(zp::Document& document, QWidget* parent);
 /// Asks for a name in the image library and saves there.
 /// @param afterSaving shows the library and makes its table reload
-void runNameDialog(ZPCanvas& canvas, QWidget* parent, const std::function<void()>& afterSaving);
+void runNameDialog(zp::Document& document, QWidget* parent, const std::function<void()>& afterSaving);

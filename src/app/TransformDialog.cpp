@@ -3,8 +3,8 @@
 #include "app/TransformDialog.h"
 #include "app/PairedControls.h"
 #include "base/Log.h"
-#include "canvas/ZPCanvas.h"
 #include "desktop/Sounds.h"
+#include "document/Document.h"
 #include "ui_Transform.h"
 #include <QDialog>
 #include <cmath>
@@ -20,7 +20,7 @@ constexpr int kNoTag = 0;
 class TransformDialog : public QDialog
 {
 public:
-    TransformDialog(ZPCanvas& canvas, QWidget* parent) : QDialog(parent), mCanvas(canvas)
+    TransformDialog(Document& document, QWidget* parent) : QDialog(parent), mDocument(document)
     {
         mUi.setupUi(this);
         mScale = {mUi.mTransform_Scale_Field, mUi.mTransform_Scale_Slider};
@@ -41,7 +41,8 @@ public:
     void begin()
     {
         resetControls();
-        const ZPCanvas::TransformValues now = mCanvas.transform();
+        mDocument.perform("transform");
+        const _ZPTransform now = mDocument.selection().record();
         if (now.scale != 1.0f || now.rotate != 0.0f) {
             mScale.show(int(std::lround(now.scale * 100.0f)));
             mRotate.show(int(std::lround(now.rotate)));
@@ -62,26 +63,25 @@ private:
         mScale.synchronise(tag);
         mRotate.synchronise(tag);
         const float scale = float(mScale.field->value()) / 100.0f, rotate = float(mRotate.field->value());
-        mCanvas.transform_set(scale, rotate);
+        mDocument.perform("transform_set:", {{scale, rotate}, {}});
         logLine("rotate = %f", double(rotate));
+        // A scale of 0 was refused: the field goes back to what holds.
+        if (scale == 0) mScale.show(int(std::lround(mDocument.selection().record().scale * 100.0f)));
     }
 
     Ui::Transform mUi;
     PairedControls mScale, mRotate;
-    ZPCanvas& mCanvas;
+    Document& mDocument;
 };
 
 } // namespace
 
-void runTransformDialog(ZPCanvas& canvas, QWidget* parent)
+void runTransformDialog(Document& document, QWidget* parent)
 {
-    if (canvas.selectionNil()) return beep();
-    TransformDialog dialog(canvas, parent);
+    if (document.selection().isNil()) return beep();
+    TransformDialog dialog(document, parent);
     placeBesidePicture(dialog);
     dialog.begin();
-    // Closing the window is cancelling.
-    if (dialog.exec() == QDialog::Accepted)
-        canvas.applyTransform();
-    else
-        canvas.dontApplyTransform();
+    // However it is closed, the piece floats on as it was last shown; anchoring or dropping it is another command.
+    dialog.exec();
 }

@@ -3,8 +3,11 @@
 #pragma once
 
 class QWidget;
-class ZPCanvas;
+namespace zp
+{
+class Document;
+}
 
 /// Floats the selection if need be and shows scale and turn, modally; each change is on the canvas at once. Without a
 /// selection it beeps. @param parent the main window, or null
-void runTransformDialog(ZPCanvas& canvas, QWidget* parent);
+void runTransformDialog(zp::Document& document, QWidget* parent);

@@ -3,8 +3,8 @@
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
 #include "base/Folders.h"
-#include "canvas/ZPCanvas.h"
 #include "desktop/Panels.h"
+#include "document/Document.h"
 #include "operations/Recovery.h"
 
 using namespace zp;
@@ -24,7 +24,5 @@ bool ZPAppController::offerRecovery()
         discardRecoverableWork();
         return false;
     }
-    const bool recovered = recoverInto(*mCanvas, *work);
-    mWindow->showTitle();
-    return recovered;
+    return bool(recover(*mDocument, *work));
 }

@@ -2,6 +2,7 @@
 /// Start-up, quitting and the menu commands.
 #include "app/ZPAppController.h"
 #include "app/AdjustDialog.h"
+#include "app/CommandTable.h"
 #include "app/MainMenu.h"
 #include "app/MainWindow.h"
 #include "app/SavedSelectionDialogs.h"
@@ -14,17 +15,21 @@
 #include "base/NotificationCenter.h"
 #include "canvas/ZPCanvas.h"
 #include "desktop/ColorWell.h"
+#include "desktop/Desktop.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Panels.h"
+#include "desktop/Sounds.h"
 #include "desktop/SystemProbes.h"
+#include "document/Document.h"
+#include "operations/Files.h"
 #include "operations/TextToolHook.h"
-#include "undo/SnapshotStore.h"
 #include "windows/ZPFileManager.h"
 #include "windows/ZPImageProcessor.h"
 #include "windows/ZPSmartFill.h"
 #include "windows/ZPTextEditor.h"
 #include <QAction>
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFile>
 #include <QMenu>
 #include <QMenuBar>
@@ -38,33 +43,44 @@ namespace
 
 constexpr int kRecentFiles = 10;
 const char* const kPreferencesFile = "com.orvanta.Zelpane.plist";
+const char* const kRetinaFile = "2xRetina.txt";
+
+/// The launch begins with an empty history.
+constexpr Command kBegin{.action = "launch", .effect = Effect::Replace};
 
 QString toText(const std::string& path) { return QString::fromStdString(displayName(path)); }
 
 } // namespace
 
-ZPAppController::ZPAppController() : mWindow(std::make_unique<MainWindow>()), mCanvas(mWindow->canvas())
+ZPAppController::ZPAppController()
+    : mDocument(std::make_unique<Document>(commandTable())),
+      mWindow(std::make_unique<MainWindow>(*mDocument)),
+      mCanvas(mWindow->canvas())
 {
-    buildCommands();
+    buildShell();
     mMenu = new MainMenu(
         mWindow->menuBar(), [this](const QString& action, QString* title) { return validateMenuItem(action, title); },
-        [this](QAction* item) { perform(item); });
+        [this](const QString& action) { prepare(action); }, [this](const QString& action) { perform(action); });
     connect(mMenu->recentMenu(), &QMenu::aboutToShow, this, &ZPAppController::fillRecentMenu);
-    mCanvas->mRetinaMenuItem = mMenu->item("retina:");
-    mCanvas->awakeFromNib();
+    const bool retina = readWholeFile(resourcePath(kRetinaFile), 1024) == "YES";
+    mMenu->item("retina:")->setCheckable(true);
+    mMenu->item("retina:")->setChecked(retina);
+    if (retina) mDocument->setRetina(true);
     // Windows stand above the canvas: it reaches the text editor through these.
     setTextToolHooks({[](int size) { ZPTextEditor::sharedInstance()->setFontSize(size); },
                       [] { ZPTextEditor::sharedInstance()->showWindow(); },
                       [] { ZPTextEditor::sharedInstance()->run(); },
                       [](Point start) { return ZPTextEditor::sharedInstance()->textPathAtPoint(start); },
                       [] { return ZPTextEditor::sharedInstance()->isValid(); }});
-    ZPSmartFill::registerWithCanvas();
+    ZPSmartFill::registerCommand();
     ZPPrefs::applyStored();
     mWindow->mayClose = [this] {
         if (!mTerminated) terminate();
         return mTerminated;
     };
-    mWindow->openDroppedFile = [this](const std::string& path) { openPath(path); };
+    mWindow->openDroppedFile = [this](const std::string& path) {
+        mDocument->whenFree([this, path] { openPath(path); });
+    };
 }
 
 ZPAppController::~ZPAppController() { NotificationCenter::defaultCenter().removeObserver(this); }
@@ -74,8 +90,7 @@ void ZPAppController::applicationWillFinishLaunching() { mLaunchFromDocument = f
 bool ZPAppController::application(const std::string& openFile)
 {
     mLaunchFromDocument = true;
-    openPath(openFile);
-    return true;
+    return mDocument->whenFree([this, openFile] { openPath(openFile); });
 }
 
 void ZPAppController::applicationDidFinishLaunching(bool startChoice)
@@ -91,7 +106,7 @@ void ZPAppController::applicationDidFinishLaunching(bool startChoice)
     cleanUpEditMenu(mMenu->menu("Edit"));
     // What a crashed program left in the folder is moved aside first, so that it can still be offered below. A document
     // opened by this launch has its folder already, and maybe its first snapshot.
-    if (!mLaunchFromDocument) mCanvas->resetUndo();
+    if (!mLaunchFromDocument) mDocument->perform(kBegin, [](Edit& edit) { edit.history().reset(); });
     mWidthC = 0;
     mHeightC = 0;
     migratePreferences();
@@ -157,11 +172,9 @@ void ZPAppController::terminate()
 
 void ZPAppController::applicationWillTerminate()
 {
-    mCanvas->mIsMouseDown = 0;
-    mCanvas->waitForWorkers();
-    SnapshotStore::shared().remove();
+    mDocument->close();
     const char* state = mMenu->item("retina:")->isChecked() ? "YES" : "NO";
-    std::ofstream flag(resourcePath("2xRetina.txt"), std::ios::binary | std::ios::trunc);
+    std::ofstream flag(resourcePath(kRetinaFile), std::ios::binary | std::ios::trunc);
     flag << state;
     NotificationCenter::defaultCenter().removeObserver(this);
 }
@@ -176,9 +189,8 @@ void ZPAppController::bringWindowToFront()
 void ZPAppController::openPath(const std::string& path)
 {
     bringWindowToFront();
-    mCanvas->setImagePath(path);
-    if (mCanvas->imageLoaded()) noteRecentFile(path);
-    mWindow->showTitle();
+    mDocument->perform("setImagePath:", {{}, path});
+    if (mDocument->picture().isLoaded()) noteRecentFile(path);
 }
 
 void ZPAppController::noteRecentFile(const std::string& path)
@@ -210,8 +222,8 @@ void ZPAppController::openDocument()
 {
     PanelRequest request;
     request.types = {"tiff", "jpg", "png", "psd"};
-    request.directory =
-        mCanvas->mImagePath.empty() ? pathByAppending(homeFolder(), "Pictures") : folderOfPath(mCanvas->mImagePath);
+    request.directory = mDocument->picture().path().empty() ? pathByAppending(homeFolder(), "Pictures")
+                                                            : folderOfPath(mDocument->picture().path());
     if (const std::optional<std::string> path = runOpenPanel(request)) {
         centerWindow(mWindow.get());
         openPath(*path);
@@ -220,13 +232,12 @@ void ZPAppController::openDocument()
 
 void ZPAppController::newDocument()
 {
-    runNewDialog(*mCanvas, mWindow.get(), [this] { bringWindowToFront(); });
-    mWindow->showTitle();
+    runNewDialog(*mDocument, mWindow.get(), [this] { bringWindowToFront(); });
 }
 
 void ZPAppController::quickSave()
 {
-    runNameDialog(*mCanvas, mWindow.get(), [] {
+    runNameDialog(*mDocument, mWindow.get(), [] {
         ZPFileManager::sharedFileManager()->showWindow();
         NotificationCenter::defaultCenter().post("ReloadTableDataNotif");
     });
@@ -264,29 +275,56 @@ void ZPAppController::imageProcessor()
 
 void ZPAppController::runPageLayout() { zp::runPageLayout(); }
 
+void ZPAppController::openWithPreview()
+{
+    if (!QDesktopServices::openUrl(urlFromPath(mDocument->picture().path()))) beep();
+}
+
+void ZPAppController::toggleRetina()
+{
+    // The menu item's state decides, not the flag.
+    QAction* item = mMenu->item("retina:");
+    const bool on = !item->isChecked();
+    item->setChecked(on);
+    mDocument->setRetina(on);
+    runAlert(on ? tr("You have enabled 2x retina display mode.") : tr("You have disabled 2x retina display mode."),
+             QString(), {tr("OK")});
+}
+
+// ---- commands -------------------------------------------------------------------------------------------------------
+
 bool ZPAppController::validateMenuItem(const QString& action, QString* title)
 {
-    const bool loaded = mCanvas->imageLoaded();
-    const bool selected = !mCanvas->selectionNil();
-    if (action == "resize:") return loaded && mWindow->isVisible();
-    if (action == "save:" || action == "openWithPreview:") return !mCanvas->imagePathNil();
-    if (action == "saveAsTIFF:" || action == "saveAsJPEG:" || action == "saveAsPNG:" || action == "loadSelection:" ||
-        action == "fitToWindow:")
-        return loaded;
-    if (action == "transform:" || action == "adjust:" || action == "saveSelection:") return loaded && selected;
-    return mCanvas->validateMenuItem(action, title);
+    const Command* command = mDocument->menuCommand(action.toStdString());
+    if (!command) return false;
+    if (title && action == "anchorSelection:")
+        *title = mDocument->selection().floating() ? tr("Anchor Selection") : tr("Float Selection");
+    if (command->needs & needs::EditorWindow && !mWindow->isVisible()) return false;
+    return mDocument->allows(*command);
 }
 
-void ZPAppController::perform(QAction* item)
+void ZPAppController::prepare(const QString& action)
 {
-    const auto command = mCommands.find(item->property("action").toString());
-    if (command != mCommands.end()) command->second(item);
+    const Command* command = mDocument->menuCommand(action.toStdString());
+    // What the hand is doing ends as its release would end it: only then is it known what can be done.
+    if (command && command->effect != Effect::View) mDocument->endGesture();
 }
 
-void ZPAppController::buildCommands()
+void ZPAppController::perform(const QString& action)
+{
+    const Command* command = mDocument->menuCommand(action.toStdString());
+    if (!command) return;
+    if (command->run) {
+        mDocument->perform(*command);
+        return;
+    }
+    if (const auto shell = mShell.find(action); shell != mShell.end()) shell->second();
+}
+
+void ZPAppController::buildShell()
 {
     const auto on = [this](const char* action, void (ZPAppController::*f)()) {
-        mCommands[action] = [this, f](QAction*) { (this->*f)(); };
+        mShell[action] = [this, f] { (this->*f)(); };
     };
     on("about:", &ZPAppController::about);
     on("prefs:", &ZPAppController::prefs);
@@ -295,58 +333,23 @@ void ZPAppController::buildCommands()
     on("openDocument:", &ZPAppController::openDocument);
     on("quickSave:", &ZPAppController::quickSave);
     on("runPageLayout:", &ZPAppController::runPageLayout);
+    on("openWithPreview:", &ZPAppController::openWithPreview);
+    on("retina:", &ZPAppController::toggleRetina);
     on("imageEditor:", &ZPAppController::imageEditor);
     on("fileManager:", &ZPAppController::fileManager);
     on("showWindows:", &ZPAppController::showWindows);
     on("imageProcessor:", &ZPAppController::imageProcessor);
     on("help:", &ZPAppController::help);
-
-    // After a save through a panel the window shows the new name.
-    const auto saving = [this](const char* action, void (ZPCanvas::*f)()) {
-        mCommands[action] = [this, f, target = mCanvas](QAction*) {
-            (target->*f)();
-            mWindow->showTitle();
-        };
-    };
-    saving("save:", &ZPCanvas::saveImage);
-    saving("saveAsTIFF:", &ZPCanvas::saveImageAsTIFF);
-    saving("saveAsJPEG:", &ZPCanvas::saveImageAsJPEG);
-    saving("saveAsPNG:", &ZPCanvas::saveImageAsPNG);
-
-    const auto canvas = [this](const char* action, void (ZPCanvas::*f)()) {
-        mCommands[action] = [target = mCanvas, f](QAction*) { (target->*f)(); };
-    };
-    canvas("openWithPreview:", &ZPCanvas::openWithPreview);
-    canvas("undo:", &ZPCanvas::undo);
-    canvas("redo:", &ZPCanvas::redo);
-    canvas("cut:", &ZPCanvas::cut);
-    canvas("copy:", &ZPCanvas::copy);
-    canvas("paste:", &ZPCanvas::paste);
-    canvas("pasteInto:", &ZPCanvas::pasteInto);
-    canvas("delete:", &ZPCanvas::deleteSelection);
-    canvas("fill:", &ZPCanvas::fill);
-    canvas("stroke:", &ZPCanvas::stroke);
-    canvas("smartFill:", &ZPCanvas::smartFill);
-    canvas("cropToSelection:", &ZPCanvas::cropToSelection);
-    canvas("rotateCW:", &ZPCanvas::rotateCW);
-    canvas("rotateCCW:", &ZPCanvas::rotateCCW);
-    canvas("flipH:", &ZPCanvas::flipH);
-    canvas("flipV:", &ZPCanvas::flipV);
-    canvas("selectAll:", &ZPCanvas::selectAll);
-    canvas("selectNone:", &ZPCanvas::selectNoneWithSound);
-    canvas("selectInverse:", &ZPCanvas::selectInverse);
-    canvas("anchorSelection:", &ZPCanvas::anchorOrFloatSelection);
-    mCommands["retina:"] = [this](QAction* item) {
-        mCanvas->retina(item);
-        mWindow->showZoom();
-    };
-    mCommands["resize:"] = [this](QAction*) { runResizeDialog(*mCanvas, mWindow.get()); };
-    mCommands["transform:"] = [this](QAction*) { runTransformDialog(*mCanvas, mWindow.get()); };
-    mCommands["adjust:"] = [this](QAction*) { runAdjustDialog(*mCanvas, mWindow.get()); };
-    mCommands["saveSelection:"] = [this](QAction*) { runSaveSelectionDialog(*mCanvas, mWindow.get()); };
-    mCommands["loadSelection:"] = [this](QAction*) { runLoadSelectionDialog(*mCanvas, mWindow.get()); };
-    mCommands["zoomIn:"] = [this](QAction*) { mWindow->zoomIn(); };
-    mCommands["zoomOut:"] = [this](QAction*) { mWindow->zoomOut(); };
-    mCommands["actualSize:"] = [this](QAction*) { mWindow->actualSize(); };
-    mCommands["fitToWindow:"] = [this](QAction*) { mWindow->fitToWindow(); };
+    mShell["saveAsTIFF:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::TIFF); };
+    mShell["saveAsJPEG:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::JPEG); };
+    mShell["saveAsPNG:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::PNG); };
+    mShell["resize:"] = [this] { runResizeDialog(*mDocument, mWindow.get()); };
+    mShell["transform:"] = [this] { runTransformDialog(*mDocument, mWindow.get()); };
+    mShell["adjust:"] = [this] { runAdjustDialog(*mDocument, mWindow.get()); };
+    mShell["saveSelection:"] = [this] { runSaveSelectionDialog(*mDocument, mWindow.get()); };
+    mShell["loadSelection:"] = [this] { runLoadSelectionDialog(*mDocument, mWindow.get()); };
+    mShell["zoomIn:"] = [this] { mCanvas->stepZoom(1); };
+    mShell["zoomOut:"] = [this] { mCanvas->stepZoom(-1); };
+    mShell["actualSize:"] = [this] { mCanvas->zoom(100); };
+    mShell["fitToWindow:"] = [this] { mWindow->fitToWindow(); };
 }

@@ -12,6 +12,10 @@ class MainMenu;
 class MainWindow;
 class QAction;
 class ZPCanvas;
+namespace zp
+{
+class Document;
+}
 
 /// Lives for the whole run, on the main thread.
 class ZPAppController : public QObject
@@ -23,7 +27,8 @@ public:
     ~ZPAppController() override;
 
     void applicationWillFinishLaunching();
-    /// Also called at launch, before applicationDidFinishLaunching. @return true
+    /// A file to open, asked for from outside; also called at launch, before applicationDidFinishLaunching. It waits
+    /// while a dialog or an alert is up or a button is held. @return whether it was opened at once
     bool application(const std::string& openFile);
     /// The launch sequence. @param startChoice false leaves the start alert out, as a held Shift key does
     void applicationDidFinishLaunching(bool startChoice);
@@ -32,12 +37,15 @@ public:
     void applicationWillTerminate();
 
     bool validateMenuItem(const QString& action, QString* title);
-    /// Carries a menu command out; the item is its sender.
-    void perform(QAction* item);
+    /// An open gesture ends before a command is validated.
+    void prepare(const QString& action);
+    /// Carries out the command of a menu item.
+    void perform(const QString& action);
 
     MainWindow& window() const { return *mWindow; }
     MainMenu& menu() const { return *mMenu; }
     ZPCanvas& canvas() const { return *mCanvas; }
+    zp::Document& document() const { return *mDocument; }
 
     /// Asks, and ends the event loop when the answer is yes.
     void terminate();
@@ -52,12 +60,14 @@ public:
     void showWindows();
     void imageProcessor();
     void runPageLayout();
+    void openWithPreview();
+    void toggleRetina();
 
     std::int32_t mWidthC = 0, mHeightC = 0;
     bool mLaunchFromDocument = false;
 
 private:
-    void buildCommands();
+    void buildShell();
     void bringWindowToFront();
     void openPath(const std::string& path);
     void noteRecentFile(const std::string& path);
@@ -66,9 +76,10 @@ private:
     void migratePreferences();
     void placeSampleImage();
 
+    std::unique_ptr<zp::Document> mDocument;
     std::unique_ptr<MainWindow> mWindow;
     MainMenu* mMenu = nullptr;
     ZPCanvas* mCanvas = nullptr;
-    std::map<QString, std::function<void(QAction*)>> mCommands;
+    std::map<QString, std::function<void()>> mShell; ///< commands that the application carries out itself
     bool mTerminated = false;
 };

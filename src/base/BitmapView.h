@@ -4,6 +4,7 @@
 #include "base/Geometry.h"
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 namespace zp
@@ -33,6 +34,12 @@ struct BasicBitmapView {
 };
 using BitmapView = BasicBitmapView<std::uint8_t>;
 using ConstBitmapView = BasicBitmapView<const std::uint8_t>;
+
+/// Copies the pixels of a picture of the same size.
+inline void copyPixels(ConstBitmapView from, BitmapView to)
+{
+    for (int y = 0; y < to.height; ++y) std::memcpy(to.rowData(y), from.rowData(y), std::size_t(to.width) * 4);
+}
 
 /// One byte a pixel, row 0 on top. In the selection mask 0 is fully selected, 255 not selected, and stride = width.
 template <class Byte>

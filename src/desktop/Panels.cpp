@@ -188,6 +188,8 @@ bool answerAlert(const QString& button)
     return true;
 }
 
+bool modalWindowIsUp() { return QApplication::activeModalWidget() != nullptr; }
+
 SilencedPanels::SilencedPanels() { ++silencers; }
 SilencedPanels::~SilencedPanels() { --silencers; }
 

@@ -5,7 +5,6 @@
 #include "drawing/Filters.h"
 #include <cstdint>
 
-class ZPCanvas;
 
 /// Five whole numbers as the adjust dialog shows them; the defaults are neutral.
 struct _ZPFilters {
@@ -19,11 +18,5 @@ namespace zp
 /// sharpness above zero as per cent of an unsharp mask's intensity, below zero as twentieths of a blur's radius.
 FilterSettings filterSettings(const _ZPFilters& filters);
 
-/// Computes what is still missing of the floating image's filtered pixels. Before anyone but the screen reads them:
-/// anchoring, copying, writing them out. Costs nothing when none are missing. Main thread.
-void finishPendingAdjustment(ZPCanvas& canvas);
-
-/// Same, but only what drawing the pixels @p box of the image needs. Main thread.
-void prepareAdjustment(ZPCanvas& canvas, PixelBox box);
 
 } // namespace zp

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// How the text tool reaches the text editor, which is a window and stands above the canvas.
+/// How the text tool reaches the text editor, which is a window and stands above the operations.
 #pragma once
 #include "base/BezierPath.h"
 #include <functional>
@@ -8,7 +8,9 @@
 namespace zp
 {
 
-/// What the canvas asks of the text editor. Registered once by the application; all calls come on the main thread.
+class Document;
+
+/// What the tool asks of the text editor. Registered once by the application; all calls come on the main thread.
 struct TextToolHooks {
     std::function<void(int size)> setFontSize;
     std::function<void()> showWindow;
@@ -18,8 +20,9 @@ struct TextToolHooks {
     std::function<bool()> isValid; ///< whether the last run ended with OK
 };
 
+/// Until they are set the text tool only beeps.
 void setTextToolHooks(TextToolHooks hooks);
-/// Null until they are set; then the text tool only beeps.
-const TextToolHooks* textToolHooks();
+/// The text being typed, as the outline on screen: the observer of "TextEditorNotif".
+void textEditorNotif(Document& document);
 
 } // namespace zp

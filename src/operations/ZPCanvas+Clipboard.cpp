@@ -1,49 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Copy, cut, paste, delete and crop, and the two clean-ups of transparency.
-#include "base/Log.h"
-#include "canvas/ZPCanvas.h"
+/// Copy, cut, paste, delete.
 #include "codecs/ImageEncoder.h"
 #include "codecs/ImageImporter.h"
 #include "desktop/Pasteboard.h"
-#include "desktop/Sounds.h"
-#include "imageops/Adjustment.h"
+#include "operations/Commands.h"
+#include "operations/SelectedPixels.h"
 #include "selection/FloatingImage.h"
+#include <QCoreApplication>
 
-using namespace zp;
+namespace zp
+{
 
 namespace
 {
 
-/// Smaller crops are refused on purpose.
-constexpr float kLeastCrop = 4;
-
 /// The canvas's picture, or what of the floating selection its outline lets through. Null when there is nothing.
-std::shared_ptr<const BitmapRep> pictureToCopy(ZPCanvas& canvas)
+std::shared_ptr<const BitmapRep> pictureToCopy(Edit& edit)
 {
-    if (!canvas.mSelectionPath)
-        return canvas.mImage && !canvas.mImage->representations().empty()
-                   ? canvas.mImage->representations().front().bitmap
-                   : nullptr;
-    if (!canvas.mSelectionImage) canvas.floatSelection();
-    if (!canvas.mSelectionImage) return nullptr;
-    finishPendingAdjustment(canvas);
-    if (canvas.mSelectionImage->representations().size() >= 2) {
-        logLine("more than one rep");
-        for (const ImageRepresentation& r : canvas.mSelectionImage->representations())
-            if (r.filtered) logLine("CIImageRep drawn");
-    }
-    const std::shared_ptr<BitmapRep> copy =
-        copyOfFloating(*canvas.mSelectionImage, canvas.mTransformRecord, *canvas.mSelectionPath,
-                       canvas.mSelectionPath->bounds(), canvas.mColor.alpha);
-    if (copy && canvas.mBitmapRep) copy->properties = canvas.mBitmapRep->properties;
+    Selection& selection = edit.selection();
+    if (selection.isNil()) return edit.picture().bitmap();
+    if (!selection.floating() && !liftSelection(edit)) return nullptr;
+    Floating& floating = *selection.floating();
+    floating.finishAdjustment();
+    floating.logDrawing("");
+    const std::shared_ptr<BitmapRep> copy = copyOfFloating(floating.image(), selection.record(), *selection.outline(),
+                                                           selection.bounds(), edit.paint().opacity());
+    if (copy && edit.picture().bitmap()) copy->properties = edit.picture().bitmap()->properties;
     return copy;
 }
 
 /// @return whether the pasteboard holds it now
-bool putOnPasteboard(ZPCanvas& canvas)
+bool putOnPasteboard(Edit& edit)
 {
-    canvas.finishStroke();
-    const std::shared_ptr<const BitmapRep> picture = pictureToCopy(canvas);
+    const std::shared_ptr<const BitmapRep> picture = pictureToCopy(edit);
     if (!picture) return false;
     std::vector<std::uint8_t> tiff = encodeTIFF(picture->view(), picture->properties);
     if (tiff.empty()) return false;
@@ -66,112 +55,66 @@ std::shared_ptr<Image> pictureToPaste()
     return image;
 }
 
-/// The last steps of both kinds of paste: @p picture floats in the rectangle @p box.
-void floatPasted(ZPCanvas& canvas, std::shared_ptr<Image> picture, Rect box)
+void place(Edit& edit, bool into)
 {
-    canvas.mSelectionImage = std::move(picture);
-    canvas.mSelectionPath = BezierPath::withRect(box);
-    ++canvas.mSelectionPathVersion;
-    canvas.clearSelectionMask();
-    canvas.selectionPathToMask();
-    canvas.restartSelectionTimer();
-    canvas.mTransformRecord = floatingRecord(canvas.mSelectionPath->bounds());
-    canvas.setNeedsDisplay();
+    std::shared_ptr<Image> picture = pictureToPaste();
+    if (!picture || !edit.picture().bitmap())
+        return edit.refuse(QCoreApplication::translate("Clipboard", "Nothing could be pasted."),
+                           QCoreApplication::translate("Clipboard", "The clipboard's picture cannot be read."));
+    const Size size = picture->size();
+    Rect box{{0, 0}, size};
+    if (into) {
+        const Rect target = edit.selection().bounds();
+        box = makeRect(target.origin.x + target.size.width * 0.5f - size.width * 0.5f,
+                       target.origin.y + target.size.height * 0.5f - size.height * 0.5f, size.width, size.height);
+    }
+    edit.selection().place(std::move(picture), box, into);
+    edit.gesture().openPolygon(false);
+    edit.redraw();
 }
 
 } // namespace
 
-void ZPCanvas::copy()
+void operations::copy(Edit& edit, const Arguments&)
 {
-    if (!putOnPasteboard(*this)) beep();
+    if (!putOnPasteboard(edit)) edit.refuse();
 }
 
-void ZPCanvas::cut()
+void operations::cut(Edit& edit, const Arguments& none)
 {
     // Nothing is taken away that could not be copied.
-    if (!putOnPasteboard(*this)) return beep();
-    clearSelection();
-    selectNone();
-    takeSnapshot();
+    if (!putOnPasteboard(edit)) return edit.refuse();
+    // A piece that was moved or pasted is itself what is cut; below it the picture stays.
+    if (!edit.selection().floating()->isChanged()) clearInsideSelection(edit);
+    selectNone(edit, none);
 }
 
-void ZPCanvas::paste()
+void operations::paste(Edit& edit, const Arguments&) { place(edit, false); }
+
+void operations::pasteInto(Edit& edit, const Arguments&) { place(edit, true); }
+
+void operations::deleteSelection(Edit& edit, const Arguments&)
 {
-    std::shared_ptr<Image> picture = pictureToPaste();
-    if (!picture || !mBitmapRep) return beep();
-    waitForWorkers(); // a stroke in progress is painted through the mask that goes now
-    releaseSelectionMask();
-    createSelectionMask();
-    mSelectionPath.reset();
-    mPasteIntoSelectionPath.reset(); // a plain paste is cut by no earlier selection
-    stopSelectionTimer();
-    const Size size = picture->size();
-    floatPasted(*this, std::move(picture), {{0, 0}, size});
+    Selection& selection = edit.selection();
+    const Floating* floating = selection.floating();
+    const bool pieceOfItsOwn = floating && floating->isChanged();
+    selection.letGo();
+    if (!pieceOfItsOwn) clearInsideSelection(edit);
+    edit.redraw();
 }
 
-void ZPCanvas::pasteInto()
+void clearInsideSelection(Edit& edit)
 {
-    if (!mSelectionPath) return beep();
-    std::shared_ptr<Image> picture = pictureToPaste();
-    if (!picture || !mBitmapRep) return beep();
-    waitForWorkers();
-    mPasteIntoSelectionPath = std::exchange(mSelectionPath, std::nullopt);
-    releaseSelectionMask();
-    createSelectionMask();
-    stopSelectionTimer();
-    const Rect into = mPasteIntoSelectionPath->bounds();
-    const Size size = picture->size();
-    floatPasted(*this, std::move(picture),
-                makeRect(into.origin.x + into.size.width * 0.5f - size.width * 0.5f,
-                         into.origin.y + into.size.height * 0.5f - size.height * 0.5f, size.width, size.height));
+    if (edit.selection().isNil() || !edit.picture().bitmap()) return;
+    const Rect box = edit.selection().bounds().inset(-1);
+    clearInside(edit.write(pixelBoxOf(box, edit.picture().width(), edit.picture().height())),
+                *edit.selection().outline());
 }
 
-void ZPCanvas::deleteSelection()
+void operations::clearSelection(Edit& edit, const Arguments&)
 {
-    if (!mSelectionPath) return beep();
-    clearSelection();
-    takeSnapshot();
+    clearInsideSelection(edit);
+    if (Floating* floating = edit.selection().floating()) floating->markChanged(); // alone with its pixels now
 }
 
-void ZPCanvas::clearSelection()
-{
-    if (!mSelectionPath || !mBitmapRep) return;
-    waitForWorkers();
-    clearInside(mBitmapRep->view(), *mSelectionPath);
-    setNeedsDisplay();
-}
-
-void ZPCanvas::cropToSelection()
-{
-    if (!mSelectionPath || !mBitmapRep) return beep();
-    const Rect box = mSelectionPath->bounds();
-    if (!(box.size.width >= kLeastCrop && box.size.height >= kLeastCrop)) return beep();
-    finishStroke();
-    std::shared_ptr<BitmapRep> cropped = croppedImage(*mBitmapRep, box);
-    if (!cropped) return beep();
-    releaseSelectionMask();
-    installBitmap(std::move(cropped), ImageCacheMode::Default, true, true);
-    createSelectionMask();
-    mSelectionPath.reset();
-    ++mSelectionPathVersion;
-    mSelectionImage.reset();
-    mPasteIntoSelectionPath.reset(); // an outline of the picture that is gone
-    stopSelectionTimer();
-    takeSnapshot();
-}
-
-void ZPCanvas::makeBGBlack()
-{
-    if (!mBitmapRep) return;
-    waitForWorkers();
-    clearTranslucentPixels(mBitmapRep->view());
-    setNeedsDisplay();
-}
-
-void ZPCanvas::magentaClear()
-{
-    if (!mBitmapRep) return;
-    waitForWorkers();
-    clearBlackPixels(mBitmapRep->view());
-    setNeedsDisplay();
-}
+} // namespace zp

@@ -1,99 +1,89 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The floating selection: lifted, scaled and turned, anchored.
-#include "base/Log.h"
-#include "canvas/ZPCanvas.h"
+/// The floating selection: lifted, scaled and turned, adjusted, anchored.
+#include "desktop/KeyModifiers.h"
 #include "desktop/Sounds.h"
-#include "drawing/BitmapContext.h"
-#include "imageops/Adjustment.h"
-#include "selection/FloatingImage.h"
+#include "operations/Commands.h"
+#include "operations/SelectedPixels.h"
+#include <QCoreApplication>
+#include <cmath>
 
-using namespace zp;
-
-namespace
+namespace zp
 {
 
-/// What a picture of several representations is drawn from, for the log.
-void logRepresentations(const Image& image)
+bool liftSelection(Edit& edit)
 {
-    if (image.representations().size() < 2) return;
-    logLine("more than one rep");
-    for (const ImageRepresentation& r : image.representations())
-        if (r.filtered) return logLine("CIImageRep drawn");
-}
-
-} // namespace
-
-AffineTransform ZPCanvas::floatingPlacement() const { return zp::floatingPlacement(mTransformRecord); }
-
-void ZPCanvas::floatSelection()
-{
-    if (!mSelectionPath || !mBitmapRep) return;
-    finishStroke(); // what is lifted must be painted to the end
-    const Rect box = mSelectionPath->bounds();
-    std::shared_ptr<Image> lifted = liftFloatingImage(std::as_const(*mBitmapRep).view(), box);
-    if (!lifted) return beep(); // an outline without area, or no memory
-    mSelectionImage = std::move(lifted);
-    playSound("Pop");
-    mTransformRecord = floatingRecord(box);
-}
-
-void ZPCanvas::anchorSelection()
-{
-    if (!mSelectionPath || !mSelectionImage) return;
-    waitForWorkers();
-    if (mImage && !mImage->representations().empty()) {
-        finishPendingAdjustment(*this);
-        logRepresentations(*mSelectionImage);
-        BitmapContext context(mImage->representations().front().bitmap->view());
-        context.addClip(*mSelectionPath);
-        if (mPasteIntoSelectionPath) context.addClip(*mPasteIntoSelectionPath);
-        drawFloating(context, *mSelectionImage, mTransformRecord, mColor.alpha);
+    if (!edit.selection().lift(edit.picture())) {
+        edit.refuse(); // an outline without area, or no memory
+        return false;
     }
-    mSelectionImage.reset();
-    if (!(currentKeyModifiers() & kShiftKey)) {
-        mSelectionPath.reset();
-        ++mSelectionPathVersion;
-        if (!mSelectionMaskClear) clearSelectionMask();
-        stopSelectionTimer();
-    }
-    mPasteIntoSelectionPath.reset();
-    showSelectionInfo();
-    setNeedsDisplay();
     playSound("Pop");
-    takeSnapshot();
+    edit.redraw();
+    return true;
 }
 
-void ZPCanvas::anchorOrFloatSelection() { mSelectionImage ? anchorSelection() : floatSelection(); }
-
-ZPCanvas::TransformValues ZPCanvas::transform()
+void operations::floatSelection(Edit& edit, const Arguments&)
 {
-    if (!mSelectionImage) floatSelection();
-    mTransform = false;
-    return {mTransformRecord.scale, mTransformRecord.rotate};
+    if (!edit.selection().isNil() && edit.picture().bitmap()) liftSelection(edit);
 }
 
-void ZPCanvas::transform_set(float scale, float rotate)
+void operations::anchorSelection(Edit& edit, const Arguments&)
 {
+    Selection& selection = edit.selection();
+    if (selection.isNil() || !selection.floating()) return edit.wantStep(false);
+    const PixelBox box = pixelBoxOf(selection.bounds().inset(-1), edit.picture().width(), edit.picture().height());
+    selection.anchor(edit.write(box), edit.paint().opacity());
+    if (!(currentKeyModifiers() & kShiftKey)) selection.drop();
+    edit.redraw();
+    playSound("Pop");
+}
+
+void operations::anchorOrFloatSelection(Edit& edit, const Arguments& none)
+{
+    if (edit.selection().floating()) return anchorSelection(edit, none);
+    floatSelection(edit, none);
+    edit.wantStep(false);
+}
+
+void operations::transform(Edit& edit, const Arguments& none)
+{
+    if (!edit.selection().floating()) floatSelection(edit, none);
+    edit.selection().setTransforming(false);
+}
+
+void operations::transform_set(Edit& edit, const Arguments& values)
+{
+    float scale = values.number(0), rotate = values.number(1);
     if (scale == -1 && rotate == -1) scale = 1, rotate = 0;
-    // A scale of nothing would flatten the outline for good: no later step could bring it back.
-    if (scale == 0 || !std::isfinite(scale) || !std::isfinite(rotate)) return;
-    const AffineTransform step = floatingStep(mTransformRecord, scale, rotate);
-    mTransformRecord.scale = scale;
-    mTransformRecord.rotate = rotate;
-    if (mSelectionPath) {
-        mSelectionPath->transform(step);
-        ++mSelectionPathVersion;
+    if (!std::isfinite(scale) || !std::isfinite(rotate)) return edit.refuse();
+    // A scale of nothing would flatten the outline for good: no later step could bring it back. The rotation holds.
+    if (scale == 0) {
+        scale = edit.selection().record().scale;
+        edit.refuse();
     }
-    setNeedsDisplay();
-    displayNow();
-    showSelectionInfo();
+    edit.selection().transform(scale, rotate);
+    edit.redraw();
 }
 
-void ZPCanvas::applyTransform() { mTransform = false; }
-
-void ZPCanvas::dontApplyTransform()
+void operations::adjust(Edit& edit, const Arguments& none)
 {
-    if (!mTransform) mTransform = false; // a free transform in progress goes on
+    if (!edit.selection().floating()) floatSelection(edit, none);
 }
 
-void ZPCanvas::applyTransform_2() {}
+void operations::adjust_set(Edit& edit, const Arguments& values)
+{
+    Floating* floating = edit.selection().floating();
+    if (!floating) return edit.refuse();
+    const auto whole = [&values](std::size_t i) { return std::int32_t(std::lround(values.number(i))); };
+    switch (floating->adjust({whole(0), whole(1), whole(2), whole(3), whole(4)}, !edit.view().isOnScreen())) {
+    case Floating::Adjusting::Done:
+        break;
+    case Floating::Adjusting::Impossible:
+        return edit.refuse();
+    case Floating::Adjusting::NoMemory:
+        return edit.refuse(QCoreApplication::translate("Adjust", "The selection could not be adjusted."),
+                           QCoreApplication::translate("Adjust", "There is not enough memory."));
+    }
+    edit.redraw(edit.selection().bounds().inset(-2));
+}
+
+} // namespace zp

@@ -1,81 +1,71 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Quarter turns and flips of the whole picture, and the 2x retina mode.
-#include "base/Log.h"
-#include "canvas/ZPCanvas.h"
-#include "desktop/Panels.h"
+/// Quarter turns, flips and crop of the whole picture.
 #include "imageops/RotateFlip.h"
-#include <QAction>
+#include "operations/Commands.h"
+#include "selection/FloatingImage.h"
+#include <new>
 #include <utility>
 
-using namespace zp;
+namespace zp
+{
 
 namespace
 {
 
-/// What every geometric command ends with: no selection, nothing floating, a fresh mask of the new size, one snapshot.
-void finishGeometry(ZPCanvas& canvas, std::shared_ptr<BitmapRep> rep)
-{
-    canvas.installBitmap(std::move(rep), ImageCacheMode::Default, true, true);
-    canvas.releaseSelectionMask();
-    canvas.createSelectionMask();
-    canvas.mSelectionPath.reset();
-    ++canvas.mSelectionPathVersion;
-    canvas.mSelectionImage.reset();
-    canvas.stopSelectionTimer();
-    canvas.takeSnapshot();
-}
+/// Smaller crops are refused on purpose.
+constexpr float kLeastCrop = 4;
 
 template <class Rotate>
-void turn(ZPCanvas& canvas, Rotate rotate)
+void turn(Edit& edit, Rotate rotate)
 {
-    if (!canvas.mBitmapRep) return;
-    canvas.waitForWorkers();
-    const BitmapRep& old = *canvas.mBitmapRep;
-    auto rep = BitmapRep::createUninitialized(old.pixelsHigh(), old.pixelsWide());
-    if (!rep) return logLine("rotate: not enough memory");
-    rotate(old.view(), rep->view());
-    rep->properties = old.properties;
-    finishGeometry(canvas, std::move(rep));
+    const std::shared_ptr<const BitmapRep> old = edit.picture().bitmap();
+    if (!old) return edit.refuse();
+    auto turned = BitmapRep::createUninitialized(old->pixelsHigh(), old->pixelsWide());
+    if (!turned) throw std::bad_alloc();
+    rotate(old->view(), turned->view());
+    turned->properties = old->properties;
+    edit.replacePicture(std::move(turned), kRebuiltPicture);
 }
 
 /// A flip needs no second bitmap: the same one is installed again.
 template <class Mirror>
-void flip(ZPCanvas& canvas, Mirror mirror)
+void flip(Edit& edit, Mirror mirror)
 {
-    if (!canvas.mBitmapRep) return;
-    canvas.waitForWorkers();
-    mirror(canvas.mBitmapRep->view());
-    finishGeometry(canvas, canvas.mBitmapRep);
+    if (!edit.picture().bitmap()) return edit.refuse();
+    mirror(edit.writeAll());
+    edit.replacePicture(edit.picture().writableBitmap(), kRebuiltPicture);
 }
 
 } // namespace
 
-void ZPCanvas::rotateCCW()
+void operations::rotateCCW(Edit& edit, const Arguments&)
 {
-    turn(*this, [](ConstBitmapView from, BitmapView to) { rotateCounterClockwise(from, to); });
+    turn(edit, [](ConstBitmapView from, BitmapView to) { rotateCounterClockwise(from, to); });
 }
 
-void ZPCanvas::rotateCW()
+void operations::rotateCW(Edit& edit, const Arguments&)
 {
-    turn(*this, [](ConstBitmapView from, BitmapView to) { rotateClockwise(from, to); });
+    turn(edit, [](ConstBitmapView from, BitmapView to) { rotateClockwise(from, to); });
 }
 
-void ZPCanvas::flipH()
+void operations::flipH(Edit& edit, const Arguments&)
 {
-    flip(*this, [](BitmapView pixels) { flipHorizontally(pixels); });
+    flip(edit, [](BitmapView pixels) { flipHorizontally(pixels); });
 }
 
-void ZPCanvas::flipV() { flip(*this, flipVertically); }
-
-void ZPCanvas::retina(QAction* sender)
+void operations::flipV(Edit& edit, const Arguments&)
 {
-    // The menu item's state decides, not the flag; it is handed over as it was before the item was chosen.
-    const bool on = sender ? !sender->isChecked() : !m2xRetina;
-    if (sender) sender->setChecked(on);
-    m2xRetina = on;
-    updateViewGeometry();
-    setNeedsDisplay();
-    emit zoomChanged();
-    runAlert(on ? tr("You have enabled 2x retina display mode.") : tr("You have disabled 2x retina display mode."),
-             QString(), {tr("OK")});
+    flip(edit, [](BitmapView pixels) { flipVertically(pixels); });
 }
+
+void operations::cropToSelection(Edit& edit, const Arguments&)
+{
+    const std::shared_ptr<const BitmapRep> old = edit.picture().bitmap();
+    const Rect box = edit.selection().bounds();
+    if (!old || !(box.size.width >= kLeastCrop && box.size.height >= kLeastCrop)) return edit.refuse();
+    std::shared_ptr<BitmapRep> cropped = croppedImage(*old, box);
+    if (!cropped) throw std::bad_alloc();
+    edit.replacePicture(std::move(cropped), kRebuiltPicture);
+}
+
+} // namespace zp

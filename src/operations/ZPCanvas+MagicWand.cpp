@@ -1,73 +1,88 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The magic wand in its three forms, over the canvas's fields.
-#include "canvas/ZPCanvas.h"
+/// The magic wand in its three forms: by tiles, for the tool; a pixel at a time; and painting what it selects.
+#include "operations/Commands.h"
+#include "operations/PixelAccess.h"
+#include "operations/SelectedPixels.h"
+#include "selection/ZPPathBuilder.h"
 #include "tools/FillSeed.h"
 #include "tools/MagicWand.h"
-#include "tools/PixelCompare.h"
 #include "tools/TileRegion.h"
+#include <new>
 
-using namespace zp;
+namespace zp
+{
 
 namespace
 {
 
-MaskView maskOf(ZPCanvas& canvas)
-{
-    const int width = canvas.mBitmapRep->pixelsWide();
-    return {canvas.mSelectionMaskData.get(), width, canvas.mBitmapRep->pixelsHigh(), width};
-}
-
-std::optional<PixelPoint> wandSeed(const ZPCanvas& canvas, Point point)
-{
-    if (!canvas.mBitmapRep || !canvas.mSelectionMaskData) return std::nullopt;
-    return fillSeed(point, canvas.mBitmapRep->view().box());
-}
-
 /// The colour is read where the point is, not at the rounded start; a point just before the first pixel reads that.
-std::uint32_t wordUnder(const ZPCanvas& canvas, Point point)
+std::uint32_t wordUnder(ConstBitmapView pixels, Point point)
 {
-    return canvas.colorAtPoint({std::max(0.0f, point.x), std::max(0.0f, point.y)});
+    return colorAtPoint(pixels, {std::max(0.0f, point.x), std::max(0.0f, point.y)});
 }
 
 } // namespace
 
-void ZPCanvas::magicWandFast(Point point)
+void markByWand(Edit& edit, Point point, bool adding)
 {
-    mNewColor = mColor;
-    const std::optional<PixelPoint> seed = wandSeed(*this, point);
-    if (!seed) return;
-    const std::uint32_t target = wordUnder(*this, point);
-    const ColumnFillResult result = zp::magicWand(std::as_const(*mBitmapRep).view(), maskOf(*this), *seed, target,
-                                                  tol2(true), sharedFillStack(), sharedTileRegion());
-    if (result.completed) mSelectionMaskClear = false;
+    edit.paint().takeNewColor();
+    const ConstBitmapView pixels = edit.picture().pixels();
+    const std::optional<PixelPoint> seed = fillSeed(point, pixels.box());
+    if (!seed) {
+        if (!adding) edit.selection().rawMask().clear();
+        return;
+    }
+    const MaskView mask = edit.selection().maskForWand(adding);
+    if (mask.isEmpty()) throw std::bad_alloc();
+    zp::magicWand(pixels, mask, *seed, wordUnder(pixels, point), edit.paint().refreshTolerance(), sharedFillStack(),
+                  sharedTileRegion());
 }
 
-void ZPCanvas::magicWand(Point point)
+BezierPath tracedMask(Selection& selection)
 {
-    mNewColor = mColor;
-    const std::optional<PixelPoint> seed = wandSeed(*this, point);
-    if (!seed) return;
-    const std::uint32_t target = wordUnder(*this, point);
-    // One operation per pixel and mask byte, and the tolerance of whoever asked the slider last.
-    const ColumnFillResult result = columnFill(
-        mBitmapRep->pixelsWide(), mBitmapRep->pixelsHigh(), *seed, sharedFillStack(),
+    BezierPath outline = ZPPathBuilder(selection.rawMask().bytes()).path();
+    AffineTransform up; // traced outlines lie one pixel low
+    up.translate(0, -1);
+    outline.transform(up);
+    return outline;
+}
+
+void operations::magicWand(Edit& edit, const Arguments& at)
+{
+    const Point point{at.number(0), at.number(1)};
+    edit.paint().takeNewColor();
+    const ConstBitmapView pixels = edit.picture().pixels();
+    const std::optional<PixelPoint> seed = fillSeed(point, pixels.box());
+    if (!seed) return edit.refuse();
+    const MaskView mask = edit.selection().rawMask().writable();
+    if (mask.isEmpty()) throw std::bad_alloc();
+    // One look per pixel and mask byte, and the tolerance of whoever asked the slider last.
+    const std::uint32_t target = wordUnder(pixels, point);
+    columnFill(
+        pixels.width, pixels.height, *seed, sharedFillStack(),
         [&](int x, int y) {
             const Point pixel{float(x), float(y)};
-            return maskPixelAtPoint(pixel) != 0 && compareColor(colorAtPoint(pixel), target);
+            return maskPixelAtPoint(mask, pixel) != 0 &&
+                   compareColor(edit.paint(), colorAtPoint(pixels, pixel), target);
         },
         [&](int x, int y) {
-            setMaskPixel({float(x), float(y)});
+            setMaskPixel(mask, {float(x), float(y)});
         });
-    if (result.completed) mSelectionMaskClear = false;
 }
 
-void ZPCanvas::magicWandOver(Point point)
+void operations::magicWandOver(Edit& edit, const Arguments& at)
 {
-    const std::optional<PixelPoint> seed = wandSeed(*this, point);
-    if (!seed || ColorsWithinTolerance(mNewColor, mOldColor, int(mSize - 1))) return;
+    const Point point{at.number(0), at.number(1)};
+    const std::optional<PixelPoint> seed = fillSeed(point, edit.picture().box());
+    if (!seed) return edit.refuse();
+    Paint& paint = edit.paint();
+    paint.setFillColors(unpackPremultiplied(wordUnder(edit.picture().pixels(), point)), paint.color());
+    if (ColorsWithinTolerance(paint.newColor(), paint.oldColor(), int(paint.size() - 1))) return;
+    const MaskView mask = edit.selection().rawMask().writable();
+    if (mask.isEmpty()) throw std::bad_alloc();
     // The two words are packed in different byte orders, and that is how this form has always looked for its target.
-    const ColumnFillResult result =
-        magicWandPainting(mBitmapRep->view(), maskOf(*this), *seed, packColorRedFirst(mOldColor),
-                          packPremultiplied(mNewColor), tol2(false), sharedFillStack());
-    if (result.completed) mSelectionMaskClear = false;
+    magicWandPainting(edit.writeAll(), mask, *seed, packColorRedFirst(paint.oldColor()),
+                      packPremultiplied(paint.newColor()), paint.tolerance(), sharedFillStack());
 }
+
+} // namespace zp

@@ -1,181 +1,160 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The mouse with the tools that change or read pixels at once: pencil, eraser, paint bucket, eyedropper, clone stamp.
+/// The mouse with pencil and eraser: a path while the button is down, drawn at the release by what also shows it
+/// before.
 #include "base/PixelMemory.h"
-#include "desktop/ColorWell.h"
 #include "desktop/KeyModifiers.h"
+#include "desktop/Sounds.h"
+#include "document/Document.h"
 #include "drawing/BitmapContext.h"
 #include "operations/ToolActions.h"
+#include "selection/MaskOps.h"
 #include "tools/BrushTip.h"
-#include "tools/PixelCompare.h"
 #include "tools/StrokeGeometry.h"
 #include <cstring>
+#include <new>
 
-using namespace zp;
+namespace zp
+{
 
 namespace
 {
 
-BezierPath roundStroke(float width)
+/// The straight line of a press with Shift.
+BezierPath straightStroke(const Gesture& gesture, float width)
 {
-    BezierPath path;
-    path.setLineWidth(width);
-    path.setLineJoin(LineJoin::Round);
-    path.setLineCap(LineCap::Round);
-    return path;
-}
-
-/// What the finished gesture draws: the path that was drawn, or the straight line of a press with Shift.
-BezierPath finishedStroke(ZPCanvas& canvas, Point released)
-{
-    if (std::optional<BezierPath> drawn = std::exchange(canvas.mPencilPath, std::nullopt)) {
-        // The release is a position like any other; a click without a drag becomes a dot.
-        if (drawn->elementCount() == 1 || drawn->currentPoint() != released) drawn->lineTo(released);
-        return std::move(*drawn);
-    }
-    BezierPath line = roundStroke(canvas.mSize);
-    line.moveTo(canvas.mPt1);
-    line.lineTo(canvas.mPt2);
+    BezierPath line;
+    line.setLineWidth(width);
+    line.setLineJoin(LineJoin::Round);
+    line.setLineCap(LineCap::Round);
+    line.moveTo(gesture.pt1());
+    line.lineTo(gesture.pt2());
     return line;
 }
 
-/// Makes what @p path strokes transparent. Only the stroke's own box is worked on.
-void eraseStroke(BitmapView pixels, BezierPath path)
+/// What has been drawn so far.
+BezierPath strokeSoFar(const Document& document)
 {
+    const BezierPath* drawn = document.gesture().pencilPath();
+    return drawn ? *drawn : straightStroke(document.gesture(), document.paint().size());
+}
+
+/// What the finished gesture draws.
+BezierPath finishedStroke(Edit& edit, Point released)
+{
+    std::optional<BezierPath> drawn = edit.gesture().takePencil();
+    if (!drawn) return straightStroke(edit.gesture(), edit.paint().size());
+    // The release is a position like any other; a click without a drag becomes a dot.
+    if (drawn->elementCount() == 1 || drawn->currentPoint() != released) drawn->lineTo(released);
+    return std::move(*drawn);
+}
+
+/// Picture coordinates to those of a part whose corner is the picture's pixel (x, y).
+AffineTransform toPart(int x, int y)
+{
+    AffineTransform shift;
+    shift.translate(-x, -y);
+    return shift;
+}
+
+void drawPencil(BitmapView pixels, int x, int y, const BezierPath& path, const BezierPath* clip, Color color)
+{
+    BitmapContext context(pixels);
+    context.concat(toPart(x, y));
+    if (clip) context.addClip(*clip);
+    context.setColor(color);
+    context.stroke(path);
+}
+
+/// Makes what @p path strokes transparent, as far as the selection lets it. Only the stroke's own box is worked on.
+void erase(BitmapView pixels, int x, int y, BezierPath path, const BezierPath* clip)
+{
+    path.transform(toPart(x, y));
     const PixelBox box = pixelBoxOf(strokeBounds(path).inset(-1), pixels.width, pixels.height);
     if (box.isEmpty()) return;
     const std::size_t bytes = std::size_t(box.width()) * std::size_t(box.height());
-    const PixelMemory keep = allocatePixelsUninitialized(bytes);
-    if (!keep) return;
-    std::memset(keep.get(), 0xFF, bytes);
+    const PixelMemory keep = allocatePixelsUninitialized(bytes),
+                      allowed = allocatePixelsUninitialized(clip ? bytes : 1);
+    if (!keep || !allowed) throw std::bad_alloc();
+    std::memset(keep.get(), kNotSelected, bytes);
     const MaskView mask{keep.get(), box.width(), box.height(), box.width()};
-    AffineTransform toBox;
-    toBox.translate(-box.x0, -box.y0);
-    path.transform(toBox);
+    path.transform(toPart(box.x0, box.y0));
     strokePathInMask(mask, path, 0);
+    if (clip) {
+        std::memset(allowed.get(), kNotSelected, bytes);
+        BezierPath outline = *clip;
+        outline.transform(toPart(x + box.x0, y + box.y0));
+        renderPathInMask({allowed.get(), box.width(), box.height(), box.width()}, outline, kSelected);
+        for (std::size_t i = 0; i < bytes; ++i)
+            keep[i] = std::uint8_t(255 - ((255 - keep[i]) * (255 - allowed[i]) + 127) / 255);
+    }
     eraseThroughMask(pixels.part(box), mask);
+}
+
+/// The end of both tools: what the selection lets nothing through of is a beep and no step.
+template <class Draw>
+void finish(Edit& edit, Point point, Draw&& draw)
+{
+    const BezierPath path = finishedStroke(edit, point);
+    const Rect area = strokeBounds(path).inset(-1);
+    if (!edit.selection().isNil() && !intersects(area, edit.selection().bounds())) return edit.refuse();
+    const BitmapView pixels = edit.write(pixelBoxOf(area, edit.picture().width(), edit.picture().height()));
+    if (!pixels.isEmpty()) draw(pixels, path);
+    edit.wantStep(true);
 }
 
 } // namespace
 
-// ---- pencil and eraser ----------------------------------------------------------------------------------------------
-
-void ZPToolActions::pressPencil(ZPCanvas& canvas, Point point)
+void tool::pressPencil(Edit& edit, Point point)
 {
-    canvas.mPt1 = canvas.mPt2 = point;
-    canvas.mPencilPath.reset();
+    edit.gesture().setBoth(point);
+    edit.gesture().noPencil();
     if (currentKeyModifiers() & kShiftKey) return; // a straight line, from here to the release
-    canvas.mPencilPath = roundStroke(canvas.mSize);
-    canvas.mPencilPath->moveTo(point);
+    edit.gesture().startPencil(edit.paint().size(), point);
 }
 
-void ZPToolActions::dragPencil(ZPCanvas& canvas, Point point)
+void tool::dragPencil(Edit& edit, Point point)
 {
-    const auto dirty = [&](Point a, Point b) {
-        canvas.setNeedsDisplayInRect(rectFromCorners(a, b).inset(-(canvas.mSize * 0.5f + 1.0f)));
-    };
-    if (canvas.mPencilPath) {
+    const float margin = edit.paint().size() * 0.5f + 1.0f;
+    const auto redraw = [&](Point a, Point b) { edit.redraw(rectFromCorners(a, b).inset(-margin)); };
+    Gesture& gesture = edit.gesture();
+    if (const BezierPath* path = gesture.pencilPath()) {
         // Only the new piece: the older ones stand on screen, and a long stroke would be drawn again and again.
-        dirty(canvas.mPencilPath->currentPoint(), point);
-        canvas.mPencilPath->lineTo(point);
+        redraw(path->currentPoint(), point);
+        gesture.extendPencil(point);
     } else {
-        dirty(canvas.mPt1, toolState(canvas).previousPt2);
-        dirty(canvas.mPt1, point);
+        redraw(gesture.pt1(), gesture.previousPt2());
+        redraw(gesture.pt1(), point);
     }
 }
 
-void ZPToolActions::releasePencil(ZPCanvas& canvas, Point point)
+void tool::releasePencil(Edit& edit, Point point)
 {
-    const BezierPath path = finishedStroke(canvas, point);
-    if (const std::shared_ptr<BitmapRep> bitmap = drawingBitmap(canvas)) {
-        BitmapContext context(bitmap->view());
-        if (canvas.mSelectionPath) context.addClip(*canvas.mSelectionPath);
-        context.setColor(canvas.mColor);
-        context.stroke(path);
-    }
-    canvas.takeSnapshot();
+    finish(edit, point, [&edit](BitmapView pixels, const BezierPath& path) {
+        drawPencil(pixels, 0, 0, path, edit.selection().outline(), edit.paint().color());
+    });
 }
 
-void ZPToolActions::releaseEraser(ZPCanvas& canvas, Point point)
+void tool::releaseEraser(Edit& edit, Point point)
 {
-    BezierPath path = finishedStroke(canvas, point);
-    if (const std::shared_ptr<BitmapRep> bitmap = drawingBitmap(canvas)) eraseStroke(bitmap->view(), std::move(path));
-    canvas.takeSnapshot();
+    finish(edit, point, [&edit](BitmapView pixels, const BezierPath& path) {
+        erase(pixels, 0, 0, path, edit.selection().outline());
+    });
 }
 
-// ---- paint bucket and eyedropper ------------------------------------------------------------------------------------
-
-void ZPToolActions::pressBucket(ZPCanvas& canvas, Point point)
+void tool::previewPencil(const Document& document, BitmapView pixels, int x, int y)
 {
-    if (!canvas.bounds().contains(point)) return;
-    if (canvas.mSelectionPath) {
-        // The fill takes its walls from the mask.
-        canvas.clearSelectionMask();
-        canvas.selectionPathToMask();
-    }
-    canvas.floodFillScanlineStackFast(point);
-    canvas.setNeedsDisplay();
-    canvas.takeSnapshot();
+    drawPencil(pixels, x, y, strokeSoFar(document), document.selection().outline(), document.paint().color());
 }
 
-void ZPToolActions::pickColor(ZPCanvas& canvas, Point point)
+void tool::previewEraser(const Document& document, BitmapView pixels, int x, int y)
 {
-    const std::shared_ptr<BitmapRep> bitmap = drawingBitmap(canvas);
-    if (!bitmap || !canvas.bounds().contains(point)) return;
-    const int x = std::min(int(point.x), bitmap->pixelsWide() - 1),
-              y = std::min(int(point.y), bitmap->pixelsHigh() - 1);
-    canvas.setPaintColor(unpackPremultiplied(std::as_const(*bitmap).view().row(y)[x]));
+    erase(pixels, x, y, strokeSoFar(document), document.selection().outline());
 }
 
-void ZPCanvas::setPaintColor(Color color)
+PixelBox tool::previewBox(const Document& document)
 {
-    mColor = color;
-    if (mColorWell) mColorWell->setColor(color);
-    emit paintColorChanged();
+    return pixelBoxOf(strokeBounds(strokeSoFar(document)).inset(-1), document.picture().width(),
+                      document.picture().height());
 }
 
-// ---- clone stamp ----------------------------------------------------------------------------------------------------
-
-void ZPToolActions::pressCloneStamp(ZPCanvas& canvas, Point point)
-{
-    ToolState& state = toolState(canvas);
-    state.referenceClick = currentKeyModifiers() & kOptionKey;
-    (state.referenceClick ? canvas.mCloneStampRefPt : canvas.mPt1) = point;
-}
-
-void ZPToolActions::dragCloneStamp(ZPCanvas& canvas, Point point)
-{
-    ToolState& state = toolState(canvas);
-    const std::shared_ptr<BitmapRep> bitmap = drawingBitmap(canvas);
-    if (state.referenceClick || !bitmap) return; // a hand that trembles on a reference click must not paint
-    const BitmapView pixels = bitmap->view();
-    const float radius = canvas.mSize * 0.5f;
-    const Rect tip = makeRect(point.x - radius, point.y - radius, canvas.mSize, canvas.mSize);
-    const PixelBox box = pixelBoxOf(tip, pixels.width, pixels.height);
-    // By whole pixels: a fraction would blur what is copied a little more with each stamp.
-    const Point way = canvas.mPt1 - canvas.mCloneStampRefPt;
-    const float dx = std::round(way.x), dy = std::round(way.y);
-    const PixelBox source = pixelBoxOf(box.rect().offset(-dx, -dy), pixels.width, pixels.height);
-    if (box.isEmpty() || source.isEmpty()) return;
-
-    // The source as it is now: tip and source may overlap.
-    std::shared_ptr<BitmapRep>& copy = state.cloneSource;
-    if (!copy || copy->pixelsWide() < source.width() || copy->pixelsHigh() < source.height())
-        copy = BitmapRep::createUninitialized(source.width(), source.height());
-    if (!copy) return;
-    BitmapView from = copy->view();
-    from.width = source.width(), from.height = source.height();
-    for (int y = 0; y < from.height; ++y)
-        std::memcpy(from.rowData(y), pixels.pixel(source.x0, source.y0 + y), std::size_t(from.width) * 4);
-
-    BitmapContext context(pixels);
-    context.addClip(BezierPath::withOvalInRect(tip));
-    if (canvas.mSelectionPath) context.addClip(*canvas.mSelectionPath);
-    context.drawImageAt(from, {float(source.x0) + dx, float(source.y0) + dy}, CompositingOperation::SourceOver,
-                        canvas.mColor.alpha);
-    canvas.setNeedsDisplayInRect(tip.inset(-canvas.mSize));
-}
-
-void ZPToolActions::releaseCloneStamp(ZPCanvas& canvas, Point)
-{
-    if (!(currentKeyModifiers() & kOptionKey)) canvas.takeSnapshot();
-}
+} // namespace zp

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Another size for the image: resampled, or cut and extended at its right and bottom.
 #include "base/Log.h"
-#include "canvas/ZPCanvas.h"
-#include "desktop/Panels.h"
 #include "drawing/Resample.h"
+#include "operations/Commands.h"
+#include <QCoreApplication>
 #include <algorithm>
 #include <cstring>
+#include <new>
 
-using namespace zp;
+namespace zp
+{
 
 namespace
 {
@@ -22,44 +24,37 @@ void placeTopLeft(ConstBitmapView image, BitmapView into)
     for (int y = 0; y < std::min(image.height, into.height); ++y) std::memcpy(into.rowData(y), image.rowData(y), bytes);
 }
 
-void refuse(const QString& why)
-{
-    logLine("resize refused: %s", qUtf8Printable(why));
-    runAlert(ZPCanvas::tr("The image could not be resized."), why, {ZPCanvas::tr("OK")});
-}
-
 } // namespace
 
-void ZPCanvas::setImageSize(Size size, bool scale)
+void operations::setImageSize(Edit& edit, const Arguments& arguments)
 {
-    const std::int64_t width = wholePixels(size.width), height = wholePixels(size.height);
-    if (!isSensibleImageSize(width, height))
-        return refuse(tr("Width and height must be from 1 to %1 pixels, and the image at most %2 megapixels.")
-                          .arg(kMaxPixelsPerSide)
-                          .arg(kMaxPixels / 1'000'000));
-    // Pixels that are still being painted or read must come to rest before they are resampled.
-    waitForWorkers();
-    // What is resampled is written whole; what is only extended must be transparent where nothing comes to lie.
-    auto resized = scale && mBitmapRep ? BitmapRep::createUninitialized(int(width), int(height))
-                                       : BitmapRep::create(int(width), int(height));
-    if (!resized) return refuse(tr("There is not enough memory for an image of this size."));
-    if (mBitmapRep) {
-        const ConstBitmapView old = std::as_const(*mBitmapRep).view();
-        if (scale)
-            resample(old, resized->view());
-        else
-            placeTopLeft(old, resized->view());
-        resized->properties = mBitmapRep->properties;
+    const std::int64_t width = wholePixels(arguments.number(0)), height = wholePixels(arguments.number(1));
+    const bool scale = arguments.number(2) != 0;
+    if (!isSensibleImageSize(width, height)) {
+        const QString why =
+            QCoreApplication::translate(
+                "Resize", "Width and height must be from 1 to %1 pixels, and the image at most %2 megapixels.")
+                .arg(kMaxPixelsPerSide)
+                .arg(kMaxPixels / 1'000'000);
+        logLine("resize refused: %s", qUtf8Printable(why));
+        return edit.refuse(QCoreApplication::translate("Resize", "The image could not be resized."), why);
     }
-    installBitmap(std::move(resized), ImageCacheMode::Default, true, true);
-    releaseSelectionMask();
-    createSelectionMask();
-    mAuxSelectionPath.reset();
-    mSelectionPath.reset();
-    ++mSelectionPathVersion;
-    // Without its outline a floating picture could be neither seen nor anchored.
-    mSelectionImage.reset();
-    mPasteIntoSelectionPath.reset();
-    stopSelectionTimer();
-    takeSnapshot();
+    const std::shared_ptr<const BitmapRep> old = edit.picture().bitmap();
+    // What is resampled is written whole; what is only extended must be transparent where nothing comes to lie.
+    auto resized = scale && old ? BitmapRep::createUninitialized(int(width), int(height))
+                                : BitmapRep::create(int(width), int(height));
+    if (!resized)
+        return edit.refuse(
+            QCoreApplication::translate("Resize", "The image could not be resized."),
+            QCoreApplication::translate("Resize", "There is not enough memory for an image of this size."));
+    if (old) {
+        if (scale)
+            resample(old->view(), resized->view());
+        else
+            placeTopLeft(old->view(), resized->view());
+        resized->properties = old->properties;
+    }
+    edit.replacePicture(std::move(resized), kRebuiltPicture);
 }
+
+} // namespace zp

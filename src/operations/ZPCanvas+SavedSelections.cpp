@@ -2,41 +2,46 @@
 /// Selections kept in files, to be used again in any image.
 #include "base/Folders.h"
 #include "base/Log.h"
-#include "canvas/ZPCanvas.h"
-#include "desktop/Sounds.h"
+#include "operations/Commands.h"
 #include "selection/SelectionFile.h"
+#include <QCoreApplication>
 
-using namespace zp;
+namespace zp
+{
 
 namespace
 {
+
 /// Outlines of millions of corners stay below this; nothing larger in the folder is one of ours.
 constexpr std::uint64_t kLargestFile = std::uint64_t{512} << 20;
 
 bool namesAFile(const std::string& path) { return !path.empty() && path.back() != '/'; }
+
 } // namespace
 
-void ZPCanvas::saveSelection(const std::string& path)
+void operations::saveSelection(Edit& edit, const Arguments& to)
 {
-    if (!namesAFile(path) || !mSelectionPath) return beep();
-    const std::string text = selectionFileText(*mSelectionPath);
-    createFolder(folderOfPath(path)); // of the default selection, or of a name with a slash in it
+    if (!namesAFile(to.path) || edit.selection().isNil()) return edit.refuse();
+    const std::string text = selectionFileText(*edit.selection().outline());
+    createFolder(folderOfPath(to.path)); // of the default selection, or of a name with a slash in it
     std::string error;
-    if (writeFileSafely(path, text.data(), text.size(), &error)) return;
-    logLine("saveSelection: %s: %s", displayName(path).c_str(), error.c_str());
-    beep();
+    if (writeFileSafely(to.path, text.data(), text.size(), &error)) return;
+    logLine("saveSelection: %s: %s", displayName(to.path).c_str(), error.c_str());
+    edit.refuse(QCoreApplication::translate("SavedSelections", "The selection could not be saved."),
+                QString::fromStdString(displayName(lastPathComponent(to.path)) + ": " + error));
 }
 
-void ZPCanvas::loadSelection(const std::string& path)
+void operations::loadSelection(Edit& edit, const Arguments& from)
 {
-    if (!namesAFile(path)) return beep();
+    if (!namesAFile(from.path)) return edit.refuse();
     std::optional<BezierPath> loaded;
-    if (!isFolder(path))
-        if (const std::optional<std::string> text = readWholeFile(path, kLargestFile))
+    if (!isFolder(from.path))
+        if (const std::optional<std::string> text = readWholeFile(from.path, kLargestFile))
             loaded = pathFromSelectionFile(*text);
-    selectNone();
-    mSelectionPath = std::move(loaded);
-    ++mSelectionPathVersion;
-    if (mSelectionPath) restartSelectionTimer();
-    setNeedsDisplay();
+    edit.selection().drop();
+    edit.gesture().openPolygon(false);
+    if (loaded) edit.selection().select(std::move(*loaded));
+    edit.redraw();
 }
+
+} // namespace zp

@@ -1,176 +1,109 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The selection as a whole: its mask, the commands all, none and inverse, combining, the ants' clock, menu rules.
-#include "canvas/ZPCanvas.h"
-#include "desktop/Pasteboard.h"
+/// The selection as a whole: all, none, inverse, back again, nudged; ending a polygon; and the mask by itself.
 #include "desktop/Sounds.h"
+#include "operations/Commands.h"
+#include "operations/SelectedPixels.h"
 #include "selection/MaskOps.h"
-#include "selection/PathBooleans.h"
-#include "selection/ZPPathBuilder.h"
-#include <QLabel>
-#include <chrono>
 
-using namespace zp;
-
-namespace
+namespace zp
 {
 
-constexpr std::chrono::milliseconds kAntsStep{200};
-
-MaskView maskOf(ZPCanvas& canvas)
+void operations::selectAll(Edit& edit, const Arguments&)
 {
-    if (!canvas.mBitmapRep || !canvas.mSelectionMaskData) return {};
-    const int width = canvas.mBitmapRep->pixelsWide();
-    return {canvas.mSelectionMaskData.get(), width, canvas.mBitmapRep->pixelsHigh(), width};
+    edit.selection().select(BezierPath::withRect(edit.picture().bounds()));
+    edit.redraw();
 }
 
-} // namespace
-
-void ZPCanvas::createSelectionMask()
+void operations::selectNone(Edit& edit, const Arguments&)
 {
-    releaseSelectionMask();
-    if (!mBitmapRep) return;
-    const int width = mBitmapRep->pixelsWide(), height = mBitmapRep->pixelsHigh();
-    mSelectionMaskData = allocatePixelsUninitialized(std::size_t(width) * std::size_t(height));
-    if (!mSelectionMaskData) return;
-    mSelectionMask = ConstMaskView{mSelectionMaskData.get(), width, height, width};
-    clearSelectionMask();
+    edit.selection().drop();
+    edit.gesture().openPolygon(false);
+    edit.redraw();
 }
 
-void ZPCanvas::releaseSelectionMask()
+void operations::selectNoneWithSound(Edit& edit, const Arguments& none)
 {
-    mSelectionMask.reset();
-    mSelectionMaskData.reset();
-}
-
-void ZPCanvas::clearSelectionMask()
-{
-    fillMask(maskOf(*this), kNotSelected);
-    mSelectionMaskClear = true;
-}
-
-void ZPCanvas::clearSelectionMaskINVERT()
-{
-    fillMask(maskOf(*this), kSelected);
-    mSelectionMaskClear = true; // known to hold one value only, though the other one
-}
-
-void ZPCanvas::selectionPathToMask()
-{
-    if (!mSelectionPath) return;
-    mSelectionPath->setWindingRule(WindingRule::EvenOdd); // and it stays so
-    renderPathInMask(maskOf(*this), *mSelectionPath, kSelected);
-}
-
-void ZPCanvas::selectionPathToMaskINVERT()
-{
-    if (!mSelectionPath) return;
-    mSelectionPath->setWindingRule(WindingRule::EvenOdd);
-    renderPathInMask(maskOf(*this), *mSelectionPath, kNotSelected);
-}
-
-void ZPCanvas::selectAll()
-{
-    mPasteIntoSelectionPath.reset();
-    mSelectionImage.reset();
-    mSelectionPath.reset();
-    if (!mSelectionMaskClear) clearSelectionMask();
-    mSelectionPath = BezierPath::withRect(bounds());
-    ++mSelectionPathVersion;
-    restartSelectionTimer();
-    setNeedsDisplay();
-}
-
-void ZPCanvas::selectNone()
-{
-    mPasteIntoSelectionPath.reset();
-    mSelectionImage.reset();
-    mSelectionPath.reset();
-    ++mSelectionPathVersion;
-    if (!mSelectionMaskClear) clearSelectionMask();
-    stopSelectionTimer();
-    showSelectionInfo();
-    mPolygonLasso = false;
-    setNeedsDisplay();
-}
-
-void ZPCanvas::selectNoneWithSound()
-{
-    selectNone();
+    selectNone(edit, none);
     playSound("Frog");
 }
 
-void ZPCanvas::selectInverse()
+void operations::selectInverse(Edit& edit, const Arguments&)
 {
-    if (!mSelectionPath) return beep();
-    clearSelectionMaskINVERT();
-    selectionPathToMaskINVERT();
-    BezierPath outline = ZPPathBuilder(mSelectionMask.value_or(ConstMaskView{})).path();
-    AffineTransform up; // the tracer draws one pixel too low
-    up.translate(0, -1);
-    outline.transform(up);
-    mSelectionPath = std::move(outline);
-    ++mSelectionPathVersion;
-    restartSelectionTimer();
-    showSelectionInfo();
-    setNeedsDisplay();
+    Selection& selection = edit.selection();
+    SelectionMask& mask = selection.rawMask();
+    mask.clearInverted();
+    selection.setEvenOdd();
+    mask.renderInverted(*selection.outline());
+    selection.selectTraced(tracedMask(selection));
+    // Pixels that were partly selected are inside the traced outline: the mask follows.
+    mask.clear();
+    selection.renderedMask();
+    selection.marchAnts();
+    edit.redraw();
 }
 
-void ZPCanvas::restartSelectionTimer()
+void operations::reselect(Edit& edit, const Arguments&)
 {
-    mSelectionTimer = std::make_unique<QTimer>();
-    connect(mSelectionTimer.get(), &QTimer::timeout, this, &ZPCanvas::selectionTimerFired);
-    mSelectionTimer->start(kAntsStep);
+    edit.selection().reselect();
+    edit.redraw();
 }
 
-void ZPCanvas::stopSelectionTimer() { mSelectionTimer.reset(); }
-
-void ZPCanvas::makeSelection()
+void operations::nudge(Edit& edit, const Arguments& step)
 {
-    if (!mBitmapRep) return;
-    // The rows are those of the graphics world: the same memory as the bitmap, which stands in where there is none.
-    tintUnselected(mGWorld ? mGWorld->pixels : mBitmapRep->view(), maskOf(*this));
-    setNeedsDisplay();
+    if (edit.selection().isNil()) return;
+    edit.selection().move({step.number(0), step.number(1)});
+    edit.redraw();
 }
 
-void ZPCanvas::copyGWorld(const GWorld& source, GWorld& destination) { copyBits(source, destination); }
-
-void ZPCanvas::showSelectionInfo(const char* none)
+void operations::endPolygon(Edit& edit, const Arguments&)
 {
-    if (!mInfoField) return;
-    mInfoField->setText(mSelectionPath ? QString::fromStdString(stringFromRect(integralRect(mSelectionPath->bounds())))
-                                       : QString::fromUtf8(none));
+    edit.gesture().openPolygon(false);
+    edit.selection().closePolygon();
+    edit.selection().combine(edit.selection().parkedFor());
+    edit.redraw();
 }
 
-void ZPCanvas::combineWithAuxSelection()
+void operations::dropPolygon(Edit& edit, const Arguments&)
 {
-    if (!mAuxSelectionPath || mPolygonLasso) return;
-    BezierPath previous = std::move(*mAuxSelectionPath), shape = std::move(mSelectionPath).value_or(BezierPath{});
-    mAuxSelectionPath.reset();
-    mSelectionPath.reset();
-    ++mSelectionPathVersion;
-    // A selection is filled even-odd everywhere; a loop of the lasso that leaves its middle out does so here too.
-    previous.setWindingRule(WindingRule::EvenOdd);
-    shape.setWindingRule(WindingRule::EvenOdd);
-    const std::uint32_t keys = currentKeyModifiers();
-    if (keys & kShiftKey)
-        mSelectionPath = pathFromUnionWithPath(shape, previous);
-    else if (keys & kOptionKey)
-        mSelectionPath = pathFromDifferenceWithPath(previous, shape);
-}
-
-bool ZPCanvas::validateMenuItem(const QString& action, QString* title)
-{
-    const bool selected = !selectionNil();
-    if (action == "anchorSelection:") {
-        if (title) *title = selectionImageNil() ? tr("Float Selection") : tr("Anchor Selection");
-        return selected;
+    edit.gesture().openPolygon(false);
+    if (edit.selection().parked()) {
+        edit.selection().unpark();
+        edit.selection().marchAnts();
+    } else {
+        edit.selection().drop();
     }
-    for (const char* needsSelection : {"selectNone:", "selectInverse:", "fill:", "stroke:", "smartFill:", "copy:",
-                                       "cut:", "delete:", "cropToSelection:"})
-        if (action == needsSelection) return selected;
-    if (action == "paste:") return Pasteboard::general().hasImageData();
-    if (action == "pasteInto:") return selected && Pasteboard::general().hasImageData();
-    if (action == "undo:") return mUndoRedoIndex > 0;
-    if (action == "redo:") return mUndoRedoIndex < mUndoIndex;
-    return true;
+    edit.redraw();
+    playSound("Frog");
 }
+
+// ---- the mask by itself ---------------------------------------------------------------------------------------------
+
+void operations::clearSelectionMask(Edit& edit, const Arguments&) { edit.selection().rawMask().clear(); }
+
+void operations::clearSelectionMaskINVERT(Edit& edit, const Arguments&) { edit.selection().rawMask().clearInverted(); }
+
+void operations::selectionPathToMask(Edit& edit, const Arguments&)
+{
+    Selection& selection = edit.selection();
+    if (selection.isNil()) return;
+    selection.setEvenOdd();
+    selection.rawMask().render(*selection.outline());
+}
+
+void operations::selectionPathToMaskINVERT(Edit& edit, const Arguments&)
+{
+    Selection& selection = edit.selection();
+    if (selection.isNil()) return;
+    selection.setEvenOdd();
+    selection.rawMask().renderInverted(*selection.outline());
+}
+
+void operations::inverseMask(Edit& edit, const Arguments&) { edit.selection().rawMask().invert(); }
+
+void operations::makeSelection(Edit& edit, const Arguments&)
+{
+    // The rows are those of the graphics world: the same memory as the bitmap.
+    tintUnselected(edit.writeAll(), edit.selection().rawMask().bytes());
+}
+
+} // namespace zp

@@ -3,164 +3,149 @@
 #include "base/Log.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Sounds.h"
+#include "document/Document.h"
+#include "operations/SelectedPixels.h"
 #include "operations/ToolActions.h"
-#include "selection/ZPPathBuilder.h"
 
-using namespace zp;
+namespace zp
+{
 
 namespace
 {
 
-/// Fewer elements than this enclose nothing.
-constexpr int kLeastLassoElements = 3;
+/// Fewer elements than this, the closing one included, enclose nothing.
+constexpr int kLeastLassoElements = 4;
 
-/// The press cannot act: a cue, no gesture, and the outline that was set aside comes back.
-void refusePress(ZPCanvas& canvas)
+/// Nothing was enclosed. @param reselectable  an outline that is there was one before the gesture
+void dropWithSound(Edit& edit, bool reselectable)
 {
-    toolState(canvas).gestureTool = -1;
-    if (canvas.mAuxSelectionPath) {
-        canvas.mSelectionPath = std::exchange(canvas.mAuxSelectionPath, std::nullopt);
-        ++canvas.mSelectionPathVersion;
-    }
-    beep();
+    edit.selection().endWithoutShape(reselectable);
+    playSound("Frog");
+}
+
+/// What a new shape leaves behind: its mask, made where the product has always made it.
+void renderMask(Edit& edit)
+{
+    edit.selection().rawMask().clear();
+    edit.selection().renderedMask();
 }
 
 } // namespace
 
-void ZPToolActions::startMove(ZPCanvas& canvas, Point point)
+void startMoving(Edit& edit, Point point)
 {
-    canvas.mPt1 = point;
-    canvas.mMove = true;
+    edit.gesture().startMoving(point);
     const std::uint32_t keys = currentKeyModifiers();
-    if (!(keys & kCommandKey)) return;
-    canvas.floatSelection();
-    if (keys & kShiftKey) canvas.clearSelection();
+    Selection& selection = edit.selection();
+    // What floats already is moved: lifting again would take what lies under it.
+    if (!(keys & kCommandKey) || selection.floating()) return;
+    if (!liftSelection(edit) || !(keys & kShiftKey)) return;
+    edit.keepBefore(pixelBoxOf(selection.bounds().inset(-1), edit.picture().width(), edit.picture().height()));
+    clearInsideSelection(edit);
+    selection.floating()->markChanged(); // the picture does not have these pixels any more
+    edit.gesture().noteLiftedHole();
 }
 
-void ZPToolActions::moveSelection(ZPCanvas& canvas, Point point)
+void tool::moveSelection(Edit& edit, Point point)
 {
-    if (!canvas.mMove || !canvas.mSelectionPath) return;
-    const Point step = point - canvas.mPt1;
-    AffineTransform shift;
-    shift.translate(step.x, step.y);
-    canvas.mSelectionPath->transform(shift);
-    ++canvas.mSelectionPathVersion;
-    canvas.mTransformRecord.position = canvas.mTransformRecord.position + step;
-    canvas.mPt1 = point;
-    canvas.setNeedsDisplay();
-}
-
-void ZPToolActions::dropSelectionWithSound(ZPCanvas& canvas)
-{
-    canvas.mSelectionPath.reset();
-    ++canvas.mSelectionPathVersion;
-    if (!canvas.mSelectionMaskClear) canvas.clearSelectionMask();
-    playSound("Frog");
+    Gesture& gesture = edit.gesture();
+    if (!gesture.isMoving() || edit.selection().isNil()) return;
+    edit.selection().move(point - gesture.pt1());
+    gesture.setPress(point);
+    edit.redraw();
 }
 
 // ---- rectangle, square, oval ----------------------------------------------------------------------------------------
 
-void ZPToolActions::pressRectangle(ZPCanvas& canvas, Point point)
+void tool::pressRectangle(Edit& edit, Point point)
 {
-    if (hitsSelection(canvas, point)) return startMove(canvas, point);
-    canvas.mSelectionImage.reset();
-    canvas.mSelectionPath.reset();
-    ++canvas.mSelectionPathVersion;
-    canvas.mPt1 = canvas.mPt2 = point;
-    canvas.mMove = false;
-    canvas.mPolygonLasso = false;
-    canvas.setNeedsDisplay();
+    if (edit.selection().contains(point)) return startMoving(edit, point);
+    edit.selection().beginShape();
+    edit.gesture().setBoth(point);
+    edit.gesture().openPolygon(false);
+    edit.redraw();
 }
 
-void ZPToolActions::dragRectangle(ZPCanvas& canvas, Point point)
+void tool::dragRectangle(Edit& edit, Point point)
 {
-    if (canvas.mMove) return moveSelection(canvas, point);
+    if (edit.gesture().isMoving()) return moveSelection(edit, point);
     // Whether or not a redraw comes between two events, the outline is that of the last one.
-    canvas.updateGestureOutlines();
-    ++canvas.mSelectionPathVersion;
-    canvas.setNeedsDisplay();
+    edit.document().shapeMarquee();
+    edit.redraw();
 }
 
-void ZPToolActions::releaseRectangle(ZPCanvas& canvas, Point)
+void tool::releaseRectangle(Edit& edit, Point)
 {
-    if (canvas.mMove) return;
-    logLine("%f  %f", double(canvas.mPt1.x), double(canvas.mPt1.y));
-    logLine("%f  %f", double(canvas.mPt2.x), double(canvas.mPt2.y));
-    if (canvas.mPt1 == canvas.mPt2) dropSelectionWithSound(canvas);
-    canvas.clearSelectionMask();
-    canvas.selectionPathToMask();
+    const Gesture& gesture = edit.gesture();
+    if (gesture.isMoving()) return;
+    logLine("%f  %f", double(gesture.pt1().x), double(gesture.pt1().y));
+    logLine("%f  %f", double(gesture.pt2().x), double(gesture.pt2().y));
+    if (gesture.pt1() == gesture.pt2()) dropWithSound(edit, true);
+    renderMask(edit);
 }
 
 // ---- lasso ----------------------------------------------------------------------------------------------------------
 
-void ZPToolActions::pressLasso(ZPCanvas& canvas, Point point)
+void tool::pressLasso(Edit& edit, Point point)
 {
-    if (!canvas.mDrawFinishedFlag) return refusePress(canvas);
-    if (canvas.mSelectionPath) {
-        if (canvas.mPolygonLasso) {
-            // A click is a corner of the polygon whenever the outline that ends there holds it, and an outline holds
-            // its own border: so every click is one, wherever it falls. Return or Escape ends the polygon.
-            canvas.mSelectionPath->lineTo(point);
-            ++canvas.mSelectionPathVersion;
-            canvas.setNeedsDisplay();
-            return startMove(canvas, point);
-        }
-        if (canvas.mSelectionPath->contains(point)) return startMove(canvas, point);
+    Selection& selection = edit.selection();
+    Gesture& gesture = edit.gesture();
+    if (gesture.polygonIsOpen() && !selection.isNil()) {
+        // A click is a corner of the polygon whenever the outline that ends there holds it, and an outline holds its
+        // own border: so every click is one, wherever it falls. Return or Escape ends the polygon.
+        selection.extendShape(point);
+        edit.redraw();
+        return startMoving(edit, point);
     }
-    canvas.mSelectionImage.reset();
-    if (!canvas.mSelectionMaskClear) canvas.clearSelectionMask();
-    canvas.mSelectionPath = BezierPath();
-    canvas.mSelectionPath->moveTo(point);
-    canvas.mPolygonLasso = currentKeyModifiers() & kControlKey;
-    if (canvas.mPolygonLasso) canvas.mSelectionPath->lineTo(point);
-    ++canvas.mSelectionPathVersion;
-    canvas.mMove = false;
-    canvas.setNeedsDisplay();
+    if (selection.contains(point)) return startMoving(edit, point);
+    selection.beginShape();
+    BezierPath outline;
+    outline.moveTo(point);
+    gesture.openPolygon(currentKeyModifiers() & kControlKey);
+    if (gesture.polygonIsOpen()) outline.lineTo(point);
+    selection.shape(std::move(outline));
+    edit.redraw();
 }
 
-void ZPToolActions::dragLasso(ZPCanvas& canvas, Point point)
+void tool::dragLasso(Edit& edit, Point point)
 {
-    if (canvas.mMove) return moveSelection(canvas, point);
-    if (!canvas.mSelectionPath) return;
-    canvas.mSelectionPath->lineTo(point);
-    ++canvas.mSelectionPathVersion;
-    canvas.setNeedsDisplay();
+    if (edit.gesture().isMoving()) return moveSelection(edit, point);
+    edit.selection().extendShape(point);
+    edit.redraw();
 }
 
-void ZPToolActions::releaseLasso(ZPCanvas& canvas, Point)
+void tool::releaseLasso(Edit& edit, Point)
 {
-    if (canvas.mMove || canvas.mPolygonLasso) return;
-    if (canvas.mSelectionPath) canvas.mSelectionPath->closePath();
-    const int count = canvas.mSelectionPath ? canvas.mSelectionPath->elementCount() : 0;
+    Selection& selection = edit.selection();
+    if (edit.gesture().isMoving() || edit.gesture().polygonIsOpen()) return;
+    selection.closeShape();
+    const int count = selection.isNil() ? 0 : selection.outline()->elementCount();
     logLine("%i", count);
-    if (count < kLeastLassoElements) return dropSelectionWithSound(canvas);
-    ++canvas.mSelectionPathVersion;
-    canvas.clearSelectionMask();
-    canvas.selectionPathToMask();
+    if (count < kLeastLassoElements) return dropWithSound(edit, false);
+    renderMask(edit);
 }
 
 // ---- magic wand -----------------------------------------------------------------------------------------------------
 
-void ZPToolActions::pressWand(ZPCanvas& canvas, Point point)
+void tool::pressWand(Edit& edit, Point point)
 {
-    if (hitsSelection(canvas, point)) return startMove(canvas, point);
-    canvas.mPolygonLasso = false;
-    canvas.mSelectionImage.reset();
-    if (!(currentKeyModifiers() & kShiftKey)) canvas.clearSelectionMask();
-    canvas.magicWandFast(point);
+    Selection& selection = edit.selection();
+    if (selection.contains(point)) return startMoving(edit, point);
+    edit.gesture().openPolygon(false);
+    const bool adding = currentKeyModifiers() & kShiftKey;
+    if (!adding && !selection.parked()) selection.beginShape();
+    markByWand(edit, pixelUnder(point), adding);
     logLine("magicWand done");
-    ConstMaskView mask;
-    if (canvas.mBitmapRep && canvas.mSelectionMaskData) {
-        const int width = canvas.mBitmapRep->pixelsWide();
-        mask = {canvas.mSelectionMaskData.get(), width, canvas.mBitmapRep->pixelsHigh(), width};
-    }
-    BezierPath outline = ZPPathBuilder(mask).path();
-    AffineTransform upOne; // traced outlines lie one pixel low
-    upOne.translate(0, -1);
-    outline.transform(upOne);
-    canvas.mSelectionPath = std::move(outline);
-    ++canvas.mSelectionPathVersion;
+    selection.selectTraced(tracedMask(selection));
     logLine("ZPPathBuilder done");
-    canvas.mMove = false;
-    canvas.setNeedsDisplay();
+    edit.redraw();
 }
+
+void tool::releaseWand(Edit& edit, Point)
+{
+    // Joined with what was selected before, the outline is no longer what the wand marked.
+    Selection& selection = edit.selection();
+    if (!edit.gesture().isMoving() && !selection.isNil()) selection.renderedMask();
+}
+
+} // namespace zp

@@ -1,29 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The canvas command that opens the smart fill window on the current selection.
-#include "canvas/ZPCanvas.h"
-#include "desktop/Sounds.h"
+/// The command that opens the smart fill window on the selection.
+#include "document/Document.h"
+#include "operations/Commands.h"
 #include "operations/SmartFillHook.h"
+#include <new>
 #include <utility>
 
-using namespace zp;
+namespace zp
+{
 
 namespace
 {
 SmartFillHook registeredHook;
 } // namespace
 
-namespace zp
-{
 void setSmartFillHook(SmartFillHook hook) { registeredHook = std::move(hook); }
-} // namespace zp
 
-void ZPCanvas::smartFill()
+void operations::smartFill(Edit& edit, const Arguments&)
 {
-    if (!mSelectionPath || !mBitmapRep || !registeredHook) return beep();
-    clearSelectionMaskINVERT();
-    selectionPathToMaskINVERT();
-    if (!mSelectionMaskData) return beep();
-    const int width = mBitmapRep->pixelsWide(), height = mBitmapRep->pixelsHigh();
-    registeredHook(mBitmapRep, ConstMaskView{mSelectionMaskData.get(), width, height, width}, this,
-                   mSelectionPath->bounds());
+    Selection& selection = edit.selection();
+    if (!edit.picture().bitmap() || !registeredHook) return edit.refuse();
+    selection.setEvenOdd();
+    SelectionMask& mask = selection.rawMask();
+    mask.clearInverted();
+    mask.renderInverted(*selection.outline());
+    const ConstMaskView inverted = mask.bytes();
+    if (inverted.isEmpty()) throw std::bad_alloc();
+    registeredHook(edit.document(), inverted, selection.bounds());
 }
+
+} // namespace zp

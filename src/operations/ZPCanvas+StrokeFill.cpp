@@ -1,41 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The two commands that paint the selection's outline or its inside.
-#include "canvas/ZPCanvas.h"
-#include "desktop/Sounds.h"
 #include "drawing/BitmapContext.h"
-#include "operations/ToolActions.h"
+#include "operations/Commands.h"
 
-using namespace zp;
-
-void ZPCanvas::stroke()
+namespace zp
 {
-    if (!mSelectionPath) return beep();
-    waitForWorkers(); // a brush stroke still being drawn would write the same pixels
-    const float z = effectiveZoom();
-    const int width = int(mSelectionPath->lineWidth()); // cut to a whole number on purpose: that is what comes back
-    mSelectionPath->setLineWidth(mSize);
-    mSelectionPath->setLineDash(std::array{0.0f, 0.0f}, 0);
-    if (const std::shared_ptr<BitmapRep> bitmap = drawingBitmap(*this)) {
-        BitmapContext context(bitmap->view());
-        context.setColor(mColor);
-        context.stroke(*mSelectionPath);
+
+void operations::stroke(Edit& edit, const Arguments&)
+{
+    Selection& selection = edit.selection();
+    const float zoom = edit.view().effectiveZoom();
+    const int width =
+        int(selection.outline()->lineWidth()); // cut to a whole number on purpose: that is what comes back
+    selection.setLineStyle(edit.paint().size(), 0, 0);
+    const PixelBox box =
+        pixelBoxOf(strokeBounds(*selection.outline()), edit.picture().width(), edit.picture().height());
+    if (const BitmapView pixels = edit.write(box); !pixels.isEmpty()) {
+        BitmapContext context(pixels);
+        context.setColor(edit.paint().color());
+        context.stroke(*selection.outline());
     }
-    mSelectionPath->setLineWidth(float(width));
-    mSelectionPath->setLineDash(std::array{5 / z, 5 / z}, mSelectionPhase / z);
-    setNeedsDisplay();
-    takeSnapshot();
+    selection.setLineStyle(float(width), 5 / zoom, selection.phase() / zoom);
 }
 
-void ZPCanvas::fill()
+void operations::fill(Edit& edit, const Arguments&)
 {
-    if (!mSelectionPath) return beep();
-    waitForWorkers();
-    mSelectionPath->setWindingRule(WindingRule::EvenOdd); // stays, so that later fills leave the same holes
-    if (const std::shared_ptr<BitmapRep> bitmap = drawingBitmap(*this)) {
-        BitmapContext context(bitmap->view());
-        context.setColor(mColor);
-        context.fill(*mSelectionPath);
+    Selection& selection = edit.selection();
+    selection.setEvenOdd(); // stays, so that later fills leave the same holes
+    const PixelBox box = pixelBoxOf(selection.bounds().inset(-1), edit.picture().width(), edit.picture().height());
+    if (const BitmapView pixels = edit.write(box); !pixels.isEmpty()) {
+        BitmapContext context(pixels);
+        context.setColor(edit.paint().color());
+        context.fill(*selection.outline());
     }
-    setNeedsDisplay();
-    takeSnapshot();
 }
+
+} // namespace zp

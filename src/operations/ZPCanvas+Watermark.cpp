@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The canvas's side of a batch run's watermark.
+/// A watermark drawn into the picture.
 #include "batch/WatermarkDrawing.h"
-#include "canvas/ZPCanvas.h"
 #include "codecs/ImageImporter.h"
+#include "operations/Commands.h"
 
-using namespace zp;
-
-void ZPCanvas::placeWatermark(const std::string& path, Point point, float alpha)
+namespace zp
 {
-    if (path.empty() || !mImage || mImage->representations().empty()) return;
-    const ImportedImage watermark = importImageFile(path);
+
+void operations::placeWatermark(Edit& edit, const Arguments& arguments)
+{
+    if (arguments.path.empty() || !edit.picture().bitmap()) return;
+    const ImportedImage watermark = importImageFile(arguments.path);
     if (!watermark.bitmap) return;
-    waitForWorkers(); // a snapshot of the picture before may still be read from these pixels
-    BitmapRep& target = *mImage->representations().front().bitmap;
-    drawWatermark(target.view(), watermark.bitmap->view(), sizeInPoints(*watermark.bitmap), point, alpha);
+    drawWatermark(edit.writeAll(), watermark.bitmap->view(), sizeInPoints(*watermark.bitmap),
+                  {arguments.number(0), arguments.number(1)}, arguments.number(2));
 }
+
+} // namespace zp

@@ -3,7 +3,6 @@
 #include "app/MainMenu.h"
 #include "app/ZPAppController.h"
 #include "base/Folders.h"
-#include "canvas/ZPCanvas.h"
 #include "desktop/ColorWell.h"
 #include "desktop/Panels.h"
 #include "script/ScriptDriver.h"

@@ -30,11 +30,13 @@ constexpr int kUnwindMilliseconds = 5000;
 } // namespace
 
 ScriptDriver::ScriptDriver(ZPAppController& controller, std::string script)
-    : mController(controller), mCanvas(controller.canvas()), mScript(std::move(script))
+    : mController(controller),
+      mCanvas(controller.canvas()),
+      mDocument(controller.document()),
+      mScript(std::move(script))
 {
     addMenuCommands();
     addInputCommands();
-    addOperations();
     addLookCommands();
     setPanelsAutomated(true);
     for (QWidget* window : QApplication::topLevelWidgets())

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Plays automation commands: one line in, one JSON answer out, on the main thread from the event loop.
 #pragma once
+#include "document/Command.h"
 #include <QJsonObject>
 #include <QObject>
 #include <QPointer>
@@ -20,6 +21,7 @@ class ZPCanvas;
 
 namespace zp
 {
+class Document;
 /// A word of a script as a text of the user interface.
 inline QString text(const std::string& bytes) { return QString::fromStdString(bytes); }
 } // namespace zp
@@ -69,7 +71,6 @@ private:
     // what commands do; each throws Failure
     void addMenuCommands();
     void addInputCommands();
-    void addOperations();
     void addLookCommands();
     void addImmediate(const char* name, Command command);
     void addWork(const char* name, Command command);
@@ -80,12 +81,14 @@ private:
     int visibleModals() const;
     void sendMouse(int type, const Words& words);
     void sendKey(const std::string& key);
+    /// What the operation is given, from the words behind its name.
+    zp::Arguments argumentsOf(const zp::Command& operation, const Words& words) const;
 
     ZPAppController& mController;
     ZPCanvas& mCanvas;
+    zp::Document& mDocument;
     std::string mScript;
     std::map<std::string, std::function<void(const Words&)>> mCommands;
-    std::map<std::string, Command> mOperations;
     mutable std::vector<QPointer<QWidget>> mFront; ///< top-level windows, the one shown or activated last first
 
     std::mutex mLinesLock; ///< guards the two below

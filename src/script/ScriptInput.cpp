@@ -4,10 +4,12 @@
 #include "base/Folders.h"
 #include "canvas/ZPCanvas.h"
 #include "desktop/KeyModifiers.h"
+#include "document/Document.h"
 #include "script/ScriptDriver.h"
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <cmath>
 #include <filesystem>
 
 using namespace zp;
@@ -23,6 +25,9 @@ std::string absolutePath(const std::string& path)
     return failed || path.empty() ? path : whole.string();
 }
 
+/// Coordinates that arithmetic on whole numbers can bear; no picture reaches anywhere near.
+bool isFarEnoughInside(double coordinate) { return std::abs(coordinate) <= 1e9; }
+
 } // namespace
 
 void ScriptDriver::sendMouse(int type, const Words& w)
@@ -30,9 +35,10 @@ void ScriptDriver::sendMouse(int type, const Words& w)
     if (w.size() != 3) throw Failure{text(w[0]) + " X Y"};
     bool okX = false, okY = false;
     const double x = text(w[1]).toDouble(&okX), y = text(w[2]).toDouble(&okY);
-    if (!okX || !okY) throw Failure{"not a number"};
-    const double z = mCanvas.effectiveZoom();
+    if (!okX || !okY || !isFarEnoughInside(x) || !isFarEnoughInside(y)) throw Failure{"not a number"};
+    const double z = mDocument.view().effectiveZoom();
     const QPointF local(x * z, y * z);
+    mCanvas.setExactPointer({float(x), float(y)});
     const QPointF global = QPointF(mCanvas.mapToGlobal(QPoint(0, 0))) + local;
     const auto kind = QEvent::Type(type);
     const Qt::MouseButton button = kind == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
@@ -116,22 +122,22 @@ void ScriptDriver::addInputCommands()
     });
     addWork("open", [this](const Words& w) {
         if (w.size() != 2) throw Failure{"open PATH"};
-        mController.application(absolutePath(w[1]));
-        return QJsonObject{};
+        return mController.application(absolutePath(w[1])) ? QJsonObject{} : QJsonObject{{"queued", true}};
     });
     addWork("send", [this](const Words& w) {
         if (w.size() < 2) throw Failure{"send OPERATION [ARG…]"};
-        const auto operation = mOperations.find(w[1]);
-        if (operation == mOperations.end()) throw Failure{"no such operation"};
-        return operation->second(Words(w.begin() + 2, w.end()));
+        const zp::Command* operation = mDocument.operation(w[1]);
+        if (!operation) throw Failure{"no such operation"};
+        mDocument.perform(*operation, argumentsOf(*operation, Words(w.begin() + 2, w.end())));
+        return QJsonObject{};
     });
     mCommands["wait"] = [this](const Words& w) {
         const double seconds = w.size() > 1 ? text(w[1]).toDouble() : 60;
         auto quiet = std::make_shared<int>(0);
         waitUntil(
             [this, quiet] {
-                const bool busy =
-                    mCanvas.anyWorkerRunning() || mCanvas.snapshotTimerPending() || mCanvas.mSmartFillRunning;
+                const bool busy = mDocument.anyWorkerRunning() || mDocument.firstStepPending() ||
+                                  mDocument.isComputing() || mDocument.requestsWait();
                 // Quiet for a few rounds of the event loop: the end of one worker may be the start of the next.
                 *quiet = busy ? 0 : *quiet + 1;
                 return *quiet > 3;
@@ -144,100 +150,37 @@ void ScriptDriver::addInputCommands()
     };
 }
 
-void ScriptDriver::addOperations()
+Arguments ScriptDriver::argumentsOf(const zp::Command& operation, const Words& words) const
 {
-    const auto number = [](const Words& w, std::size_t i) {
+    Arguments arguments;
+    std::size_t next = 0;
+    const auto number = [&] {
         bool ok = false;
-        const double value = i < w.size() ? text(w[i]).toDouble(&ok) : 0;
-        if (!ok) throw Failure{QString("argument %1 is not a number").arg(i + 1)};
+        const double value = next < words.size() ? text(words[next]).toDouble(&ok) : 0;
+        ++next;
+        if (!ok || !std::isfinite(float(value))) throw Failure{QString("argument %1 is not a number").arg(next)};
         return value;
     };
-    const auto path = [](const Words& w, std::size_t i) {
-        if (i >= w.size()) throw Failure{"a path is missing"};
-        return w[i].starts_with("~") ? w[i] : absolutePath(w[i]);
-    };
-    const auto plain = [this](const char* name, void (ZPCanvas::*f)()) {
-        mOperations[name] = [&canvas = mCanvas, f](const Words&) {
-            (canvas.*f)();
-            return QJsonObject{};
-        };
-    };
-    const auto withPath = [this, path](const char* name, void (ZPCanvas::*f)(const std::string&)) {
-        mOperations[name] = [&canvas = mCanvas, f, path](const Words& w) {
-            (canvas.*f)(path(w, 0));
-            return QJsonObject{};
-        };
-    };
-    const auto withPoint = [this, number](const char* name, void (ZPCanvas::*f)(Point)) {
-        mOperations[name] = [&canvas = mCanvas, f, number](const Words& w) {
-            (canvas.*f)({float(number(w, 0)), float(number(w, 1))});
-            return QJsonObject{};
-        };
-    };
-    const auto withSize = [this, number](const char* name, void (ZPCanvas::*f)(Size)) {
-        mOperations[name] = [&canvas = mCanvas, f, number](const Words& w) {
-            (canvas.*f)({float(number(w, 0)), float(number(w, 1))});
-            return QJsonObject{};
-        };
-    };
-    withSize("newImageForMeWithSize:", &ZPCanvas::newImageForMeWithSize);
-    withSize("newImageWithSize:", &ZPCanvas::newImageWithSize);
-    mOperations["setImageSize:scale:"] = [this, number](const Words& w) {
-        mCanvas.setImageSize({float(number(w, 0)), float(number(w, 1))}, number(w, 2) != 0);
-        return QJsonObject{};
-    };
-    withPath("setImagePath:", &ZPCanvas::setImagePath);
-    withPath("saveImageToPath:", &ZPCanvas::saveImageToPath);
-    withPath("saveImageAsTIFF:", &ZPCanvas::saveImageAsTIFF);
-    withPath("saveImageAsJPEG:", &ZPCanvas::saveImageAsJPEG);
-    withPath("saveImageAsPNG:", &ZPCanvas::saveImageAsPNG);
-    withPath("quickSave:", &ZPCanvas::quickSave);
-    withPath("saveSelection:", &ZPCanvas::saveSelection);
-    withPath("loadSelection:", &ZPCanvas::loadSelection);
-    withPath("writeAlphaRLEToFile:", &ZPCanvas::writeAlphaRLEToFile);
-    withPath("readAlphaRLEFile:", &ZPCanvas::readAlphaRLEFile);
-    plain("makeBGBlack", &ZPCanvas::makeBGBlack);
-    plain("magentaClear", &ZPCanvas::magentaClear);
-    plain("makeSelection", &ZPCanvas::makeSelection);
-    plain("inverseMask", &ZPCanvas::inverseMask);
-    plain("clearSelectionMask", &ZPCanvas::clearSelectionMask);
-    plain("clearSelectionMaskINVERT", &ZPCanvas::clearSelectionMaskINVERT);
-    plain("selectionPathToMask", &ZPCanvas::selectionPathToMask);
-    plain("selectionPathToMaskINVERT", &ZPCanvas::selectionPathToMaskINVERT);
-    plain("floatSelection", &ZPCanvas::floatSelection);
-    plain("anchorSelection", &ZPCanvas::anchorSelection);
-    plain("clearSelection", &ZPCanvas::clearSelection);
-    plain("takeSnapshot", &ZPCanvas::takeSnapshot);
-    plain("dontTakeSnapshot", &ZPCanvas::dontTakeSnapshot);
-    plain("takeSnapshotAgain", &ZPCanvas::takeSnapshotAgain);
-    mOperations["transform_set:"] = [this, number](const Words& w) {
-        mCanvas.transform_set(float(number(w, 0)), float(number(w, 1)));
-        return QJsonObject{};
-    };
-    mOperations["adjust_set:"] = [this, number](const Words& w) {
-        mCanvas.adjust_set(
-            {int(number(w, 0)), int(number(w, 1)), int(number(w, 2)), int(number(w, 3)), int(number(w, 4))});
-        return QJsonObject{};
-    };
-    mOperations["restoreSnapshot:"] = [this, number](const Words& w) {
-        mCanvas.restoreSnapshot(int(number(w, 0)));
-        return QJsonObject{};
-    };
-    mOperations["placeWatermark:atPoint:alpha:"] = [this, number](const Words& w) {
-        if (w.empty()) throw Failure{"a path is missing"};
-        mCanvas.placeWatermark(w[0].empty() ? w[0] : absolutePath(w[0]), {float(number(w, 1)), float(number(w, 2))},
-                               float(number(w, 3)));
-        return QJsonObject{};
-    };
-    withPoint("magicWand:", &ZPCanvas::magicWand);
-    withPoint("floodFillScanlineStackFast:", &ZPCanvas::floodFillScanlineStackFast);
-    mOperations["setColor:atPoint:"] = [this, number](const Words& w) {
-        if (w.empty()) throw Failure{"a word is missing"};
-        bool ok = false;
-        const std::uint32_t word = text(w[0]).toUInt(&ok, 0); // decimal, or with 0x
-        if (!ok) throw Failure{"not a pixel word"};
-        mCanvas.setColor(word, {float(number(w, 1)), float(number(w, 2))});
-        mCanvas.setNeedsDisplay();
-        return QJsonObject{};
-    };
+    const Picture& picture = mDocument.picture();
+    for (const QString& kind : QString(operation.parameters).split(' ', Qt::SkipEmptyParts)) {
+        if (kind == "path") {
+            if (next >= words.size()) throw Failure{"a path is missing"};
+            const std::string& path = words[next++];
+            arguments.path = path.empty() || path.starts_with("~") ? path : absolutePath(path);
+        } else if (kind == "word") {
+            if (next >= words.size()) throw Failure{"a word is missing"};
+            bool ok = false;
+            arguments.numbers.push_back(text(words[next++]).toUInt(&ok, 0)); // decimal, or with 0x
+            if (!ok) throw Failure{"not a pixel word"};
+        } else if (kind == "number") {
+            arguments.numbers.push_back(number());
+        } else {
+            // A point that the operation would look up in the picture: "pixel" cuts its coordinates, "nearest" rounds.
+            const double x = number(), y = number(), low = kind == "nearest" ? -0.5 : 0;
+            const bool inside = kind == "nearest" ? x > low && y > low : x >= low && y >= low;
+            if (!inside || x >= picture.width() || y >= picture.height()) throw Failure{"outside the image"};
+            arguments.numbers.insert(arguments.numbers.end(), {x, y});
+        }
+    }
+    return arguments;
 }

@@ -7,7 +7,7 @@
 #include "canvas/ZPCanvas.h"
 #include "desktop/Pasteboard.h"
 #include "desktop/Sounds.h"
-#include "imageops/Adjustment.h"
+#include "document/Document.h"
 #include "script/ScriptDriver.h"
 #include "windows/ZPFileManager.h"
 #include <QFile>
@@ -42,7 +42,7 @@ bool writeBitmap(const std::string& path, ConstBitmapView v)
     return writePixels(path, head, v.data, v.width * 4, v.height, v.rowBytes);
 }
 
-QJsonValue pathFields(const std::optional<BezierPath>& path)
+QJsonValue pathFields(const BezierPath* path)
 {
     if (!path) return QJsonValue::Null;
     QJsonArray elements;
@@ -72,50 +72,58 @@ QJsonValue pathFields(const std::optional<BezierPath>& path)
         {"lineWidth", double(path->lineWidth())}};
 }
 
-QJsonObject stateFields(ZPCanvas& c)
+QJsonObject recordFields(const _ZPTransform& record)
 {
-    const _ZPTransform& t = c.mTransformRecord;
-    const QJsonObject record{{"position", pair(t.position)},
-                             {"scale", double(t.scale)},
-                             {"rotate", double(t.rotate)},
-                             {"oldPos", pair(t.oldPos)},
-                             {"oldSize", pair(t.oldSize)}};
-    QJsonValue floatingSize = QJsonValue::Null;
-    if (c.mSelectionImage) floatingSize = pair(c.mSelectionImage->size());
+    return {{"position", pair(record.position)},
+            {"scale", double(record.scale)},
+            {"rotate", double(record.rotate)},
+            {"oldPos", pair(record.oldPos)},
+            {"oldSize", pair(record.oldSize)}};
+}
+
+QJsonObject stateFields(const Document& document)
+{
+    const Picture& picture = document.picture();
+    const Selection& selection = document.selection();
+    const Gesture& gesture = document.gesture();
+    const History& history = document.history();
+    const Paint& paint = document.paint();
+    const Floating* floating = selection.floating();
+    const Color color = paint.color();
+    const UndoRect& area = gesture.stroke().undoRect();
     return QJsonObject{
-        {"mTool", c.mTool},
-        {"mSize", double(c.mSize)},
-        {"mColor",
-         QJsonArray{double(c.mColor.red), double(c.mColor.green), double(c.mColor.blue), double(c.mColor.alpha)}},
-        {"mZoom", double(c.mZoom)},
-        {"m2xRetina", c.m2xRetina},
-        {"mImagePath", text(displayName(c.mImagePath))},
-        {"mIsMouseDown", int(c.mIsMouseDown)},
-        {"mDrawFinishedFlag", int(c.mDrawFinishedFlag)},
-        {"_ptIndex", qint64(c._ptIndex)},
-        {"mPt1", pair(c.mPt1)},
-        {"mPt2", pair(c.mPt2)},
-        {"mCloneStampRefPt", pair(c.mCloneStampRefPt)},
-        {"mMove", c.mMove},
-        {"mPolygonLasso", c.mPolygonLasso},
-        {"mSelectionMaskClear", c.mSelectionMaskClear},
-        {"mSelectionPhase", double(c.mSelectionPhase)},
-        {"mUndoIndex", c.mUndoIndex},
-        {"mUndoRedoIndex", c.mUndoRedoIndex},
-        {"mUndoThreadRunning", bool(c.mUndoThreadRunning)},
-        {"mDontTakeSnapshot", c.mDontTakeSnapshot},
-        {"mUndoRect", QJsonArray{c.mUndoRect.top, c.mUndoRect.left, c.mUndoRect.bottom, c.mUndoRect.right}},
-        {"mTransform", c.mTransform},
-        {"mTransformMode", c.mTransformMode},
-        {"mTransformRecord", record},
-        {"mUndoStackCount", int(c.mUndoStack.size())},
-        {"selection", c.mSelectionPath.has_value()},
-        {"aux", c.mAuxSelectionPath.has_value()},
-        {"pasteInto", c.mPasteIntoSelectionPath.has_value()},
-        {"floating", c.mSelectionImage != nullptr},
-        {"floatingSize", floatingSize},
-        {"floatingReps", c.mSelectionImage ? int(c.mSelectionImage->representations().size()) : 0},
-        {"selectionTimer", c.mSelectionTimer != nullptr},
+        {"mTool", int(gesture.tool())},
+        {"mSize", double(paint.size())},
+        {"mColor", QJsonArray{double(color.red), double(color.green), double(color.blue), double(color.alpha)}},
+        {"mZoom", double(document.view().zoom())},
+        {"m2xRetina", document.view().isRetina()},
+        {"mImagePath", text(displayName(picture.path()))},
+        {"mIsMouseDown", int(gesture.isMouseDown())},
+        {"mDrawFinishedFlag", int(gesture.stroke().isDrawn())},
+        {"_ptIndex", qint64(gesture.stroke().pointCount())},
+        {"mPt1", pair(gesture.pt1())},
+        {"mPt2", pair(gesture.pt2())},
+        {"mCloneStampRefPt", pair(gesture.cloneReference())},
+        {"mMove", gesture.isMoving()},
+        {"mPolygonLasso", gesture.polygonIsOpen()},
+        {"mSelectionMaskClear", selection.mask().isClear()},
+        {"mSelectionPhase", double(selection.phase())},
+        {"mUndoIndex", history.newest()},
+        {"mUndoRedoIndex", history.position()},
+        {"mUndoThreadRunning", history.isWriting()},
+        {"mDontTakeSnapshot", history.isSuppressed()},
+        {"mUndoRect", QJsonArray{area.top, area.left, area.bottom, area.right}},
+        {"mTransform", selection.isTransforming()},
+        {"mTransformMode", selection.transformMode()},
+        {"mTransformRecord", recordFields(selection.record())},
+        {"mUndoStackCount", int(document.unusedFields().mUndoStack.size())},
+        {"selection", !selection.isNil()},
+        {"aux", selection.parked() != nullptr},
+        {"pasteInto", selection.pasteInto() != nullptr},
+        {"floating", floating != nullptr},
+        {"floatingSize", floating ? QJsonValue(pair(floating->size())) : QJsonValue(QJsonValue::Null)},
+        {"floatingReps", floating ? floating->representations() : 0},
+        {"selectionTimer", selection.antsMarch()},
     };
 }
 
@@ -126,38 +134,35 @@ void ScriptDriver::addLookCommands()
     const auto pixelPosition = [this](const Words& w) {
         if (w.size() != 3) throw Failure{text(w[0]) + " X Y"};
         const int x = int(std::floor(text(w[1]).toDouble())), y = int(std::floor(text(w[2]).toDouble()));
-        if (!mCanvas.mBitmapRep || x < 0 || y < 0 || x >= mCanvas.mBitmapRep->pixelsWide() ||
-            y >= mCanvas.mBitmapRep->pixelsHigh())
-            throw Failure{"outside the image"};
+        if (!mDocument.picture().box().contains(x, y)) throw Failure{"outside the image"};
         return PixelPoint{x, y};
     };
     addImmediate("image", [this](const Words&) {
-        const BitmapRep* rep = mCanvas.mBitmapRep.get();
-        return QJsonObject{{"loaded", mCanvas.imageLoaded()},
-                           {"width", rep ? rep->pixelsWide() : 0},
-                           {"height", rep ? rep->pixelsHigh() : 0},
-                           {"rowBytes", rep ? qint64(rep->bytesPerRow()) : 0},
-                           {"path", text(displayName(mCanvas.mImagePath))},
-                           {"gworld", mCanvas.mGWorld.has_value()},
-                           {"cacheMode", mCanvas.mImage ? int(mCanvas.mImage->cacheMode()) : 0}};
+        const Picture& picture = mDocument.picture();
+        return QJsonObject{{"loaded", picture.isLoaded()},
+                           {"width", picture.width()},
+                           {"height", picture.height()},
+                           {"rowBytes", picture.bitmap() ? qint64(picture.bitmap()->bytesPerRow()) : 0},
+                           {"path", text(displayName(picture.path()))},
+                           {"gworld", picture.gworld().has_value()},
+                           {"cacheMode", int(picture.image().cacheMode())}};
     });
     addImmediate("pixel", [this, pixelPosition](const Words& w) {
         const PixelPoint p = pixelPosition(w);
-        const std::uint8_t* b = std::as_const(*mCanvas.mBitmapRep).view().pixel(p.x, p.y);
+        const std::uint8_t* b = mDocument.picture().pixels().pixel(p.x, p.y);
         return QJsonObject{{"argb", QJsonArray{b[0], b[1], b[2], b[3]}}};
     });
     addImmediate("mask", [this, pixelPosition](const Words& w) {
         const PixelPoint p = pixelPosition(w);
-        if (!mCanvas.mSelectionMask) throw Failure{"no mask"};
-        return QJsonObject{{"mask", mCanvas.mSelectionMask->row(p.y)[p.x]}};
+        return QJsonObject{{"mask", mDocument.selection().mask().at(p.x, p.y)}};
     });
-    addImmediate("state", [this](const Words&) { return stateFields(mCanvas); });
+    addImmediate("state", [this](const Words&) { return stateFields(mDocument); });
     addImmediate("path", [this](const Words& w) {
         const std::string which = w.size() > 1 ? w[1] : "selection";
-        if (which == "selection") return QJsonObject{{"path", pathFields(mCanvas.mSelectionPath)}};
-        if (which == "aux") return QJsonObject{{"path", pathFields(mCanvas.mAuxSelectionPath)}};
-        if (which == "pasteInto") return QJsonObject{{"path", pathFields(mCanvas.mPasteIntoSelectionPath)}};
-        if (which == "pencil") return QJsonObject{{"path", pathFields(mCanvas.mPencilPath)}};
+        if (which == "selection") return QJsonObject{{"path", pathFields(mDocument.selection().outline())}};
+        if (which == "aux") return QJsonObject{{"path", pathFields(mDocument.selection().parked())}};
+        if (which == "pasteInto") return QJsonObject{{"path", pathFields(mDocument.selection().pasteInto())}};
+        if (which == "pencil") return QJsonObject{{"path", pathFields(mDocument.gesture().pencilPath())}};
         throw Failure{"selection, aux, pasteInto or pencil"};
     });
     const auto file = [](const Words& w, std::size_t i) {
@@ -169,21 +174,29 @@ void ScriptDriver::addLookCommands()
         return QJsonObject{};
     };
     addImmediate("write-bitmap", [this, file, written](const Words& w) {
-        if (!mCanvas.mBitmapRep) throw Failure{"no image"};
-        const std::lock_guard lock(mCanvas.mPixelLock);
-        return written(writeBitmap(file(w, 1), std::as_const(*mCanvas.mBitmapRep).view()));
+        const Picture& picture = mDocument.picture();
+        if (!picture.bitmap()) throw Failure{"no image"};
+        const std::lock_guard lock(picture.pixelLock());
+        return written(writeBitmap(file(w, 1), picture.pixels()));
     });
     addImmediate("write-mask", [this, file, written](const Words& w) {
-        if (!mCanvas.mSelectionMask) throw Failure{"no mask"};
-        const ConstMaskView m = *mCanvas.mSelectionMask;
-        const std::string head = "P5\n" + std::to_string(m.width) + " " + std::to_string(m.height) + "\n255\n";
-        return written(writePixels(file(w, 1), head, m.data, m.width, m.height, m.stride));
+        const SelectionMask& mask = mDocument.selection().mask();
+        if (!mask.exists()) throw Failure{"no mask"};
+        std::vector<std::uint8_t> bytes(std::size_t(mask.width()) * std::size_t(mask.height()));
+        for (int y = 0; y < mask.height(); ++y)
+            for (int x = 0; x < mask.width(); ++x)
+                bytes[std::size_t(y) * std::size_t(mask.width()) + std::size_t(x)] = mask.at(x, y);
+        const std::string head =
+            "P5\n" + std::to_string(mask.width()) + " " + std::to_string(mask.height()) + "\n255\n";
+        return written(writePixels(file(w, 1), head, bytes.data(), mask.width(), mask.height(), mask.width()));
     });
     addImmediate("write-floating", [this, file, written](const Words& w) {
-        finishPendingAdjustment(mCanvas);
-        const BitmapRep* rep = mCanvas.mSelectionImage ? mCanvas.mSelectionImage->drawn() : nullptr;
+        Floating* floating = mDocument.selection().floating();
+        if (!floating) throw Failure{"nothing floats"};
+        floating->finishAdjustment();
+        const BitmapRep* rep = floating->image().drawn();
         if (!rep) throw Failure{"nothing floats"};
-        return written(writeBitmap(file(w, 1), rep->view()));
+        return written(writeBitmap(file(w, 1), std::as_const(*rep).view()));
     });
     addImmediate("grab", [this, file](const Words& w) {
         const std::string name = w.size() > 2 ? w[2] : "Main";

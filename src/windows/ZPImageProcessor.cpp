@@ -11,6 +11,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
+#include "document/Document.h"
 #include "ui_ImageProcessor.h"
 #include <QApplication>
 #include <QDialog>
@@ -207,42 +208,42 @@ std::string ZPImageProcessor::processEntry(const std::string& source, const std:
     center.post("_giveMeCanvasNotif"); // twice, as it has always been asked
     center.post("_giveMeCanvasNotif");
     if (!mCanvas) return "There is no canvas to work on.";
-    ZPCanvas& canvas = *mCanvas;
-    canvas.dontTakeSnapshot();
+    Document& document = mCanvas->document();
+    document.perform("dontTakeSnapshot");
     struct SnapshotsAgain {
-        ZPCanvas& canvas;
-        ~SnapshotsAgain() { canvas.takeSnapshotAgain(); }
-    } const again{canvas};
-    canvas.window()->raise();
+        Document& document;
+        ~SnapshotsAgain() { document.perform("takeSnapshotAgain"); }
+    } const again{document};
+    mCanvas->window()->raise();
     mWindow->raise();
-    canvas.setImagePath(real);
-    canvas.displayNow();
-    if (!canvas.imageLoaded())
-        return canvas.lastFileError().empty() ? "The file cannot be read." : canvas.lastFileError();
+    document.perform("setImagePath:", {{}, real});
+    mCanvas->repaint();
+    if (!document.picture().isLoaded())
+        return document.lastFileError().empty() ? "The file cannot be read." : document.lastFileError();
 
     if (mUi->mImageSizeFit->isChecked()) {
         const float boxWidth = float(mUi->mImageSizeW->value()), boxHeight = float(mUi->mImageSizeH->value());
-        Size size = fittedSize(canvas.imageSize(), boxWidth, boxHeight);
+        Size size = fittedSize(document.picture().size(), boxWidth, boxHeight);
         size = {std::max(size.width, 1.0f), std::max(size.height, 1.0f)}; // a sliver keeps a row or column of pixels
-        canvas.setImageSize(size, true);
-        canvas.displayNow();
-        if (!canvas.imageLoaded()) return "There is not enough memory for the resized image, or it would be too large.";
+        if (!document.perform("setImageSize:scale:", {{size.width, size.height, 1}, {}}))
+            return "There is not enough memory for the resized image, or it would be too large.";
+        mCanvas->repaint();
     }
     if (mUi->mWatermark->currentText() != "None") {
         const QByteArray mark = mUi->mWatermark->currentData().toByteArray();
-        canvas.placeWatermark(watermarkFolder() + "/" + mark.toStdString(),
-                              {float(mUi->mWatermarkPositionX->value()), float(mUi->mWatermarkPositionY->value())},
-                              float(mUi->mWatermarkOpacity->value()) / 100.0f);
-        canvas.setNeedsDisplay();
+        document.perform("placeWatermark:atPoint:alpha:",
+                         {{double(mUi->mWatermarkPositionX->value()), double(mUi->mWatermarkPositionY->value()),
+                           double(float(mUi->mWatermarkOpacity->value()) / 100.0f)},
+                          watermarkFolder() + "/" + mark.toStdString()});
     }
     std::string error;
     if (mUi->mFileTypeTIFF->isChecked()) {
-        canvas.saveImageAsTIFF(batchOutput(destination, name, "tiff"));
-        error = canvas.lastFileError();
+        document.perform("saveImageAsTIFF:", {{}, batchOutput(destination, name, "tiff")});
+        error = document.lastFileError();
     }
     if (mUi->mFileTypeJPEG->isChecked()) {
-        canvas.saveImageAsJPEG(batchOutput(destination, name, "jpg"));
-        if (error.empty()) error = canvas.lastFileError();
+        document.perform("saveImageAsJPEG:", {{}, batchOutput(destination, name, "jpg")});
+        if (error.empty()) error = document.lastFileError();
     }
     return error;
 }

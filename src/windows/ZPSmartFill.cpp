@@ -2,10 +2,10 @@
 /// The smart fill window's buttons, its worker, and the way of a result back into the picture.
 #include "windows/ZPSmartFill.h"
 #include "base/NotificationCenter.h"
-#include "canvas/ZPCanvas.h"
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
+#include "document/Document.h"
 #include "operations/SmartFillHook.h"
 #include "ui_SmartFill.h"
 #include "windows/FineProgressBar.h"
@@ -24,6 +24,13 @@ using namespace zp;
 
 namespace
 {
+
+/// The result of a run on its way into the picture.
+constexpr Command kSmartFill{.action = "smartFill",
+                             .name = "Smart Fill",
+                             .effect = Effect::Paint,
+                             .onFloat = OnFloat::Settle,
+                             .step = StepRule::Always};
 
 constexpr char kProgressNotif[] = "SmartFillProgressNotif";
 
@@ -57,10 +64,10 @@ ZPSmartFill* ZPSmartFill::sharedSmartFill()
     return shared;
 }
 
-void ZPSmartFill::registerWithCanvas()
+void ZPSmartFill::registerCommand()
 {
-    setSmartFillHook([](std::shared_ptr<BitmapRep> rep, ConstMaskView mask, ZPCanvas* canvas, Rect selection) {
-        sharedSmartFill()->runWithBitmapRep(std::move(rep), mask, canvas, selection);
+    setSmartFillHook([](Document& document, ConstMaskView mask, Rect selection) {
+        sharedSmartFill()->runWithBitmapRep(document, mask, selection);
     });
 }
 
@@ -93,8 +100,7 @@ void ZPSmartFill::dropWorker()
     if (mCalcThread.joinable()) mCalcThread.join();
 }
 
-void ZPSmartFill::runWithBitmapRep(std::shared_ptr<BitmapRep> rep, ConstMaskView selectionMask, ZPCanvas* canvas,
-                                   Rect selectionRect)
+void ZPSmartFill::runWithBitmapRep(Document& document, ConstMaskView selectionMask, Rect selectionRect)
 {
     const bool wasHidden = !mWindow->isVisible();
     if (wasHidden && mWindow->pos().isNull()) centerWindow(mWindow.get());
@@ -103,15 +109,14 @@ void ZPSmartFill::runWithBitmapRep(std::shared_ptr<BitmapRep> rep, ConstMaskView
     if (mRunning) return;
     mUi->mProgressBar->setPercent(0);
     enableButtons(false);
-    mBitmapRep = std::move(rep);
-    mCanvas = canvas;
+    mDocument = &document;
+    mGeneration = document.picture().generation();
     mSelRect = selectionRect;
-    // A copy, because the canvas goes on using its mask, with the opposite meaning, while the window stands open.
+    // A copy, because the document goes on using its mask, with the opposite meaning, while the window stands open.
     mMaskBox = pixelBoxOf(selectionRect, selectionMask.width, selectionMask.height);
-    mSelectionMaskData.clear();
+    mMaskBytes.clear();
     for (int y = mMaskBox.y0; y < mMaskBox.y1; ++y)
-        mSelectionMaskData.insert(mSelectionMaskData.end(), selectionMask.row(y) + mMaskBox.x0,
-                                  selectionMask.row(y) + mMaskBox.x1);
+        mMaskBytes.insert(mMaskBytes.end(), selectionMask.row(y) + mMaskBox.x0, selectionMask.row(y) + mMaskBox.x1);
 }
 
 void ZPSmartFill::enableButtons(bool running)
@@ -128,8 +133,11 @@ void ZPSmartFill::run()
         finish();
         if (mRunning) return;
     }
-    // Another picture since the window was opened: its pixels have nothing to do with the selection.
-    if (!mCanvas || !mBitmapRep || mCanvas->mBitmapRep != mBitmapRep) return beep();
+    // Another picture since the window was opened, or its pixels in other places: they have nothing to do with the
+    // selection.
+    if (!mDocument || !mDocument->picture().bitmap() || mDocument->picture().generation() != mGeneration) return beep();
+    mDocument->endGesture(); // what is being painted is part of what is filled from
+    const Picture& picture = mDocument->picture();
 
     mUi->mProgressBar->setPercent(0);
     enableButtons(true);
@@ -138,20 +146,16 @@ void ZPSmartFill::run()
     mProgress.store(kNoProgress, std::memory_order_release);
     mWorkerDone.store(false, std::memory_order_release);
     mRunning = true;
-    mCanvas->mSmartFillRunning.store(true, std::memory_order_release);
+    mDocument->setComputing(true);
 
     mRun = std::make_unique<Run>();
     Run& run = *mRun;
     run.seed = mSeed ? mSeed : std::uint64_t(std::time(nullptr));
-    run.area = smartFillArea(mSelRect, mBitmapRep->pixelsWide(), mBitmapRep->pixelsHigh(), mUi->mRadiusSlider->value(),
+    run.area = smartFillArea(mSelRect, picture.width(), picture.height(), mUi->mRadiusSlider->value(),
                              mUi->mFasterCheckbox->isChecked());
     try {
-        {
-            const std::lock_guard stroke(mCanvas->mPixelLock); // a stroke may still be drying
-            const ConstMaskView mask{mSelectionMaskData.data(), mMaskBox.width(), mMaskBox.height(), mMaskBox.width()};
-            run.picture =
-                fetchSmartFillPicture(std::as_const(*mBitmapRep).view(), mask, run.area, {mMaskBox.x0, mMaskBox.y0});
-        }
+        const ConstMaskView mask{mMaskBytes.data(), mMaskBox.width(), mMaskBox.height(), mMaskBox.width()};
+        run.picture = fetchSmartFillPicture(picture.pixels(), mask, run.area, {mMaskBox.x0, mMaskBox.y0});
         mCalcThread = std::thread([this, &run] { calcThread(run); });
     } catch (const std::bad_alloc&) {
         run.outOfMemory = true;
@@ -210,37 +214,31 @@ void ZPSmartFill::showProgress(float progress)
     }
 }
 
-/// @return false when it must be tried again, because someone else is at work on the pixels
-bool ZPSmartFill::writeBack()
-{
-    const Run& run = *mRun;
-    if (run.outOfMemory || run.status != SmartFillStatus::Filled || !mCanvas) return true;
-    // Undo and every other edit of the picture keep its buffer; another buffer is another picture or another size.
-    if (mCanvas->mBitmapRep != mBitmapRep) return true;
-    // A snapshot reads the pixels, a stroke writes them: they come first.
-    if (mCanvas->anyWorkerRunning()) return false;
-    const std::lock_guard stroke(mCanvas->mPixelLock);
-    writeBackSmartFill(mBitmapRep->view(), run.picture, run.area);
-    return true;
-}
-
 void ZPSmartFill::finish()
 {
     if (mCalcThread.joinable()) mCalcThread.join();
-    if (!writeBack()) return; // the next look tries again
     mPoll.stop();
     const std::unique_ptr<Run> run = std::move(mRun);
     mRunning = false;
     enableButtons(false);
-    if (mUi->mProgressBar->percent() >= 100.0) mWindow->hide();
-    if (mCanvas) {
-        mCanvas->takeSnapshot();
-        mCanvas->setNeedsDisplay(true);
-        mCanvas->mSmartFillRunning.store(false, std::memory_order_release);
-    }
+    if (mDocument) takeResult(*run);
     if (run->outOfMemory)
         runAlert(tr("There is not enough memory for this fill."), tr("Select a smaller area or lower the radius."),
                  {tr("OK")});
     else if (run->status == SmartFillStatus::NoSource)
         runAlert(tr("There is nothing to fill from."), tr("Select a smaller area or raise the radius."), {tr("OK")});
+}
+
+void ZPSmartFill::takeResult(const Run& run)
+{
+    mDocument->setComputing(false);
+    // A picture that was opened, turned, cropped or undone meanwhile is another one: the result is nobody's.
+    if (mDocument->picture().generation() != mGeneration)
+        return mUi->mTimeField->setText(tr("The picture changed meanwhile; the fill was dropped."));
+    if (mUi->mProgressBar->percent() >= 100.0) mWindow->hide();
+    mDocument->perform(kSmartFill, [&run](Edit& edit) {
+        if (run.outOfMemory || run.status != SmartFillStatus::Filled) return; // the step is left all the same
+        const PixelBox box = run.area.work.united(run.area.selection).intersected(edit.picture().box());
+        writeBackSmartFill(edit.write(box), run.picture, run.area);
+    });
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The smart fill window: starts the fill on a worker thread, shows how far it is, cancels it.
 #pragma once
-#include "base/BitmapRep.h"
+#include "base/BitmapView.h"
 #include "smartfill/SmartFill.h"
 #include <QObject>
 #include <QPointer>
@@ -14,7 +14,10 @@
 #include <vector>
 
 class QDialog;
-class ZPCanvas;
+namespace zp
+{
+class Document;
+}
 namespace Ui
 {
 class SmartFill;
@@ -30,14 +33,13 @@ class ZPSmartFill : public QObject
 
 public:
     static ZPSmartFill* sharedSmartFill();
-    /// Makes the canvas's smart fill command open the shared window. Once, at launch.
-    static void registerWithCanvas();
+    /// Makes the smart fill command open the shared window. Once, at launch.
+    static void registerCommand();
     ~ZPSmartFill() override;
 
     /// Shows the window for a fill and makes it ready; does not start it. The mask is copied, as far as it is not 0.
     /// During a run the window only comes to the front, and the run goes on with what it has.
-    void runWithBitmapRep(std::shared_ptr<zp::BitmapRep> rep, zp::ConstMaskView selectionMask, ZPCanvas* canvas,
-                          zp::Rect selectionRect);
+    void runWithBitmapRep(zp::Document& document, zp::ConstMaskView selectionMask, zp::Rect selectionRect);
     QDialog* window() const { return mWindow.get(); }
     /// From run() until the result was written back, or dropped.
     bool isRunning() const { return mRunning; }
@@ -59,15 +61,15 @@ private:
     void lookAtWorker();
     void showProgress(float progress);
     void calcThread(Run& run);
-    /// After the worker: writes back, or not, and takes the snapshot. Does nothing yet while others use the pixels.
+    /// After the worker: writes back, or not, and leaves the step.
     void finish();
-    bool writeBack();
+    void takeResult(const Run& run);
     void dropWorker();
 
-    std::shared_ptr<zp::BitmapRep> mBitmapRep;
-    std::vector<std::uint8_t> mSelectionMaskData; ///< of the pixels of mMaskBox; 0 everywhere else
+    std::uint64_t mGeneration = 0;        ///< of the picture that the window was opened for
+    std::vector<std::uint8_t> mMaskBytes; ///< of the pixels of mMaskBox; 0 everywhere else
     zp::PixelBox mMaskBox;
-    QPointer<ZPCanvas> mCanvas;
+    QPointer<zp::Document> mDocument;
     zp::Rect mSelRect;
     std::thread mCalcThread;
     double mTimeNULL = 0; ///< seconds of the steady clock when the run started

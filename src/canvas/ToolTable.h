@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// One row a tool; no other list of tools exists.
+#pragma once
+#include "base/BitmapView.h"
+#include "document/Tool.h"
+#include <QtCore/qnamespace.h>
+#include <span>
+
+namespace zp
+{
+
+class Document;
+
+/// What of the options bar a tool shows; several may be or-ed.
+namespace options
+{
+enum Bits : unsigned {
+    Nothing = 0,
+    Size = 1,
+    BrushShape = 2,
+    Tolerance = 4,
+    Square = 8,
+    Oval = 16,
+    Polygon = 32,
+    Add = 64,
+    Subtract = 128,
+    Float = 256,
+    Straight = 512,
+    SetSource = 1024,
+};
+}
+
+struct ToolRow {
+    Tool tool;
+    const char* title; ///< also the name of its icon; to be translated
+    const char* tip;   ///< one sentence
+    char key;          ///< that chooses it on the canvas
+    Qt::CursorShape cursor;
+    unsigned options = options::Nothing;
+    ToolActions actions;
+    /// What the open gesture would leave if the button were let go now, drawn into a part of the picture whose corner
+    /// is the picture's pixel (x, y); and the pixels it may touch. Null: nothing is shown before it is there.
+    void (*preview)(const Document&, BitmapView pixels, int x, int y) = nullptr;
+    PixelBox (*previewBox)(const Document&) = nullptr;
+    bool outline = false; ///< a ring of the tool's size follows the pointer
+};
+
+/// In the order of the tool numbers.
+std::span<const ToolRow> toolTable();
+const ToolRow& rowOf(Tool tool);
+
+} // namespace zp

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The document's life, what needs no gate, and its workers.
+#include "document/Document.h"
+#include "base/PixelMemory.h"
+#include "desktop/Panels.h"
+#include "desktop/Sounds.h"
+
+namespace zp
+{
+
+namespace
+{
+
+/// Milliseconds after which pooled pixel memory is given back.
+constexpr int kPoolPatience = 1500;
+/// How often requests from outside look whether they may run.
+constexpr int kRequestInterval = 30;
+
+} // namespace
+
+Document::Document(std::span<const Command> commands, std::uint32_t strokeCapacity)
+    : mCommands(commands),
+      mSelection([this] {
+          mSelection.advanceAnts();
+          emit antsMoved();
+      }),
+      mGesture(std::make_unique<BrushStroke>(
+          strokeCapacity, [this](Rect rect) { touchedByWorker(rect); }, [this] { strokeEnded(); })),
+      mHistory([this](bool busy) { emit busyChanged(busy); }),
+      mPaintedWake([this] {
+          Rect rect;
+          {
+              const std::lock_guard lock(mPaintedLock);
+              rect = std::exchange(mPaintedByWorker, Rect{});
+          }
+          emit touched(rect);
+      })
+{
+    mUnused.mPath.setLineJoin(LineJoin::Round);
+    mUnused.mPath.setLineCap(LineCap::Round);
+    mPoolTimer.setSingleShot(true);
+    connect(&mPoolTimer, &QTimer::timeout, this, [] { trimPixelPool(); });
+    connect(this, &Document::pictureReplaced, this, [this] { mPoolTimer.start(kPoolPatience); });
+    connect(&mRequestTimer, &QTimer::timeout, this, &Document::runRequests);
+    mRequestTimer.setInterval(kRequestInterval);
+}
+
+Document::~Document()
+{
+    mGesture.stroke().close();
+    mGesture.stroke().join();
+    mHistory.waitForWriter();
+}
+
+std::string Document::infoText() const
+{
+    if (mSelection.isNil()) return mView.infoWithoutSelection();
+    return stringFromRect(integralRect(mSelection.bounds()));
+}
+
+// ---- looking and painting -------------------------------------------------------------------------------------------
+
+void Document::setZoom(float factor)
+{
+    if (!(factor > 0) || !std::isfinite(factor)) return;
+    mView.setZoom(factor);
+    emit zoomChanged();
+    emit changed();
+}
+
+void Document::setRetina(bool on)
+{
+    mView.setRetina(on);
+    emit zoomChanged();
+    emit changed();
+}
+
+void Document::setPointer(Point point, bool inside)
+{
+    mView.setPointer(point);
+    mView.setPointerInside(inside);
+    emit pointerMoved();
+}
+
+void Document::setPaintColor(Color color)
+{
+    mPaint.setColor(color);
+    // The colour's opacity is that of what floats.
+    if (mSelection.floating()) emit touched(mSelection.bounds());
+    emit paintChanged();
+}
+
+void Document::setBrushSize(float size)
+{
+    if (!(size > 0) || !std::isfinite(size) || size == mPaint.size()) return;
+    mPaint.setSize(size);
+    emit paintChanged();
+}
+
+void Document::chooseTool(Tool tool)
+{
+    // In the middle of a gesture: what was begun with the old tool ends here, as that tool ends it.
+    if (mGesture.actions() && tool != mGesture.tool()) endGesture();
+    mGesture.chooseTool(tool);
+    emit toolChosen();
+    emit changed();
+}
+
+// ---- requests from outside ------------------------------------------------------------------------------------------
+
+bool Document::whenFree(std::function<void()> request)
+{
+    mRequests.push_back(std::move(request));
+    const std::size_t before = mRequests.size();
+    runRequests();
+    return mRequests.size() < before;
+}
+
+void Document::runRequests()
+{
+    while (!mRequests.empty() && !mGateOpen && !mGesture.isMouseDown() && !modalWindowIsUp()) {
+        const auto request = std::move(mRequests.front());
+        mRequests.pop_front();
+        request();
+    }
+    if (mRequests.empty())
+        mRequestTimer.stop();
+    else if (!mRequestTimer.isActive())
+        mRequestTimer.start();
+}
+
+// ---- workers --------------------------------------------------------------------------------------------------------
+
+void Document::touchedByWorker(Rect rect)
+{
+    // Gathered into one rectangle until the main thread gets to it, so that a fast stroke cannot flood the event queue.
+    const std::lock_guard lock(mPaintedLock);
+    const bool first = mPaintedByWorker.isEmpty();
+    mPaintedByWorker = unionRect(mPaintedByWorker, rect);
+    if (first && !mPaintedByWorker.isEmpty()) mPaintedWake.wake();
+}
+
+void Document::finishStroke()
+{
+    if (!strokeIsOpen()) return;
+    mGesture.stroke().close();
+    strokeEnded();
+}
+
+void Document::strokeEnded()
+{
+    BrushStroke& stroke = mGesture.stroke();
+    stroke.join();
+    const bool clippedAway = stroke.wasClippedAway();
+    stroke.forgetBefore();
+    if (mGesture.actions())
+        mGesture.refuse(); // no points are left to store: the stroke is over before the button is up
+    if (clippedAway) beep();
+    if (!clippedAway || mOwesStep) mHistory.record(mPicture, mGesture.stepName());
+    mOwesStep = false;
+    emit touched(mPicture.bounds());
+    emit changed();
+}
+
+void Document::waitForWorkers()
+{
+    finishStroke();
+    mHistory.waitForWriter();
+}
+
+void Document::close()
+{
+    mRequests.clear();
+    endGesture();
+    waitForWorkers();
+    mHistory.close();
+}
+
+} // namespace zp

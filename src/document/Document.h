@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// What is being edited, and the one gate that every change of it passes.
+#pragma once
+#include "base/Geometry.h"
+#include "desktop/MainThreadWake.h"
+#include "document/Command.h"
+#include "document/Edit.h"
+#include "document/UnusedFields.h"
+#include <QObject>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <span>
+
+namespace zp
+{
+
+/// Five values with one owner each, and what paints. Anybody may look at them; whoever wants to change one is a
+/// command, a gesture or a late result, and gets an Edit from the gate:
+///
+/// - an open gesture is ended as its release would end it, and a brush stroke painted to its end;
+/// - threads that read or write the pixels are waited for, as far as the command touches pixels;
+/// - a floating piece is settled where the command's row says so;
+/// - the command runs; what it touched is redisplayed, one step is recorded where its row says so;
+/// - when memory, threads or the disk run out, everything is as before and the person is told in one sentence.
+///
+/// Main thread, except where noted. Large by design (25.6 MB of points, untouched until a stroke needs them).
+class Document : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param commands        the table of all commands; must outlive the document
+    /// @param strokeCapacity  points a brush stroke can have
+    explicit Document(std::span<const Command> commands, std::uint32_t strokeCapacity = BrushStroke::kCapacity);
+    ~Document() override;
+
+    const Picture& picture() const { return mPicture; }
+    const Selection& selection() const { return mSelection; }
+    const Gesture& gesture() const { return mGesture; }
+    const Paint& paint() const { return mPaint; }
+    const History& history() const { return mHistory; }
+    const View& view() const { return mView; }
+    const UnusedFields& unusedFields() const { return mUnused; }
+    /// The text of the selection's field: its box, or what the last event leaves there without a selection.
+    std::string infoText() const;
+    /// Why the last open or save failed, in a sentence; empty when it did not.
+    const std::string& lastFileError() const { return mLastFileError; }
+    void setLastFileError(std::string sentence) { mLastFileError = std::move(sentence); }
+
+    // ---- commands ------------------------------------------------------------------------------------------------
+
+    std::span<const Command> commands() const { return mCommands; }
+    /// The row that a menu item of that action chooses; null for none.
+    const Command* menuCommand(std::string_view action) const;
+    /// The row that a script's "send" reaches by that name; null for none.
+    const Command* operation(std::string_view name) const;
+    /// Whether the row can be chosen now. Costs a look at the disk for rows that need the file.
+    bool allows(const Command& command);
+    /// Runs the row's own operation. A row that cannot be chosen is refused with a beep.
+    Outcome perform(const Command& command, const Arguments& arguments = {});
+    /// The first row of that action which has an operation; there must be one.
+    Outcome perform(std::string_view action, const Arguments& arguments = {});
+    /// Passes the gate as @p command says, and runs @p body.
+    Outcome perform(const Command& command, const std::function<void(Edit&)>& body);
+    /// A request from outside (a second start, a drop, a file to open): runs now, or when no button is held and no
+    /// dialog or alert is up, in the order of the requests.
+    /// @return whether it ran at once
+    bool whenFree(std::function<void()> request);
+    bool requestsWait() const { return !mRequests.empty(); }
+
+    // ---- gestures --------------------------------------------------------------------------------------------------
+
+    /// @param actions  null for a tool number that there is none of
+    void press(const ToolActions* actions, Point point);
+    void drag(Point point);
+    void release(Point point);
+    /// An open gesture ends as its release would end it, and what is left of a brush stroke is painted.
+    void endGesture();
+    /// Escape: pixels, outline and numbers as before the press; no step. @return false when no gesture can be taken
+    /// back
+    bool cancelGesture();
+    /// Another position of the pointer while a brush stroke is open.
+    void samplePointer(Point point) { mGesture.stroke().push(point); }
+    void chooseTool(Tool tool);
+    /// The marquee and the open edge of a polygon as pointer and keys have them now.
+    void followPointer();
+    /// The outline of the marquee, from where the button was pressed to where the pointer is.
+    void shapeMarquee();
+
+    // ---- looking and painting: nothing that a step records
+    // -------------------------------------------------------------
+
+    void setZoom(float factor);
+    void setRetina(bool on);
+    void setOnScreen(bool on) { mView.setOnScreen(on); }
+    void setPointer(Point point, bool inside);
+    void setPaintColor(Color color);
+    void setBrushSize(float size);
+    void setBrushShape(int index) { mPaint.setBrushShape(index); }
+    void setToleranceSetting(int setting) { mPaint.setToleranceSetting(setting); }
+
+    // ---- workers ---------------------------------------------------------------------------------------------------
+
+    /// A stroke is painted or a step is being written.
+    bool anyWorkerRunning() const { return !mGesture.stroke().isDrawn() || mHistory.isWriting(); }
+    bool firstStepPending() const { return mHistory.firstStepPending(); }
+    /// Blocks until no thread works on the pixels.
+    void waitForWorkers();
+    /// Something outside computes for the document (a smart fill): scripts wait for it.
+    void setComputing(bool computing) { mComputing = computing; }
+    bool isComputing() const { return mComputing; }
+    /// The program ends: gestures and workers end, the steps are thrown away.
+    void close();
+
+signals:
+    void touched(zp::Rect imageRect); ///< main thread: that part of the picture shows something new
+    void antsMoved();
+    void pictureReplaced(); ///< another bitmap or another size
+    void zoomChanged();
+    void pointerMoved();
+    void paintChanged(); ///< colour or size
+    void toolChosen();
+    void busyChanged(bool busy); ///< a step is being written, or no longer
+    void changed();              ///< whatever the window says of the document may be another now
+
+private:
+    friend class Edit;
+    bool strokeIsOpen() const { return mGesture.stroke().isOpen(); }
+    void finishStroke();
+    void strokeEnded();
+    Outcome passGate(const Command& command, const std::function<void(Edit&)>& body);
+    void closeEdit(Edit& edit, const char* stepName, StepRule rule);
+    void sayAfterwards(Edit& edit);
+    void rollBack(Edit& edit);
+    void handle(const char* stepName, const std::function<void(Edit&)>& body);
+    void releaseOpenGesture(Point point);
+    void runRequests();
+    void touchedByWorker(Rect rect);
+
+    std::span<const Command> mCommands;
+    Picture mPicture;
+    Selection mSelection;
+    Gesture mGesture;
+    Paint mPaint;
+    History mHistory;
+    View mView;
+    UnusedFields mUnused;
+    std::string mLastFileError;
+    bool mGateOpen = false;
+    bool mOwesStep = false; ///< a gesture wrote pixels and has not left its step yet
+    bool mComputing = false;
+    Color mColorBefore; ///< the gesture in progress
+
+    std::mutex mPaintedLock; ///< guards the one below
+    Rect mPaintedByWorker;   ///< painted by a worker, not yet shown
+    MainThreadWake mPaintedWake;
+    std::deque<std::function<void()>> mRequests;
+    QTimer mRequestTimer;
+    QTimer mPoolTimer; ///< gives pooled pixel memory back when nothing needs it
+};
+
+} // namespace zp

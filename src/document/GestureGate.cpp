@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The gate for gestures: what all tools share at press, drag and release.
+#include "desktop/KeyModifiers.h"
+#include "desktop/Sounds.h"
+#include "document/Document.h"
+#include <new>
+#include <system_error>
+
+namespace zp
+{
+
+namespace
+{
+
+/// What Shift and Option ask of a new shape; Shift wins.
+SetOperation operationOfKeys(std::uint32_t keys)
+{
+    if (keys & kShiftKey) return SetOperation::Union;
+    return keys & kOptionKey ? SetOperation::Difference : SetOperation::None;
+}
+
+} // namespace
+
+void Document::handle(const char* stepName, const std::function<void(Edit&)>& body)
+{
+    Edit edit(*this);
+    mGateOpen = true;
+    try {
+        body(edit);
+    } catch (const std::bad_alloc&) {
+        edit.alert(tr("There is not enough memory."), {});
+    } catch (const std::system_error&) {
+        edit.alert(tr("There is not enough memory."), {});
+    }
+    mGateOpen = false;
+    mOwesStep |= edit.mWrote;
+    // One step for the whole gesture: when its tool asks for it, else when it ends and pixels were written.
+    const bool ended = !mGesture.isMouseDown() && !strokeIsOpen();
+    edit.wantStep((edit.mStepDecided && edit.mStepWanted) || (ended && mOwesStep));
+    if (edit.mStepWanted) mOwesStep = false;
+    closeEdit(edit, stepName, StepRule::IfChanged);
+    sayAfterwards(edit);
+}
+
+void Document::press(const ToolActions* actions, Point point)
+{
+    if (mGateOpen) return;
+    const bool strokeOpen = strokeIsOpen();
+    // The brush and the lasso wait for the last stroke by refusing; any other tool would work on pixels still being
+    // painted, so what is left of the stroke is finished first.
+    if (strokeOpen && !(actions && actions->refusesOpenStroke)) finishStroke();
+    if (mHistory.isWriting()) return beep();
+    if (mGesture.actions()) endGesture(); // whose release was lost
+    const std::uint32_t keys = currentKeyModifiers();
+    const bool paints = actions && actions->paints && !(keys & actions->readsWithKey);
+    if (paints) mHistory.recordPending(), mHistory.waitForWriter();
+    mColorBefore = mPaint.color();
+    handle(actions ? actions->name : nullptr, [&](Edit& edit) {
+        const bool changesSelection = actions && (actions->combines || actions->moves || mSelection.floating());
+        mGesture.begin(actions, point, changesSelection ? mSelection.remember() : nullptr);
+        mSelection.restAnts();
+        mView.setInfoWithoutSelection("?");
+        if (!actions) return beep();
+        if (strokeOpen || (paints && !mSelection.reaches(mPicture.bounds()))) {
+            mGesture.refuse();
+            return beep();
+        }
+        if (paints && actions->onFloat == OnFloat::Settle && mSelection.floating()) {
+            edit.keepBefore(pixelBoxOf(mSelection.bounds().inset(-1), mPicture.width(), mPicture.height()));
+            edit.settleFloat();
+        }
+        const bool polygon = mGesture.polygonIsOpen() && mGesture.tool() == Tool::Lasso;
+        if (!polygon) mSelection.forgetParked();
+        const SetOperation operation = operationOfKeys(keys);
+        const bool lifts = keys & kCommandKey && actions->moves && mSelection.contains(point);
+        if (operation != SetOperation::None && actions->combines && !mSelection.isNil() && !polygon && !lifts)
+            mSelection.park(operation);
+        actions->press(edit, point);
+    });
+}
+
+void Document::drag(Point point)
+{
+    if (mGateOpen) return;
+    samplePointer(point);
+    if (mHistory.isWriting()) return beep();
+    handle(mGesture.stepName(), [&](Edit& edit) {
+        mGesture.moveTo(point);
+        mView.setInfoWithoutSelection("?");
+        if (mGesture.actions() && mGesture.actions()->drag) mGesture.actions()->drag(edit, point);
+    });
+}
+
+void Document::release(Point point)
+{
+    if (mGateOpen) return;
+    samplePointer(point);
+    if (mHistory.isWriting()) return beep();
+    releaseOpenGesture(point);
+    runRequests();
+}
+
+void Document::releaseOpenGesture(Point point)
+{
+    handle(mGesture.stepName(), [&](Edit& edit) {
+        const ToolActions* actions = mGesture.actions();
+        mGesture.release(point);
+        mView.setInfoWithoutSelection("?");
+        // The release is a position like any other: the marquee ends here even when no drag event came before.
+        if (actions && mGesture.tool() == Tool::Rectangle && mGesture.pt1() != mGesture.pt2()) shapeMarquee();
+        if (mSelection.parked() && !mGesture.polygonIsOpen())
+            mSelection.combine(operationOfKeys(currentKeyModifiers()));
+        if (actions && actions->release) actions->release(edit, point);
+        if (mGesture.hasLiftedHole()) edit.wantStep(true);
+        if (!mSelection.isNil()) mSelection.marchAnts();
+        mGesture.end();
+        edit.redraw();
+    });
+}
+
+void Document::endGesture()
+{
+    if (mGateOpen) return;
+    if (mGesture.actions()) {
+        mHistory.waitForWriter();
+        releaseOpenGesture(mGesture.lastPoint());
+    }
+    finishStroke();
+}
+
+bool Document::cancelGesture()
+{
+    if (mGateOpen || !mGesture.actions()) return false;
+    BrushStroke& stroke = mGesture.stroke();
+    stroke.close();
+    stroke.join();
+    mHistory.waitForWriter();
+    if (mPicture.bitmap()) {
+        stroke.takeBack(mPicture.writablePixels());
+        mGesture.journal().restore(mPicture.writablePixels());
+    }
+    if (mGesture.before()) mSelection.bringBack(*mGesture.before());
+    mGesture.takeBack();
+    mOwesStep = false;
+    if (mPaint.color() != mColorBefore) setPaintColor(mColorBefore);
+    emit touched(mPicture.bounds());
+    emit changed();
+    runRequests();
+    return true;
+}
+
+void Document::followPointer()
+{
+    if (mGateOpen) return;
+    if (mGesture.tool() == Tool::Lasso && mGesture.polygonIsOpen() && !mGesture.isMouseDown()) {
+        mSelection.moveLastCorner(mView.pointer());
+        emit touched(mPicture.bounds());
+    } else if (mGesture.actions() && mGesture.tool() == Tool::Rectangle && mGesture.isMouseDown() &&
+               !mGesture.isMoving() && mGesture.pt1() != mGesture.pt2()) {
+        shapeMarquee();
+        emit touched(mPicture.bounds());
+    }
+}
+
+void Document::shapeMarquee()
+{
+    if (mGesture.isMoving()) return;
+    const Point from = mGesture.pt1(), to = mGesture.pt2();
+    Rect marquee = rectFromCorners(from, to);
+    const std::uint32_t keys = currentKeyModifiers();
+    if (keys & kCommandKey) {
+        // A square of the smaller extent, growing from the press towards the pointer.
+        const float side = float(std::min(std::abs(int(to.x - from.x)), std::abs(int(to.y - from.y))));
+        marquee = makeRect(to.x > from.x ? from.x : from.x - side, to.y > from.y ? from.y : from.y - side, side, side);
+    }
+    BezierPath outline = keys & kControlKey ? BezierPath::withOvalInRect(marquee) : BezierPath::withRect(marquee);
+    outline.setLineWidth(1 / mView.effectiveZoom());
+    mSelection.shape(std::move(outline));
+}
+
+} // namespace zp

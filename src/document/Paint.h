@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// What tools and commands paint with: colour, size, brush shape, tolerance.
+#pragma once
+#include "base/Color.h"
+
+namespace zp
+{
+
+/// Main thread.
+class Paint
+{
+public:
+    const Color& color() const { return mColor; }
+    float opacity() const { return mColor.alpha; }
+    float size() const { return mSize; } ///< brush diameter, stroke width, tolerance of the older fills, in pixels
+    int brushShape() const { return mBrushShape; } ///< 0 for the first
+    const Color& oldColor() const { return mOldColor; }
+    const Color& newColor() const { return mNewColor; }
+    int toleranceSetting() const { return mToleranceSetting; } ///< as the slider shows it, 0 to 100
+    /// The tolerance that a fill or wand last asked for: comparisons use this one.
+    int tolerance() const { return mTolerance; }
+
+    // ---- transitions ---------------------------------------------------------------------------------------------
+
+    void setColor(Color color) { mColor = color; }
+    void setSize(float size) { mSize = size; }
+    void setBrushShape(int index) { mBrushShape = index; }
+    void setToleranceSetting(int setting) { mToleranceSetting = setting; }
+    /// A fill or wand asks: from now on comparisons use what the slider says. @return the tolerance
+    int refreshTolerance();
+    /// The colour as it is now becomes the one that fills and wands write.
+    void takeNewColor() { mNewColor = mColor; }
+    /// What the older fills look for and write.
+    void setFillColors(Color oldColor, Color newColor) { mOldColor = oldColor, mNewColor = newColor; }
+
+private:
+    Color mColor = kBlack;
+    float mSize = 20;
+    int mBrushShape = 0;
+    Color mOldColor, mNewColor;
+    int mToleranceSetting = 0, mTolerance = 0;
+};
+
+} // namespace zp

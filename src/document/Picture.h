@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The picture that is being edited: its pixels, its file, and how often it became another one.
+#pragma once
+#include "base/BitmapRep.h"
+#include "base/GWorld.h"
+#include "base/Image.h"
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+
+namespace zp
+{
+
+/// What comes with a bitmap that becomes the picture; one for each way in which that happens.
+struct Replacement {
+    ImageCacheMode cacheMode = ImageCacheMode::Default;
+    bool makeGWorld = true;
+    bool storeBitmapPointer = true;
+    bool imageHasSize = true;
+};
+inline constexpr Replacement kBlankPicture{ImageCacheMode::Default, true, false, true};
+inline constexpr Replacement kInternalPicture{ImageCacheMode::Never, true, false, true};
+/// An opened picture has no GWorld until it is rebuilt, and its image takes its size from the bitmap.
+inline constexpr Replacement kOpenedPicture{ImageCacheMode::Never, false, true, false};
+inline constexpr Replacement kRebuiltPicture{};
+
+/// One bitmap seen in three ways: as a representation, as an image to draw, as a graphics world over the same bytes.
+/// Main thread, but for pixelLock() and what it guards.
+class Picture
+{
+public:
+    Picture();
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    bool isLoaded() const; ///< width and height, truncated, are both non-zero
+    Size size() const { return mImage->size(); }
+    Rect bounds() const { return {{0, 0}, size()}; }
+    int width() const { return mBitmapRep ? mBitmapRep->pixelsWide() : 0; }
+    int height() const { return mBitmapRep ? mBitmapRep->pixelsHigh() : 0; }
+    PixelBox box() const { return {0, 0, width(), height()}; }
+    /// Null without a picture.
+    std::shared_ptr<const BitmapRep> bitmap() const { return mBitmapRep; }
+    ConstBitmapView pixels() const { return mBitmapRep ? std::as_const(*mBitmapRep).view() : ConstBitmapView{}; }
+    const Image& image() const { return *mImage; }
+    const std::uint8_t* bitmapPointer() const { return mBitmap; } ///< as the last rebuild stored it
+    const std::optional<GWorld>& gworld() const { return mGWorld; }
+    /// The file on disk, empty for a picture that was never saved.
+    const std::string& path() const { return mImagePath; }
+    /// Rises when another bitmap takes the picture's place, when its pixels change places, and when a step of the
+    /// history comes back: what was computed from an older generation is nobody's result any more.
+    std::uint64_t generation() const { return mPictureGeneration; }
+    /// Held while pixels are written off the main thread (a stamp, a segment), and by the main thread while it draws
+    /// from them meanwhile. Never held across a wait.
+    std::mutex& pixelLock() const { return mPixelLock; }
+
+    // ---- transitions; only an edit has them ------------------------------------------------------------------------
+
+    /// Another bitmap, or none, becomes the picture. Nobody may be at work on the old one.
+    void replace(std::shared_ptr<BitmapRep> rep, const Replacement& how);
+    /// The bytes, to be written by whoever holds an edit; empty without a picture.
+    BitmapView writablePixels() { return mBitmapRep ? mBitmapRep->view() : BitmapView{}; }
+    std::shared_ptr<BitmapRep> writableBitmap() { return mBitmapRep; }
+    /// A step of the history is in the pixels.
+    void restored() { ++mPictureGeneration; }
+    void setPath(std::string path) { mImagePath = std::move(path); }
+    /// A path whose file is gone is emptied. @return whether there is no file
+    bool forgetMissingFile();
+
+private:
+    std::string mImagePath;
+    std::shared_ptr<Image> mImage; ///< never null
+    std::shared_ptr<BitmapRep> mBitmapRep;
+    std::uint8_t* mBitmap = nullptr;
+    std::optional<GWorld> mGWorld;
+    std::uint64_t mPictureGeneration = 0;
+    mutable std::mutex mPixelLock;
+};
+
+} // namespace zp

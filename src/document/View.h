@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// How the document is looked at: zoom, retina mode, where the pointer is.
+#pragma once
+#include "base/Geometry.h"
+#include <array>
+
+namespace zp
+{
+
+/// The zoom levels that are offered, as factors: powers of two, so that picture pixels and screen pixels always meet
+/// evenly.
+inline constexpr std::array<float, 9> kZoomLevels{0.0625f, 0.125f, 0.25f, 0.5f, 1, 2, 4, 8, 16};
+
+/// Looking changes nothing that is edited, so the widget and the main window may ask for these transitions any time.
+/// Main thread.
+class View
+{
+public:
+    float zoom() const { return mZoom; }
+    bool isRetina() const { return m2xRetina; }
+    /// The zoom, halved in 2x retina mode.
+    float effectiveZoom() const { return m2xRetina ? mZoom * 0.5f : mZoom; }
+    /// The level nearest to the zoom, by ratio.
+    int nearestLevel() const;
+    /// The level to go to from here: the next larger (+1) or smaller (-1) one, the last where there is none.
+    int levelBeyond(int step) const;
+    Point pointer() const { return mPointer; } ///< of the last mouse event, image coordinates; may lie outside
+    bool pointerInside() const { return mPointerInside; } ///< over the canvas
+    /// What the selection field shows without a selection.
+    const char* infoWithoutSelection() const { return mInfoWithoutSelection; }
+    /// Whether anybody sees the picture: a program that plays a script may have no window on screen.
+    bool isOnScreen() const { return mOnScreen; }
+
+    void setZoom(float factor) { mZoom = factor; }
+    void setRetina(bool on) { m2xRetina = on; }
+    void setPointer(Point point) { mPointer = point; }
+    void setPointerInside(bool inside) { mPointerInside = inside; }
+    void setOnScreen(bool on) { mOnScreen = on; }
+    void setInfoWithoutSelection(const char* text) { mInfoWithoutSelection = text; }
+
+private:
+    float mZoom = 1;
+    bool m2xRetina = false;
+    Point mPointer;
+    bool mPointerInside = false, mOnScreen = false;
+    const char* mInfoWithoutSelection = "";
+};
+
+} // namespace zp

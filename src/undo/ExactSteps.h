@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The exact pixels of all steps of a history, as far as there is room for them.
+#pragma once
+#include "base/BitmapView.h"
+#include "undo/ExactRecord.h"
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+namespace zp
+{
+
+/// Each step keeps the tiles that it changed; a tile is found by going back to the last step that changed it. A step
+/// whose picture has another size, or that follows none that is exact, keeps all its tiles. Every call is whole and may
+/// come from any thread. What takes more room than there is loses its oldest steps: they are not exact then.
+class ExactSteps
+{
+public:
+    /// Another history begins. @param folder  an open folder of the history's own, duplicated here; -1: none
+    void reset(int folder);
+    ~ExactSteps();
+
+    /// The step whose pixels a new record's other tiles would be: the newest exact one up to @p number with that size.
+    std::optional<std::int32_t> parentFor(std::int32_t number, TileGrid grid) const;
+    /// Records step @p number from @p capture, which holds the tiles that are not those of @p parent, all without one.
+    /// Runs on the calling thread and the pool. @throws std::bad_alloc
+    void write(std::int32_t number, std::optional<std::int32_t> parent, PixelCapture& capture);
+    /// Steps above @p number are gone.
+    void dropAbove(std::int32_t number);
+    bool isExact(std::int32_t number) const;
+    std::optional<TileGrid> gridOf(std::int32_t number) const;
+    /// Brings @p pixels, which hold step @p from but for the tiles in @p touched, to step @p to. Without @p from, or
+    /// from a picture of another size, all tiles are written.
+    /// @return the box that changed; nothing when a tile of it is damaged or missing: the pixels are as they were, but
+    /// without @p from they may have been written. @throws std::bad_alloc
+    std::optional<PixelBox> restore(std::int32_t to, std::optional<std::int32_t> from, const TileSet& touched,
+                                    BitmapView pixels) const;
+    /// After a crash: the records that lie in the folder, up to @p newest.
+    void adopt(std::int32_t newest);
+    /// The most that the records may take on the disk, in bytes; by default 4 GB or a tenth of what is free.
+    void setLimit(std::optional<std::uint64_t> bytes) { mLimit = bytes; }
+    std::uint64_t bytesOnDisk() const;
+
+private:
+    /// Steps that share their tiles: from one that has all to the next.
+    struct Run {
+        std::int32_t first = 0;
+        TileGrid grid;
+        std::vector<std::vector<std::int32_t>> changedAt; ///< for each tile, the steps that changed it, ascending
+    };
+    const Run* runOf(std::int32_t number) const;
+    PackedTile find(const Run& run, int tile, std::int32_t number) const;
+    TileSet differing(const Run& run, std::int32_t a, std::int32_t b) const;
+    void enter(ExactRecord record);
+    void forget(std::int32_t number, bool removeFile);
+    void makeRoom();
+    std::uint64_t limit() const;
+    std::uint64_t totalBytes(bool inMemory) const;
+
+    mutable std::mutex mExactMutex;
+    int mExactFolder = -1;
+    std::map<std::int32_t, ExactRecord> mRecords;
+    std::vector<Run> mRuns; ///< in the order of their steps
+    std::optional<std::uint64_t> mLimit;
+};
+
+} // namespace zp
