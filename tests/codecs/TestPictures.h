@@ -10,7 +10,7 @@
 namespace zp::test
 {
 
-inline std::uint32_t word(int a, int r, int g, int b)
+constexpr std::uint32_t word(int a, int r, int g, int b)
 {
     return std::uint32_t(a) | std::uint32_t(r) << 8 | std::uint32_t(g) << 16 | std::uint32_t(b) << 24;
 }

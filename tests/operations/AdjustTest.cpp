@@ -1,37 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Adjusting the floating selection: always from the floated pixels, and complete whenever anybody reads them.
-#include "base/Log.h"
 #include "codecs/TestPictures.h"
-#include "desktop/Sounds.h"
 #include "imageops/Adjustment.h"
-#include "support/CanvasFixture.h"
-#include <algorithm>
-#include <random>
+#include "support/DocumentFixture.h"
 
 using namespace zp;
+using zp::test::Lines;
 
 namespace
 {
 
-class Adjust : public zp::test::CanvasTest
+class Adjust : public zp::test::DocumentTest
 {
 protected:
     void noise(int width, int height)
     {
         makeImage(width, height);
-        std::mt19937 random(1);
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x) setPixel(x, y, std::uint32_t(random()) | 255u);
-    }
-    void select(Rect box)
-    {
-        canvas->selectNone();
-        canvas->mSelectionPath = BezierPath::withRect(box);
-        ++canvas->mSelectionPathVersion;
+        paintNoise();
         takeSounds();
     }
-    std::shared_ptr<BitmapRep> floated() const { return canvas->mSelectionImage->representations().at(0).bitmap; }
-    const BitmapRep& shown() const { return *canvas->mSelectionImage->drawn(); }
+    void adjust_set(const _ZPFilters& f)
+    {
+        performNumbers("adjust_set:", {double(f.hue), double(f.saturation), double(f.brightness), double(f.contrast),
+                                       double(f.sharpness)});
+    }
+    std::shared_ptr<BitmapRep> floated() const { return floating()->image().representations().at(0).bitmap; }
+    const BitmapRep& shown() const { return *floating()->image().drawn(); }
     std::shared_ptr<BitmapRep> reference(const _ZPFilters& filters) const
     {
         const auto source = floated();
@@ -49,30 +43,30 @@ TEST_F(Adjust, WithoutAFloatingImageItBeeps)
 {
     makeImage(20, 20);
     select(makeRect(2, 2, 8, 8));
-    canvas->adjust_set({50, 100, 0, 100, 0});
-    EXPECT_EQ(takeSounds(), std::vector<std::string>{"beep"});
-    EXPECT_TRUE(canvas->selectionImageNil());
+    adjust_set({50, 100, 0, 100, 0});
+    EXPECT_EQ(takeSounds(), Lines{"beep"});
+    EXPECT_FALSE(floating());
 }
 
 TEST_F(Adjust, FloatsTheSelectionOnce)
 {
     makeImage(20, 20);
     select(makeRect(2, 2, 8, 8));
-    canvas->adjust();
-    ASSERT_FALSE(canvas->selectionImageNil());
-    const auto first = canvas->mSelectionImage;
-    canvas->adjust();
-    EXPECT_EQ(canvas->mSelectionImage, first);
+    perform("adjust");
+    ASSERT_TRUE(floating());
+    const Floating* const first = floating();
+    perform("adjust");
+    EXPECT_EQ(floating(), first);
 }
 
 TEST_F(Adjust, NeutralNumbersAddARepresentationOfTheSamePixels)
 {
     noise(30, 30);
     select(makeRect(3, 4, 20, 10));
-    canvas->adjust();
-    canvas->adjust_set({});
-    ASSERT_EQ(canvas->mSelectionImage->representations().size(), 2u);
-    EXPECT_TRUE(canvas->mSelectionImage->representations()[1].filtered);
+    perform("adjust");
+    adjust_set({});
+    ASSERT_EQ(floating()->representations(), 2);
+    EXPECT_TRUE(floating()->image().representations()[1].filtered);
     EXPECT_TRUE(samePixels(shown(), *floated()));
 }
 
@@ -80,14 +74,14 @@ TEST_F(Adjust, EachChangeStartsFromTheFloatedPixels)
 {
     noise(60, 40);
     select(makeRect(0, 0, 60, 40));
-    canvas->adjust();
+    perform("adjust");
     const _ZPFilters last{40, 130, 5, 90, 60};
     for (const _ZPFilters& filters :
          {_ZPFilters{-100, 0, 50, 300, -200}, _ZPFilters{}, _ZPFilters{314, 200, -100, 400, 200}, last})
-        canvas->adjust_set(filters);
-    ASSERT_EQ(canvas->mSelectionImage->representations().size(), 2u);
+        adjust_set(filters);
+    ASSERT_EQ(floating()->representations(), 2);
     EXPECT_TRUE(samePixels(shown(), *reference(last)));
-    canvas->adjust_set({});
+    adjust_set({});
     EXPECT_TRUE(samePixels(shown(), *floated()));
 }
 
@@ -95,10 +89,10 @@ TEST_F(Adjust, TheFloatedPixelsAreNeverWritten)
 {
     noise(60, 40);
     select(makeRect(5, 5, 40, 20));
-    canvas->adjust();
+    perform("adjust");
     const auto before = BitmapRep::create(40, 20);
     applyFilters(std::as_const(*floated()).view(), before->view(), {}, before->view().box());
-    for (const int hue : {0, 100, 0, -50, 0}) canvas->adjust_set({hue, 100, 0, 100, hue});
+    for (const int hue : {0, 100, 0, -50, 0}) adjust_set({hue, 100, 0, 100, hue});
     EXPECT_TRUE(samePixels(*floated(), *before));
 }
 
@@ -106,14 +100,13 @@ TEST_F(Adjust, AnchoringWritesTheAdjustedPixels)
 {
     noise(50, 50);
     select(makeRect(10, 10, 20, 20));
-    canvas->adjust();
+    perform("adjust");
     const _ZPFilters filters{0, 0, 10, 150, -40};
-    canvas->adjust_set(filters);
+    adjust_set(filters);
     const auto want = reference(filters);
     takeLogLines();
-    canvas->anchorSelection();
-    const std::vector<std::string> lines = takeLogLines();
-    EXPECT_NE(std::ranges::find(lines, "CIImageRep drawn"), lines.end());
+    perform("anchorSelection");
+    EXPECT_TRUE(zp::test::has(takeLogLines(), "CIImageRep drawn"));
     for (int y = 0; y < 20; ++y)
         for (int x = 0; x < 20; ++x) ASSERT_EQ(pixel(10 + x, 10 + y), want->view().row(y)[x]) << x << "," << y;
     settle();
@@ -127,7 +120,7 @@ protected:
     {
         noise(2600, 2100);
         select(makeRect(0, 0, 2600, 2100));
-        canvas->adjust();
+        perform("adjust");
         window.resize(300, 200);
         canvas->setParent(&window);
         canvas->show();
@@ -143,9 +136,9 @@ TEST_F(AdjustLarge, AnchoringRightAfterAChangeWritesAllPixels)
 {
     showLarge();
     const _ZPFilters filters{100, 120, 0, 100, 0};
-    canvas->adjust_set(filters);
+    adjust_set(filters);
     const auto want = reference(filters);
-    canvas->anchorSelection();
+    perform("anchorSelection");
     for (int y = 0; y < 2100; y += 7)
         for (int x = 0; x < 2600; ++x) ASSERT_EQ(pixel(x, y), want->view().row(y)[x]) << x << "," << y;
     settle();
@@ -155,7 +148,7 @@ TEST_F(AdjustLarge, WhatIsShownIsComputedWhenItIsDrawn)
 {
     showLarge();
     const _ZPFilters filters{0, 0, 0, 100, 0};
-    canvas->adjust_set(filters);
+    adjust_set(filters);
     const QImage shot = canvas->grab(QRect(20, 20, 100, 100)).toImage();
     const auto want = reference(filters);
     for (int y = 10; y < 90; ++y)
@@ -169,7 +162,7 @@ TEST_F(AdjustLarge, TheRestIsComputedWhenTheSliderRests)
 {
     showLarge();
     const _ZPFilters filters{0, 100, 20, 100, 0};
-    canvas->adjust_set(filters);
+    adjust_set(filters);
     const auto want = reference(filters);
     EXPECT_TRUE(zp::test::eventually([&] { return samePixels(shown(), *want); }));
 }
@@ -178,22 +171,22 @@ TEST_F(AdjustLarge, FinishingLeavesNothingMissing)
 {
     showLarge();
     const _ZPFilters filters{0, 100, 0, 200, 50};
-    canvas->adjust_set(filters);
-    finishPendingAdjustment(*canvas);
+    adjust_set(filters);
+    edit([](Edit& e) { e.selection().floating()->finishAdjustment(); });
     EXPECT_TRUE(samePixels(shown(), *reference(filters)));
 }
 
 TEST_F(AdjustLarge, AStaleChangeDoesNotTouchAnotherFloatingImage)
 {
     showLarge();
-    canvas->adjust_set({200, 100, 0, 100, 0});
-    canvas->selectNone();
+    adjust_set({200, 100, 0, 100, 0});
+    perform("selectNone");
     select(makeRect(0, 0, 2600, 2100));
-    canvas->floatSelection();
+    perform("floatSelection");
     const auto plain = floated();
-    finishPendingAdjustment(*canvas);
-    prepareAdjustment(*canvas, {0, 0, 50, 50});
-    EXPECT_EQ(canvas->mSelectionImage->representations().size(), 1u);
+    edit([](Edit& e) { e.selection().floating()->finishAdjustment(); });
+    edit([](Edit& e) { e.selection().floating()->prepareAdjustment(e.selection().record(), {0, 0, 50, 50}); });
+    EXPECT_EQ(floating()->representations(), 1);
     EXPECT_EQ(plain->view().row(3)[7], pixel(7, 3));
 }
 

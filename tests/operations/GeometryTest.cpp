@@ -1,186 +1,169 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The geometric commands on the canvas: pixels, buffers, selection, snapshot; and the retina mode.
-#include "canvas/ZPCanvas.h"
-#include "desktop/Panels.h"
-#include "undo/SnapshotStore.h"
-#include <QAction>
-#include <QCoreApplication>
-#include <QTimer>
-#include <gtest/gtest.h>
+/// Turns, flips and crop of the whole picture: pixels, buffers, selection, step.
+#include "support/DocumentFixture.h"
 
 using namespace zp;
+using namespace zp::test;
 
 namespace
 {
 
-class Geometry : public testing::Test
+class Geometry : public DocumentTest
 {
 protected:
-    void TearDown() override
-    {
-        canvas.reset();
-        SnapshotStore::shared().remove();
-    }
-    void settle()
-    {
-        while (canvas->anyWorkerRunning()) QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        QCoreApplication::processEvents();
-    }
-    /// Every pixel different.
+    /// Every pixel different, and a comment of the file's.
     void make(int width, int height)
     {
-        canvas->newImageWithSize({float(width), float(height)});
-        settle();
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x) canvas->mBitmapRep->view().row(y)[x] = word(x, y);
-        canvas->mBitmapRep->properties.userComment = "kept";
+        makeImage(width, height);
+        paintImage(at);
+        edit([](Edit& e) { e.picture().writableBitmap()->properties.userComment = "kept"; });
+        takeSounds();
     }
-    static std::uint32_t word(int x, int y) { return std::uint32_t(x * 1000 + y) << 8 | 0xFF; }
-    std::uint32_t at(int x, int y) { return canvas->mBitmapRep->view().row(y)[x]; }
+    static std::uint32_t at(int x, int y) { return std::uint32_t(x * 1000 + y) << 8 | 0xFF; }
     /// What each command leaves behind.
     void expectFresh(int width, int height)
     {
-        EXPECT_EQ(canvas->mBitmapRep->pixelsWide(), width);
-        EXPECT_EQ(canvas->mBitmapRep->pixelsHigh(), height);
-        EXPECT_EQ(canvas->mBitmapRep->bytesPerRow(), 64 * (width / 16) + 64);
-        EXPECT_EQ(canvas->imageSize(), (Size{float(width), float(height)}));
-        EXPECT_TRUE(canvas->mImage->isFlipped());
-        ASSERT_TRUE(canvas->mGWorld);
-        EXPECT_EQ(canvas->mGWorld->pixels.data, canvas->mBitmapRep->bitmapData());
-        EXPECT_EQ(canvas->mGWorld->bounds.right, width);
-        EXPECT_EQ(canvas->mBitmap, canvas->mBitmapRep->bitmapData());
-        EXPECT_EQ(canvas->mImage->drawn(), canvas->mBitmapRep.get());
-        EXPECT_EQ(canvas->mBitmapRep->properties.userComment, "kept");
-        EXPECT_FALSE(canvas->mSelectionPath);
-        EXPECT_FALSE(canvas->mSelectionImage);
-        EXPECT_FALSE(canvas->mSelectionTimer);
-        ASSERT_TRUE(canvas->mSelectionMask);
-        EXPECT_EQ(canvas->mSelectionMask->width, width);
-        EXPECT_EQ(canvas->mSelectionMask->height, height);
-        EXPECT_TRUE(canvas->mSelectionMaskClear);
-        EXPECT_EQ(canvas->mSelectionMask->row(height - 1)[width - 1], 255);
+        EXPECT_EQ(picture().width(), width);
+        EXPECT_EQ(picture().height(), height);
+        EXPECT_EQ(picture().bitmap()->bytesPerRow(), 64 * (width / 16) + 64);
+        EXPECT_EQ(picture().size(), (Size{float(width), float(height)}));
+        EXPECT_TRUE(picture().image().isFlipped());
+        ASSERT_TRUE(picture().gworld());
+        EXPECT_EQ(picture().gworld()->pixels.data, picture().bitmap()->bitmapData());
+        EXPECT_EQ(picture().gworld()->bounds.right, width);
+        EXPECT_EQ(picture().bitmapPointer(), picture().bitmap()->bitmapData());
+        EXPECT_EQ(picture().image().drawn(), picture().bitmap().get());
+        EXPECT_EQ(picture().bitmap()->properties.userComment, "kept");
+        EXPECT_FALSE(outline());
+        EXPECT_FALSE(floating());
+        EXPECT_FALSE(selection().antsMarch());
+        EXPECT_EQ(selection().mask().width(), width);
+        EXPECT_EQ(selection().mask().height(), height);
+        EXPECT_TRUE(selection().mask().isClear());
+        EXPECT_EQ(mask(width - 1, height - 1), 255);
         settle();
-        EXPECT_EQ(canvas->mUndoIndex, 1) << "one new snapshot";
+        EXPECT_EQ(history().newest(), 1) << "one new step";
     }
     void selectSomething()
     {
-        canvas->mSelectionPath = BezierPath::withRect({{1, 0}, {2, 2}});
-        canvas->mSelectionImage = std::make_shared<Image>(Size{2, 2});
-        canvas->restartSelectionTimer();
+        select(makeRect(1, 0, 2, 2));
+        renderMask();
+        lift();
     }
-    std::unique_ptr<ZPCanvas> canvas = std::make_unique<ZPCanvas>();
 };
 
 TEST_F(Geometry, CounterClockwise)
 {
     make(3, 2);
     selectSomething();
-    canvas->rotateCCW();
+    perform("rotateCCW:");
     expectFresh(2, 3);
-    EXPECT_EQ(at(0, 0), word(2, 0)) << "the old top right";
+    EXPECT_EQ(pixel(0, 0), at(2, 0)) << "the old top right";
     for (int v = 0; v < 2; ++v)
-        for (int u = 0; u < 3; ++u) EXPECT_EQ(at(v, 2 - u), word(u, v));
+        for (int u = 0; u < 3; ++u) EXPECT_EQ(pixel(v, 2 - u), at(u, v));
 }
 
 TEST_F(Geometry, Clockwise)
 {
     make(16, 9);
     selectSomething();
-    canvas->rotateCW();
+    perform("rotateCW:");
     expectFresh(9, 16);
     for (int v = 0; v < 9; ++v)
-        for (int u = 0; u < 16; ++u) EXPECT_EQ(at(8 - v, u), word(u, v));
+        for (int u = 0; u < 16; ++u) EXPECT_EQ(pixel(8 - v, u), at(u, v));
 }
 
 TEST_F(Geometry, RowsOfTheNewBitmapArePadded)
 {
     make(20, 16);
-    canvas->rotateCW();
-    EXPECT_EQ(canvas->mBitmapRep->bytesPerRow(), 128);
+    perform("rotateCW:");
+    EXPECT_EQ(picture().bitmap()->bytesPerRow(), 128);
     make(20, 15);
-    canvas->rotateCW();
-    EXPECT_EQ(canvas->mBitmapRep->bytesPerRow(), 64);
+    perform("rotateCW:");
+    EXPECT_EQ(picture().bitmap()->bytesPerRow(), 64);
 }
 
 TEST_F(Geometry, Flips)
 {
     make(37, 21);
     selectSomething();
-    canvas->flipH();
+    perform("flipH:");
     expectFresh(37, 21);
     for (int v = 0; v < 21; ++v)
-        for (int u = 0; u < 37; ++u) ASSERT_EQ(at(36 - u, v), word(u, v));
+        for (int u = 0; u < 37; ++u) ASSERT_EQ(pixel(36 - u, v), at(u, v));
     make(37, 21);
-    canvas->flipV();
+    perform("flipV:");
     expectFresh(37, 21);
     for (int v = 0; v < 21; ++v)
-        for (int u = 0; u < 37; ++u) ASSERT_EQ(at(u, 20 - v), word(u, v));
+        for (int u = 0; u < 37; ++u) ASSERT_EQ(pixel(u, 20 - v), at(u, v));
 }
 
 TEST_F(Geometry, FourTurnsAndTwoFlipsAreNothing)
 {
     make(35, 20);
-    for (int i = 0; i < 4; ++i) canvas->rotateCW();
-    for (int i = 0; i < 2; ++i) canvas->flipH();
-    for (int i = 0; i < 2; ++i) canvas->flipV();
-    for (int i = 0; i < 4; ++i) canvas->rotateCCW();
-    ASSERT_EQ(canvas->mBitmapRep->pixelsWide(), 35);
-    for (int v = 0; v < 20; ++v)
-        for (int u = 0; u < 35; ++u) ASSERT_EQ(at(u, v), word(u, v));
-    settle();
+    const auto before = allPixels();
+    for (const char* action : {"rotateCW:", "rotateCW:", "rotateCW:", "rotateCW:", "flipH:", "flipH:", "flipV:",
+                               "flipV:", "rotateCCW:", "rotateCCW:", "rotateCCW:", "rotateCCW:"})
+        EXPECT_TRUE(perform(action));
+    ASSERT_EQ(picture().width(), 35);
+    EXPECT_EQ(allPixels(), before);
+}
+
+TEST_F(Geometry, EachIsAnotherGenerationOfThePicture)
+{
+    make(35, 20);
+    for (const char* action : {"rotateCW:", "rotateCCW:", "flipH:", "flipV:"}) {
+        const std::uint64_t before = picture().generation();
+        perform(action);
+        EXPECT_GT(picture().generation(), before) << action;
+    }
 }
 
 TEST_F(Geometry, UndoBringsBackTheFormerShape)
 {
     make(35, 20);
-    canvas->takeSnapshot();
+    perform("takeSnapshot");
     settle();
-    canvas->rotateCW();
+    perform("rotateCW:");
     settle();
-    canvas->undo();
-    EXPECT_EQ(canvas->mBitmapRep->pixelsWide(), 35);
-    EXPECT_EQ(canvas->mBitmapRep->pixelsHigh(), 20);
+    perform("undo:");
+    EXPECT_EQ(picture().width(), 35);
+    EXPECT_EQ(picture().height(), 20);
 }
 
 TEST_F(Geometry, WithoutAPictureNothingHappens)
 {
-    canvas->rotateCW();
-    canvas->rotateCCW();
-    canvas->flipH();
-    canvas->flipV();
-    EXPECT_FALSE(canvas->mBitmapRep);
-    EXPECT_EQ(canvas->mUndoIndex, -1);
+    for (const char* action : {"rotateCW:", "rotateCCW:", "flipH:", "flipV:"}) EXPECT_FALSE(perform(action)) << action;
+    EXPECT_FALSE(picture().bitmap());
+    EXPECT_EQ(history().newest(), -1);
+    EXPECT_EQ(takeSounds(), Lines(4, "beep"));
 }
 
-TEST_F(Geometry, RetinaFollowsTheMenuItemAndSaysSo)
+TEST_F(Geometry, CropBelowFourByFourBeeps)
 {
-    make(20, 10);
-    canvas->mZoom = 2;
-    canvas->updateViewGeometry();
-    QAction item;
-    item.setCheckable(true);
-    std::vector<AlertState> alerts;
-    const auto answer = [&] {
-        QTimer::singleShot(0, canvas.get(), [&] {
-            if (const auto alert = currentAlert()) alerts.push_back(*alert);
-            answerAlert("OK");
-        });
-    };
-    answer();
-    canvas->retina(&item);
-    EXPECT_TRUE(item.isChecked());
-    EXPECT_TRUE(canvas->m2xRetina);
-    EXPECT_EQ(canvas->size(), QSize(20, 10)) << "zoom 2, halved";
-    answer();
-    canvas->retina(&item);
-    EXPECT_FALSE(item.isChecked());
-    EXPECT_FALSE(canvas->m2xRetina);
-    EXPECT_EQ(canvas->size(), QSize(40, 20));
-    ASSERT_EQ(alerts.size(), 2u);
-    EXPECT_EQ(alerts[0].title, "You have enabled 2x retina display mode.");
-    EXPECT_EQ(alerts[1].title, "You have disabled 2x retina display mode.");
-    EXPECT_EQ(alerts[0].message, "");
-    EXPECT_EQ(alerts[0].buttons, QStringList{"OK"});
+    make(60, 50);
+    for (const Rect box : {makeRect(5, 5, 3, 40), makeRect(5, 5, 40, 3), makeRect(5, 5, 3.99f, 10)}) {
+        select(box);
+        EXPECT_FALSE(perform("cropToSelection:"));
+        EXPECT_EQ(takeSounds(), Lines{"beep"});
+        EXPECT_EQ(picture().size(), (Size{60, 50}));
+        EXPECT_TRUE(outline());
+    }
+    dropSelection();
+    EXPECT_FALSE(perform("cropToSelection:"));
+    EXPECT_EQ(takeSounds(), Lines{"beep"});
+}
+
+TEST_F(Geometry, CropTakesTheBoxAndResetsTheSelection)
+{
+    make(60, 50);
+    select(makeRect(7, 9, 4, 4));
+    renderMask();
+    perform("floatSelection");
+    perform("cropToSelection:");
+    expectFresh(4, 4);
+    for (int v = 0; v < 4; ++v)
+        for (int u = 0; u < 4; ++u) EXPECT_EQ(pixel(u, v), at(7 + u, 9 + v));
 }
 
 } // namespace

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Saving and loading selections through the canvas.
-#include "base/Folders.h"
-#include "desktop/Sounds.h"
-#include "selection/SelectionFile.h"
-#include "support/CanvasFixture.h"
+/// Saving and loading selections.
+#include "support/AlertWatch.h"
 #include "support/SavedSelectionFixture.h"
 #include <gmock/gmock.h>
 
@@ -17,34 +14,37 @@ class SavedSelections : public zp::test::SavedSelectionsTest
 
 TEST_F(SavedSelections, WhatIsSavedIsLoadedIntoAnyImage)
 {
-    canvas->mSelectionPath = BezierPath::withOvalInRect(makeRect(3.25f, 4, 500, 600)); // beyond the image
-    canvas->mSelectionPath->setWindingRule(WindingRule::EvenOdd);
-    const BezierPath saved = *canvas->mSelectionPath;
+    BezierPath saved = BezierPath::withOvalInRect(makeRect(3.25f, 4, 500, 600)); // beyond the image
+    saved.setWindingRule(WindingRule::EvenOdd);
+    select(saved);
     const std::string path = folder() + "/My Great Default Selection"; // the folder is made
-    canvas->saveSelection(path);
+    performPath("saveSelection:", path);
     EXPECT_TRUE(fileExists(path));
     makeImage(10, 10);
-    canvas->loadSelection(path);
-    ASSERT_TRUE(canvas->mSelectionPath);
-    EXPECT_TRUE(canvas->mSelectionPath->hasSameElements(saved));
-    EXPECT_EQ(canvas->mSelectionPath->windingRule(), WindingRule::EvenOdd);
-    EXPECT_TRUE(canvas->mSelectionTimer);
+    performPath("loadSelection:", path);
+    ASSERT_TRUE(outline());
+    EXPECT_TRUE(outline()->hasSameElements(saved));
+    EXPECT_EQ(outline()->windingRule(), WindingRule::EvenOdd);
+    EXPECT_TRUE(selection().antsMarch());
     EXPECT_EQ(mask(9, 9), 255); // not rendered at this point
     // Parts outside the image select nothing, and harm nothing.
-    canvas->selectionPathToMask();
+    perform("selectionPathToMask");
     EXPECT_THAT(takeSounds(), IsEmpty());
 }
 
 TEST_F(SavedSelections, LoadingDropsWhatWasThere)
 {
     put("good", rectText(2));
-    selectRect(1, 1, 3, 3);
-    canvas->mSelectionImage = std::make_shared<Image>();
-    canvas->mPasteIntoSelectionPath = *canvas->mSelectionPath;
-    canvas->loadSelection(folder() + "/good");
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(2, 1, 5, 6));
-    EXPECT_FALSE(canvas->mSelectionImage);
-    EXPECT_FALSE(canvas->mPasteIntoSelectionPath);
+    select(makeRect(1, 1, 3, 3));
+    renderMask();
+    placePiece(makeRect(1, 1, 2, 2), true);
+    ASSERT_TRUE(selection().pasteInto());
+    performPath("loadSelection:", folder() + "/good");
+    EXPECT_EQ(outlineBounds(), makeRect(2, 1, 5, 6));
+    EXPECT_FALSE(floating());
+    EXPECT_FALSE(selection().pasteInto());
+    renderMask();
+    EXPECT_EQ(countMask(0), 30u) << "only the new region";
 }
 
 TEST_F(SavedSelections, AnythingElseGivesNoSelection)
@@ -52,26 +52,34 @@ TEST_F(SavedSelections, AnythingElseGivesNoSelection)
     put("letter", "Dear aunt,\n");
     createFolder(folder() + "/inner");
     for (const char* name : {"/letter", "/inner", "/missing", "/letter/below"}) {
-        selectRect(1, 1, 3, 3);
-        canvas->restartSelectionTimer();
-        canvas->loadSelection(folder() + name);
-        EXPECT_FALSE(canvas->mSelectionPath) << name;
-        EXPECT_FALSE(canvas->mSelectionTimer) << name;
+        select(makeRect(1, 1, 3, 3));
+        performPath("loadSelection:", folder() + name);
+        EXPECT_FALSE(outline()) << name;
+        EXPECT_FALSE(selection().antsMarch()) << name;
     }
     EXPECT_THAT(takeSounds(), IsEmpty());
 }
 
 TEST_F(SavedSelections, NothingToSaveOrNowhereToSaveBeeps)
 {
-    canvas->saveSelection(folder() + "/x"); // no selection
+    performPath("saveSelection:", folder() + "/x"); // no selection
     EXPECT_FALSE(fileExists(folder() + "/x"));
     EXPECT_THAT(takeSounds(), ElementsAre("beep"));
-    selectRect(1, 1, 3, 3);
-    canvas->saveSelection("");
+    select(makeRect(1, 1, 3, 3));
+    performPath("saveSelection:", "");
     EXPECT_THAT(takeSounds(), ElementsAre("beep"));
-    canvas->loadSelection("");
+    performPath("loadSelection:", "");
     EXPECT_THAT(takeSounds(), ElementsAre("beep"));
-    EXPECT_TRUE(canvas->mSelectionPath);             // kept
-    canvas->saveSelection("/proc/no such folder/x"); // cannot be written
-    EXPECT_THAT(takeSounds(), ElementsAre("beep"));
+    EXPECT_EQ(outlineBounds(), makeRect(1, 1, 3, 3)); // kept
+}
+
+TEST_F(SavedSelections, ASaveThatCouldNotBeWrittenSaysSo)
+{
+    select(makeRect(1, 1, 3, 3));
+    const zp::test::AlertWatch watch;
+    EXPECT_FALSE(performPath("saveSelection:", "/proc/no such folder/x"));
+    ASSERT_EQ(watch.seen.size(), 1u);
+    EXPECT_EQ(watch.seen[0].title, "The selection could not be saved.");
+    EXPECT_TRUE(watch.seen[0].message.startsWith("x: "));
+    EXPECT_THAT(takeSounds(), IsEmpty());
 }

@@ -1,375 +1,247 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The selection of a real canvas: mask, commands, combining, clock, menu rules.
-#include "desktop/KeyModifiers.h"
-#include "desktop/Pasteboard.h"
-#include "desktop/Sounds.h"
+/// The commands of the selection as a whole, and the mask by itself.
 #include "selection/PathBooleans.h"
-#include "support/CanvasFixture.h"
-#include <QLabel>
-#include <QSignalSpy>
-#include <algorithm>
+#include "support/DocumentFixture.h"
 #include <gmock/gmock.h>
 
 using namespace zp;
+using namespace zp::test;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Selection : public zp::test::CanvasTest
+class SelectionCommands : public DocumentTest
 {
 protected:
     void SetUp() override
     {
-        setScriptedKeyModifiers(0);
-        canvas->mInfoField = &info;
         makeImage(40, 30);
         takeSounds();
     }
-    void TearDown() override
-    {
-        settle();
-        setScriptedKeyModifiers(std::nullopt);
-    }
-    void selectRect(float x, float y, float w, float h)
-    {
-        canvas->mSelectionPath = BezierPath::withRect(makeRect(x, y, w, h));
-    }
-    std::size_t maskCount(std::uint8_t value) const
-    {
-        const std::uint8_t* bytes = canvas->mSelectionMaskData.get();
-        return std::size_t(
-            std::count(bytes, bytes + canvas->mSelectionMask->width * canvas->mSelectionMask->height, value));
-    }
-    QLabel info;
 };
 
-TEST_F(Selection, TheMaskReadsItsBytesInPlace)
+TEST_F(SelectionCommands, BothClearsSayThatTheMaskIsClear)
 {
-    ASSERT_TRUE(canvas->mSelectionMask);
-    EXPECT_EQ(canvas->mSelectionMask->data, canvas->mSelectionMaskData.get());
-    EXPECT_EQ(canvas->mSelectionMask->width, 40);
-    EXPECT_EQ(canvas->mSelectionMask->height, 30);
-    EXPECT_EQ(canvas->mSelectionMask->stride, 40);
-    EXPECT_EQ(maskCount(255), 40u * 30);
-    canvas->mSelectionMaskData[41] = 3;
-    EXPECT_EQ(mask(1, 1), 3);
-    canvas->releaseSelectionMask();
-    EXPECT_FALSE(canvas->mSelectionMask);
-    EXPECT_FALSE(canvas->mSelectionMaskData);
-    canvas->createSelectionMask();
-    EXPECT_EQ(maskCount(255), 40u * 30);
+    select(makeRect(2, 3, 5, 6));
+    renderMask();
+    EXPECT_FALSE(selection().mask().isClear());
+    perform("clearSelectionMaskINVERT");
+    EXPECT_EQ(countMask(0), 40u * 30);
+    EXPECT_TRUE(selection().mask().isClear());
+    perform("selectionPathToMask");
+    EXPECT_FALSE(selection().mask().isClear());
+    perform("clearSelectionMask");
+    EXPECT_EQ(countMask(255), 40u * 30);
+    EXPECT_TRUE(selection().mask().isClear());
 }
 
-TEST_F(Selection, BothClearsSayThatTheMaskIsClear)
+TEST_F(SelectionCommands, ThePathGoesIntoTheMaskPlainAndInverted)
 {
-    canvas->mSelectionMaskClear = false;
-    canvas->clearSelectionMaskINVERT();
-    EXPECT_EQ(maskCount(0), 40u * 30);
-    EXPECT_TRUE(canvas->mSelectionMaskClear);
-    canvas->mSelectionMaskClear = false;
-    canvas->clearSelectionMask();
-    EXPECT_EQ(maskCount(255), 40u * 30);
-    EXPECT_TRUE(canvas->mSelectionMaskClear);
-}
-
-TEST_F(Selection, ThePathGoesIntoTheMaskPlainAndInverted)
-{
-    canvas->selectionPathToMask(); // no path, no effect
-    EXPECT_EQ(maskCount(255), 40u * 30);
-    selectRect(2, 3, 5, 6);
-    const BezierPath before = *canvas->mSelectionPath;
-    canvas->selectionPathToMask();
-    EXPECT_EQ(maskCount(0), 30u);
+    perform("selectionPathToMask"); // no path, no effect
+    EXPECT_EQ(countMask(255), 40u * 30);
+    const BezierPath path = BezierPath::withRect(makeRect(2, 3, 5, 6));
+    select(path);
+    perform("selectionPathToMask");
+    EXPECT_EQ(countMask(0), 30u);
     EXPECT_EQ(mask(2, 3), 0);
     EXPECT_EQ(mask(6, 8), 0);
     EXPECT_EQ(mask(7, 8), 255);
-    EXPECT_EQ(canvas->mSelectionPath->windingRule(), WindingRule::EvenOdd); // and stays
-    EXPECT_TRUE(canvas->mSelectionPath->hasSameElements(before));
-    canvas->clearSelectionMaskINVERT();
-    canvas->selectionPathToMaskINVERT();
-    EXPECT_EQ(maskCount(255), 30u);
-    EXPECT_EQ(maskCount(0), 40u * 30 - 30);
+    EXPECT_EQ(outline()->windingRule(), WindingRule::EvenOdd); // and stays
+    EXPECT_TRUE(outline()->hasSameElements(path));
+    perform("clearSelectionMaskINVERT");
+    perform("selectionPathToMaskINVERT");
+    EXPECT_EQ(countMask(255), 30u);
+    EXPECT_EQ(countMask(0), 40u * 30 - 30);
 }
 
-TEST_F(Selection, ASelfCrossingLassoLeavesItsDoubleLoopOut)
-{
-    BezierPath twice;
-    twice.moveTo({5, 5});
-    for (const Point p : {Point{25, 5}, {25, 25}, {5, 25}, {5, 5}, {10, 10}, {20, 10}, {20, 20}, {10, 20}, {10, 10}})
-        twice.lineTo(p);
-    twice.closePath();
-    canvas->mSelectionPath = twice;
-    canvas->selectionPathToMask();
-    EXPECT_EQ(mask(7, 15), 0);
-    EXPECT_EQ(mask(15, 15), 255);
-    // With another shape added the loop stays as it was.
-    canvas->mAuxSelectionPath = BezierPath::withRect(makeRect(30, 5, 5, 5));
-    canvas->mSelectionPath = twice;
-    setScriptedKeyModifiers(kShiftKey);
-    canvas->combineWithAuxSelection();
-    EXPECT_FALSE(canvas->mSelectionPath->contains({15, 15}));
-    EXPECT_TRUE(canvas->mSelectionPath->contains({7, 15}));
-    EXPECT_TRUE(canvas->mSelectionPath->contains({32, 7}));
-}
-
-TEST_F(Selection, AllOnASinglePixelImage)
+TEST_F(SelectionCommands, AllOnASinglePixelImage)
 {
     makeImage(1, 1);
-    canvas->mPasteIntoSelectionPath = BezierPath::withRect(makeRect(0, 0, 1, 1));
-    canvas->mSelectionImage = std::make_shared<Image>();
-    canvas->selectAll();
-    ASSERT_TRUE(canvas->mSelectionPath);
-    EXPECT_EQ(countSubPaths(*canvas->mSelectionPath), 1);
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(0, 0, 1, 1));
+    select(makeRect(0, 0, 1, 1));
+    placePiece(makeRect(0, 0, 1, 1), true);
+    perform("clearSelectionMask");
+    perform("selectAll:");
+    ASSERT_TRUE(outline());
+    EXPECT_EQ(countSubPaths(*outline()), 1);
+    EXPECT_EQ(outline()->bounds(), makeRect(0, 0, 1, 1));
     EXPECT_EQ(mask(0, 0), 255); // not rendered until it is needed
-    EXPECT_FALSE(canvas->mPasteIntoSelectionPath);
-    EXPECT_FALSE(canvas->mSelectionImage);
-    ASSERT_TRUE(canvas->mSelectionTimer);
-    EXPECT_EQ(canvas->mSelectionTimer->interval(), 200);
-    EXPECT_FALSE(canvas->mSelectionTimer->isSingleShot());
+    EXPECT_FALSE(selection().pasteInto());
+    EXPECT_FALSE(floating());
+    EXPECT_TRUE(selection().antsMarch());
 }
 
-TEST_F(Selection, AllClearsAMaskThatIsNotClear)
+TEST_F(SelectionCommands, AllClearsAMaskThatIsNotClear)
 {
-    canvas->mSelectionMaskData[0] = 0;
-    canvas->mSelectionMaskClear = false;
-    canvas->selectAll();
-    EXPECT_EQ(maskCount(255), 40u * 30);
-    canvas->mSelectionMaskData[0] = 7; // believed to be clear: not touched
-    canvas->selectAll();
-    EXPECT_EQ(mask(0, 0), 7);
+    select(makeRect(0, 0, 5, 5));
+    renderMask();
+    EXPECT_EQ(countMask(0), 25u);
+    perform("selectAll:");
+    EXPECT_TRUE(selection().mask().isClear());
+    EXPECT_EQ(countMask(255), 40u * 30);
 }
 
-TEST_F(Selection, NoneDropsEverythingOfTheSelection)
+TEST_F(SelectionCommands, NoneDropsEverythingOfTheSelection)
 {
-    fillImage(zp::test::word(255, 1, 2, 3));
-    selectRect(1, 1, 5, 5);
-    canvas->mPasteIntoSelectionPath = *canvas->mSelectionPath;
-    canvas->mSelectionImage = std::make_shared<Image>(); // floats: its pixels are not written
-    canvas->mPolygonLasso = true;
-    canvas->mSelectionMaskData[5] = 0;
-    canvas->mSelectionMaskClear = false;
-    canvas->restartSelectionTimer();
-    info.setText("old");
-    canvas->selectNone();
-    EXPECT_TRUE(canvas->selectionNil());
-    EXPECT_TRUE(canvas->selectionImageNil());
-    EXPECT_FALSE(canvas->mPasteIntoSelectionPath);
-    EXPECT_FALSE(canvas->mSelectionTimer);
-    EXPECT_FALSE(canvas->mPolygonLasso);
-    EXPECT_EQ(maskCount(255), 40u * 30);
-    EXPECT_EQ(info.text(), "");
-    EXPECT_THAT(takeSounds(), IsEmpty());
-    EXPECT_EQ(pixel(2, 2), zp::test::word(255, 1, 2, 3));
-    selectRect(1, 1, 5, 5);
-    canvas->selectNoneWithSound();
-    EXPECT_TRUE(canvas->selectionNil());
+    fillImage(word(255, 1, 2, 3));
+    select(makeRect(1, 1, 5, 5));
+    // Floats: its pixels are not written.
+    placePiece(makeRect(1, 1, 5, 5), true);
+    edit([](Edit& e) { e.gesture().openPolygon(true); });
+    EXPECT_FALSE(selection().mask().isClear());
+    perform("selectNone:");
+    EXPECT_TRUE(selection().isNil());
+    EXPECT_FALSE(floating());
+    EXPECT_FALSE(selection().pasteInto());
+    EXPECT_FALSE(selection().antsMarch());
+    EXPECT_FALSE(gesture().polygonIsOpen());
+    EXPECT_EQ(countMask(255), 40u * 30);
+    EXPECT_TRUE(selection().mask().isClear());
+    EXPECT_EQ(document->infoText(), "");
+    EXPECT_THAT(takeSounds(), ElementsAre("Frog"));
+    EXPECT_EQ(pixel(2, 2), word(255, 1, 2, 3));
+}
+
+TEST_F(SelectionCommands, NoneWithoutASelectionBeepsInTheMenuAndCuesByTheKey)
+{
+    EXPECT_FALSE(perform("selectNone:"));
+    EXPECT_THAT(takeSounds(), ElementsAre("beep"));
+    perform("selectNone");
     EXPECT_THAT(takeSounds(), ElementsAre("Frog"));
 }
 
-TEST_F(Selection, InverseWithoutASelectionBeeps)
+TEST_F(SelectionCommands, ReselectBringsTheDroppedSelectionBackOnce)
 {
-    canvas->mSelectionMaskData[3] = 9;
-    canvas->selectInverse();
+    EXPECT_FALSE(perform("reselect:"));
     EXPECT_THAT(takeSounds(), ElementsAre("beep"));
-    EXPECT_TRUE(canvas->selectionNil());
+    select(makeRect(3, 4, 5, 6));
+    perform("selectNone:");
+    perform("reselect:");
+    EXPECT_EQ(outlineBounds(), makeRect(3, 4, 5, 6));
+    EXPECT_TRUE(selection().antsMarch());
+}
+
+TEST_F(SelectionCommands, InverseWithoutASelectionBeeps)
+{
+    edit([](Edit& e) { e.selection().rawMask().writable().row(0)[3] = 9; });
+    EXPECT_FALSE(perform("selectInverse:"));
+    EXPECT_THAT(takeSounds(), ElementsAre("beep"));
+    EXPECT_TRUE(selection().isNil());
     EXPECT_EQ(mask(3, 0), 9);
 }
 
-TEST_F(Selection, InverseSelectsTheRest)
+TEST_F(SelectionCommands, InverseSelectsTheRest)
 {
-    selectRect(10, 5, 8, 9);
-    canvas->selectInverse();
-    ASSERT_TRUE(canvas->mSelectionPath);
-    EXPECT_EQ(maskCount(255), 72u);
+    select(makeRect(10, 5, 8, 9));
+    perform("selectInverse:");
+    ASSERT_TRUE(outline());
+    EXPECT_EQ(countMask(255), 72u);
     EXPECT_EQ(mask(10, 5), 255);
     EXPECT_EQ(mask(9, 5), 0);
-    EXPECT_EQ(countSubPaths(*canvas->mSelectionPath), 2);
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(0, 0, 40, 30)); // the tracer's pixel taken back
-    canvas->mSelectionPath->setWindingRule(WindingRule::EvenOdd);
-    EXPECT_FALSE(canvas->mSelectionPath->contains({12, 8}));
-    EXPECT_TRUE(canvas->mSelectionPath->contains({5, 8}));
-    EXPECT_EQ(info.text(), "{{0, 0}, {40, 30}}");
-    EXPECT_TRUE(canvas->mSelectionTimer);
+    EXPECT_EQ(countSubPaths(*outline()), 2);
+    EXPECT_EQ(outline()->bounds(), makeRect(0, 0, 40, 30)); // the tracer's pixel taken back
+    BezierPath evenOdd = *outline();
+    evenOdd.setWindingRule(WindingRule::EvenOdd);
+    EXPECT_FALSE(evenOdd.contains({12, 8}));
+    EXPECT_TRUE(evenOdd.contains({5, 8}));
+    EXPECT_EQ(document->infoText(), "{{0, 0}, {40, 30}}");
+    EXPECT_TRUE(selection().antsMarch());
     // And back again: on whole pixels exactly the first region.
-    canvas->selectInverse();
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(10, 5, 8, 9));
-    EXPECT_EQ(info.text(), "{{10, 5}, {8, 9}}");
-    EXPECT_EQ(maskCount(0), 72u);
+    perform("selectInverse:");
+    EXPECT_EQ(outlineBounds(), makeRect(10, 5, 8, 9));
+    EXPECT_EQ(document->infoText(), "{{10, 5}, {8, 9}}");
+    EXPECT_EQ(countMask(0), 72u);
 }
 
-TEST_F(Selection, InverseOfEverythingIsPresentButEmpty)
+TEST_F(SelectionCommands, InverseOfEverythingIsPresentButEmpty)
 {
-    canvas->selectAll();
-    canvas->stopSelectionTimer();
-    canvas->selectInverse();
-    ASSERT_TRUE(canvas->mSelectionPath);
-    EXPECT_TRUE(canvas->mSelectionPath->isEmpty());
-    EXPECT_EQ(maskCount(255), 40u * 30);
-    EXPECT_TRUE(canvas->mSelectionTimer);
-    EXPECT_EQ(info.text(), "{{0, 0}, {0, 0}}");
+    perform("selectAll:");
+    perform("selectInverse:");
+    ASSERT_TRUE(outline());
+    EXPECT_TRUE(outline()->isEmpty());
+    EXPECT_EQ(countMask(255), 40u * 30);
+    EXPECT_TRUE(selection().antsMarch());
+    EXPECT_EQ(document->infoText(), "{{0, 0}, {0, 0}}");
 }
 
-TEST_F(Selection, InverseCountsPartlySelectedPixelsAsSelected)
+TEST_F(SelectionCommands, InverseCountsPartlySelectedPixelsAsSelected)
 {
-    selectRect(10.5f, 5, 8, 9); // half a pixel on either side
-    canvas->selectInverse();
-    canvas->selectInverse();
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(11, 5, 7, 9));
+    select(makeRect(10.5f, 5, 8, 9)); // half a pixel on either side
+    perform("selectInverse:");
+    perform("selectInverse:");
+    EXPECT_EQ(outlineBounds(), makeRect(11, 5, 7, 9));
 }
 
-TEST_F(Selection, ShiftAddsAndOptionSubtracts)
-{
-    const auto combine = [&](std::uint32_t keys) {
-        canvas->mAuxSelectionPath = BezierPath::withRect(makeRect(0, 0, 10, 10));
-        selectRect(5, 5, 10, 10);
-        setScriptedKeyModifiers(keys);
-        canvas->combineWithAuxSelection();
-        EXPECT_FALSE(canvas->mAuxSelectionPath);
-        return canvas->mSelectionPath;
-    };
-    std::optional<BezierPath> path = combine(kShiftKey);
-    ASSERT_TRUE(path);
-    EXPECT_TRUE(path->contains({2, 2}) && path->contains({7, 7}) && path->contains({13, 13}));
-    EXPECT_EQ(path->bounds(), makeRect(0, 0, 15, 15));
-    path = combine(kOptionKey);
-    ASSERT_TRUE(path);
-    EXPECT_TRUE(path->contains({2, 2}));
-    EXPECT_FALSE(path->contains({7, 7}) || path->contains({13, 13}));
-    path = combine(kShiftKey | kOptionKey); // Shift wins
-    ASSERT_TRUE(path);
-    EXPECT_TRUE(path->contains({13, 13}));
-    EXPECT_FALSE(combine(0)); // let go of both keys: nothing is left
-}
-
-TEST_F(Selection, CombiningWaitsForThePolygon)
-{
-    canvas->mAuxSelectionPath = BezierPath::withRect(makeRect(0, 0, 10, 10));
-    selectRect(5, 5, 10, 10);
-    canvas->mPolygonLasso = true;
-    setScriptedKeyModifiers(kShiftKey);
-    canvas->combineWithAuxSelection();
-    EXPECT_TRUE(canvas->mAuxSelectionPath);
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(5, 5, 10, 10));
-    canvas->mPolygonLasso = false;
-    canvas->mAuxSelectionPath.reset();
-    canvas->combineWithAuxSelection(); // nothing set aside: nothing happens
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(5, 5, 10, 10));
-}
-
-TEST_F(Selection, ThePhaseGoesRoundInFourSteps)
-{
-    selectRect(0, 0, 5, 5);
-    EXPECT_EQ(canvas->mSelectionPhase, 0);
-    for (const float phase : {2.5f, 5.0f, 7.5f, 0.0f, 2.5f}) {
-        canvas->selectionTimerFired();
-        EXPECT_EQ(canvas->mSelectionPhase, phase);
-    }
-}
-
-TEST_F(Selection, TheClockTicksUntilStopped)
-{
-    selectRect(0, 0, 5, 5);
-    canvas->restartSelectionTimer();
-    const QTimer* first = canvas->mSelectionTimer.get();
-    QSignalSpy ticks(first, &QTimer::timeout);
-    EXPECT_TRUE(zp::test::eventually([&] { return ticks.count() >= 2; }, 5000));
-    EXPECT_EQ(canvas->mSelectionPhase, 5);
-    canvas->restartSelectionTimer();
-    EXPECT_TRUE(canvas->mSelectionTimer->isActive());
-    canvas->stopSelectionTimer();
-    EXPECT_FALSE(canvas->mSelectionTimer);
-}
-
-TEST_F(Selection, TintMarksWhatIsNotSelected)
-{
-    fillImage(zp::test::word(100, 50, 60, 70));
-    selectRect(0, 0, 20, 30);
-    canvas->selectionPathToMask();
-    canvas->makeSelection();
-    EXPECT_EQ(pixel(5, 5), zp::test::word(100, 50, 60, 70));
-    EXPECT_EQ(pixel(25, 5), zp::test::word(76, 109, 82, 70)); // 75.7, 108.5, 81.6
-}
-
-TEST_F(Selection, WorldsAreCopiedWhole)
-{
-    fillImage(zp::test::word(255, 9, 8, 7));
-    const auto other = BitmapRep::create(40, 30);
-    GWorld destination = GWorld::over(*other);
-    ASSERT_TRUE(canvas->mGWorld);
-    canvas->copyGWorld(*canvas->mGWorld, destination);
-    for (int y = 0; y < 30; ++y)
-        for (int x = 0; x < 40; ++x) ASSERT_EQ(other->view().row(y)[x], zp::test::word(255, 9, 8, 7));
-}
-
-TEST_F(Selection, InfoShowsWholePixels)
-{
-    selectRect(1.5f, 2.25f, 3, 4);
-    canvas->showSelectionInfo();
-    EXPECT_EQ(info.text(), "{{1, 2}, {4, 5}}");
-    canvas->mSelectionPath.reset();
-    canvas->showSelectionInfo("?");
-    EXPECT_EQ(info.text(), "?");
-    canvas->mInfoField = nullptr;
-    canvas->showSelectionInfo();
-}
-
-TEST_F(Selection, MenuRules)
-{
-    const QStringList needSelection{"selectNone:",      "selectInverse:", "fill:", "stroke:", "smartFill:",
-                                    "anchorSelection:", "copy:",          "cut:",  "delete:", "cropToSelection:"};
-    const QStringList always{"selectAll:", "rotateCW:", "somethingElse:"};
-    Pasteboard::general().clear();
-    for (const bool selected : {false, true}) {
-        if (selected) selectRect(0, 0, 5, 5);
-        for (const QString& action : needSelection)
-            EXPECT_EQ(canvas->validateMenuItem(action), selected) << action.toStdString();
-        for (const QString& action : always) EXPECT_TRUE(canvas->validateMenuItem(action)) << action.toStdString();
-        EXPECT_FALSE(canvas->validateMenuItem("paste:"));
-        EXPECT_FALSE(canvas->validateMenuItem("pasteInto:"));
-    }
-    Pasteboard::general().setTIFF({'I', 'I', 42, 0});
-    EXPECT_TRUE(canvas->validateMenuItem("paste:"));
-    EXPECT_TRUE(canvas->validateMenuItem("pasteInto:"));
-    canvas->mSelectionPath.reset();
-    EXPECT_TRUE(canvas->validateMenuItem("paste:"));
-    EXPECT_FALSE(canvas->validateMenuItem("pasteInto:"));
-    Pasteboard::general().clear();
-}
-
-TEST_F(Selection, AnchorItemNamesWhatItWouldDo)
-{
-    QString title;
-    EXPECT_FALSE(canvas->validateMenuItem("anchorSelection:", &title));
-    EXPECT_EQ(title, "Float Selection");
-    selectRect(0, 0, 5, 5);
-    canvas->mSelectionImage = std::make_shared<Image>();
-    EXPECT_TRUE(canvas->validateMenuItem("anchorSelection:", &title));
-    EXPECT_EQ(title, "Anchor Selection");
-    canvas->mSelectionImage.reset();
-    EXPECT_TRUE(canvas->validateMenuItem("anchorSelection:", &title));
-    EXPECT_EQ(title, "Float Selection");
-}
-
-TEST_F(Selection, UndoAndRedoFollowThePosition)
-{
-    const auto at = [&](std::int32_t position, std::int32_t newest) {
-        canvas->mUndoRedoIndex = position, canvas->mUndoIndex = newest;
-        return std::pair(canvas->validateMenuItem("undo:"), canvas->validateMenuItem("redo:"));
-    };
-    EXPECT_EQ(at(-1, -1), std::pair(false, false));
-    EXPECT_EQ(at(0, 0), std::pair(false, false));
-    EXPECT_EQ(at(1, 1), std::pair(true, false));
-    EXPECT_EQ(at(0, 2), std::pair(false, true));
-    EXPECT_EQ(at(1, 2), std::pair(true, true));
-}
-
-TEST_F(Selection, AnImageOf24MegapixelsIsInverted)
+TEST_F(SelectionCommands, AnImageOf24MegapixelsIsInverted)
 {
     makeImage(6000, 4000);
-    canvas->mSelectionPath = BezierPath::withOvalInRect(makeRect(300, 200, 5000, 3500));
-    canvas->selectInverse();
+    select(BezierPath::withOvalInRect(makeRect(300, 200, 5000, 3500)));
+    perform("selectInverse:");
     EXPECT_EQ(mask(0, 0), 0);
     EXPECT_EQ(mask(2800, 1950), 255);
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(0, 0, 6000, 4000));
+    EXPECT_EQ(outlineBounds(), makeRect(0, 0, 6000, 4000));
     makeImage(10, 10);
+}
+
+TEST_F(SelectionCommands, TintMarksWhatIsNotSelected)
+{
+    fillImage(word(100, 50, 60, 70));
+    select(makeRect(0, 0, 20, 30));
+    perform("selectionPathToMask");
+    perform("makeSelection");
+    EXPECT_EQ(pixel(5, 5), word(100, 50, 60, 70));
+    EXPECT_EQ(pixel(25, 5), word(76, 109, 82, 70)); // 75.7, 108.5, 81.6
+}
+
+TEST_F(SelectionCommands, NudgeMovesTheOutlineAndTheRecord)
+{
+    performNumbers("nudge", {5, 5}); // nothing to move
+    EXPECT_FALSE(outline());
+    select(makeRect(10, 10, 8, 8));
+    renderMask();
+    lift();
+    performNumbers("nudge", {-2, 3});
+    EXPECT_EQ(outlineBounds(), makeRect(8, 13, 8, 8));
+    EXPECT_EQ(record().position, (Point{12, 17}));
+    EXPECT_TRUE(floating()->isChanged());
+    renderMask();
+    EXPECT_EQ(countMask(0), 64u) << "only where it is now";
+    EXPECT_EQ(mask(8, 20), 0);
+}
+
+TEST_F(SelectionCommands, StrokeAndFillPaintTheSelectionAndBeepWithoutOne)
+{
+    fillImage(kWhiteWord);
+    EXPECT_FALSE(perform("stroke:"));
+    EXPECT_FALSE(perform("fill:"));
+    EXPECT_THAT(takeSounds(), ElementsAre("beep", "beep"));
+    expectNumbers(0, 0);
+    document->setPaintColor({1, 0, 0, 1});
+    BezierPath ring = BezierPath::withRect(makeRect(2, 2, 26, 26));
+    ring.appendRect(makeRect(8, 8, 14, 14));
+    select(ring);
+    perform("fill:");
+    settle();
+    EXPECT_EQ(pixel(5, 15), kRedWord);
+    EXPECT_EQ(pixel(15, 15), kWhiteWord); // the hole stays open
+    EXPECT_EQ(outline()->windingRule(), WindingRule::EvenOdd);
+    expectNumbers(1, 1);
+}
+
+TEST_F(SelectionCommands, StrokeGivesTheOutlineItsLookBack)
+{
+    fillImage(kWhiteWord);
+    document->setZoom(2);
+    document->setPaintColor({1, 0, 0, 1});
+    document->setBrushSize(1);
+    BezierPath box = BezierPath::withRect(makeRect(10.5f, 10.5f, 20, 15));
+    box.setLineWidth(2.75f);
+    select(box);
+    edit([](Edit& e) { e.selection().advanceAnts(), e.selection().advanceAnts(); });
+    ASSERT_EQ(selection().phase(), 5);
+    perform("stroke:");
+    settle();
+    EXPECT_EQ(pixel(20, 10), kRedWord);
+    EXPECT_EQ(pixel(20, 20), kWhiteWord);
+    EXPECT_EQ(outline()->lineWidth(), 2);
+    EXPECT_EQ(outline()->lineDash(), (std::vector<float>{2.5f, 2.5f}));
+    EXPECT_EQ(outline()->dashPhase(), 2.5f);
 }

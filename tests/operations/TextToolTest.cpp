@@ -16,14 +16,13 @@ protected:
     void SetUp() override
     {
         ToolTest::SetUp();
-        if (textToolHooks()) mBefore = *textToolHooks();
         TextToolHooks hooks;
         hooks.setFontSize = [this](int size) { fontSize = size; };
         hooks.showWindow = [this] { calls += "show "; };
         hooks.run = [this] {
             calls += "run ";
-            canvas->textEditorNotif();
-            preview = canvas->mSelectionPath;
+            textEditorNotif(*document);
+            if (outline()) preview = *outline();
         };
         // A letter of the test: a box that stands on its base line, y upwards.
         hooks.textPathAtPoint = [](Point p) { return BezierPath::withRect(makeRect(p.x, p.y, 8, 12)); };
@@ -31,39 +30,37 @@ protected:
         setTextToolHooks(hooks);
         NotificationCenter::defaultCenter().addObserver(
             this, "FontSizeNotif", [this](const Notification& note) { posted = note.userInfo.at("fontSize"); });
-        canvas->setTool(8);
+        choose(Tool::Text);
     }
     void TearDown() override
     {
         NotificationCenter::defaultCenter().removeObserver(this);
-        setTextToolHooks(mBefore);
-        ToolTest::TearDown();
+        // Hooks cannot be taken away again: those left behind do nothing.
+        setTextToolHooks({[](int) {}, [] {}, [] {}, [](Point) { return std::nullopt; }, [] { return false; }});
     }
     int fontSize = 0;
     bool valid = true;
     std::string calls, posted;
     std::optional<BezierPath> preview;
-
-private:
-    TextToolHooks mBefore;
 };
 
 TEST_F(TextTool, PutsTheTextUprightAtThePressAndPreviewsIt)
 {
-    canvas->mSize = 12.6f;
-    canvas->mPasteIntoSelectionPath = BezierPath::withRect(makeRect(0, 0, 5, 5));
+    document->setBrushSize(12.6f);
+    select(makeRect(0, 0, 5, 5));
+    placePiece(makeRect(1, 1, 2, 2), true);
     press(50, 40);
     EXPECT_EQ(calls, "show run ");
     EXPECT_EQ(fontSize, 13);
     EXPECT_EQ(posted, "13");
     ASSERT_TRUE(preview);
     EXPECT_EQ(preview->bounds(), makeRect(50, 28, 8, 12)); // above the base line, where y grows downwards
-    ASSERT_TRUE(canvas->mSelectionPath);
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(50, 28, 8, 12));
-    EXPECT_FALSE(canvas->mPasteIntoSelectionPath);
+    EXPECT_EQ(outlineBounds(), makeRect(50, 28, 8, 12));
+    EXPECT_FALSE(selection().pasteInto());
+    EXPECT_FALSE(floating());
     release(50, 40);
-    EXPECT_EQ(canvas->mIsMouseDown, 0);
-    EXPECT_TRUE(canvas->mSelectionTimer);
+    EXPECT_FALSE(gesture().isMouseDown());
+    EXPECT_TRUE(selection().antsMarch());
 }
 
 TEST_F(TextTool, CancelLeavesNoSelection)
@@ -72,7 +69,7 @@ TEST_F(TextTool, CancelLeavesNoSelection)
     press(50, 40);
     release(50, 40);
     EXPECT_TRUE(preview);
-    EXPECT_FALSE(canvas->mSelectionPath);
+    EXPECT_FALSE(outline());
 }
 
 TEST_F(TextTool, PressInsideTheTextMovesItInsteadOfOpeningTheEditor)
@@ -84,13 +81,13 @@ TEST_F(TextTool, PressInsideTheTextMovesItInsteadOfOpeningTheEditor)
     drag(63, 45);
     release(63, 45);
     EXPECT_EQ(calls, "");
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(60, 38, 8, 12));
+    EXPECT_EQ(outlineBounds(), makeRect(60, 38, 8, 12));
 }
 
 TEST_F(TextTool, AReleaseThatTheEditorSwallowedIsMadeUpFor)
 {
     press(50, 40); // the platform's button is up when the editor closes, and no release comes
-    EXPECT_EQ(canvas->mIsMouseDown, 0);
+    EXPECT_FALSE(gesture().isMouseDown());
 }
 
 } // namespace

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// A canvas with an image and an empty folder of saved selections.
+/// A document with an image and an empty folder of saved selections.
 #pragma once
 #include "base/Folders.h"
-#include "desktop/Sounds.h"
 #include "selection/SelectionFile.h"
-#include "support/CanvasFixture.h"
+#include "support/DocumentFixture.h"
 
 namespace zp::test
 {
 
-class SavedSelectionsTest : public CanvasTest
+class SavedSelectionsTest : public DocumentTest
 {
 protected:
     void SetUp() override
@@ -18,13 +17,8 @@ protected:
         makeImage(40, 30);
         takeSounds();
     }
-    void TearDown() override { settle(); }
 
     static std::string folder() { return applicationSupportFolder() + "/Selections"; }
-    void selectRect(float x, float y, float w, float h)
-    {
-        canvas->mSelectionPath = BezierPath::withRect(makeRect(x, y, w, h));
-    }
     static void put(const std::string& name, const std::string& text)
     {
         createFolder(folder());

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The brush: capture and drawing threads, from mouse event to painted pixels.
 #include "support/ToolFixture.h"
-#include "tools/PointerFeed.h"
-#include <QImage>
-#include <cmath>
 #include <cstring>
 #include <random>
 
@@ -16,42 +13,44 @@ using namespace zp::test;
 class Stroke : public ToolTest
 {
 protected:
+    using ToolTest::ToolTest;
+
     void SetUp() override
     {
         ToolTest::SetUp();
-        canvas->setTool(3);
-        canvas->mColor = {1, 0, 0, 1};
-        canvas->setBrushSize(20);
+        choose(Tool::Brush);
+        document->setPaintColor({1, 0, 0, 1});
+        document->setBrushSize(20);
     }
-    bool painted(int x, int y) const { return word(x, y) != kWhiteWord; }
+    const BrushStroke& stroke() const { return gesture().stroke(); }
+    bool painted(int x, int y) const { return pixel(x, y) != kWhiteWord; }
     bool anythingPainted() const
     {
-        return countWords(kWhiteWord) !=
-               std::size_t(canvas->bounds().size.width) * std::size_t(canvas->bounds().size.height);
+        return countPixels(kWhiteWord) != std::size_t(picture().width()) * std::size_t(picture().height());
     }
     void waitForPoints(std::uint32_t count)
     {
         QElapsedTimer clock;
         clock.start();
-        while (canvas->_ptIndex < count && clock.elapsed() < 5000) QThread::usleep(100);
-        ASSERT_GE(canvas->_ptIndex, count);
+        while (stroke().pointCount() < count && clock.elapsed() < 5000) QThread::usleep(100);
+        ASSERT_GE(stroke().pointCount(), count);
     }
 };
 
 TEST_F(Stroke, PaintsAlongTheDragAndTakesOneSnapshot)
 {
-    const int before = canvas->mUndoIndex;
+    const int before = history().newest();
     press(20, 50);
-    EXPECT_EQ(canvas->mDrawFinishedFlag, 0);
+    EXPECT_FALSE(stroke().isDrawn());
     for (int x = 25; x <= 180; x += 5) drag(float(x), 50);
     release(180, 50);
     settle();
-    EXPECT_EQ(canvas->mDrawFinishedFlag, 1);
-    EXPECT_EQ(canvas->mUndoIndex, before + 1);
+    EXPECT_TRUE(stroke().isDrawn());
+    EXPECT_EQ(history().newest(), before + 1);
     for (int x = 20; x <= 175; ++x) EXPECT_TRUE(painted(x, 50)) << x;
     EXPECT_FALSE(painted(100, 35));
     EXPECT_FALSE(painted(100, 65));
-    const std::vector<std::string> lines = takeLogLines();
+    const Lines lines = takeLogLines();
     EXPECT_TRUE(has(lines, "w=20 h=20"));
     EXPECT_TRUE(has(lines, "pollThread         1"));
     EXPECT_TRUE(has(lines, "pollThread finish"));
@@ -61,7 +60,7 @@ TEST_F(Stroke, PaintsAlongTheDragAndTakesOneSnapshot)
 TEST_F(Stroke, KeepsEverySampleInOrderWithTheOriginAtTheBottom)
 {
     std::mt19937 random(5);
-    const StrokePoint unused = canvas->_ptArray[0];
+    const Point unused = stroke().pointAt(0);
     std::vector<Point> sent{{20, 50}};
     press(20, 50);
     for (int i = 0; i < 3000; ++i) {
@@ -72,24 +71,25 @@ TEST_F(Stroke, KeepsEverySampleInOrderWithTheOriginAtTheBottom)
     sent.push_back({33, 44});
     release(33, 44); // where the button goes up is a sample too
     settle();
-    ASSERT_EQ(canvas->_ptIndex, sent.size());
+    ASSERT_EQ(stroke().pointCount(), sent.size());
     for (std::size_t i = 0; i < sent.size(); ++i) {
-        ASSERT_EQ(canvas->_ptArray[i + 1].x, sent[i].x) << i;
-        ASSERT_EQ(canvas->_ptArray[i + 1].y, 100 - sent[i].y) << i;
+        ASSERT_EQ(stroke().pointAt(std::uint32_t(i) + 1).x, sent[i].x) << i;
+        ASSERT_EQ(stroke().pointAt(std::uint32_t(i) + 1).y, 100 - sent[i].y) << i;
     }
-    EXPECT_EQ(std::memcmp(&unused, canvas->_ptArray, sizeof unused), 0) << "the first slot is never written";
+    const Point first = stroke().pointAt(0);
+    EXPECT_EQ(std::memcmp(&unused, &first, sizeof unused), 0) << "the first slot is never written";
 }
 
 TEST_F(Stroke, PressAndReleaseWithoutMovementCapturesOnePointAndTakesASnapshot)
 {
-    const int before = canvas->mUndoIndex;
+    const int before = history().newest();
     press(50, 50);
     release(50, 50);
     settle();
-    EXPECT_EQ(canvas->_ptIndex, 1u);
+    EXPECT_EQ(stroke().pointCount(), 1u);
     EXPECT_FALSE(anythingPainted());
-    EXPECT_EQ(canvas->mUndoIndex, before + 1);
-    const std::vector<std::string> lines = takeLogLines();
+    EXPECT_EQ(history().newest(), before + 1);
+    const Lines lines = takeLogLines();
     EXPECT_TRUE(has(lines, "waiting... 0.05"));
     EXPECT_TRUE(has(lines, "waiting... 0.1"));
     EXPECT_TRUE(has(lines, "draw thread finish"));
@@ -102,9 +102,9 @@ TEST_F(Stroke, APointerThatStandsStillAddsNoPoints)
     for (int i = 0; i < 20; ++i) drag(60, 50);
     waitForPoints(2);
     QThread::msleep(250);
-    EXPECT_EQ(canvas->_ptIndex, 2u);
-    EXPECT_EQ(canvas->mDrawFinishedFlag, 0);
-    const std::vector<std::string> lines = takeLogLines();
+    EXPECT_EQ(stroke().pointCount(), 2u);
+    EXPECT_FALSE(stroke().isDrawn());
+    const Lines lines = takeLogLines();
     EXPECT_GE(std::count(lines.begin(), lines.end(), "waiting... 0.1"), 2);
     release(60, 50);
     settle();
@@ -113,14 +113,14 @@ TEST_F(Stroke, APointerThatStandsStillAddsNoPoints)
 TEST_F(Stroke, BrushesWhoseSpacingRoundsToZeroLeaveNoPaint)
 {
     for (const float size : {1.0f, 2.0f, 3.0f, 3.3f}) {
-        canvas->setBrushSize(size);
+        document->setBrushSize(size);
         press(10, 50);
         drag(150, 50);
         release(150, 50);
         settle();
         EXPECT_FALSE(anythingPainted()) << size;
     }
-    canvas->setBrushSize(3.4f);
+    document->setBrushSize(3.4f);
     press(10, 50);
     drag(150, 50);
     release(150, 50);
@@ -135,7 +135,7 @@ TEST_F(Stroke, StampsEveryFifteenPercentOfTheSizeAcrossSegments)
     drag(22, 50); // 3 pixels visited: the third is stamped, its corner at (22 - 10)
     release(22, 50);
     settle();
-    const BitmapView pixels = canvas->mBitmapRep->view();
+    const ConstBitmapView pixels = picture().pixels();
     int left = 200, right = -1;
     for (int x = 0; x < 200; ++x)
         if (pixels.row(50)[x] != kWhiteWord) left = std::min(left, x), right = std::max(right, x);
@@ -145,14 +145,14 @@ TEST_F(Stroke, StampsEveryFifteenPercentOfTheSizeAcrossSegments)
 
 TEST_F(Stroke, OpacityIsSeventyPercentOfTheColoursAlpha)
 {
-    canvas->mColor = {0, 0, 0, 0.5f};
+    document->setPaintColor({0, 0, 0, 0.5f});
     press(20, 50);
     drag(22, 50);
     release(22, 50);
     settle();
     // One stamp over white: 255 * (1 - 0.35) in the middle of the tip.
-    EXPECT_NEAR(int(word(22, 50) >> 8 & 0xFF), 166, 4);
-    EXPECT_EQ(word(22, 50) & 0xFF, 0xFFu);
+    EXPECT_NEAR(channelOf(pixel(22, 50), 1), 166, 4);
+    EXPECT_EQ(channelOf(pixel(22, 50), 0), 255);
 }
 
 TEST_F(Stroke, ASecondPressBeforeTheEndIsRefused)
@@ -160,16 +160,16 @@ TEST_F(Stroke, ASecondPressBeforeTheEndIsRefused)
     press(20, 50);
     drag(120, 50);
     release(120, 50);
-    ASSERT_EQ(canvas->mDrawFinishedFlag, 0); // the end has not come through the event loop yet
+    ASSERT_FALSE(stroke().isDrawn()); // the end has not come through the event loop yet
     takeSounds();
     press(20, 90);
-    EXPECT_EQ(takeSounds(), std::vector<std::string>{"beep"});
+    EXPECT_EQ(takeSounds(), Lines{"beep"});
     drag(120, 90);
     release(120, 90);
     settle();
     EXPECT_FALSE(painted(70, 90));
     EXPECT_TRUE(painted(70, 50));
-    EXPECT_EQ(canvas->mDrawFinishedFlag, 1);
+    EXPECT_TRUE(stroke().isDrawn());
 }
 
 TEST_F(Stroke, AnotherToolFinishesTheStrokeFirst)
@@ -177,10 +177,10 @@ TEST_F(Stroke, AnotherToolFinishesTheStrokeFirst)
     press(20, 50);
     drag(120, 50);
     release(120, 50);
-    ASSERT_EQ(canvas->mDrawFinishedFlag, 0);
-    canvas->setTool(7);
+    ASSERT_FALSE(stroke().isDrawn());
+    choose(Tool::Eyedropper);
     press(70, 50);
-    EXPECT_EQ(canvas->mDrawFinishedFlag, 1);
+    EXPECT_TRUE(stroke().isDrawn());
     release(70, 50);
     settle();
     EXPECT_TRUE(painted(110, 50));
@@ -191,34 +191,25 @@ TEST_F(Stroke, AToolChosenInMidStrokeEndsIt)
     press(20, 50);
     drag(100, 50);
     key(Qt::Key_5, "5");
-    EXPECT_EQ(canvas->mIsMouseDown, 0);
+    EXPECT_FALSE(gesture().isMouseDown());
     drag(100, 90);
     release(100, 90);
     settle();
     EXPECT_TRUE(painted(60, 50));
     EXPECT_FALSE(painted(100, 80));
-    EXPECT_EQ(canvas->mDrawFinishedFlag, 1);
+    EXPECT_TRUE(stroke().isDrawn());
 }
 
 TEST_F(Stroke, BuffersMayBeReplacedInMidStroke)
 {
     press(20, 50);
     drag(100, 50);
-    canvas->newImageForMeWithSize({64, 64});
-    EXPECT_EQ(canvas->mDrawFinishedFlag, 1);
+    performNumbers("newImageForMeWithSize:", {64, 64});
+    EXPECT_TRUE(stroke().isDrawn());
     drag(30, 30);
     release(30, 30);
     settle();
-    EXPECT_EQ(canvas->mBitmapRep->pixelsWide(), 64);
-}
-
-TEST_F(Stroke, TheCanvasMayGoInMidStroke)
-{
-    press(20, 50);
-    for (int i = 0; i < 100; ++i) drag(float(20 + i), 50);
-    canvas.reset();
-    QApplication::processEvents();
-    SUCCEED();
+    EXPECT_EQ(picture().width(), 64);
 }
 
 TEST_F(Stroke, GrowsTheUndoAreaAsGiven)
@@ -229,10 +220,10 @@ TEST_F(Stroke, GrowsTheUndoAreaAsGiven)
     release(130, 20);
     settle();
     // Margin 11 + 10; the first segment only brings its first point, (100, 40) from the bottom.
-    EXPECT_EQ(canvas->mUndoRect.left, 100 - 21);
-    EXPECT_EQ(canvas->mUndoRect.top, 40 - 21);
-    EXPECT_EQ(canvas->mUndoRect.right, 130 + 21);
-    EXPECT_EQ(canvas->mUndoRect.bottom, 80 + 21);
+    EXPECT_EQ(stroke().undoRect().left, 100 - 21);
+    EXPECT_EQ(stroke().undoRect().top, 40 - 21);
+    EXPECT_EQ(stroke().undoRect().right, 130 + 21);
+    EXPECT_EQ(stroke().undoRect().bottom, 80 + 21);
     EXPECT_TRUE(has(takeLogLines(), "takeSnapshot: mUndoRect: 79 19 121 61"));
 }
 
@@ -243,21 +234,20 @@ TEST_F(Stroke, TheUndoAreaNeverBeginsBelowZero)
     drag(7, 97);
     release(7, 97);
     settle();
-    EXPECT_EQ(canvas->mUndoRect.left, 0);
-    EXPECT_EQ(canvas->mUndoRect.top, 0);
+    EXPECT_EQ(stroke().undoRect().left, 0);
+    EXPECT_EQ(stroke().undoRect().top, 0);
 }
 
 TEST_F(Stroke, ControlTracesItsRefreshesInBlue)
 {
-    canvas->setBrushSize(3); // no stamps, only the trace
+    document->setBrushSize(3); // no stamps, only the trace
     hold(kControlKey);
     press(50, 50);
     drag(100, 50);
     for (int i = 0; i < 6; ++i) drag(float(101 + i), 50);
     release(106, 50);
     settle();
-    constexpr std::uint32_t kBlueWord = 0xFF0000FF;
-    EXPECT_GT(countWords(kBlueWord), 100u);
+    EXPECT_GT(countPixels(word(255, 0, 0, 255)), 100u);
 }
 
 TEST_F(Stroke, OptionStillShowsAllInTheEnd)
@@ -268,25 +258,6 @@ TEST_F(Stroke, OptionStillShowsAllInTheEnd)
     release(180, 50);
     settle();
     EXPECT_TRUE(painted(100, 50));
-}
-
-TEST_F(Stroke, TheFeedTakesHoverMovesWhenAReleaseWasRefused)
-{
-    press(20, 50);
-    drag(60, 50);
-    canvas->mUndoThreadRunning = true;
-    release(80, 50);
-    canvas->mUndoThreadRunning = false;
-    EXPECT_EQ(canvas->mIsMouseDown, 1);
-    move(100, 50);
-    waitForPoints(4);
-    press(100, 50);
-    EXPECT_TRUE(has(takeSounds(), "beep"));
-    release(100, 50);
-    settle();
-    EXPECT_EQ(canvas->mIsMouseDown, 0);
-    EXPECT_EQ(canvas->mDrawFinishedFlag, 1);
-    EXPECT_TRUE(painted(90, 50));
 }
 
 TEST_F(Stroke, StaysCleanUnderRedrawsAtSeveralZooms)
@@ -307,10 +278,64 @@ TEST_F(Stroke, StaysCleanUnderRedrawsAtSeveralZooms)
         release(50, 50);
         settle();
     }
-    const BitmapView pixels = canvas->mBitmapRep->view();
-    for (int y = 0; y < pixels.height; ++y)
-        for (int x = 0; x < pixels.width; ++x)
-            for (int c = 1; c < 4; ++c) ASSERT_LE(pixels.pixel(x, y)[c], pixels.pixel(x, y)[0]);
+    EXPECT_TRUE(isPremultiplied(picture().pixels()));
+}
+
+TEST_F(Stroke, TheDocumentMayGoInMidStroke)
+{
+    press(20, 50);
+    for (int i = 0; i < 100; ++i) drag(float(20 + i), 50);
+    const std::shared_ptr<const BitmapRep> bitmap = picture().bitmap();
+    canvas.reset();
+    document.reset();
+    QApplication::processEvents();
+    EXPECT_EQ(bitmap.use_count(), 1) << "nobody holds the picture any more";
+}
+
+TEST_F(Stroke, TheSelectionLetsThroughAsMuchAsItCovers)
+{
+    // Half of column 100 is selected.
+    select(makeRect(0, 0, 100.5f, 100));
+    document->setBrushSize(30);
+    gestureThrough({{60, 50}, {140, 50}});
+    settle();
+    const int free = 255 - channelOf(pixel(99, 50), 2), half = 255 - channelOf(pixel(100, 50), 2);
+    EXPECT_GT(free, 200) << "of red over white, green is what the paint takes away";
+    EXPECT_GT(half, free / 3);
+    EXPECT_LT(half, free);
+    for (int y = 0; y < 100; ++y)
+        for (int x = 101; x < 200; ++x) ASSERT_FALSE(painted(x, y)) << x << ", " << y;
+    EXPECT_TRUE(isPremultiplied(picture().pixels()));
+}
+
+/// A stroke that is soon full.
+class ShortStroke : public Stroke
+{
+protected:
+    static constexpr std::uint32_t kPoints = 50;
+    ShortStroke() : Stroke(kPoints) {}
+};
+
+TEST_F(ShortStroke, EndsWhenItIsFullThoughTheButtonIsStillDown)
+{
+    EXPECT_EQ(stroke().capacity(), kPoints);
+    press(20, 50);
+    for (int i = 1; i < 150; ++i) drag(float(20 + i), 50);
+    EXPECT_TRUE(eventually([this] { return stroke().isDrawn(); }));
+    EXPECT_EQ(stroke().pointCount(), kPoints);
+    settle();
+    expectNumbers(1, 1);
+    EXPECT_TRUE(painted(40, 50));
+    EXPECT_FALSE(painted(120, 50));
+    drag(190, 90);
+    release(190, 90);
+    settle();
+    expectNumbers(1, 1);
+    // And the next one is a whole stroke again.
+    gestureThrough({{150, 80}, {190, 80}});
+    settle();
+    EXPECT_TRUE(painted(170, 80));
+    expectNumbers(2, 2);
 }
 
 } // namespace
