@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Drags held still beyond the view's edge, with the pointer that the platform reports.
 #include "desktop/ScrollView.h"
-#include "operations/ToolActions.h"
 #include "support/ToolFixture.h"
 #include <QDialog>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 #include <QWindow>
 
 using namespace zp;
@@ -30,14 +29,13 @@ protected:
         view->setWidget(canvas.get());
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-        canvas->setTool(0);
+        choose(Tool::Rectangle);
     }
     void TearDown() override
     {
         if (QGuiApplication::mouseButtons() & Qt::LeftButton) release();
         settle();
         view->takeWidget();
-        ToolTest::TearDown();
     }
 
     /// Where the pointer is, in the view's own coordinates: 0 to 199, 0 to 149 are inside.
@@ -55,16 +53,19 @@ protected:
 
     int scrolledX() const { return view->horizontalScrollBar()->value(); }
     int scrolledY() const { return view->verticalScrollBar()->value(); }
+    /// Whether the drag is repeated on the spot, by what it tells the document in the time for several repetitions.
     bool isRepeating() const
     {
-        const QTimer* timer = toolState(*canvas).restTimer.get();
-        return timer && timer->isActive();
+        QSignalSpy moves(document.get(), &Document::pointerMoved);
+        QTest::qWait(150);
+        return moves.count() > 0;
     }
     /// The image point below the pointer now.
     Point below() const
     {
         const QPoint point = canvas->mapFrom(&window, hand);
-        return {float(point.x()) / canvas->effectiveZoom(), float(point.y()) / canvas->effectiveZoom()};
+        const float zoom = document->view().effectiveZoom();
+        return {float(point.x()) / zoom, float(point.y()) / zoom};
     }
     bool scrollsOnFrom(int from) const
     {
@@ -74,10 +75,9 @@ protected:
     void expectRest()
     {
         const int x = scrolledX(), y = scrolledY();
-        QTest::qWait(150);
+        EXPECT_FALSE(isRepeating());
         EXPECT_EQ(scrolledX(), x);
         EXPECT_EQ(scrolledY(), y);
-        EXPECT_FALSE(isRepeating());
     }
 
     QWidget window;
@@ -95,11 +95,10 @@ TEST_F(Autoscroll, AMarqueeHeldBeyondTheEdgeGrowsWithTheView)
     EXPECT_EQ(scrolledX() % 20, 0); // each repetition goes as far as the movement went
     EXPECT_EQ(scrolledY(), 0);
     // The view follows the corner and is one step ahead of it, as after a movement.
-    EXPECT_EQ(canvas->mPt2, (Point{below().x - 20, below().y}));
-    EXPECT_EQ(canvas->mPt1, (Point{10, 10}));
+    EXPECT_EQ(gesture().pt2(), (Point{below().x - 20, below().y}));
+    EXPECT_EQ(gesture().pt1(), (Point{10, 10}));
     release();
-    ASSERT_TRUE(canvas->mSelectionPath);
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(10, 10, below().x - 10, below().y - 10));
+    EXPECT_EQ(outlineBounds(), makeRect(10, 10, below().x - 10, below().y - 10));
 }
 
 TEST_F(Autoscroll, TheFartherThePointerTheFaster)
@@ -116,30 +115,29 @@ TEST_F(Autoscroll, TheFartherThePointerTheFaster)
 
 TEST_F(Autoscroll, AMovedSelectionGoesWithTheView)
 {
-    for (const int tool : {0, 1}) {
-        SCOPED_TRACE(tool);
+    for (const Tool tool : {Tool::Rectangle, Tool::Lasso}) {
+        SCOPED_TRACE(int(tool));
         view->horizontalScrollBar()->setValue(0);
-        canvas->setTool(tool);
+        choose(tool);
         select(makeRect(20, 20, 60, 40));
         press(30, 30);
         moveTo(229, 30);
         ASSERT_TRUE(scrollsOnFrom(scrolledX() + 90));
         release();
         // Held by the same place: the pointer's distance from the outline's corner never changed but for the last step.
-        EXPECT_NEAR(canvas->mSelectionPath->bounds().origin.x, below().x - 10, 30);
-        EXPECT_EQ(canvas->mSelectionPath->bounds().origin.y, 20);
-        EXPECT_GT(canvas->mSelectionPath->bounds().origin.x, 290);
+        EXPECT_NEAR(outlineBounds().origin.x, below().x - 10, 30);
+        EXPECT_EQ(outlineBounds().origin.y, 20);
+        EXPECT_GT(outlineBounds().origin.x, 290);
     }
 }
 
 TEST_F(Autoscroll, ALassoGrowsByOnePointAStep)
 {
-    canvas->setTool(1);
+    choose(Tool::Lasso);
     press(10, 10);
     moveTo(239, 80);
     ASSERT_TRUE(scrollsOnFrom(200));
-    const BezierPath& outline = *canvas->mSelectionPath;
-    EXPECT_EQ(outline.elementCount(), 1 + scrolledX() / 40);
+    EXPECT_EQ(outline()->elementCount(), 1 + scrolledX() / 40);
     release();
 }
 
@@ -150,7 +148,6 @@ TEST_F(Autoscroll, ReleaseStopsIt)
     ASSERT_TRUE(scrollsOnFrom(scrolledX()));
     EXPECT_TRUE(isRepeating());
     release();
-    EXPECT_FALSE(isRepeating());
     expectRest();
 }
 
@@ -160,9 +157,8 @@ TEST_F(Autoscroll, ComingBackStopsIt)
     moveTo(219, 100);
     ASSERT_TRUE(scrollsOnFrom(scrolledX()));
     moveTo(150, 100);
-    EXPECT_FALSE(isRepeating());
     expectRest();
-    EXPECT_EQ(canvas->mPt2, below());
+    EXPECT_EQ(gesture().pt2(), below());
     moveTo(-30, 100); // and out again at the other side
     const int from = scrolledX();
     EXPECT_TRUE(QTest::qWaitFor([&] { return scrolledX() < from - 50 || scrolledX() == 0; }, 20'000));
@@ -172,32 +168,32 @@ TEST_F(Autoscroll, ComingBackStopsIt)
 TEST_F(Autoscroll, TheEndOfThePictureStopsIt)
 {
     newImage(300, 150);
-    canvas->setTool(1);
+    choose(Tool::Lasso);
     press(10, 10);
     moveTo(289, 80);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !isRepeating(); }, 20'000));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return scrolledX() == 100 && !isRepeating(); }, 20'000));
     EXPECT_EQ(scrolledX(), 100); // to the last column
-    EXPECT_EQ(canvas->mPt2, below());
-    const std::ptrdiff_t elements = canvas->mSelectionPath->elementCount();
-    QTest::qWait(150);
-    EXPECT_EQ(canvas->mSelectionPath->elementCount(), elements); // not one point more on the spot
+    EXPECT_EQ(gesture().pt2(), below());
+    const int elements = outline()->elementCount();
+    EXPECT_FALSE(isRepeating());
+    EXPECT_EQ(outline()->elementCount(), elements); // not one point more on the spot
     release();
 }
 
 TEST_F(Autoscroll, WhereNothingCanScrollNothingIsRepeated)
 {
     newImage(100, 80);
-    canvas->setTool(1);
+    choose(Tool::Lasso);
     press(90, 70);
     moveTo(300, 100);
     EXPECT_FALSE(isRepeating());
-    EXPECT_EQ(canvas->mSelectionPath->elementCount(), 2);
+    EXPECT_EQ(outline()->elementCount(), 2);
     release();
 }
 
 TEST_F(Autoscroll, OtherToolsDoNotScroll)
 {
-    canvas->setTool(4);
+    choose(Tool::Pencil);
     press(10, 10);
     moveTo(219, 100);
     expectRest();
@@ -212,10 +208,9 @@ TEST_F(Autoscroll, AnotherToolInMidDragStopsIt)
     ASSERT_TRUE(scrollsOnFrom(scrolledX()));
     const int from = scrolledX();
     key(Qt::Key_4, "4");
-    EXPECT_NE(canvas->mTool, 0);
-    QTest::qWait(150);
-    EXPECT_EQ(scrolledX(), from);
+    EXPECT_EQ(gesture().tool(), Tool::Brush);
     EXPECT_FALSE(isRepeating());
+    EXPECT_EQ(scrolledX(), from);
     release();
 }
 
@@ -241,18 +236,19 @@ TEST_F(Autoscroll, AQuestionStopsIt)
     expectRest();
 }
 
-TEST_F(Autoscroll, ASnapshotBeingWrittenIsWaitedForInSilence)
+TEST_F(Autoscroll, AStepBeingWrittenIsWaitedForInSilence)
 {
     press(10, 10);
     moveTo(219, 100);
     ASSERT_TRUE(scrollsOnFrom(scrolledX()));
     takeSounds();
-    canvas->mUndoThreadRunning = 1;
-    const int from = scrolledX();
-    QTest::qWait(150);
-    EXPECT_EQ(scrolledX(), from);
+    int from = 0;
+    whileAStepIsWritten([&] {
+        from = scrolledX();
+        EXPECT_FALSE(isRepeating());
+        EXPECT_EQ(scrolledX(), from);
+    });
     EXPECT_TRUE(takeSounds().empty());
-    canvas->mUndoThreadRunning = 0;
     EXPECT_TRUE(scrollsOnFrom(from));
     release();
 }
@@ -272,7 +268,7 @@ TEST_F(Autoscroll, ItFollowsAtOtherZooms)
     press(10, 10);
     moveTo(219, 100);
     ASSERT_TRUE(scrollsOnFrom(scrolledX() + 60));
-    EXPECT_EQ(canvas->mPt2, (Point{below().x - 10, below().y}));
+    EXPECT_EQ(gesture().pt2(), (Point{below().x - 10, below().y}));
     release();
 }
 

@@ -1,19 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What the canvas shows: picture, grey behind it, zoom, marquee, ants, floating selection.
-#include "desktop/KeyModifiers.h"
-#include "support/CanvasFixture.h"
-#include <QComboBox>
+#include "support/ToolFixture.h"
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
 
 using namespace zp;
-using zp::test::word;
+using namespace zp::test;
 
-class Drawing : public zp::test::CanvasTest
+class Drawing : public ToolTest
 {
 protected:
-    ~Drawing() override { setScriptedKeyModifiers(std::nullopt); }
+    void SetUp() override {}
     QImage shown() { return canvas->grab().toImage().convertToFormat(QImage::Format_RGB32); }
 };
 
@@ -43,8 +41,8 @@ TEST_F(Drawing, TransparentPixelsShowGrey)
 TEST_F(Drawing, ZoomedInPixelsAreCrispSquares)
 {
     makeImage(4, 4);
-    fillImage(word(255, 0, 0, 0));
-    setPixel(1, 2, word(255, 255, 255, 255));
+    fillImage(kBlackWord);
+    setPixel(1, 2, kWhiteWord);
     canvas->setZoom(4);
     ASSERT_EQ(canvas->size(), QSize(16, 16));
     const QImage seen = shown();
@@ -56,57 +54,52 @@ TEST_F(Drawing, ZoomedInPixelsAreCrispSquares)
 TEST_F(Drawing, ZoomedOutPixelsAreAveraged)
 {
     makeImage(4, 4);
-    for (int y = 0; y < 4; ++y)
-        for (int x = 0; x < 4; ++x) setPixel(x, y, (x + y) % 2 ? word(255, 255, 255, 255) : word(255, 0, 0, 0));
+    paintImage([](int x, int y) { return (x + y) % 2 ? kWhiteWord : kBlackWord; });
     canvas->setZoom(0.5f);
     const QImage seen = shown();
     for (int y = 0; y < 2; ++y)
         for (int x = 0; x < 2; ++x) EXPECT_NEAR(qRed(seen.pixel(x, y)), 127, 1);
 }
 
-TEST_F(Drawing, TheZoomPopUpsTitleIsANumber)
+TEST_F(Drawing, TheZoomIsAskedForInPercent)
 {
     makeImage(10, 10);
-    QComboBox zooms;
-    for (const char* title : {"50%", "12.5 %", "200%", "100"}) zooms.addItem(title);
-    for (const auto& [index, zoom] : {std::pair{0, 0.5f}, {1, 0.125f}, {2, 2.0f}, {3, 1.0f}}) {
-        zooms.setCurrentIndex(index);
-        canvas->zoom(&zooms);
-        EXPECT_EQ(canvas->mZoom, zoom);
+    for (const auto& [percent, zoom] : {std::pair{50.0, 0.5f}, {12.5, 0.125f}, {0.0, 0.125f}, {200.0, 2.0f}}) {
+        canvas->zoom(percent);
+        EXPECT_EQ(document->view().zoom(), zoom);
     }
-    zooms.setCurrentIndex(2);
-    canvas->m2xRetina = true;
-    canvas->zoom(&zooms);
-    EXPECT_EQ(canvas->effectiveZoom(), 1.0f);
+    EXPECT_EQ(canvas->size(), QSize(20, 20));
+    document->setRetina(true);
+    EXPECT_EQ(document->view().effectiveZoom(), 1.0f);
     EXPECT_EQ(canvas->size(), QSize(10, 10));
 }
 
-TEST_F(Drawing, TheMarqueeGrowsFromTheDrag)
+TEST_F(Drawing, TheMarqueeFollowsPointerAndKeys)
 {
     makeImage(60, 60);
-    canvas->mIsMouseDown = 1;
-    canvas->mPt1 = {10, 10};
-    canvas->mPt2 = {4, 30};
+    press(10, 10);
+    drag(4, 30);
+    EXPECT_EQ(outlineBounds(), makeRect(4, 10, 6, 20));
+    EXPECT_EQ(outline()->lineWidth(), 1);
+    const std::uint64_t version = selection().version();
     shown();
-    ASSERT_TRUE(canvas->mSelectionPath);
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(4, 10, 6, 20));
-    EXPECT_EQ(canvas->mSelectionPath->lineWidth(), 1);
+    EXPECT_EQ(selection().version(), version) << "drawing changes nothing";
 
-    setScriptedKeyModifiers(kCommandKey);
-    shown();
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(4, 10, 6, 6));
+    hold(kCommandKey);
+    key(Qt::Key_Meta);
+    EXPECT_EQ(outlineBounds(), makeRect(4, 10, 6, 6));
 
-    setScriptedKeyModifiers(kControlKey);
-    shown();
-    EXPECT_EQ(canvas->mSelectionPath->elementCount(), 6) << "a move, four curves, a close";
-    canvas->mIsMouseDown = 0;
+    hold(kControlKey);
+    key(Qt::Key_Control);
+    EXPECT_EQ(outline()->elementCount(), 6) << "a move, four curves, a close";
+    release(4, 30);
 }
 
 TEST_F(Drawing, AntsAreFiveScreenPixelsLongAtEveryZoom)
 {
     makeImage(40, 40);
     fillImage(word(255, 90, 90, 90));
-    canvas->mSelectionPath = BezierPath::withRect(makeRect(10, 10, 20, 20));
+    select(makeRect(10, 10, 20, 20));
     const auto runs = [&](int row, int from, int to) {
         const QImage seen = shown();
         std::string text;
@@ -115,9 +108,11 @@ TEST_F(Drawing, AntsAreFiveScreenPixelsLongAtEveryZoom)
         return text;
     };
     EXPECT_EQ(runs(10, 10, 30), "#####ooooo#####ooooo");
-    canvas->mSelectionPhase = 2.5f;
+    edit([](Edit& e) { e.selection().advanceAnts(); });
     EXPECT_EQ(runs(10, 10, 30), "ooo#####ooooo#####oo");
-    canvas->mSelectionPhase = 0;
+    edit([](Edit& e) {
+        while (e.selection().phase() > 0) e.selection().advanceAnts();
+    });
     canvas->setZoom(2);
     EXPECT_EQ(runs(20, 20, 40), "#####ooooo#####ooooo");
 }
@@ -125,25 +120,19 @@ TEST_F(Drawing, AntsAreFiveScreenPixelsLongAtEveryZoom)
 TEST_F(Drawing, AFloatingSelectionShowsWhatAnchoringWillWrite)
 {
     makeImage(50, 40);
-    for (int y = 0; y < 40; ++y)
-        for (int x = 0; x < 50; ++x)
-            setPixel(x, y, word(255, std::uint8_t(x * 5), std::uint8_t(y * 6), std::uint8_t(x + y)));
-    canvas->mSelectionPath = BezierPath::withOvalInRect(makeRect(5, 6, 20, 17));
-    canvas->floatSelection();
-    const AffineTransform shift{1, 0, 0, 1, 13, 9};
-    canvas->mSelectionPath->transform(shift);
-    canvas->mTransformRecord.position = canvas->mTransformRecord.position + Point{13, 9};
-    const std::optional<BezierPath> outline = canvas->mSelectionPath;
-    // Without the ants over it: the dashes are not part of the picture.
+    paintImage([](int x, int y) { return word(255, x * 5, y * 6, x + y); });
+    select(BezierPath::withOvalInRect(makeRect(5, 6, 20, 17)));
+    lift();
+    performNumbers("nudge", {13, 9});
     const QImage floating = shown();
-    canvas->anchorSelection();
+    perform("anchorSelection");
     settle();
     const QImage anchored = shown();
     int compared = 0;
     for (int y = 0; y < 40; ++y)
         for (int x = 0; x < 50; ++x) {
             const QRgb f = floating.pixel(x, y);
-            if (f == 0xFF000000 || f == 0xFFFFFFFF) continue; // ants
+            if (f == 0xFF000000 || f == 0xFFFFFFFF) continue; // ants: the dashes are not part of the picture
             ASSERT_EQ(f, anchored.pixel(x, y)) << x << "," << y;
             ++compared;
         }
@@ -153,12 +142,13 @@ TEST_F(Drawing, AFloatingSelectionShowsWhatAnchoringWillWrite)
 TEST_F(Drawing, AZoomedOutFloatingSelectionReachesItsEdges)
 {
     makeImage(64, 64);
-    fillImage(word(255, 0, 0, 0));
-    canvas->mSelectionPath = BezierPath::withRect(makeRect(0, 0, 64, 64));
-    canvas->floatSelection();
+    fillImage(kBlackWord);
+    BezierPath all = BezierPath::withRect(makeRect(0, 0, 64, 64));
+    all.setLineWidth(1);
+    select(all);
+    lift();
     // The picture under it turns white; the floating copy stays black and must cover all of it.
-    fillImage(word(255, 255, 255, 255));
-    canvas->mSelectionPath->setLineWidth(1);
+    fillImage(kWhiteWord);
     for (const float zoom : {0.3f, 0.25f, 0.7f}) {
         canvas->setZoom(zoom);
         const QImage seen = shown();
@@ -174,9 +164,9 @@ TEST_F(Drawing, ATickOfTheAntsDirtiesTheOutlineNotItsInside)
     makeImage(1000, 1000);
     canvas->resize(1000, 1000);
     canvas->show();
-    ASSERT_TRUE(zp::test::eventually([&] { return canvas->isVisible(); }));
+    ASSERT_TRUE(eventually([this] { return canvas->isVisible(); }));
     QApplication::processEvents();
-    canvas->mSelectionPath = BezierPath::withRect(makeRect(100, 100, 800, 800));
+    select(makeRect(100, 100, 800, 800));
     QApplication::processEvents();
 
     struct Watch : QObject {
@@ -188,11 +178,42 @@ TEST_F(Drawing, ATickOfTheAntsDirtiesTheOutlineNotItsInside)
         }
     } watch;
     canvas->installEventFilter(&watch);
-    canvas->selectionTimerFired();
+    emit document->antsMoved();
     QApplication::processEvents();
     canvas->removeEventFilter(&watch);
     EXPECT_TRUE(watch.painted.contains(QPoint(100, 500)));
     EXPECT_TRUE(watch.painted.contains(QPoint(500, 899)));
     EXPECT_FALSE(watch.painted.contains(QPoint(500, 500)));
     canvas->hide();
+}
+
+TEST_F(Drawing, AStrokeIsShownBeforeItIsThereAsItWillBe)
+{
+    for (const Tool tool : {Tool::Pencil, Tool::Eraser}) {
+        SCOPED_TRACE(int(tool));
+        newImage(60, 40);
+        document->setPaintColor({1, 0, 0, 1});
+        document->setBrushSize(6.5f);
+        select(makeRect(10.5f, 5, 30, 30));
+        choose(tool);
+        press(5, 20);
+        drag(25, 12);
+        drag(55, 30);
+        const QImage before = shown();
+        EXPECT_EQ(countPixels(kWhiteWord), 2400u);
+        release(55, 30);
+        settle();
+        EXPECT_LT(countPixels(kWhiteWord), 2400u);
+        const QImage after = shown();
+        const auto isAnt = [](QRgb p) { return p == 0xFF000000; };
+        int compared = 0;
+        for (int y = 6; y < 34; ++y)
+            for (int x = 12; x < 39; ++x) { // inside the line of ants; the ring of the tool is beside them
+                if (isAnt(before.pixel(x, y)) || isAnt(after.pixel(x, y))) continue;
+                ASSERT_EQ(before.pixel(x, y), after.pixel(x, y)) << x << ", " << y;
+                ++compared;
+            }
+        EXPECT_GT(compared, 600);
+        dropSelection();
+    }
 }

@@ -287,7 +287,7 @@ TEST_F(SelectionTools, APolygonWithAddWaitsForReturnToBeCombined)
         release(60, 30);
         hold(0);
         ASSERT_TRUE(selection().parked());
-        for (const Point corner : {Point{80, 30}, {80, 60}, {30, 60}, {30, 30}}) {
+        for (const Point corner : {Point{80, 30}, {80, 60}, {30, 60}, {30, 30}, {60, 31}}) {
             press(corner.x, corner.y);
             release(corner.x, corner.y);
             ASSERT_TRUE(selection().parked()) << "the old outline waits";
