@@ -41,6 +41,8 @@ public:
     void prepare(const QString& action);
     /// Carries out the command of a menu item.
     void perform(const QString& action);
+    /// Whether the application carries the command out itself: it has no operation of its own.
+    bool carriesOut(const QString& action) const { return mShell.contains(action); }
 
     MainWindow& window() const { return *mWindow; }
     MainMenu& menu() const { return *mMenu; }

@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The dialogs that keep a selection under a name and bring one back.
 #include "app/SavedSelectionDialogs.h"
-#include "base/Folders.h"
 #include "desktop/Panels.h"
-#include "desktop/Sounds.h"
-#include "selection/SelectionFile.h"
-#include "support/CanvasFixture.h"
 #include "support/SavedSelectionFixture.h"
 #include <QComboBox>
 #include <QDialog>
@@ -65,7 +61,7 @@ protected:
 
 TEST_F(SavedSelectionDialogs, TheSaveDialogTakesTheNameAsTyped)
 {
-    selectRect(1, 2, 3, 4);
+    select(makeRect(1, 2, 3, 4));
     whileModal({[] { return dialog("SaveSelection") != nullptr; },
                 [] {
                     QDialog* d = dialog("SaveSelection");
@@ -87,7 +83,7 @@ TEST_F(SavedSelectionDialogs, TheSaveDialogTakesTheNameAsTyped)
                     button(d, "saveSelection_save:")->click();
                     return true;
                 }});
-    runSaveSelectionDialog(*canvas, nullptr);
+    runSaveSelectionDialog(*document, nullptr);
     EXPECT_THAT(contentsOfFolder(folder()), ElementsAre("sub"));
     EXPECT_THAT(contentsOfFolder(folder() + "/sub"), ElementsAre("Größe 1.txt"));
     EXPECT_THAT(takeSounds(), IsEmpty());
@@ -104,16 +100,16 @@ TEST_F(SavedSelectionDialogs, SavingWritesOverAndCancellingDoesNot)
                         return true;
                     }});
     };
-    selectRect(1, 1, 5, 6);
+    select(makeRect(1, 1, 5, 6));
     answer("saveSelection_cancel:");
-    runSaveSelectionDialog(*canvas, nullptr);
+    runSaveSelectionDialog(*document, nullptr);
     EXPECT_EQ(readWholeFile(folder() + "/name"), "old");
     answer("saveSelection_save:");
-    runSaveSelectionDialog(*canvas, nullptr);
+    runSaveSelectionDialog(*document, nullptr);
     EXPECT_EQ(readWholeFile(folder() + "/name"), rectText(1));
-    canvas->mSelectionPath.reset();
+    dropSelection();
     answer("saveSelection_save:");
-    runSaveSelectionDialog(*canvas, nullptr);
+    runSaveSelectionDialog(*document, nullptr);
     EXPECT_EQ(readWholeFile(folder() + "/name"), rectText(1));
     EXPECT_THAT(takeSounds(), ElementsAre("beep"));
 }
@@ -134,9 +130,8 @@ TEST_F(SavedSelectionDialogs, TheLoadDialogListsTheFolder)
                     button(d, "loadSelection_load:")->click();
                     return true;
                 }});
-    runLoadSelectionDialog(*canvas, nullptr);
-    ASSERT_TRUE(canvas->mSelectionPath);
-    EXPECT_EQ(canvas->mSelectionPath->bounds().origin.x, 2);
+    runLoadSelectionDialog(*document, nullptr);
+    EXPECT_EQ(outlineBounds(), makeRect(2, 1, 5, 6));
 }
 
 TEST_F(SavedSelectionDialogs, OnlyALeadingStoreEntryIsLeftOut)
@@ -151,15 +146,15 @@ TEST_F(SavedSelectionDialogs, OnlyALeadingStoreEntryIsLeftOut)
                     button(dialog("LoadSelection"), "loadSelection_cancel:")->click();
                     return true;
                 }});
-    selectRect(7, 7, 2, 2);
-    runLoadSelectionDialog(*canvas, nullptr);
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(7, 7, 2, 2)); // cancelled
+    select(makeRect(7, 7, 2, 2));
+    runLoadSelectionDialog(*document, nullptr);
+    EXPECT_EQ(outlineBounds(), makeRect(7, 7, 2, 2)); // cancelled
 }
 
 TEST_F(SavedSelectionDialogs, DeletingTheLastEntryLeavesTheDialogOpen)
 {
     put("only", rectText(1));
-    selectRect(7, 7, 2, 2);
+    select(makeRect(7, 7, 2, 2));
     whileModal({[] { return dialog("LoadSelection") != nullptr; },
                 [] {
                     QDialog* d = dialog("LoadSelection");
@@ -172,9 +167,55 @@ TEST_F(SavedSelectionDialogs, DeletingTheLastEntryLeavesTheDialogOpen)
                     button(d, "loadSelection_load:")->click(); // an empty title
                     return true;
                 }});
-    runLoadSelectionDialog(*canvas, nullptr);
+    runLoadSelectionDialog(*document, nullptr);
     EXPECT_THAT(takeSounds(), ElementsAre("beep"));
-    EXPECT_EQ(canvas->mSelectionPath->bounds(), makeRect(7, 7, 2, 2)); // as it was
+    EXPECT_EQ(outlineBounds(), makeRect(7, 7, 2, 2)); // as it was
+}
+
+TEST_F(SavedSelectionDialogs, AFolderWithContentIsDeletedOnlyAfterAQuestion)
+{
+    createFolder(folder() + "/full");
+    createFolder(folder() + "/void");
+    put("full/inner", rectText(1));
+    const auto popUp = [] { return dialog("LoadSelection")->findChild<QComboBox*>("mLoadSelection_PopUp"); };
+    const auto deletes = [popUp](int index) {
+        return [popUp, index] {
+            popUp()->setCurrentIndex(index);
+            QPushButton* press = button(dialog("LoadSelection"), "loadSelection_delete:");
+            press->click();
+            return true;
+        };
+    };
+    const auto asked = [] { return currentAlert().has_value(); };
+    whileModal({[] { return dialog("LoadSelection") != nullptr; }, deletes(0), asked,
+                [] {
+                    EXPECT_EQ(currentAlert()->title, "Do you wish to delete the folder with all that is in it?");
+                    EXPECT_EQ(currentAlert()->message, "full");
+                    EXPECT_EQ(currentAlert()->buttons, (QStringList{"Delete", "Cancel"}));
+                    return answerAlert("Cancel");
+                },
+                [] { return dialog("LoadSelection") != nullptr; },
+                [popUp] {
+                    EXPECT_EQ(popUp()->count(), 2);
+                    EXPECT_TRUE(fileExists(folder() + "/full/inner"));
+                    return true;
+                },
+                deletes(1), // holds nothing: no question
+                [popUp] {
+                    EXPECT_FALSE(currentAlert());
+                    EXPECT_EQ(popUp()->count(), 1);
+                    EXPECT_FALSE(fileExists(folder() + "/void"));
+                    return true;
+                },
+                deletes(0), asked, [] { return answerAlert("Delete"); },
+                [] { return dialog("LoadSelection") != nullptr; },
+                [popUp] {
+                    EXPECT_EQ(popUp()->count(), 0);
+                    EXPECT_FALSE(fileExists(folder() + "/full"));
+                    dialog("LoadSelection")->reject();
+                    return true;
+                }});
+    runLoadSelectionDialog(*document, nullptr);
 }
 
 TEST_F(SavedSelectionDialogs, ControlsExplainThemselves)
@@ -193,7 +234,7 @@ TEST_F(SavedSelectionDialogs, ControlsExplainThemselves)
                     }});
     };
     check("SaveSelection");
-    runSaveSelectionDialog(*canvas, nullptr);
+    runSaveSelectionDialog(*document, nullptr);
     check("LoadSelection");
-    runLoadSelectionDialog(*canvas, nullptr);
+    runLoadSelectionDialog(*document, nullptr);
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The transform and adjust dialogs: pairs by their tags, every change on the canvas, what closing them does.
+/// The transform and adjust dialogs: pairs by their tags, every change on the document, what closing them does.
 #include "app/TransformDialog.h"
 #include "app/AdjustDialog.h"
-#include "base/Log.h"
-#include "desktop/Sounds.h"
-#include "support/CanvasFixture.h"
+#include "support/DocumentFixture.h"
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
@@ -13,22 +11,22 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
-#include <algorithm>
 
 using namespace zp;
+using namespace zp::test;
 
 namespace
 {
 
-class Dialogs : public zp::test::CanvasTest
+class Dialogs : public DocumentTest
 {
 protected:
     void floatSquare()
     {
         makeImage(100, 100);
-        fillImage(zp::test::word(255, 200, 100, 50));
-        canvas->mSelectionPath = BezierPath::withRect(makeRect(30, 30, 40, 40));
-        canvas->floatSelection();
+        fillImage(word(255, 200, 100, 50));
+        select(makeRect(30, 30, 40, 40));
+        lift();
         takeSounds();
         takeLogLines();
     }
@@ -46,7 +44,7 @@ protected:
             worked = true;
             if (dialog->isVisible()) dialog->reject();
         });
-        run(*canvas, nullptr);
+        run(*document, nullptr);
         EXPECT_TRUE(worked);
     }
     template <class Work>
@@ -78,17 +76,17 @@ TEST_F(Dialogs, WithoutASelectionTheyBeep)
 {
     makeImage(20, 20);
     takeSounds();
-    runTransformDialog(*canvas, nullptr);
-    runAdjustDialog(*canvas, nullptr);
-    EXPECT_EQ(takeSounds(), (std::vector<std::string>{"beep", "beep"}));
+    runTransformDialog(*document, nullptr);
+    runAdjustDialog(*document, nullptr);
+    EXPECT_EQ(takeSounds(), (Lines{"beep", "beep"}));
 }
 
 TEST_F(Dialogs, TransformFloatsTheSelectionAndShowsItsValues)
 {
     makeImage(100, 100);
-    canvas->mSelectionPath = BezierPath::withRect(makeRect(30, 30, 40, 40));
+    select(makeRect(30, 30, 40, 40));
     inTransform([&](QDialog& d) {
-        EXPECT_FALSE(canvas->selectionImageNil());
+        EXPECT_TRUE(floating());
         EXPECT_EQ(field(d, "mTransform_Scale_Field").value(), 100);
         EXPECT_EQ(slider(d, "mTransform_Scale_Slider").value(), 100);
         EXPECT_EQ(field(d, "mTransform_Rotate_Field").value(), 0);
@@ -99,49 +97,55 @@ TEST_F(Dialogs, TransformFloatsTheSelectionAndShowsItsValues)
 TEST_F(Dialogs, TransformOfAScaledAndTurnedSelectionShowsBoth)
 {
     floatSquare();
-    canvas->transform_set(1.5f, 30);
+    performNumbers("transform_set:", {1.5, 30});
     inTransform([&](QDialog& d) {
         EXPECT_EQ(field(d, "mTransform_Scale_Field").value(), 150);
         EXPECT_EQ(slider(d, "mTransform_Scale_Slider").value(), 150);
         EXPECT_EQ(field(d, "mTransform_Rotate_Field").value(), 30);
         EXPECT_EQ(slider(d, "mTransform_Rotate_Slider").value(), 30);
     });
-    EXPECT_EQ(canvas->mTransformRecord.scale, 1.5f);
-    EXPECT_EQ(canvas->mTransformRecord.rotate, 30);
+    EXPECT_EQ(record().scale, 1.5f);
+    EXPECT_EQ(record().rotate, 30);
 }
 
-TEST_F(Dialogs, TransformPairsFollowEachOtherAndReachTheCanvas)
+TEST_F(Dialogs, TransformPairsFollowEachOtherAndReachTheDocument)
 {
     floatSquare();
     inTransform([&](QDialog& d) {
         takeLogLines();
         slider(d, "mTransform_Scale_Slider").setValue(250);
         EXPECT_EQ(field(d, "mTransform_Scale_Field").value(), 250);
-        EXPECT_EQ(canvas->mTransformRecord.scale, 2.5f);
+        EXPECT_EQ(record().scale, 2.5f);
         field(d, "mTransform_Rotate_Field").setValue(-45);
         EXPECT_EQ(slider(d, "mTransform_Rotate_Slider").value(), -45);
-        EXPECT_EQ(canvas->mTransformRecord.rotate, -45);
-        const std::vector<std::string> lines = takeLogLines();
+        EXPECT_EQ(record().rotate, -45);
+        const Lines lines = takeLogLines();
         EXPECT_EQ(std::ranges::count(lines, "rotate = 0.000000"), 1);
         EXPECT_EQ(std::ranges::count(lines, "rotate = -45.000000"), 1);
         button(d, "transform_reset:").click();
-        EXPECT_EQ(canvas->mTransformRecord.scale, 1);
-        EXPECT_EQ(canvas->mTransformRecord.rotate, 0);
+        EXPECT_EQ(record().scale, 1);
+        EXPECT_EQ(record().rotate, 0);
         EXPECT_EQ(slider(d, "mTransform_Scale_Slider").value(), 100);
         EXPECT_EQ(field(d, "mTransform_Rotate_Field").value(), 0);
     });
 }
 
-TEST_F(Dialogs, AScaleOfNothingIsPassedOnAndKeepsItsField)
+TEST_F(Dialogs, AScaleOfNothingBeepsAndTheFieldGoesBackToWhatHolds)
 {
     floatSquare();
     inTransform([&](QDialog& d) {
+        field(d, "mTransform_Rotate_Field").setValue(20);
+        takeSounds();
         field(d, "mTransform_Scale_Field").setValue(0);
-        EXPECT_EQ(field(d, "mTransform_Scale_Field").value(), 0);
-        EXPECT_EQ(slider(d, "mTransform_Scale_Slider").value(), 1);
+        EXPECT_EQ(takeSounds(), Lines{"beep"});
+        EXPECT_EQ(field(d, "mTransform_Scale_Field").value(), 100);
+        EXPECT_EQ(slider(d, "mTransform_Scale_Slider").value(), 100);
+        EXPECT_EQ(record().scale, 1);
+        EXPECT_EQ(record().rotate, 20);
         field(d, "mTransform_Scale_Field").setValue(80);
-        EXPECT_EQ(canvas->mTransformRecord.scale, 0.8f);
-        EXPECT_TRUE(std::isfinite(canvas->mSelectionPath->bounds().size.width));
+        EXPECT_EQ(record().scale, 0.8f);
+        EXPECT_TRUE(std::isfinite(outlineBounds().size.width));
+        EXPECT_TRUE(takeSounds().empty());
     });
 }
 
@@ -154,41 +158,27 @@ TEST_F(Dialogs, ApplyAndCancelKeepTheTransformShown)
             button(d, action).click();
             EXPECT_FALSE(d.isVisible());
         });
-        EXPECT_EQ(canvas->mTransformRecord.scale, 2) << action;
-        EXPECT_FALSE(canvas->mTransform);
-        canvas->selectNone();
+        EXPECT_EQ(record().scale, 2) << action;
+        EXPECT_FALSE(selection().isTransforming());
+        dropSelection();
     }
-}
-
-TEST_F(Dialogs, CancellingDoesNotEndAFreeTransform)
-{
-    floatSquare();
-    inTransform([&](QDialog& d) {
-        canvas->mTransform = true;
-        d.close();
-    });
-    EXPECT_TRUE(canvas->mTransform);
-    inTransform([&](QDialog& d) {
-        canvas->mTransform = true;
-        button(d, "transform_apply:").click();
-    });
-    EXPECT_FALSE(canvas->mTransform);
 }
 
 TEST_F(Dialogs, AdjustFloatsAndStartsNeutral)
 {
     makeImage(60, 60);
-    canvas->mSelectionPath = BezierPath::withRect(makeRect(10, 10, 20, 20));
-    canvas->mAdjustFilters = {1, 2, 3, 4, 5};
+    select(makeRect(10, 10, 20, 20));
     inAdjust([&](QDialog& d) {
-        ASSERT_FALSE(canvas->selectionImageNil());
-        EXPECT_TRUE(same(canvas->mAdjustFilters, {0, 100, 0, 100, 0}));
-        EXPECT_EQ(canvas->mSelectionImage->representations().size(), 2u);
+        ASSERT_TRUE(floating());
+        EXPECT_TRUE(same(floating()->filters(), {0, 100, 0, 100, 0}));
+        EXPECT_EQ(floating()->representations(), 2);
         EXPECT_EQ(field(d, "mAdjust_SaturationField").value(), 100);
     });
+    performNumbers("adjust_set:", {1, 2, 3, 4, 5});
+    inAdjust([&](QDialog&) { EXPECT_TRUE(same(floating()->filters(), {0, 100, 0, 100, 0})) << "and each time"; });
 }
 
-TEST_F(Dialogs, AdjustPairsFollowEachOtherAndReachTheCanvas)
+TEST_F(Dialogs, AdjustPairsFollowEachOtherAndReachTheDocument)
 {
     floatSquare();
     inAdjust([&](QDialog& d) {
@@ -199,9 +189,9 @@ TEST_F(Dialogs, AdjustPairsFollowEachOtherAndReachTheCanvas)
         slider(d, "mAdjust_BrightnessSlider").setValue(10);
         field(d, "mAdjust_ContrastField").setValue(333);
         slider(d, "mAdjust_SharpnessSlider").setValue(-120);
-        EXPECT_TRUE(same(canvas->mAdjustFilters, {-157, 140, 10, 333, -120}));
+        EXPECT_TRUE(same(floating()->filters(), {-157, 140, 10, 333, -120}));
         button(d, "adjust_reset:").click();
-        EXPECT_TRUE(same(canvas->mAdjustFilters, {0, 100, 0, 100, 0}));
+        EXPECT_TRUE(same(floating()->filters(), {0, 100, 0, 100, 0}));
         EXPECT_EQ(slider(d, "mAdjust_SharpnessSlider").value(), 0);
         EXPECT_EQ(field(d, "mAdjust_ContrastField").value(), 100);
     });
@@ -216,11 +206,11 @@ TEST_F(Dialogs, CancellingTheAdjustmentKeepsItLikeApplying)
             button(d, action).click();
             EXPECT_FALSE(d.isVisible());
         });
-        ASSERT_FALSE(canvas->selectionImageNil()) << action;
-        const std::uint8_t* p = canvas->mSelectionImage->drawn()->view().pixel(5, 5);
+        ASSERT_TRUE(floating()) << action;
+        const std::uint8_t* p = floating()->image().drawn()->view().pixel(5, 5);
         EXPECT_EQ(p[1], p[2]);
         EXPECT_EQ(p[2], p[3]);
-        canvas->selectNone();
+        dropSelection();
     }
 }
 
@@ -282,13 +272,13 @@ TEST_F(Dialogs, TheKeyboardReachesEverything)
         ASSERT_TRUE(QTest::qWaitForWindowActive(&d));
         slider(d, "mAdjust_HueSlider").setFocus();
         QTest::keyClick(&slider(d, "mAdjust_HueSlider"), Qt::Key_Right);
-        EXPECT_EQ(canvas->mAdjustFilters.hue, 1);
+        EXPECT_EQ(floating()->filters().hue, 1);
         QTest::keyClick(&slider(d, "mAdjust_HueSlider"), Qt::Key_Left);
         field(d, "mAdjust_ContrastField").setFocus();
         field(d, "mAdjust_ContrastField").selectAll();
         QTest::keyClicks(&field(d, "mAdjust_ContrastField"), "150");
         QTest::keyClick(&field(d, "mAdjust_ContrastField"), Qt::Key_Tab);
-        EXPECT_EQ(canvas->mAdjustFilters.contrast, 150);
+        EXPECT_EQ(floating()->filters().contrast, 150);
         QTest::keyClick(&d, Qt::Key_Escape);
         EXPECT_FALSE(d.isVisible());
     });

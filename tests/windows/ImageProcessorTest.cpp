@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The batch window by its fields and buttons, over a real canvas.
+/// The batch window by its fields and buttons, over a real document.
 #include "base/Folders.h"
 #include "base/NotificationCenter.h"
 #include "batch/Watermarks.h"
 #include "codecs/ImageImporter.h"
-#include "desktop/Panels.h"
-#include "desktop/Sounds.h"
-#include "support/CanvasFixture.h"
+#include "support/AlertWatch.h"
+#include "support/DocumentFixture.h"
+#include "support/Samples.h"
 #include "windows/ZPImageProcessor.h"
 #include <QCheckBox>
 #include <QComboBox>
@@ -16,17 +16,15 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTimer>
-#include <algorithm>
 #include <any>
 
 using namespace zp;
+using zp::test::sample;
 
 namespace
 {
 
-std::string picture(const std::string& name) { return std::string(ZP_TESTDATA) + "/images/" + name; }
-
-class ImageProcessor : public zp::test::CanvasTest
+class ImageProcessor : public zp::test::DocumentTest
 {
 protected:
     ImageProcessor()
@@ -47,7 +45,7 @@ protected:
     static std::string destination() { return temporaryFolder() + "/window destination"; }
     static void add(const std::string& original, const std::string& name)
     {
-        ASSERT_TRUE(copyItem(picture(original), source() + "/" + name));
+        ASSERT_TRUE(copyItem(sample(original), source() + "/" + name));
     }
     template <class T>
     T* control(const char* name) const
@@ -62,18 +60,10 @@ protected:
     /// Opens the window, does @p inside once it runs, answers alerts that come, and returns when it closed.
     std::vector<AlertState> show(const std::function<void()>& inside)
     {
-        std::vector<AlertState> alerts;
-        QTimer watch;
-        QObject::connect(&watch, &QTimer::timeout, [&] {
-            if (const auto alert = currentAlert()) {
-                alerts.push_back(*alert);
-                answerAlert(alert->buttons[0]);
-            }
-        });
-        watch.start(5);
+        zp::test::AlertWatch watch;
         QTimer::singleShot(0, [&] { inside(); });
         processor().showWindow();
-        return alerts;
+        return watch.seen;
     }
     void fillIn(const std::string& from, const std::string& to, bool tiff = false, bool jpeg = true, int fit = 0)
     {
@@ -156,7 +146,7 @@ TEST_F(ImageProcessor, AnEmptyRunIsSilent)
     EXPECT_FALSE(processor().window()->isVisible());
 }
 
-TEST_F(ImageProcessor, RunsThroughTheCanvas)
+TEST_F(ImageProcessor, RunsThroughTheDocument)
 {
     add("photos/tahoe-gps.jpg", "photo.jpg");
     add("made/valid/base.tif", "small.tiff");
@@ -171,7 +161,7 @@ TEST_F(ImageProcessor, RunsThroughTheCanvas)
     EXPECT_EQ(importImageFile(destination() + "/photo.jpg").bitmap->pixelsHigh(), 75);
     EXPECT_EQ(importImageFile(destination() + "/small.jpg").bitmap->pixelsHigh(), 56); // 64 x 36 enlarged, cut off
     EXPECT_EQ(count(takeSounds(), "Glass"), 1u);
-    EXPECT_FALSE(canvas->mDontTakeSnapshot);
+    EXPECT_FALSE(history().isSuppressed());
     settle();
 }
 
@@ -216,7 +206,7 @@ TEST_F(ImageProcessor, WatermarksAreOfferedAndStamped)
 {
     removeItem(watermarkFolder());
     createFolder(watermarkFolder());
-    ASSERT_TRUE(copyItem(picture("made/valid/base.tif"), watermarkFolder() + "/mark.tiff"));
+    ASSERT_TRUE(copyItem(sample("made/valid/base.tif"), watermarkFolder() + "/mark.tiff"));
     add("made/exif/orientation-1.tif", "a.tiff");
     show([&] {
         fillIn(source(), destination(), true, false);
@@ -231,7 +221,7 @@ TEST_F(ImageProcessor, WatermarksAreOfferedAndStamped)
         run();
     });
     const auto out = importImageFile(destination() + "/a.tiff").bitmap;
-    const auto mark = importImageFile(picture("made/valid/base.tif")).bitmap;
+    const auto mark = importImageFile(sample("made/valid/base.tif")).bitmap;
     ASSERT_TRUE(out);
     EXPECT_EQ(out->view().row(95)[0], mark->view().row(35)[0]); // lower left on lower left
     settle();
@@ -258,7 +248,7 @@ TEST_F(ImageProcessor, FolderPanelsFillInTheFields)
     setPanelsAutomated(true);
     const std::string odd = temporaryFolder() + "/\xFF odd";
     createFolder(odd);
-    ASSERT_TRUE(copyItem(picture("made/valid/base.jpg"), odd + "/a.jpg"));
+    ASSERT_TRUE(copyItem(sample("made/valid/base.jpg"), odd + "/a.jpg"));
     show([&] {
         fillIn("", destination());
         queuePanelChoice(std::nullopt);

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The smart fill window on a real canvas: buttons, progress, cancel, alerts, and edits while a fill runs.
-#include "base/Log.h"
+/// The smart fill window on a real document: buttons, progress, cancel, alerts, and edits while a fill runs.
 #include "base/NotificationCenter.h"
-#include "desktop/Panels.h"
-#include "desktop/Sounds.h"
-#include "support/CanvasFixture.h"
+#include "support/AlertWatch.h"
+#include "support/DocumentFixture.h"
 #include "windows/FineProgressBar.h"
 #include "windows/ZPSmartFill.h"
 #include <QCheckBox>
@@ -13,6 +11,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
+#include <functional>
 #include <mutex>
 #include <set>
 
@@ -21,12 +20,12 @@ using namespace zp;
 namespace
 {
 
-class SmartFillWindow : public test::CanvasTest
+class SmartFillWindow : public test::DocumentTest
 {
 protected:
     void SetUp() override
     {
-        ZPSmartFill::registerWithCanvas();
+        ZPSmartFill::registerCommand();
         mFill = ZPSmartFill::sharedSmartFill();
         mFill->setSeed(7);
         mFill->window()->hide();
@@ -43,7 +42,6 @@ protected:
     {
         waitForEnd();
         NotificationCenter::defaultCenter().removeObserver(this);
-        canvas->stopSelectionTimer();
     }
 
     template <class T>
@@ -68,17 +66,13 @@ protected:
         EXPECT_EQ(closeButton()->isEnabled(), !running);
     }
     /// Noise everywhere, a red hole, and the selection on it.
-    void makeScene(int width, int height, Rect selection)
+    void makeScene(int width, int height, Rect hole)
     {
         makeImage(width, height);
-        unsigned seed = 1;
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x) setPixel(x, y, (seed = seed * 1664525u + 1013904223u) | 0xFFu);
-        mHole = pixelBoxOf(selection, width, height);
-        for (int y = mHole.y0; y < mHole.y1; ++y)
-            for (int x = mHole.x0; x < mHole.x1; ++x) setPixel(x, y, kRed);
-        canvas->mSelectionPath = BezierPath{};
-        canvas->mSelectionPath->appendRect(selection);
+        paintNoise();
+        mHole = pixelBoxOf(hole, width, height);
+        if (!mHole.isEmpty()) fillBox(mHole, kRed);
+        select(hole);
     }
     int redPixels() const
     {
@@ -92,7 +86,7 @@ protected:
         ASSERT_TRUE(test::eventually([this] { return !mFill->isRunning(); }, 60'000));
     }
 
-    static constexpr std::uint32_t kRed = 0x0000FFFF;
+    static constexpr std::uint32_t kRed = test::kRedWord;
     ZPSmartFill* mFill = nullptr;
     PixelBox mHole;
     std::mutex mLock;
@@ -103,16 +97,15 @@ protected:
 TEST_F(SmartFillWindow, WithoutASelectionTheCommandBeepsAndOpensNothing)
 {
     makeImage(40, 40);
-    canvas->mSelectionPath.reset();
-    canvas->smartFill();
-    EXPECT_EQ(takeSounds(), std::vector<std::string>{"beep"});
+    perform("smartFill:");
+    EXPECT_EQ(takeSounds(), test::Lines{"beep"});
     EXPECT_FALSE(mFill->window()->isVisible());
 }
 
 TEST_F(SmartFillWindow, OpensReadyAndDoesNotStart)
 {
     makeScene(100, 80, makeRect(30, 30, 20, 20));
-    canvas->smartFill();
+    perform("smartFill:");
     EXPECT_TRUE(mFill->window()->isVisible());
     EXPECT_EQ(mFill->window()->objectName(), "SmartFill");
     EXPECT_EQ(bar()->value(), 0);
@@ -122,7 +115,7 @@ TEST_F(SmartFillWindow, OpensReadyAndDoesNotStart)
     EXPECT_EQ(runButton()->property("action").toString(), "run:");
     EXPECT_EQ(cancelButton()->property("action").toString(), "cancel:");
     EXPECT_EQ(closeButton()->property("action").toString(), "closeMe:");
-    // the mask the canvas keeps is the inverted one: 255 inside
+    // the mask the document keeps is the inverted one: 255 inside
     EXPECT_EQ(mask(35, 35), 255);
     EXPECT_EQ(mask(10, 10), 0);
     closeButton()->click();
@@ -143,20 +136,20 @@ TEST_F(SmartFillWindow, SliderAndFieldMirrorEachOther)
 TEST_F(SmartFillWindow, ARunFillsTheHoleClosesTheWindowAndTakesASnapshot)
 {
     makeScene(160, 120, makeRect(60, 40, 40, 40));
-    const std::int32_t before = canvas->mUndoIndex;
-    canvas->smartFill();
+    const int before = history().newest();
+    perform("smartFill:");
     runButton()->click();
     expectButtons(true);
-    EXPECT_TRUE(canvas->mSmartFillRunning);
+    EXPECT_TRUE(document->isComputing());
     waitForEnd();
     expectButtons(false);
-    EXPECT_FALSE(canvas->mSmartFillRunning);
+    EXPECT_FALSE(document->isComputing());
     EXPECT_FALSE(mFill->window()->isVisible());
     EXPECT_EQ(bar()->value(), 100);
     EXPECT_TRUE(time().endsWith(" sec"));
     EXPECT_EQ(redPixels(), 0);
     settle();
-    EXPECT_EQ(canvas->mUndoIndex, before + 1);
+    EXPECT_EQ(history().newest(), before + 1);
     const std::lock_guard lock(mLock);
     ASSERT_GE(mPosted.size(), 3u);
     EXPECT_EQ(mPosted.front(), 0.0f);
@@ -170,7 +163,7 @@ TEST_F(SmartFillWindow, TheFasterRunWritesBlocks)
 {
     makeScene(160, 120, makeRect(61, 41, 40, 40));
     faster()->setChecked(true);
-    canvas->smartFill();
+    perform("smartFill:");
     runButton()->click();
     waitForEnd();
     for (int y = 42; y < 80; ++y)
@@ -181,8 +174,8 @@ TEST_F(SmartFillWindow, TheFasterRunWritesBlocks)
 TEST_F(SmartFillWindow, ACancelledRunLeavesThePictureButTakesASnapshot)
 {
     makeScene(1800, 1400, makeRect(400, 300, 1000, 800)); // a run of seconds, so that it can be met at work
-    const std::int32_t before = canvas->mUndoIndex;
-    canvas->smartFill();
+    const int before = history().newest();
+    perform("smartFill:");
     runButton()->click();
     ASSERT_TRUE(test::eventually([this] { return bar()->percent() > 0; }));
     cancelButton()->click();
@@ -193,14 +186,14 @@ TEST_F(SmartFillWindow, ACancelledRunLeavesThePictureButTakesASnapshot)
     EXPECT_LT(bar()->percent(), 100);
     EXPECT_EQ(redPixels(), 800'000);
     settle();
-    EXPECT_EQ(canvas->mUndoIndex, before + 1);
-    EXPECT_FALSE(canvas->mSmartFillRunning);
+    EXPECT_EQ(history().newest(), before + 1);
+    EXPECT_FALSE(document->isComputing());
 }
 
 TEST_F(SmartFillWindow, RunMayFollowCancelAtOnce)
 {
     makeScene(300, 300, makeRect(100, 100, 100, 100));
-    canvas->smartFill();
+    perform("smartFill:");
     runButton()->click();
     cancelButton()->click();
     runButton()->click();
@@ -214,20 +207,12 @@ TEST_F(SmartFillWindow, WithoutASourceAnAlertSaysWhatToDo)
 {
     makeScene(80, 80, makeRect(20, 20, 40, 40));
     slider()->setValue(0);
-    canvas->smartFill();
-    std::optional<AlertState> seen;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&] {
-        if (const auto alert = currentAlert()) {
-            seen = alert;
-            answerAlert(alert->buttons.front());
-        }
-    });
-    poll.start(5);
+    perform("smartFill:");
+    const test::AlertWatch watch;
     runButton()->click();
-    ASSERT_TRUE(test::eventually([&] { return seen && !mFill->isRunning() && !currentAlert(); }));
-    EXPECT_EQ(seen->title, "There is nothing to fill from.");
-    EXPECT_EQ(seen->message, "Select a smaller area or raise the radius.");
+    ASSERT_TRUE(test::eventually([&] { return !watch.seen.empty() && !mFill->isRunning() && !currentAlert(); }));
+    EXPECT_EQ(watch.seen[0].title, "There is nothing to fill from.");
+    EXPECT_EQ(watch.seen[0].message, "Select a smaller area or raise the radius.");
     EXPECT_EQ(redPixels(), 1600);
     EXPECT_TRUE(mFill->window()->isVisible());
     expectButtons(false);
@@ -236,7 +221,7 @@ TEST_F(SmartFillWindow, WithoutASourceAnAlertSaysWhatToDo)
 TEST_F(SmartFillWindow, AnEmptyHoleLeavesTheWindowOpen)
 {
     makeScene(80, 80, makeRect(200, 200, 10, 10));
-    canvas->smartFill();
+    perform("smartFill:");
     runButton()->click();
     waitForEnd();
     EXPECT_TRUE(mFill->window()->isVisible());
@@ -248,7 +233,7 @@ TEST_F(SmartFillWindow, EditsDuringARunAreOverwrittenInsideTheWorkAreaOnly)
 {
     makeScene(500, 400, makeRect(150, 120, 200, 150));
     slider()->setValue(20);
-    canvas->smartFill();
+    perform("smartFill:");
     runButton()->click();
     const std::uint32_t inside = pixel(140, 110), outside = kRed ^ 0x00FF0000;
     setPixel(140, 110, outside); // in the work area, outside the selection
@@ -260,36 +245,58 @@ TEST_F(SmartFillWindow, EditsDuringARunAreOverwrittenInsideTheWorkAreaOnly)
     EXPECT_EQ(redPixels(), 0);
 }
 
-TEST_F(SmartFillWindow, AFillIsDroppedWhenThePictureIsReplacedMeanwhile)
+TEST_F(SmartFillWindow, AFillIsDroppedWithAWordWhenThePictureBecameAnotherMeanwhile)
 {
-    for (const int width : {500, 30}) {
+    struct Case {
+        const char* name;
+        std::function<void()> change;
+    };
+    for (const Case& c :
+         {Case{"another picture",
+               [this] {
+                   performNumbers("newImageWithSize:", {500, 400});
+               }},
+          Case{"another size",
+               [this] {
+                   performNumbers("setImageSize:scale:", {300, 400, 0});
+               }},
+          Case{"flipped", [this] { perform("flipH:"); }}, Case{"turned", [this] { perform("rotateCW:"); }},
+          Case{"cropped", [this] { perform("cropToSelection:"); }}, Case{"undone", [this] { perform("undo:"); }}}) {
+        SCOPED_TRACE(c.name);
         makeScene(500, 400, makeRect(150, 120, 200, 150));
-        canvas->smartFill();
+        perform("takeSnapshot");
+        settle();
+        perform("smartFill:");
         runButton()->click();
-        makeImage(width, 400); // another picture, of the same and of another size
-        fillImage(0xFFFFFFFF);
+        c.change();
+        ASSERT_TRUE(mFill->isRunning());
+        const auto pixels = allPixels();
+        const int newest = history().newest();
         waitForEnd();
-        for (int y = 0; y < 400; ++y)
-            for (int x = 0; x < width; ++x) ASSERT_EQ(pixel(x, y), 0xFFFFFFFF);
+        settle();
+        EXPECT_EQ(allPixels(), pixels);
+        EXPECT_EQ(history().newest(), newest) << "no step is recorded for it";
+        EXPECT_EQ(time(), "The picture changed meanwhile; the fill was dropped.");
+        EXPECT_FALSE(document->isComputing());
     }
 }
 
 TEST_F(SmartFillWindow, RunBeepsWhenThePictureWasReplacedBeforeIt)
 {
     makeScene(100, 80, makeRect(30, 30, 20, 20));
-    canvas->smartFill();
+    perform("smartFill:");
     makeImage(20, 20);
     takeSounds();
     runButton()->click();
     EXPECT_FALSE(mFill->isRunning());
-    EXPECT_EQ(takeSounds(), std::vector<std::string>{"beep"});
+    EXPECT_EQ(takeSounds(), test::Lines{"beep"});
 }
 
-TEST_F(SmartFillWindow, TheMaskIsTheOneOfTheCommandWhateverHappensToTheCanvassOwn)
+TEST_F(SmartFillWindow, TheMaskIsTheOneOfTheCommandWhateverHappensToTheDocumentsOwn)
 {
     makeScene(200, 150, makeRect(80, 60, 30, 30));
-    canvas->smartFill();
-    canvas->clearSelectionMask(); // 255 everywhere, which means "not selected" to everyone else
+    perform("smartFill:");
+    perform("clearSelectionMask"); // 255 everywhere, which means "not selected" to everyone else
     runButton()->click();
     waitForEnd();
     EXPECT_EQ(redPixels(), 0);
@@ -299,7 +306,7 @@ TEST_F(SmartFillWindow, TheMaskIsTheOneOfTheCommandWhateverHappensToTheCanvassOw
 TEST_F(SmartFillWindow, ProgressMovesAndCancelTakesEffectTenTimesASecond)
 {
     makeScene(3000, 2400, makeRect(750, 600, 1500, 1200)); // a run of seconds: far longer than is looked at
-    canvas->smartFill();
+    perform("smartFill:");
     runButton()->click();
     ASSERT_TRUE(test::eventually([this] { return bar()->percent() > 0; }));
     // Any half second of the run will do: the machine may be busy with something else for a while.

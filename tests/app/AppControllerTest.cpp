@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The commands that the application carries out itself, and the titles of the menu.
+#include "app/MainMenu.h"
+#include "app/ZPAppController.h"
+#include "base/Folders.h"
+#include "canvas/ZPCanvas.h"
+#include "document/Document.h"
+#include "support/AlertWatch.h"
+#include "support/Samples.h"
+#include <QAction>
+#include <QDesktopServices>
+#include <QTextBrowser>
+#include <QUrl>
+#include <gtest/gtest.h>
+
+using namespace zp;
+
+namespace
+{
+
+class AppController : public testing::Test
+{
+protected:
+    Document& document() { return application.document(); }
+    MainMenu& menu() { return application.menu(); }
+    void makeImage(int width, int height)
+    {
+        document().perform("newImageWithSize:", {{double(width), double(height)}, {}});
+        document().waitForWorkers();
+    }
+    ZPAppController application;
+};
+
+TEST_F(AppController, TheViewerIsAskedForImagesWithAFileOnly)
+{
+    QTextBrowser viewer; // any object with a slot for an address
+    QDesktopServices::setUrlHandler("file", &viewer, "setSource");
+    makeImage(10, 10);
+    EXPECT_EQ(menu().choose("openWithPreview:"), "disabled");
+    EXPECT_TRUE(viewer.source().isEmpty());
+    const std::string path = temporaryFolder() + "/viewed.png";
+    ASSERT_TRUE(copyItem(zp::test::sample("made/valid/base.png"), path));
+    document().perform("setImagePath:", {{}, path});
+    EXPECT_EQ(menu().choose("openWithPreview:"), "");
+    EXPECT_EQ(viewer.source().toLocalFile().toStdString(), path);
+    QDesktopServices::unsetUrlHandler("file");
+}
+
+TEST_F(AppController, RetinaFollowsTheMenuItemAndSaysSo)
+{
+    makeImage(20, 10);
+    document().setZoom(2);
+    QAction* const item = menu().item("retina:");
+    const zp::test::AlertWatch watch;
+    menu().choose("retina:");
+    EXPECT_TRUE(item->isChecked());
+    EXPECT_TRUE(document().view().isRetina());
+    EXPECT_EQ(application.canvas().size(), QSize(20, 10)) << "zoom 2, halved";
+    menu().choose("retina:");
+    EXPECT_FALSE(item->isChecked());
+    EXPECT_FALSE(document().view().isRetina());
+    EXPECT_EQ(application.canvas().size(), QSize(40, 20));
+    ASSERT_EQ(watch.seen.size(), 2u);
+    EXPECT_EQ(watch.seen[0].title, "You have enabled 2x retina display mode.");
+    EXPECT_EQ(watch.seen[1].title, "You have disabled 2x retina display mode.");
+    EXPECT_EQ(watch.seen[0].message, "");
+    EXPECT_EQ(watch.seen[0].buttons, QStringList{"OK"});
+}
+
+TEST_F(AppController, AnchorItemNamesWhatItWouldDo)
+{
+    QString title;
+    const auto allowed = [&] { return application.validateMenuItem("anchorSelection:", &title); };
+    makeImage(10, 10);
+    EXPECT_FALSE(allowed());
+    EXPECT_EQ(title, "Float Selection");
+    document().perform("selectAll:");
+    document().perform("floatSelection");
+    EXPECT_TRUE(allowed());
+    EXPECT_EQ(title, "Anchor Selection");
+    document().perform("anchorSelection:");
+    document().perform("selectAll:");
+    EXPECT_TRUE(allowed());
+    EXPECT_EQ(title, "Float Selection");
+}
+
+TEST_F(AppController, AnUnknownActionIsNoItem)
+{
+    EXPECT_EQ(menu().choose("somethingElse:"), "no such item");
+    EXPECT_FALSE(application.validateMenuItem("somethingElse:", nullptr));
+    EXPECT_FALSE(application.carriesOut("somethingElse:"));
+}
+
+TEST(RetinaFlag, IsTheWholeFile)
+{
+    const std::string path = resourcePath("2xRetina.txt");
+    const auto expectAtStart = [](bool on) {
+        const ZPAppController fresh;
+        EXPECT_EQ(fresh.document().view().isRetina(), on);
+        EXPECT_EQ(fresh.menu().item("retina:")->isChecked(), on);
+        EXPECT_EQ(fresh.document().view().effectiveZoom(), on ? 0.5f : 1.0f);
+    };
+    for (const auto& [contents, on] :
+         {std::pair<std::string, bool>{"YES", true}, {"YES\n", false}, {"NO", false}, {"", false}}) {
+        SCOPED_TRACE(contents);
+        ASSERT_TRUE(writeFileSafely(path, contents.data(), contents.size()));
+        expectAtStart(on);
+    }
+    removeItem(path);
+    expectAtStart(false);
+}
+
+} // namespace
