@@ -4,8 +4,11 @@
 #include "tools/PointerFeed.h"
 #include "tools/StrokeGeometry.h"
 #include "tools/TestPicture.h"
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <numeric>
 #include <random>
+#include <string>
 #include <thread>
 
 namespace
@@ -14,10 +17,32 @@ namespace
 using namespace zp;
 using namespace zp::test;
 
+/// Holds every line of these tests.
+constexpr PixelBox kEverywhere{-1'000'000, -1'000'000, 1'000'000, 1'000'000};
+
 std::vector<PixelPoint> line(PixelPoint a, PixelPoint b)
 {
     std::vector<PixelPoint> visited;
-    walkLine(a, b, [&](PixelPoint p) { visited.push_back(p); });
+    walkLine(
+        a, b, kEverywhere, [&](PixelPoint p) { visited.push_back(p); },
+        [](std::int64_t) { FAIL() << "nothing lies outside"; });
+    return visited;
+}
+
+/// The same walk pixel by pixel, with nothing left out.
+std::vector<PixelPoint> plainLine(PixelPoint a, PixelPoint b)
+{
+    const bool steep = std::abs(b.y - a.y) > std::abs(b.x - a.x);
+    if (steep) std::swap(a.x, a.y), std::swap(b.x, b.y);
+    if (a.x > b.x) std::swap(a, b);
+    const int length = b.x - a.x, rise = std::abs(b.y - a.y), step = a.y < b.y ? 1 : -1;
+    int error = length / 2;
+    std::vector<PixelPoint> visited;
+    for (int x = a.x, y = a.y; x <= b.x; ++x) {
+        visited.push_back(steep ? PixelPoint{y, x} : PixelPoint{x, y});
+        error -= rise;
+        if (error < 0) y += step, error += length;
+    }
     return visited;
 }
 
@@ -44,6 +69,77 @@ TEST(WalkLine, StaysWithinHalfAPixelOfTheLine)
             const double off = std::abs(double(p.x - a.x) * dy - double(p.y - a.y) * dx);
             ASSERT_LE(off, 0.5 * major + 1e-9 + (major ? 0.5 : 0)) << i;
         }
+    }
+}
+
+TEST(WalkLine, IsThePlainWalkWhereTheWindowIsAndCountsTheRest)
+{
+    std::mt19937 random(7);
+    const auto upTo = [&random](int n) { return int(random() % unsigned(n)); };
+    for (int i = 0; i < 20'000; ++i) {
+        const int reach = i % 3 == 0 ? 6 : i % 3 == 1 ? 60 : 400; // short lines have more special cases
+        const PixelPoint a{upTo(2 * reach) - reach, upTo(2 * reach) - reach},
+            b{upTo(2 * reach) - reach, upTo(2 * reach) - reach};
+        PixelBox window{upTo(2 * reach) - reach, upTo(2 * reach) - reach, 0, 0};
+        window.x1 = window.x0 + upTo(reach);
+        window.y1 = window.y0 + upTo(reach);
+        const bool steep = std::abs(b.y - a.y) > std::abs(b.x - a.x);
+        std::vector<PixelPoint> walked;
+        std::vector<std::int64_t> skipped;
+        walkLine(
+            a, b, window, [&](PixelPoint p) { walked.push_back(p); },
+            [&](std::int64_t count) {
+                EXPECT_GT(count, 0);
+                skipped.push_back(count);
+            });
+        std::vector<PixelPoint> inside;
+        std::int64_t outside = 0;
+        for (const PixelPoint p : plainLine(a, b)) {
+            const bool in = steep ? p.y >= window.y0 && p.y < window.y1 : p.x >= window.x0 && p.x < window.x1;
+            if (in)
+                inside.push_back(p);
+            else
+                ++outside;
+        }
+        ASSERT_EQ(walked, inside) << i << ": " << a.x << ", " << a.y << " to " << b.x << ", " << b.y;
+        ASSERT_EQ(std::accumulate(skipped.begin(), skipped.end(), std::int64_t{0}), outside) << i;
+        ASSERT_LE(skipped.size(), 2u);
+    }
+}
+
+TEST(WalkLine, TellsWhatItSkipsBeforeAndBehindInItsPlace)
+{
+    std::string order;
+    walkLine(
+        {0, 0}, {9, 3}, {4, 0, 6, 10}, [&order](PixelPoint p) { order += std::to_string(p.x) + ' '; },
+        [&order](std::int64_t count) { order += '(' + std::to_string(count) + ") "; });
+    EXPECT_EQ(order, "(4) 4 5 (4) ");
+}
+
+TEST(WalkLine, TakesNoTimeForWhatLiesFarAway)
+{
+    // As far as a stroke's samples can lie: walked pixel by pixel each of these would take seconds.
+    constexpr int kFar = 1'000'000'000;
+    for (const auto& [a, b] : {std::pair{PixelPoint{-kFar, 20}, PixelPoint{kFar, 20}},
+                               {PixelPoint{-kFar, -kFar}, PixelPoint{kFar, kFar}},
+                               {PixelPoint{30, kFar}, PixelPoint{31, -kFar}},
+                               {PixelPoint{-kFar, -kFar + 40}, PixelPoint{kFar, kFar - 1}}}) {
+        const bool steep = std::abs(std::int64_t{b.y} - a.y) > std::abs(std::int64_t{b.x} - a.x);
+        std::int64_t visited = 0, skipped = 0;
+        int calls = 0;
+        walkLine(
+            a, b, {0, 0, 100, 100},
+            [&](PixelPoint p) {
+                ++visited;
+                const double t =
+                    steep ? (double(p.y) - a.y) / (double(b.y) - a.y) : (double(p.x) - a.x) / (double(b.x) - a.x);
+                const double on = steep ? a.x + t * (double(b.x) - a.x) : a.y + t * (double(b.y) - a.y);
+                EXPECT_NEAR(steep ? p.x : p.y, on, 0.51);
+            },
+            [&](std::int64_t count) { skipped += count, ++calls; });
+        EXPECT_EQ(visited, 100);
+        EXPECT_EQ(visited + skipped, 2LL * kFar + 1);
+        EXPECT_EQ(calls, 2);
     }
 }
 
