@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The canvas as a whole on 24 megapixels: redraws of a 1600 x 1000 view, opening until it can be drawn, dragging a
 /// floating selection.
+#include "app/CommandTable.h"
 #include "canvas/ZPCanvas.h"
 #include "codecs/ImageEncoder.h"
 #include "desktop/ScrollView.h"
+#include "document/Document.h"
 #include <QApplication>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
-#include <cstring>
+#include <cmath>
 #include <fstream>
 #include <turbojpeg.h>
 
@@ -34,18 +36,22 @@ void paintPicture(BitmapView v)
         }
 }
 
+/// A change of the benchmark's own, as a command without a step makes it.
+constexpr Command kSetUp{.action = "benchmark", .effect = Effect::Paint};
+
 struct View {
+    Document document{commandTable()};
     ScrollView scroll;
-    ZPCanvas* canvas = new ZPCanvas;
+    ZPCanvas* canvas = new ZPCanvas(document);
     View()
     {
         scroll.setWidget(canvas);
         scroll.resize(1600, 1000);
         scroll.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         scroll.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        canvas->dontTakeSnapshot();
-        canvas->newImageForMeWithSize({kWidth, kHeight});
-        paintPicture(canvas->mBitmapRep->view());
+        document.perform("dontTakeSnapshot");
+        document.perform("newImageForMeWithSize:", {{kWidth, kHeight}, {}});
+        document.perform(kSetUp, [](Edit& edit) { paintPicture(edit.writeAll()); });
         scroll.show();
         QApplication::processEvents();
     }
@@ -71,35 +77,37 @@ BENCHMARK(BM_RedrawView)->Arg(25)->Arg(100)->Arg(400)->Unit(benchmark::kMillisec
 
 void BM_AntsTick(benchmark::State& state)
 {
-    ZPCanvas& canvas = *view().canvas;
-    canvas.setZoom(0.25f);
-    canvas.mSelectionPath = BezierPath::withOvalInRect(makeRect(500, 500, 5000, 3000));
+    Document& document = view().document;
+    view().canvas->setZoom(0.25f);
+    document.perform(kSetUp, [](Edit& edit) {
+        edit.selection().select(BezierPath::withOvalInRect(makeRect(500, 500, 5000, 3000)));
+        edit.selection().restAnts(); // the ticks are the benchmark's
+    });
     QApplication::processEvents();
     for (auto _ : state) {
-        canvas.selectionTimerFired();
+        emit document.antsMoved();
         QApplication::processEvents();
     }
-    canvas.mSelectionPath.reset();
+    document.perform(kSetUp, [](Edit& edit) { edit.selection().drop(); });
 }
 BENCHMARK(BM_AntsTick)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void BM_DragFloatingSixMegapixels(benchmark::State& state)
 {
-    ZPCanvas& canvas = *view().canvas;
-    canvas.setZoom(float(state.range(0)) / 100);
-    canvas.mSelectionPath = BezierPath::withRect(makeRect(1000, 500, 3000, 2000));
-    canvas.floatSelection();
+    Document& document = view().document;
+    view().canvas->setZoom(float(state.range(0)) / 100);
+    document.perform(kSetUp, [](Edit& edit) {
+        edit.selection().select(BezierPath::withRect(makeRect(1000, 500, 3000, 2000)));
+        edit.selection().lift(edit.picture());
+    });
     QApplication::processEvents();
-    AffineTransform step;
-    step.translate(3, 2);
+    double dx = 3, dy = 2;
     for (auto _ : state) {
-        canvas.mSelectionPath->transform(step);
-        canvas.mTransformRecord.position = canvas.mTransformRecord.position + Point{3, 2};
-        canvas.setNeedsDisplay();
+        document.perform("nudge", {{dx, dy}, {}});
         QApplication::processEvents();
-        if (canvas.mTransformRecord.position.x > 3500) step = AffineTransform{1, 0, 0, 1, -3, -2};
+        if (document.selection().record().position.x > 3500) dx = -3, dy = -2;
     }
-    canvas.selectNone();
+    document.perform(kSetUp, [](Edit& edit) { edit.selection().drop(); });
 }
 BENCHMARK(BM_DragFloatingSixMegapixels)
     ->Arg(25)
@@ -124,9 +132,9 @@ void BM_OpenJPEG(benchmark::State& state)
     const std::string path = folder.path().toStdString() + "/photo.jpg";
     std::ofstream(path, std::ios::binary)
         .write(reinterpret_cast<const char*>(jpegBytes().data()), std::streamsize(jpegBytes().size()));
-    ZPCanvas& canvas = *view().canvas;
-    for (auto _ : state) canvas.openIt(path);
-    state.counters["loaded"] = canvas.imageLoaded();
+    Document& document = view().document;
+    for (auto _ : state) document.perform("setImagePath:", {{}, path});
+    state.counters["loaded"] = document.picture().isLoaded();
 }
 BENCHMARK(BM_OpenJPEG)->Unit(benchmark::kMillisecond)->UseRealTime();
 
@@ -151,4 +159,5 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     delete view().canvas;
+    view().document.close();
 }

@@ -4,8 +4,9 @@
 /// A sample counts as shown when a redraw ends that began after the segment was painted and after its request for
 /// redisplay had reached the main thread. Its clock starts when it was due, so that time spent waiting for a busy main
 /// thread counts as well.
+#include "app/CommandTable.h"
 #include "canvas/ZPCanvas.h"
-#include "operations/ToolActions.h"
+#include "document/Document.h"
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScrollArea>
@@ -23,6 +24,7 @@ using Clock = std::chrono::steady_clock;
 class WatchedCanvas : public ZPCanvas
 {
 public:
+    using ZPCanvas::ZPCanvas;
     std::vector<Clock::time_point> shown; ///< per segment, when its redraw ended
 
     bool eventFilter(QObject*, QEvent* event) override
@@ -30,7 +32,7 @@ public:
         // What a worker asked for reaches the main thread by a socket notifier or a queued call: the requests of all
         // segments counted here are among those this event, or one before it, hands over.
         if (event->type() == QEvent::SockAct || event->type() == QEvent::MetaCall)
-            mRequested = zp::toolState(*this).segmentsDrawn.load(std::memory_order_acquire);
+            mRequested = document().gesture().stroke().segmentsDrawn();
         return false;
     }
 
@@ -63,23 +65,24 @@ std::vector<zp::Point> recordedStroke(int count, double rate)
 void strokeLatency(benchmark::State& state)
 {
     const double rate = double(state.range(0));
+    zp::Document document(zp::commandTable());
     QScrollArea view;
-    auto* canvas = new WatchedCanvas;
+    auto* canvas = new WatchedCanvas(document);
     view.setWidget(canvas);
     view.resize(1600, 1000);
     view.show();
     qApp->installEventFilter(canvas);
-    canvas->newImageForMeWithSize({6000, 4000});
+    document.perform("newImageForMeWithSize:", {{6000, 4000}, {}});
     const auto settle = [&] {
         do {
             QApplication::processEvents(QEventLoop::AllEvents, 5);
-        } while (canvas->anyWorkerRunning() || canvas->snapshotTimerPending());
+        } while (document.anyWorkerRunning() || document.firstStepPending());
         QApplication::processEvents();
     };
     settle();
-    canvas->setTool(3);
-    canvas->setBrushSize(200);
-    canvas->setPaintColor({0.8f, 0.1f, 0.2f, 1});
+    document.chooseTool(zp::Tool::Brush);
+    document.setBrushSize(200);
+    document.setPaintColor({0.8f, 0.1f, 0.2f, 1});
     const auto send = [&](QEvent::Type type, zp::Point p, Qt::MouseButton button, Qt::MouseButtons held) {
         QMouseEvent event(type, QPointF(p.x, p.y), QPointF(p.x, p.y), button, held, Qt::NoModifier);
         QApplication::sendEvent(canvas, &event);
