@@ -42,8 +42,7 @@ public:
     /// origin.
     void drawRect(QPainter& painter, const QRect& deviceRect, QPoint origin, double deviceScale);
 
-    // ---- zoom (ZPCanvas.cpp)
-    // -----------------------------------------------------------------------------------------
+    // ---- zoom (ZPCanvas.cpp) --------------------------------------------------------------------------------------
     /// As the zoom pop-up asks for it: @p percent as the title of its item says.
     void zoom(double percent);
     /// Zoom to a factor with the image point @p anchor staying where it is on screen; the middle of what is visible by
@@ -55,8 +54,7 @@ public:
     /// The view was scrolled: another point of the picture lies under a pointer that rests.
     void pictureMovedUnderPointer();
 
-    // ---- keys (ZPCanvas+Keyboard.cpp)
-    // ----------------------------------------------------------------------------------
+    // ---- keys (ZPCanvas+Keyboard.cpp) -----------------------------------------------------------------------------
     /// @param character the first character of the key's text, or the arrow code points 0xF700 to 0xF703
     void keyDown(char32_t character);
     void setTool(int index);

@@ -89,8 +89,7 @@ public:
     /// The outline of the marquee, from where the button was pressed to where the pointer is.
     void shapeMarquee();
 
-    // ---- looking and painting: nothing that a step records
-    // -------------------------------------------------------------
+    // ---- looking and painting: nothing that a step records --------------------------------------------------------
 
     void setZoom(float factor);
     void setRetina(bool on);
