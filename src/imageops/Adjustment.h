@@ -5,7 +5,6 @@
 #include "drawing/Filters.h"
 #include <cstdint>
 
-
 /// Five whole numbers as the adjust dialog shows them; the defaults are neutral.
 struct _ZPFilters {
     std::int32_t hue = 0, saturation = 100, brightness = 0, contrast = 100, sharpness = 0;
@@ -17,6 +16,5 @@ namespace zp
 /// The dialog's whole numbers as the filters take them: hue in hundredths of a radian, the colour controls in per cent,
 /// sharpness above zero as per cent of an unsharp mask's intensity, below zero as twentieths of a blur's radius.
 FilterSettings filterSettings(const _ZPFilters& filters);
-
 
 } // namespace zp
