@@ -13,6 +13,7 @@
 #include <optional>
 #include <string_view>
 #include <unistd.h>
+#include <utility>
 
 namespace zp
 {
@@ -29,18 +30,24 @@ Converts every .tiff and .jpg image of the folder SRC into the folder DST.
   --watermark FILE    lay FILE over each image: a path, or a name in the
                       watermark folder
   --at X,Y            where its lower left corner goes, Y upwards (0,0)
+  --place CORNER[+N]  instead: lower-left, lower-right, upper-left, upper-right
+                      or centre, in each image by its own size, N pixels away
+                      from the edges of its corner (0)
   --opacity P         in percent (100)
   --jobs N            images at a time (as many as there are processors)
   --shard K/N         only every N-th image by name, beginning with the K-th;
                       sources of one result go together
   --shard auto/N      the same; K comes from SLURM_ARRAY_TASK_ID (counted from
                       SLURM_ARRAY_TASK_MIN) or from JOB_COMPLETION_INDEX
+  --keep-damaged      write what can be read of a damaged source, which is a
+                      failure all the same
   --skip-existing     leave images alone whose results exist
   --dry-run           print what would be written, in order; write nothing
   --help              this text
 
 Exit status: 0 all done, 1 some images failed (a line each on standard error)
-or SRC cannot be listed, 2 wrong usage.
+or SRC cannot be listed, 2 wrong usage. A source that ends too early or can be
+read in part only is a failure.
 )";
 
 std::optional<int> number(std::string_view text)
@@ -63,6 +70,25 @@ std::optional<Pair> pairOf(std::string_view text, char separator)
     return Pair{*first, *second};
 }
 
+struct Placing {
+    WatermarkPlace place;
+    int margin = 0;
+};
+std::optional<Placing> placingOf(std::string_view text)
+{
+    static constexpr std::pair<std::string_view, WatermarkPlace> kNames[] = {
+        {"lower-left", WatermarkPlace::LowerLeft}, {"lower-right", WatermarkPlace::LowerRight},
+        {"upper-left", WatermarkPlace::UpperLeft}, {"upper-right", WatermarkPlace::UpperRight},
+        {"centre", WatermarkPlace::Center},        {"center", WatermarkPlace::Center},
+    };
+    const auto plus = text.find('+');
+    const auto margin = plus == std::string_view::npos ? std::optional(0) : number(text.substr(plus + 1));
+    if (!margin || *margin < 0 || *margin > kMaxPixelsPerSide) return std::nullopt;
+    for (const auto& [name, place] : kNames)
+        if (text.substr(0, plus) == name) return Placing{place, *margin};
+    return std::nullopt;
+}
+
 /// Takes one option that has a value. @return a sentence when the value makes no sense
 std::string takeValue(BatchCommandLine& line, const std::string& option, const std::string& value)
 {
@@ -81,6 +107,11 @@ std::string takeValue(BatchCommandLine& line, const std::string& option, const s
         const auto point = pairOf(value, ',');
         if (!point) return wrong;
         s.watermarkPoint = {float(point->first), float(point->second)};
+    } else if (option == "--place") {
+        const auto placing = placingOf(value);
+        if (!placing) return wrong;
+        s.watermarkPlace = placing->place;
+        s.watermarkMargin = placing->margin;
     } else if (option == "--opacity") {
         const auto percent = number(value);
         if (!percent || *percent < 0) return wrong;
@@ -99,7 +130,7 @@ std::string takeValue(BatchCommandLine& line, const std::string& option, const s
 
 bool hasValue(const std::string& option)
 {
-    for (const char* known : {"--fit", "--watermark", "--at", "--opacity", "--jobs", "--shard"})
+    for (const char* known : {"--fit", "--watermark", "--at", "--place", "--opacity", "--jobs", "--shard"})
         if (option == known) return true;
     return false;
 }
@@ -132,7 +163,7 @@ BatchCommandLine parseBatchCommandLine(int argc, char** argv)
 {
     BatchCommandLine line;
     std::vector<std::string> folders;
-    bool optionsEnded = false, jobsGiven = false;
+    bool optionsEnded = false, jobsGiven = false, pointGiven = false;
     for (int i = 2; i < argc; ++i) {
         std::string word = argv[i];
         if (optionsEnded || word.empty() || word[0] != '-') {
@@ -153,6 +184,7 @@ BatchCommandLine parseBatchCommandLine(int argc, char** argv)
             }
             if (!inOne) value = argv[i];
             jobsGiven |= word == "--jobs";
+            pointGiven |= word == "--at";
             if (line.error = takeValue(line, word, value); !line.error.empty()) return line;
         } else if (inOne) {
             line.error = "unknown option " + word;
@@ -161,6 +193,8 @@ BatchCommandLine parseBatchCommandLine(int argc, char** argv)
             line.settings.tiff = true;
         } else if (word == "--jpeg") {
             line.settings.jpeg = true;
+        } else if (word == "--keep-damaged") {
+            line.settings.keepDamaged = true;
         } else if (word == "--skip-existing") {
             line.settings.skipExisting = true;
         } else if (word == "--dry-run") {
@@ -183,6 +217,8 @@ BatchCommandLine parseBatchCommandLine(int argc, char** argv)
     if (folders.size() > 1) line.settings.destination = folders[1];
     line.error = batchFaultText(checkBatchFolders(line.settings.source, line.settings.destination));
     if (line.error.empty() && !line.settings.tiff && !line.settings.jpeg) line.error = "choose --tiff, --jpeg or both.";
+    if (line.error.empty() && pointGiven && line.settings.watermarkPlace != WatermarkPlace::Custom)
+        line.error = "--at and --place say the same thing twice.";
     if (!jobsGiven) line.settings.jobs = 0; // as many as the machine has processors
     return line;
 }

@@ -3,15 +3,9 @@
 #include "batch/BatchJob.h"
 #include "base/Folders.h"
 #include "base/WorkPool.h"
-#include "batch/BatchRules.h"
-#include "batch/WatermarkDrawing.h"
-#include "codecs/FileNames.h"
-#include "codecs/ImageEncoder.h"
-#include "codecs/ImageImporter.h"
-#include "drawing/Resample.h"
+#include "batch/BatchPicture.h"
 #include <algorithm>
 #include <atomic>
-#include <cmath>
 #include <fcntl.h>
 #include <map>
 #include <mutex>
@@ -21,28 +15,6 @@ namespace zp
 {
 namespace
 {
-
-/// How much larger than the result a reduced decode must be: the averaging that follows then hides that the decoder
-/// dropped frequencies instead of averaging pixels (checked against the full path in the tests: 40 dB and more).
-constexpr double kDecodeMargin = 1.9;
-
-/// Null when memory fails or the size is absurd.
-std::shared_ptr<BitmapRep> resized(const BitmapRep& image, int width, int height)
-{
-    auto out = BitmapRep::createUninitialized(width, height);
-    if (!out) return nullptr;
-    resample(image.view(), out->view());
-    out->properties = image.properties;
-    return out;
-}
-
-std::string writeResult(const std::vector<std::uint8_t>& bytes, const std::string& path)
-{
-    if (bytes.empty()) return "There is not enough memory to encode the image.";
-    std::string error;
-    if (writeFileSafely(path, bytes.data(), bytes.size(), &error)) return {};
-    return error.empty() ? "The result could not be written." : error;
-}
 
 bool resultsExist(const BatchSettings& settings, const std::string& name)
 {
@@ -97,52 +69,19 @@ std::vector<std::string> batchPlan(const BatchSettings& settings, const std::vec
 
 std::string processBatchImage(const BatchSettings& settings, const std::string& name, BatchResults& missing)
 {
-    const std::string entry = settings.source + "/" + name;
-    const std::string path = resolveAlias(entry).value_or(entry);
-    const bool fit = settings.fitWidth > 0 && settings.fitHeight > 0;
-    ImportOptions options;
-    Size target;
-    if (fit && settings.reducedDecoding) {
-        // The result's size follows from the file's own, so that a reduced decode changes no size by a rounding.
-        const PixelDimensions size = imageFileDimensions(path);
-        if (size.width > 0) {
-            target = wholePixels(fittedSize({float(size.width), float(size.height)}, float(settings.fitWidth),
-                                            float(settings.fitHeight)));
-            options.atLeastWidth = int(std::ceil(double(target.width) * kDecodeMargin));
-            options.atLeastHeight = int(std::ceil(double(target.height) * kDecodeMargin));
-        }
-    }
-    ImportedImage imported = importImageFile(path, options);
-    if (!imported.bitmap) return imported.error;
-    std::shared_ptr<BitmapRep> image = std::move(imported.bitmap);
-    image->properties.userComment = kEditedComment;
-    if (fit) {
-        if (target.width <= 0)
-            target = wholePixels(fittedSize({float(image->pixelsWide()), float(image->pixelsHigh())},
-                                            float(settings.fitWidth), float(settings.fitHeight)));
-        const int width = int(target.width), height = int(target.height);
-        if (width != image->pixelsWide() || height != image->pixelsHigh()) image = resized(*image, width, height);
-        if (!image) return "There is not enough memory for the resized image, or it would be too large.";
-    }
-    if (settings.watermark)
-        drawWatermark(image->view(), settings.watermark->view(), sizeInPoints(*settings.watermark),
-                      settings.watermarkPoint, settings.watermarkAlpha);
-
-    std::string tiffError, jpegError;
-    if (missing.tiff) {
-        tiffError =
-            writeResult(encodeTIFF(image->view(), image->properties), batchOutput(settings.destination, name, "tiff"));
-        missing.tiff = !tiffError.empty();
-    }
-    if (missing.jpeg) {
-        jpegError =
-            writeResult(encodeJPEG(image->view(), image->properties, {.factor = 0.7, .fallbackBackground = kWhite}),
-                        batchOutput(settings.destination, name, "jpg"));
-        missing.jpeg = !jpegError.empty();
-    }
-    if (tiffError.empty() || jpegError.empty() || tiffError == jpegError)
-        return tiffError.empty() ? jpegError : tiffError;
-    return tiffError + " " + jpegError;
+    BatchPicture picture(settings, name);
+    if (std::string why = picture.read(); !why.empty()) return why;
+    if (std::string why = picture.fit(); !why.empty()) return why;
+    picture.stamp();
+    std::string sentences = picture.damage();
+    const auto note = [&](const std::string& error, bool& isMissing) {
+        isMissing = !error.empty();
+        if (isMissing && sentences.find(error) == std::string::npos)
+            sentences += (sentences.empty() ? "" : " ") + error;
+    };
+    if (missing.tiff) note(picture.writeTIFF(), missing.tiff);
+    if (missing.jpeg) note(picture.writeJPEG(), missing.jpeg);
+    return sentences;
 }
 
 std::vector<BatchOutcome> runBatch(const BatchSettings& settings, const std::vector<std::string>& names,

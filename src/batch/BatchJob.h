@@ -3,6 +3,7 @@
 #pragma once
 #include "base/BitmapRep.h"
 #include "base/Geometry.h"
+#include "batch/BatchRules.h"
 #include "batch/BatchShard.h"
 #include <functional>
 #include <memory>
@@ -17,17 +18,22 @@ struct BatchSettings {
     int fitWidth = 0, fitHeight = 0; ///< the box in pixels; 0: sizes stay
     std::shared_ptr<const BitmapRep> watermark;
     Point watermarkPoint; ///< lower-left corner, y upwards
+    /// Where it sits in each picture, by that picture's size; Custom: at watermarkPoint.
+    WatermarkPlace watermarkPlace = WatermarkPlace::Custom;
+    int watermarkMargin = 0; ///< between the watermark and the edges of its corner, in pixels
     float watermarkAlpha = 1;
     bool tiff = false, jpeg = false;
+    bool keepDamaged = false;    ///< results are written, and failures reported, of sources that can be read in part
     bool skipExisting = false;   ///< images whose results are all there are passed over
     int jobs = 1;                ///< images at a time
     Shard shard;                 ///< of the source folder
     bool reducedDecoding = true; ///< JPEG files are decoded at a half, a quarter or an eighth where that suffices
+    bool fits() const { return fitWidth > 0 && fitHeight > 0; }
 };
 
 struct BatchOutcome {
     std::string name;        ///< of the source
-    std::string error;       ///< sentences; empty: done
+    std::string error;       ///< sentences; empty: done. Of a damaged source that was kept: what is wrong with it
     bool skipped = false;    ///< its results were there
     bool superseded = false; ///< a later source of the same base name made its results
 };
@@ -45,7 +51,7 @@ struct BatchResults {
 };
 /// One image from file to files; a result that cannot be written does not keep the other from being. Any thread.
 /// @param missing  in: the results to make; out: those that were not made
-/// @return why, empty when all were made
+/// @return why not, or what is wrong with a damaged source that was kept; empty when all were made from a sound one
 std::string processBatchImage(const BatchSettings& settings, const std::string& name, BatchResults& missing);
 
 /// Runs the names through. Sources of one base name have the same results, which the last in the order of the names

@@ -57,21 +57,26 @@ const char* batchFaultText(BatchFolderFault fault)
     return "";
 }
 
-Point watermarkPosition(WatermarkPlace place, Size image, Size watermark)
+Point watermarkPosition(WatermarkPlace place, Size image, Size watermark, int margin)
 {
     const float right = image.width - watermark.width, top = image.height - watermark.height;
+    const auto near = float(margin);
+    const auto whole = [](float x, float y) { return Point{std::trunc(x), std::trunc(y)}; };
     switch (place) {
+    case WatermarkPlace::LowerLeft:
+        return whole(near, near);
     case WatermarkPlace::LowerRight:
-        return {right, 0};
+        return whole(right - near, near);
     case WatermarkPlace::UpperLeft:
-        return {0, top};
+        return whole(near, top - near);
     case WatermarkPlace::UpperRight:
-        return {right, top};
+        return whole(right - near, top - near);
     case WatermarkPlace::Center:
-        return {right / 2, top / 2};
-    default:
-        return {0, 0};
+        return whole(right / 2, top / 2);
+    case WatermarkPlace::Custom:
+        break;
     }
+    return {0, 0};
 }
 
 } // namespace zp

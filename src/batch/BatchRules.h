@@ -27,7 +27,8 @@ const char* batchFaultText(BatchFolderFault fault);
 
 /// Presets that fill in the watermark's position.
 enum class WatermarkPlace { Custom, LowerLeft, LowerRight, UpperLeft, UpperRight, Center };
-/// The lower-left corner, y upwards, of a watermark in an image of that size.
-Point watermarkPosition(WatermarkPlace place, Size image, Size watermark);
+/// The lower-left corner, y upwards, of a watermark in an image of that size: whole pixels, so that it stays sharp.
+/// @param margin  pixels between the watermark and the edges of its corner; the centre has none
+Point watermarkPosition(WatermarkPlace place, Size image, Size watermark, int margin = 0);
 
 } // namespace zp

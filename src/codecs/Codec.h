@@ -24,8 +24,10 @@ Format sniffFormat(Bytes bytes, std::size_t* start = nullptr);
 /// What a reader gives: pixels as they stand in the file, and how to turn them upright.
 struct Decoded {
     std::shared_ptr<BitmapRep> bitmap;
-    std::string error;   ///< a sentence, when there is no bitmap
-    int orientation = 1; ///< EXIF's 1 to 8
+    std::string error;    ///< a sentence, when there is no bitmap
+    int orientation = 1;  ///< EXIF's 1 to 8
+    bool damaged = false; ///< as in ImportedImage
+    Reduction reduction;  ///< as the pixels stand in the file
 
     static Decoded failure(std::string sentence)
     {

@@ -10,6 +10,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace zp
 {
@@ -40,6 +41,20 @@ Decoded decode(Bytes bytes, const ImportOptions& options)
     default:
         return codec::decodeByMagick(bytes, format, options);
     }
+}
+
+/// A reduction whose picture is turned upright along with the pixels.
+Reduction turnedUpright(const Reduction& stored, int orientation)
+{
+    Reduction r = stored;
+    if (r.divisor == 1) return r;
+    const bool mirrorsX = orientation == 2 || orientation == 3 || orientation == 6 || orientation == 7;
+    const bool mirrorsY = orientation == 3 || orientation == 4 || orientation == 7 || orientation == 8;
+    if (codec::swapsSides(orientation)) std::swap(r.width, r.height);
+    const auto beyond = [&](int size) { return (r.divisor - size % r.divisor) % r.divisor; };
+    r.left = mirrorsX ? beyond(r.width) : 0;
+    r.top = mirrorsY ? beyond(r.height) : 0;
+    return r;
 }
 
 std::string sentenceFor(int error)
@@ -91,10 +106,12 @@ ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptio
         }
         image.bitmap = std::move(decoded.bitmap);
         image.error = std::move(decoded.error);
+        image.damaged = decoded.damaged;
+        image.reduction = turnedUpright(decoded.reduction, decoded.orientation);
     } catch (const std::bad_alloc&) {
-        image = {nullptr, "There is not enough memory for this picture."};
+        image = {.error = "There is not enough memory for this picture."};
     } catch (const std::exception& e) {
-        image = {nullptr, "The picture cannot be read: " + codec::tidyMessage(e.what()) + "."};
+        image = {.error = "The picture cannot be read: " + codec::tidyMessage(e.what()) + "."};
     }
     if (!image.bitmap && image.error.empty()) image.error = "The picture cannot be read.";
     return image;
@@ -103,24 +120,24 @@ ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptio
 ImportedImage importImageFile(const std::string& path, const ImportOptions& options)
 {
     const OpenFile file(path);
-    if (file.fd() < 0) return {nullptr, sentenceFor(errno)};
+    if (file.fd() < 0) return {.error = sentenceFor(errno)};
     struct stat facts {
     };
-    if (fstat(file.fd(), &facts) != 0) return {nullptr, sentenceFor(errno)};
-    if (S_ISDIR(facts.st_mode)) return {nullptr, "It is a folder, not a picture."};
-    if (!S_ISREG(facts.st_mode)) return {nullptr, "It is not an ordinary file."};
-    if (facts.st_size == 0) return {nullptr, "The file is empty."};
-    if (facts.st_size > kMaxFileBytes) return {nullptr, "The file is larger than 4 GiB."};
+    if (fstat(file.fd(), &facts) != 0) return {.error = sentenceFor(errno)};
+    if (S_ISDIR(facts.st_mode)) return {.error = "It is a folder, not a picture."};
+    if (!S_ISREG(facts.st_mode)) return {.error = "It is not an ordinary file."};
+    if (facts.st_size == 0) return {.error = "The file is empty."};
+    if (facts.st_size > kMaxFileBytes) return {.error = "The file is larger than 4 GiB."};
 
     // Read, not mapped: a mapped file that shrinks meanwhile would take the program down.
     const auto wanted = std::size_t(facts.st_size);
     auto memory = allocatePixelsUninitialized(wanted);
-    if (!memory) return {nullptr, "There is not enough memory to read the file."};
+    if (!memory) return {.error = "There is not enough memory to read the file."};
     std::size_t got = 0;
     while (got < wanted) {
         const ssize_t n = pread(file.fd(), memory.get() + got, wanted - got, off_t(got));
         if (n < 0 && errno == EINTR) continue;
-        if (n < 0) return {nullptr, sentenceFor(errno)};
+        if (n < 0) return {.error = sentenceFor(errno)};
         if (n == 0) break; // it shrank: what is left may still be a picture
         got += std::size_t(n);
     }

@@ -2,6 +2,7 @@
 /// Pictures into A, R, G, B rows: JPEG, TIFF and PNG by their own libraries, the rest by an allow-list of readers.
 #pragma once
 #include "base/BitmapRep.h"
+#include "base/Reduction.h"
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -11,8 +12,10 @@ namespace zp
 {
 
 struct ImportedImage {
-    std::shared_ptr<BitmapRep> bitmap; ///< null when nothing could be read
-    std::string error;                 ///< why, one sentence for people; empty on success
+    std::shared_ptr<BitmapRep> bitmap{}; ///< null when nothing could be read
+    std::string error{};                 ///< why, one sentence for people; empty on success
+    bool damaged = false;  ///< the file ended too early or its pixels could be read in part only; the rest is empty
+    Reduction reduction{}; ///< of a JPEG that was decoded smaller; divisor 1 for all others, its sizes then 0
 };
 
 struct ImportOptions {

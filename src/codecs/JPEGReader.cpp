@@ -208,6 +208,9 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
     result.orientation = orientationOf(s.info);
     s.info.scale_num = 1;
     s.info.scale_denom = reductionFor(s.info, options, result.orientation);
+    if (s.info.scale_denom > 1)
+        result.reduction = {
+            .divisor = int(s.info.scale_denom), .width = int(s.info.image_width), .height = int(s.info.image_height)};
     if (!startDecoding(s)) return Decoded::failure(sentence(s));
 
     s.bitmap = BitmapRep::createUninitialized(int(s.info.output_width), int(s.info.output_height));
@@ -222,7 +225,8 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
     }
     if (options.properties) collectProperties(s.info, s.bitmap->properties); // finishing forgets the markers
     if (complete) finish(s);
-    if (!complete || s.errors.num_warnings > 0)
+    result.damaged = !complete || s.errors.num_warnings > 0;
+    if (result.damaged)
         s.bitmap->properties.warnings.emplace_back("The JPEG data is damaged; what could be read is shown.");
     result.bitmap = std::move(s.bitmap);
     return result;

@@ -147,7 +147,13 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
 
     Magick::Image image;
     prepare(image);
-    image.read(blob);
+    image.quiet(false);
+    try {
+        image.read(blob);
+    } catch (const Magick::WarningCorruptImage&) { // the pixels that could be read are there
+        result.damaged = true;
+    } catch (const Magick::Warning&) {
+    }
     if (!image.isValid()) return Decoded::failure("The picture has no pixels.");
     const bool inks = image.colorSpace() == Magick::CMYKColorspace;
     const bool deep = image.depth() > 8 && format != Format::GIF;
@@ -185,6 +191,7 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
         if (x0 < x1) std::memcpy(out.pixel(x0, to), &row[std::size_t(x0 - left) * 4], std::size_t(x1 - x0) * 4);
     }
     ImageProperties& properties = bitmap->properties;
+    if (result.damaged) properties.warnings.emplace_back("The picture's data is damaged; what could be read is shown.");
     if (deep) properties.warnings.emplace_back("The picture had 16 bits a colour; it was reduced to 8.");
     result.orientation = format == Format::TGA ? orientationOfTGA(bytes) : orientationOf(image);
     if (options.properties) collectProperties(image, inks, properties);

@@ -229,8 +229,8 @@ Decoded decodePNG(Bytes bytes, const ImportOptions& options)
                                     : "The PNG data cannot be read: not one row of its pixels is whole.");
 
     ImageProperties& properties = bitmap->properties;
-    if (!complete || parts.damaged)
-        properties.warnings.emplace_back("The PNG data is damaged; what could be read is shown.");
+    result.damaged = !complete || parts.damaged;
+    if (result.damaged) properties.warnings.emplace_back("The PNG data is damaged; what could be read is shown.");
     if (header.depth == 16) properties.warnings.emplace_back("The picture had 16 bits a colour; it was reduced to 8.");
     result.orientation = exifOrientation(parts.exif);
     if (options.properties) collectProperties(parts, properties);

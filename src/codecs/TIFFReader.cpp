@@ -180,7 +180,8 @@ Decoded decodeTIFF(Bytes bytes, const ImportOptions& options)
             source.readChunk(0, first.data(), std::int64_t(first.size()), layout.tiled); // for its message
             return Decoded::failure("The TIFF data cannot be read: " + tidyMessage(source.message()) + ".");
         }
-        if (faults.damaged) properties.warnings.emplace_back("The TIFF data is damaged; what could be read is shown.");
+        result.damaged = faults.damaged > 0;
+        if (result.damaged) properties.warnings.emplace_back("The TIFF data is damaged; what could be read is shown.");
     } else {
         std::string error;
         if (!decodeByLibrary(source, layout, bitmap->view(), error)) return Decoded::failure(error);

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPageSetupDialog>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QPrinter>
 #include <QPushButton>
@@ -24,6 +25,8 @@ namespace
 {
 
 constexpr int kIconSize = 48, kTextWidth = 380;
+constexpr qsizetype kLinesWithoutScrolling = 8;
+constexpr QSize kLongTextSize(kTextWidth + 160, 220);
 
 int silencers = 0;
 
@@ -72,7 +75,10 @@ public:
         rows->setSpacing(8);
         columns->addLayout(rows, 1);
         rows->addWidget(textLabel(title, true));
-        if (!message.isEmpty()) rows->addWidget(textLabel(message, false));
+        if (message.count('\n') >= kLinesWithoutScrolling)
+            rows->addWidget(longText(message));
+        else if (!message.isEmpty())
+            rows->addWidget(textLabel(message, false));
         rows->addStretch(1);
         rows->addSpacing(10);
         rows->addLayout(buttonRow());
@@ -110,6 +116,19 @@ private:
         const int natural = QFontMetrics(font).size(0, text).width() + 4;
         label->setFixedWidth(std::clamp(natural, 220, kTextWidth));
         return label;
+    }
+
+    /// A list of any length, scrolled, to be read by keys and copied whole.
+    QPlainTextEdit* longText(const QString& text)
+    {
+        auto* list = new QPlainTextEdit(text, this);
+        list->setObjectName("AlertList");
+        list->setReadOnly(true);
+        list->setTabChangesFocus(true);
+        list->setLineWrapMode(QPlainTextEdit::NoWrap);
+        list->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        list->setFixedSize(kLongTextSize);
+        return list;
     }
 
     /// The default stands last, where the eye ends; the others before it.

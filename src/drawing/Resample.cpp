@@ -26,9 +26,20 @@ double cubic(double t)
     return 0;
 }
 
+/// An axis of the source.
+struct Axis {
+    int length;  ///< in its pixels
+    int divisor; ///< of the file's pixels that one of them stands for
+    int before;  ///< of those, how many stand before the picture
+    int size;    ///< the picture, in the file's pixels
+};
+Axis columnsOf(ConstBitmapView source, const Reduction& r) { return {source.width, r.divisor, r.left, r.width}; }
+Axis rowsOf(ConstBitmapView source, const Reduction& r) { return {source.height, r.divisor, r.top, r.height}; }
+
 /// Shares of the source positions in each destination position [from, to) of an axis.
-Taps makeTaps(int length, int wanted, int from, int to)
+Taps makeTaps(const Axis& axis, int wanted, int from, int to)
 {
+    const int length = axis.length;
     const double step = double(length) / wanted;
     TapsBuilder taps;
     for (int d = from; d < to; ++d) {
@@ -42,22 +53,24 @@ Taps makeTaps(int length, int wanted, int from, int to)
             taps.add(first, std::move(shares));
         } else {
             // Whole numbers over the wanted length: no rounding moves an edge into the next pixel.
-            const std::int64_t begin = std::int64_t(d) * length, end = begin + length;
+            const std::int64_t pixel = std::int64_t(axis.divisor) * wanted;
+            const std::int64_t begin = std::int64_t(axis.before) * wanted + std::int64_t(d) * axis.size;
+            const std::int64_t end = begin + axis.size;
             for (std::int64_t at = begin; at < end;) {
-                const std::int64_t next = std::min(end, (at / wanted + 1) * wanted);
-                shares.push_back(double(next - at) / length);
+                const std::int64_t next = std::min(end, (at / pixel + 1) * pixel);
+                shares.push_back(double(next - at) / axis.size);
                 at = next;
             }
-            taps.add(int(begin / wanted), std::move(shares));
+            taps.add(int(begin / pixel), std::move(shares));
         }
     }
     return taps.build();
 }
 
 /// Down the columns first: every source row is read once and what is left is narrow.
-void shrinkRows(ConstBitmapView source, BitmapView destination, const Taps& columns, int from, int to)
+void shrinkRows(ConstBitmapView source, const Axis& down, BitmapView destination, const Taps& columns, int from, int to)
 {
-    const Taps rows = makeTaps(source.height, destination.height, from, to);
+    const Taps rows = makeTaps(down, destination.height, from, to);
     PaddedRow sums(source.width);
     std::vector<Wide> line(std::size_t(destination.width) * 4 + 64);
     std::vector<std::uint32_t> longSums;
@@ -71,9 +84,9 @@ void shrinkRows(ConstBitmapView source, BitmapView destination, const Taps& colu
 }
 
 /// Along the rows first: every source row is stretched once and kept for the rows that need it.
-void growRows(ConstBitmapView source, BitmapView destination, const Taps& columns, int from, int to)
+void growRows(ConstBitmapView source, const Axis& down, BitmapView destination, const Taps& columns, int from, int to)
 {
-    const Taps rows = makeTaps(source.height, destination.height, from, to);
+    const Taps rows = makeTaps(down, destination.height, from, to);
     constexpr int kKept = 4;
     PaddedRow wide(source.width);
     std::vector<Wide> kept[kKept];
@@ -103,7 +116,14 @@ void growRows(ConstBitmapView source, BitmapView destination, const Taps& column
 
 void resample(ConstBitmapView source, BitmapView destination)
 {
+    resample(source, {.width = source.width, .height = source.height}, destination);
+}
+
+void resample(ConstBitmapView source, const Reduction& reduction, BitmapView destination)
+{
     if (source.isEmpty() || destination.isEmpty()) return;
+    const Axis along = columnsOf(source, reduction), down = rowsOf(source, reduction);
+    const bool whole = along.size == along.divisor * along.length && down.size == down.divisor * down.length;
     const bool sameWidth = source.width == destination.width, sameHeight = source.height == destination.height;
     const int grain = std::max(1, 200'000 / std::max(destination.width, source.width));
     if (sameWidth && sameHeight) {
@@ -112,7 +132,7 @@ void resample(ConstBitmapView source, BitmapView destination)
         return;
     }
     for (int level = 1; level <= kMostHalvings; ++level)
-        if (source.width == std::int64_t(destination.width) << level &&
+        if (whole && source.width == std::int64_t(destination.width) << level &&
             source.height == std::int64_t(destination.height) << level) {
             parallelBands(destination.height, grain, [&](int from, int to) {
                 for (int y = from; y < to; ++y)
@@ -120,12 +140,12 @@ void resample(ConstBitmapView source, BitmapView destination)
             });
             return;
         }
-    const Taps columns = makeTaps(source.width, destination.width, 0, destination.width);
+    const Taps columns = makeTaps(along, destination.width, 0, destination.width);
     parallelBands(destination.height, grain, [&](int from, int to) {
         if (destination.height > source.height)
-            growRows(source, destination, columns, from, to);
+            growRows(source, down, destination, columns, from, to);
         else
-            shrinkRows(source, destination, columns, from, to);
+            shrinkRows(source, down, destination, columns, from, to);
     });
 }
 

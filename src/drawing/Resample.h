@@ -2,6 +2,7 @@
 /// A picture in another size: averaged where it shrinks, interpolated where it grows.
 #pragma once
 #include "base/BitmapView.h"
+#include "base/Reduction.h"
 
 namespace zp
 {
@@ -12,5 +13,8 @@ namespace zp
 /// samples: colour stays within alpha, and a flat picture stays flat. The views must not overlap; an empty one does
 /// nothing. Both cores. Any thread. Cost: the source read once, plus the destination.
 void resample(ConstBitmapView source, BitmapView destination);
+/// The same for a source that was decoded smaller than its file: what is shrunk is the file's picture, without the
+/// pixels beyond its edge that the source's last column and row stand for as well.
+void resample(ConstBitmapView source, const Reduction& reduction, BitmapView destination);
 
 } // namespace zp

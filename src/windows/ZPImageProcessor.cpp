@@ -3,7 +3,7 @@
 #include "windows/ZPImageProcessor.h"
 #include "base/Folders.h"
 #include "base/NotificationCenter.h"
-#include "batch/BatchRules.h"
+#include "batch/BatchPicture.h"
 #include "batch/WatermarkDrawing.h"
 #include "batch/Watermarks.h"
 #include "canvas/ZPCanvas.h"
@@ -12,6 +12,7 @@
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "operations/Files.h"
 #include "ui_ImageProcessor.h"
 #include <QApplication>
 #include <QDialog>
@@ -33,8 +34,6 @@ private:
     ZPImageProcessor& mProcessor;
 };
 
-constexpr std::size_t kListedFailures = 12; // what an alert can show; all of them are in its count
-
 } // namespace
 
 ZPImageProcessor* ZPImageProcessor::sharedImageProcessor()
@@ -55,7 +54,9 @@ ZPImageProcessor::ZPImageProcessor()
     connect(mUi->mSelectDstButton, &QPushButton::clicked, this, &ZPImageProcessor::selectDst);
     connect(mUi->mImageSizeFit, &QCheckBox::toggled, this, &ZPImageProcessor::resizeToFit);
     connect(mUi->mWatermarkPosition, &QComboBox::activated, this, &ZPImageProcessor::placeByPreset);
+    connect(mUi->mWatermarkEachPicture, &QCheckBox::toggled, this, &ZPImageProcessor::placeInEachPicture);
     resizeToFit();
+    placeInEachPicture();
     mUi->mProgressBar->setValue(0);
     mUi->mProgressBar->hide();
     NotificationCenter::defaultCenter().addObserver(this, "_canvasNotif", [this](const Notification& notification) {
@@ -131,19 +132,49 @@ void ZPImageProcessor::resizeToFit()
     mUi->mImageSizeH->setEnabled(on);
 }
 
+QByteArray ZPImageProcessor::chosenWatermark() const { return mUi->mWatermark->currentData().toByteArray(); }
+
+BatchSettings ZPImageProcessor::settings() const
+{
+    BatchSettings settings;
+    settings.source = sourceFolder();
+    settings.destination = destinationFolder();
+    if (mUi->mImageSizeFit->isChecked()) {
+        settings.fitWidth = mUi->mImageSizeW->value();
+        settings.fitHeight = mUi->mImageSizeH->value();
+    }
+    if (const QByteArray name = chosenWatermark(); !name.isEmpty())
+        settings.watermark = importImageFile(pathByAppending(watermarkFolder(), name.toStdString())).bitmap;
+    settings.watermarkPoint = {float(mUi->mWatermarkPositionX->value()), float(mUi->mWatermarkPositionY->value())};
+    if (mUi->mWatermarkEachPicture->isChecked()) {
+        settings.watermarkPlace = WatermarkPlace(mUi->mWatermarkPosition->currentIndex());
+        settings.watermarkMargin = mUi->mWatermarkMargin->value();
+    }
+    settings.watermarkAlpha = float(mUi->mWatermarkOpacity->value()) / 100.0f;
+    settings.tiff = mUi->mFileTypeTIFF->isChecked();
+    settings.jpeg = mUi->mFileTypeJPEG->isChecked();
+    return settings;
+}
+
 void ZPImageProcessor::placeByPreset()
 {
     const auto place = WatermarkPlace(mUi->mWatermarkPosition->currentIndex());
-    if (place == WatermarkPlace::Custom) return;
-    Size mark;
-    const QByteArray name = mUi->mWatermark->currentData().toByteArray();
-    if (!name.isEmpty())
-        if (const auto image = importImageFile(pathByAppending(watermarkFolder(), name.toStdString())); image.bitmap)
-            mark = sizeInPoints(*image.bitmap);
+    placeInEachPicture();
+    if (place == WatermarkPlace::Custom || mUi->mWatermarkEachPicture->isChecked()) return;
+    const std::shared_ptr<const BitmapRep> mark = settings().watermark;
     const Size box{float(mUi->mImageSizeW->value()), float(mUi->mImageSizeH->value())};
-    const Point at = watermarkPosition(place, box, mark);
+    const Point at = watermarkPosition(place, box, mark ? sizeInPoints(*mark) : Size{});
     mUi->mWatermarkPositionX->setValue(int(at.x));
     mUi->mWatermarkPositionY->setValue(int(at.y));
+}
+
+void ZPImageProcessor::placeInEachPicture()
+{
+    const bool preset = WatermarkPlace(mUi->mWatermarkPosition->currentIndex()) != WatermarkPlace::Custom;
+    const bool each = mUi->mWatermarkEachPicture->isChecked();
+    mUi->mWatermarkMargin->setEnabled(each && preset);
+    mUi->mWatermarkPositionX->setEnabled(!each || !preset);
+    mUi->mWatermarkPositionY->setEnabled(!each || !preset);
 }
 
 void ZPImageProcessor::showProgress(int value, const QString& text)
@@ -157,14 +188,18 @@ void ZPImageProcessor::showProgress(int value, const QString& text)
 void ZPImageProcessor::run()
 {
     if (mRunning) return;
-    const std::string source = sourceFolder(), destination = destinationFolder();
-    const BatchFolderFault fault = checkBatchFolders(source, destination);
+    const BatchSettings chosen = settings();
+    const BatchFolderFault fault = checkBatchFolders(chosen.source, chosen.destination);
     if (fault != BatchFolderFault::None) {
         if (fault == BatchFolderFault::Missing) beep();
         runAlert(tr(batchFaultText(fault)), {}, {tr("OK")});
         return close();
     }
-    const std::vector<std::string> entries = contentsOfFolder(source);
+    std::vector<std::string> entries;
+    if (const std::string why = listFolder(chosen.source, entries); !why.empty()) {
+        runAlert(tr("The source folder cannot be listed."), QString::fromStdString(why), {tr("OK")});
+        return close();
+    }
     mRunning = true;
     mCancelled = false;
     mUi->settings->setEnabled(false);
@@ -175,15 +210,15 @@ void ZPImageProcessor::run()
     showProgress(0, {});
 
     bool any = false;
-    std::vector<std::pair<std::string, std::string>> failures;
+    std::vector<BatchOutcome> failures;
     {
         const SilencedPanels silence;
         for (std::size_t i = 0; i < entries.size() && !mCancelled; ++i) {
             showProgress(int(i), tr("%1 of %2: %3").arg(i + 1).arg(entries.size()).arg(textFromPath(entries[i])));
             if (mCancelled) break;
             if (!isBatchSource(entries[i])) continue;
-            const std::string error = processEntry(source, destination, entries[i]);
-            if (!error.empty()) failures.emplace_back(entries[i], error);
+            const std::string error = processEntry(chosen, entries[i]);
+            if (!error.empty()) failures.push_back({.name = entries[i], .error = error});
             any = true;
         }
     }
@@ -199,11 +234,8 @@ void ZPImageProcessor::run()
     close();
 }
 
-std::string ZPImageProcessor::processEntry(const std::string& source, const std::string& destination,
-                                           const std::string& name)
+std::string ZPImageProcessor::processEntry(const BatchSettings& settings, const std::string& name)
 {
-    const std::string path = source + "/" + name;
-    const std::string real = resolveAlias(path).value_or(path);
     NotificationCenter& center = NotificationCenter::defaultCenter();
     center.post("_giveMeCanvasNotif"); // twice, as it has always been asked
     center.post("_giveMeCanvasNotif");
@@ -216,44 +248,55 @@ std::string ZPImageProcessor::processEntry(const std::string& source, const std:
     } const again{document};
     mCanvas->window()->raise();
     mWindow->raise();
-    document.perform("setImagePath:", {{}, real});
-    mCanvas->repaint();
-    if (!document.picture().isLoaded())
-        return document.lastFileError().empty() ? "The file cannot be read." : document.lastFileError();
 
-    if (mUi->mImageSizeFit->isChecked()) {
-        const float boxWidth = float(mUi->mImageSizeW->value()), boxHeight = float(mUi->mImageSizeH->value());
-        Size size = fittedSize(document.picture().size(), boxWidth, boxHeight);
-        size = {std::max(size.width, 1.0f), std::max(size.height, 1.0f)}; // a sliver keeps a row or column of pixels
-        if (!document.perform("setImageSize:scale:", {{size.width, size.height, 1}, {}}))
-            return "There is not enough memory for the resized image, or it would be too large.";
-        mCanvas->repaint();
-    }
-    if (mUi->mWatermark->currentText() != "None") {
-        const QByteArray mark = mUi->mWatermark->currentData().toByteArray();
-        document.perform("placeWatermark:atPoint:alpha:",
-                         {{double(mUi->mWatermarkPositionX->value()), double(mUi->mWatermarkPositionY->value()),
-                           double(float(mUi->mWatermarkOpacity->value()) / 100.0f)},
-                          watermarkFolder() + "/" + mark.toStdString()});
-    }
+    // Each step is the batch run's own, made under the gate of the command it stands for: the document shows it and
+    // keeps out of its way, and the files are the very ones that a run without a window writes.
+    BatchPicture picture(settings, name);
     std::string error;
-    if (mUi->mFileTypeTIFF->isChecked()) {
-        document.perform("saveImageAsTIFF:", {{}, batchOutput(destination, name, "tiff")});
-        error = document.lastFileError();
+    const auto perform = [&](const char* action, const std::function<void(Edit&)>& body) {
+        const Outcome outcome = document.perform(*document.operation(action), body);
+        if (outcome.kind == Outcome::Failed && error.empty()) error = outcome.why.toStdString();
+    };
+    perform("setImagePath:", [&](Edit& edit) {
+        error = picture.read();
+        installOpened(edit, picture.path(), {.bitmap = picture.bitmap(), .error = error});
+    });
+    mCanvas->repaint();
+    if (!error.empty()) return error;
+    if (settings.fits()) {
+        perform("setImageSize:scale:", [&](Edit& edit) {
+            error = picture.fit();
+            if (error.empty()) edit.replacePicture(picture.bitmap(), kRebuiltPicture);
+        });
+        mCanvas->repaint();
+        if (!error.empty()) return error;
     }
-    if (mUi->mFileTypeJPEG->isChecked()) {
-        document.perform("saveImageAsJPEG:", {{}, batchOutput(destination, name, "jpg")});
-        if (error.empty()) error = document.lastFileError();
-    }
+    if (settings.watermark)
+        perform("placeWatermark:atPoint:alpha:", [&](Edit& edit) {
+            edit.writeAll();
+            picture.stamp();
+        });
+    if (!error.empty()) return error;
+
+    const auto save = [&](const char* action, const std::string& path, std::string (BatchPicture::*write)() const) {
+        perform(action, [&](Edit& edit) {
+            const std::string why = (picture.*write)();
+            if (why.empty())
+                edit.picture().setPath(path);
+            else if (error.find(why) == std::string::npos)
+                error += (error.empty() ? "" : " ") + why;
+        });
+    };
+    if (settings.tiff) save("saveImageAsTIFF:", picture.tiffPath(), &BatchPicture::writeTIFF);
+    if (settings.jpeg) save("saveImageAsJPEG:", picture.jpegPath(), &BatchPicture::writeJPEG);
     return error;
 }
 
-void ZPImageProcessor::reportFailures(const std::vector<std::pair<std::string, std::string>>& failures)
+void ZPImageProcessor::reportFailures(const std::vector<BatchOutcome>& failures)
 {
     QString lines;
-    for (std::size_t i = 0; i < failures.size() && i < kListedFailures; ++i)
-        lines += QString("%1: %2\n").arg(textFromPath(failures[i].first), QString::fromStdString(failures[i].second));
-    if (failures.size() > kListedFailures) lines += tr("… and %1 more").arg(failures.size() - kListedFailures);
+    for (const BatchOutcome& failure : failures)
+        lines += QString("%1: %2\n").arg(textFromPath(failure.name), QString::fromStdString(failure.error));
     const QString title = failures.size() == 1 ? tr("One file could not be processed.")
                                                : tr("%1 files could not be processed.").arg(failures.size());
     runAlert(title, lines.trimmed(), {tr("OK")});

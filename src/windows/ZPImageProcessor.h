@@ -6,6 +6,12 @@
 #include <string>
 #include <vector>
 
+namespace zp
+{
+struct BatchOutcome;
+struct BatchSettings;
+} // namespace zp
+
 class QDialog;
 class ZPCanvas;
 namespace Ui
@@ -35,6 +41,8 @@ public:
     void selectDst();
     void resizeToFit();
     void placeByPreset();
+    /// The switch beside the presets: they hold for each picture by its own size instead of filling in a position.
+    void placeInEachPicture();
     /// The batch run. Between images the events are handled; Cancel ends it after the image at work.
     void run();
 
@@ -44,10 +52,13 @@ private:
     void chooseFolder(bool source);
     std::string sourceFolder() const;
     std::string destinationFolder() const;
-    /// Loads, fits, stamps and saves one entry. @return why it failed, empty when it did not
-    std::string processEntry(const std::string& source, const std::string& destination, const std::string& name);
+    QByteArray chosenWatermark() const;
+    /// What the fields say, the watermark read from its file.
+    zp::BatchSettings settings() const;
+    /// Takes one entry through the document, where it is seen. @return why it failed, empty when it did not
+    std::string processEntry(const zp::BatchSettings& settings, const std::string& name);
     void showProgress(int value, const QString& text);
-    void reportFailures(const std::vector<std::pair<std::string, std::string>>& failures);
+    void reportFailures(const std::vector<zp::BatchOutcome>& failures);
 
     std::unique_ptr<Ui::ImageProcessor> mUi;
     std::unique_ptr<QDialog> mWindow;

@@ -6,7 +6,7 @@
 #include "batch/BatchCommandLine.h"
 #include "codecs/ImageEncoder.h"
 #include "codecs/ImageImporter.h"
-#include <cmath>
+#include "support/Decibels.h"
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -104,33 +104,6 @@ TEST_F(Batch, FitsLargeAndSmallImages)
     EXPECT_EQ(result("turned.jpg")->pixelsHigh(), 192);
 }
 
-double decibels(ConstBitmapView a, ConstBitmapView b)
-{
-    double sum = 0;
-    for (int y = 0; y < a.height; ++y)
-        for (int x = 0; x < a.width; ++x)
-            for (int k = 1; k < 4; ++k) sum += std::pow(double(a.pixel(x, y)[k]) - double(b.pixel(x, y)[k]), 2);
-    return sum == 0 ? 99 : 10 * std::log10(255.0 * 255.0 * 3 * a.width * a.height / sum);
-}
-
-TEST_F(Batch, ReducedDecodingLooksLikeFullDecoding)
-{
-    add("photos/tahoe-gps.jpg", "a.jpg"); // 2048 x 1536
-    mSettings.jpeg = false;
-    mSettings.tiff = true;
-    for (const int box : {730, 538, 512, 365, 269, 256, 180, 134, 100}) {
-        mSettings.fitWidth = mSettings.fitHeight = box;
-        mSettings.reducedDecoding = true;
-        ASSERT_TRUE(run().empty());
-        const auto reduced = result("a.tiff");
-        mSettings.reducedDecoding = false;
-        ASSERT_TRUE(run().empty());
-        const auto full = result("a.tiff");
-        ASSERT_EQ(reduced->pixelsWide(), full->pixelsWide());
-        EXPECT_GE(decibels(reduced->view(), full->view()), 40) << box;
-    }
-}
-
 TEST_F(Batch, StampsTheWatermarkFromTheLowerLeft)
 {
     add("made/valid/base.tif", "a.tiff");
@@ -176,6 +149,68 @@ TEST_F(Batch, BrokenFilesAreNamedAndTheRestIsDone)
     EXPECT_EQ(failures.size(), 5u);
     for (const BatchOutcome& f : failures) EXPECT_TRUE(f.error.ends_with(".")) << f.name << ": " << f.error;
     EXPECT_EQ(results(), std::vector<std::string>{"good.jpg"});
+}
+
+TEST_F(Batch, ADamagedSourceIsAFailureAndWritesNothing)
+{
+    const char* const kDamaged[] = {"made/truncated/50pc.jpg", "made/truncated/50pc.png"};
+    add(kDamaged[0], "short.jpg");
+    add(kDamaged[1], "short.tiff");
+    add("made/valid/base.jpg", "sound.jpg");
+    for (const char* name : kDamaged) ASSERT_TRUE(importImageFile(picture(name)).damaged) << name;
+    for (const int box : {0, 20}) {
+        mSettings.fitWidth = mSettings.fitHeight = box;
+        const auto failures = run();
+        ASSERT_EQ(failures.size(), 2u);
+        for (const BatchOutcome& failure : failures)
+            EXPECT_EQ(failure.error, "The file is damaged or ends too early: only a part of it can be read.");
+        EXPECT_EQ(results(), std::vector<std::string>{"sound.jpg"});
+    }
+}
+
+TEST_F(Batch, ADamagedSourceThatIsToBeKeptIsWrittenAndIsAFailureAllTheSame)
+{
+    add("made/truncated/50pc.jpg", "short.jpg");
+    std::string words[] = {"zelpane", "--batch", source(), destination(), "--jpeg", "--keep-damaged"};
+    std::vector<char*> argv;
+    for (std::string& word : words) argv.push_back(word.data());
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(runBatchCommandLine(int(argv.size()), argv.data()), 1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "short.jpg: The file is damaged or ends too early: only a part of it can be read.\n");
+    EXPECT_EQ(result("short.jpg")->pixelsWide(), 64);
+}
+
+TEST_F(Batch, AnEarlierSoundSourceStandsInForADamagedOne)
+{
+    add("made/valid/base.jpg", "a.jpg");
+    add("made/truncated/50pc.png", "a.tiff");
+    EXPECT_EQ(run().size(), 1u);
+    const auto sound = importImageFile(picture("made/valid/base.jpg")).bitmap;
+    EXPECT_GT(test::decibels(result("a.jpg")->view(), sound->view()), 30);
+}
+
+TEST_F(Batch, APresetHoldsForEachPictureByItsOwnSize)
+{
+    auto mark = BitmapRep::create(10, 6);
+    for (int y = 0; y < 6; ++y)
+        for (int x = 0; x < 10; ++x) mark->view().row(y)[x] = 0x0000FFFF; // opaque red
+    mSettings.watermark = mark;
+    mSettings.watermarkPlace = WatermarkPlace::LowerRight;
+    mSettings.watermarkMargin = 3;
+    mSettings.tiff = true;
+    mSettings.jpeg = false;
+    add("made/exif/orientation-1.tif", "flat.tiff");   // 160 x 96
+    add("made/exif/orientation-6.tif", "turned.tiff"); // stored upright, shown flat
+    add("made/valid/base.tif", "small.tiff");          // 64 x 36
+    EXPECT_TRUE(run().empty());
+    for (const char* name : {"flat.tiff", "turned.tiff", "small.tiff"}) {
+        const auto out = result(name);
+        const int right = out->pixelsWide() - 3, bottom = out->pixelsHigh() - 3;
+        const auto isRed = [&](int x, int y) { return out->view().row(y)[x] == 0x0000FFFFu; };
+        EXPECT_TRUE(isRed(right - 1, bottom - 1) && isRed(right - 10, bottom - 6)) << name;
+        EXPECT_FALSE(isRed(right, bottom - 1) || isRed(right - 1, bottom) || isRed(right - 11, bottom - 6)) << name;
+    }
 }
 
 TEST_F(Batch, TwoHundredOddNames)
@@ -343,9 +378,9 @@ TEST_F(Batch, CommandLineUnderstandsItsOptions)
         for (std::string& w : words) argv.push_back(w.data());
         return parseBatchCommandLine(int(argv.size()), argv.data());
     };
-    const auto line =
-        parse({source(), "--fit", "1024x768", destination(), "--at=-10,20", "--opacity", "50", "--tiff", "--jpeg",
-               "--jobs", "3", "--shard", "2/5", "--skip-existing", "--dry-run", "--watermark", "w.jpg"});
+    const auto line = parse({source(), "--fit", "1024x768", destination(), "--at=-10,20", "--opacity", "50", "--tiff",
+                             "--jpeg", "--jobs", "3", "--shard", "2/5", "--skip-existing", "--dry-run", "--watermark",
+                             "w.jpg", "--keep-damaged"});
     EXPECT_EQ(line.error, "");
     EXPECT_EQ(line.settings.fitWidth, 1024);
     EXPECT_EQ(line.settings.fitHeight, 768);
@@ -356,6 +391,23 @@ TEST_F(Batch, CommandLineUnderstandsItsOptions)
     EXPECT_EQ(line.settings.shard.number, 2u);
     EXPECT_EQ(line.settings.shard.count, 5u);
     EXPECT_EQ(line.watermarkPath, "w.jpg");
+    EXPECT_TRUE(line.settings.keepDamaged);
+    EXPECT_EQ(line.settings.watermarkPlace, WatermarkPlace::Custom);
+    struct Placing {
+        const char* word;
+        WatermarkPlace place;
+        int margin;
+    };
+    for (const Placing& p :
+         {Placing{"lower-left", WatermarkPlace::LowerLeft, 0},
+          Placing{"lower-right+20", WatermarkPlace::LowerRight, 20},
+          Placing{"upper-left+0", WatermarkPlace::UpperLeft, 0}, Placing{"upper-right", WatermarkPlace::UpperRight, 0},
+          Placing{"centre", WatermarkPlace::Center, 0}}) {
+        const auto placed = parse({source(), destination(), "--jpeg", "--place", p.word});
+        EXPECT_EQ(placed.error, "");
+        EXPECT_EQ(placed.settings.watermarkPlace, p.place) << p.word;
+        EXPECT_EQ(placed.settings.watermarkMargin, p.margin) << p.word;
+    }
     for (const std::vector<std::string>& wrong : {std::vector<std::string>{source(), destination()},
                                                   {source(), "--jpeg"},
                                                   {"--jpeg"},
@@ -370,6 +422,10 @@ TEST_F(Batch, CommandLineUnderstandsItsOptions)
                                                   {source(), destination(), "--jpeg", "--fit"},
                                                   {source(), destination(), "--jpeg", "--what"},
                                                   {source(), destination(), "more", "--jpeg"},
+                                                  {source(), destination(), "--jpeg", "--place", "left"},
+                                                  {source(), destination(), "--jpeg", "--place", "centre+"},
+                                                  {source(), destination(), "--jpeg", "--place", "lower-left+-1"},
+                                                  {source(), destination(), "--jpeg", "--place=centre", "--at=1,1"},
                                                   {source(), destination(), "--jpeg", "--opacity", "half"}})
         EXPECT_NE(parse(wrong).error, "") << (wrong.empty() ? "" : wrong.back());
     EXPECT_TRUE(parse({"--help"}).help);

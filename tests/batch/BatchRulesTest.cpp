@@ -70,6 +70,16 @@ TEST(BatchRules, PresetsCountFromTheLowerLeft)
     EXPECT_EQ(watermarkPosition(WatermarkPlace::Center, image, mark), (Point{450, 225}));
 }
 
+TEST(BatchRules, PresetsKeepTheirMarginAndFallOnWholePixels)
+{
+    const Size image{1000, 501}, mark{100.5f, 50};
+    EXPECT_EQ(watermarkPosition(WatermarkPlace::LowerLeft, image, mark, 20), (Point{20, 20}));
+    EXPECT_EQ(watermarkPosition(WatermarkPlace::LowerRight, image, mark, 20), (Point{879, 20}));
+    EXPECT_EQ(watermarkPosition(WatermarkPlace::UpperLeft, image, mark, 20), (Point{20, 431}));
+    EXPECT_EQ(watermarkPosition(WatermarkPlace::UpperRight, image, mark, 20), (Point{879, 431}));
+    EXPECT_EQ(watermarkPosition(WatermarkPlace::Center, image, mark, 20), (Point{449, 225}));
+}
+
 TEST(Watermarks, TheDefaultIsCopiedOnceAndNotBroughtBack)
 {
     removeItem(watermarkFolder());

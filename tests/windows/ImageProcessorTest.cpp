@@ -2,6 +2,7 @@
 /// The batch window by its fields and buttons, over a real document.
 #include "base/Folders.h"
 #include "base/NotificationCenter.h"
+#include "batch/BatchCommandLine.h"
 #include "batch/Watermarks.h"
 #include "codecs/ImageImporter.h"
 #include "support/AlertWatch.h"
@@ -12,9 +13,11 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTextDocumentFragment>
 #include <QTimer>
 #include <any>
 
@@ -180,6 +183,138 @@ TEST_F(ImageProcessor, FailuresAreListedAtTheEnd)
     settle();
 }
 
+TEST_F(ImageProcessor, TheListOfFailuresIsWholeAndCanBeCopied)
+{
+    for (int i = 10; i < 50; ++i)
+        add(i % 2 ? "made/truncated/50pc.jpg" : "made/wrong-ext/svg-external.jpg", std::to_string(i) + ".jpg");
+    QString listed;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* list = window->findChild<QPlainTextEdit*>("AlertList"); list && window->isVisible()) {
+                EXPECT_TRUE(list->isReadOnly());
+                list->selectAll();
+                listed = list->textCursor().selection().toPlainText();
+            }
+    });
+    look.start(0);
+    const auto alerts = show([&] {
+        fillIn(source(), destination());
+        run();
+    });
+    ASSERT_EQ(alerts.size(), 1u);
+    EXPECT_EQ(alerts[0].title, "40 files could not be processed.");
+    EXPECT_EQ(alerts[0].buttons, QStringList{"OK"});
+    EXPECT_EQ(alerts[0].message.count('\n'), 39);
+    EXPECT_TRUE(alerts[0].message.contains("49.jpg: The file is damaged or ends too early"));
+    EXPECT_EQ(listed, alerts[0].message);
+    EXPECT_TRUE(contentsOfFolder(destination()).empty());
+    settle();
+}
+
+TEST_F(ImageProcessor, WritesTheVeryFilesOfTheCommandLine)
+{
+    removeItem(watermarkFolder());
+    createFolder(watermarkFolder());
+    ASSERT_TRUE(copyItem(sample("made/valid/base.tif"), watermarkFolder() + "/mark.tiff"));
+    add("photos/tahoe-gps.jpg", "photo.jpg");
+    add("photos/seeding-600-cmyk.jpg", "inks.jpg");
+    add("made/exif/orientation-6.jpg", "turned.jpg");
+    add("made/valid/base.tif", "small.tiff");
+    add("made/valid/base.png", "other.tiff"); // by its content
+    add("made/valid/base.jpg", "twice.jpg");
+    add("made/exif/orientation-1.tif", "twice.tiff");
+    add("made/truncated/50pc.jpg", "short.jpg");
+
+    struct Case {
+        std::vector<std::string> words;
+        bool tiff, jpeg;
+        int fit;
+        bool mark = false;
+        int x = 0, y = 0, opacity = 100;
+        int place = 0, margin = 0; ///< the preset's row, for each picture; 0: at (x, y)
+    };
+    const std::vector<Case> cases = {
+        {{"--tiff", "--jpeg"}, true, true, 0},
+        {{"--tiff", "--fit", "100x100"}, true, false, 100},
+        {{"--jpeg", "--fit", "400x400"}, false, true, 400},
+        {{"--tiff", "--jpeg", "--fit", "731x731", "--watermark", "mark.tiff", "--at", "-5,12", "--opacity", "40"},
+         true,
+         true,
+         731,
+         true,
+         -5,
+         12,
+         40},
+        {{"--jpeg", "--fit", "64x64", "--watermark", "mark.tiff", "--opacity", "250"},
+         false,
+         true,
+         64,
+         true,
+         0,
+         0,
+         250},
+        {{"--tiff", "--watermark", "mark.tiff", "--place", "lower-right+9"}, true, false, 0, true, 7, 7, 100, 2, 9},
+        {{"--tiff", "--fit", "333x333", "--watermark", "mark.tiff", "--place", "centre", "--opacity", "70"},
+         true,
+         false,
+         333,
+         true,
+         7,
+         7,
+         70,
+         5},
+    };
+    const std::string byCommand = temporaryFolder() + "/command destination";
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(c.words));
+        for (const std::string& folder : {byCommand, destination()}) {
+            removeItem(folder);
+            createFolder(folder);
+        }
+        const auto alerts = show([&] {
+            fillIn(source(), destination(), c.tiff, c.jpeg, c.fit);
+            control<QComboBox>("mWatermark")->setCurrentIndex(c.mark ? 1 : 0);
+            control<QComboBox>("mWatermarkPosition")->setCurrentIndex(c.place);
+            control<QCheckBox>("mWatermarkEachPicture")->setChecked(c.place > 0);
+            control<QSpinBox>("mWatermarkMargin")->setValue(c.margin);
+            control<QSpinBox>("mWatermarkPositionX")->setValue(c.x);
+            control<QSpinBox>("mWatermarkPositionY")->setValue(c.y);
+            control<QSpinBox>("mWatermarkOpacity")->setValue(c.opacity);
+            run();
+        });
+        ASSERT_EQ(alerts.size(), 1u); // of the damaged one
+        EXPECT_EQ(alerts[0].title, "One file could not be processed.");
+        settle();
+
+        std::vector<std::string> words{"zelpane", "--batch", source(), byCommand};
+        words.insert(words.end(), c.words.begin(), c.words.end());
+        std::vector<char*> argv;
+        for (std::string& word : words) argv.push_back(word.data());
+        EXPECT_EQ(runBatchCommandLine(int(argv.size()), argv.data()), 1);
+        const auto names = contentsOfFolder(byCommand);
+        EXPECT_EQ(names.size(), (c.tiff ? 6u : 0u) + (c.jpeg ? 6u : 0u));
+        EXPECT_EQ(contentsOfFolder(destination()), names);
+        for (const std::string& name : names)
+            EXPECT_EQ(readWholeFile(destination() + "/" + name), readWholeFile(byCommand + "/" + name)) << name;
+    }
+    removeItem(byCommand);
+}
+
+TEST_F(ImageProcessor, ASourceFolderThatCannotBeListedIsSaid)
+{
+    const std::string file = temporaryFolder() + "/no folder";
+    writeFileSafely(file, "x", 1);
+    const auto alerts = show([&] {
+        fillIn(file, destination());
+        run();
+    });
+    ASSERT_EQ(alerts.size(), 1u);
+    EXPECT_EQ(alerts[0].title, "The source folder cannot be listed.");
+    EXPECT_FALSE(processor().window()->isVisible());
+    removeItem(file);
+}
+
 TEST_F(ImageProcessor, CancelEndsTheRunAfterTheImageAtWork)
 {
     for (int i = 0; i < 12; ++i) add("made/valid/base.jpg", std::to_string(10 + i) + ".jpg");
@@ -239,6 +374,31 @@ TEST_F(ImageProcessor, PresetsFillInThePosition)
         EXPECT_EQ(control<QSpinBox>("mWatermarkPositionX")->value(),
                   500); // no watermark chosen: its own size is nothing
         EXPECT_EQ(control<QSpinBox>("mWatermarkPositionY")->value(), 250);
+        click(control<QPushButton>("mCancelButton"));
+    });
+}
+
+TEST_F(ImageProcessor, TheSwitchForEachPictureIsOffAndFreesTheFieldsThatCount)
+{
+    show([&] {
+        auto* each = control<QCheckBox>("mWatermarkEachPicture");
+        auto* places = control<QComboBox>("mWatermarkPosition");
+        auto* x = control<QSpinBox>("mWatermarkPositionX");
+        each->setChecked(false);
+        places->setCurrentIndex(2);
+        emit places->activated(2);
+        EXPECT_TRUE(x->isEnabled());
+        EXPECT_FALSE(control<QSpinBox>("mWatermarkMargin")->isEnabled());
+        x->setValue(17);
+        each->setChecked(true);
+        emit places->activated(2);
+        EXPECT_FALSE(x->isEnabled());
+        EXPECT_TRUE(control<QSpinBox>("mWatermarkMargin")->isEnabled());
+        EXPECT_EQ(x->value(), 17); // nothing is filled in
+        places->setCurrentIndex(0);
+        emit places->activated(0);
+        EXPECT_TRUE(x->isEnabled()); // a position of one's own is one for all
+        each->setChecked(false);
         click(control<QPushButton>("mCancelButton"));
     });
 }
