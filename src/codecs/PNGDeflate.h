@@ -13,17 +13,19 @@ namespace zp::codec
 class StripDeflater
 {
 public:
-    StripDeflater();
+    /// @param step  bytes of a pixel, 1 to 4: whole pixels that repeat are seen too
+    explicit StripDeflater(unsigned step);
     ~StripDeflater();
     StripDeflater(const StripDeflater&) = delete;
     StripDeflater& operator=(const StripDeflater&) = delete;
     /// Appends the compressed strip. Unless it is the @p last it ends on a whole byte and without the final mark, so
-    /// that another strip's bytes may follow.
+    /// that another strip's bytes may follow. Throws bad_alloc.
     void deflate(std::span<const std::uint8_t> bytes, bool last, std::vector<std::uint8_t>& out);
 
 private:
     struct Private;
     std::unique_ptr<Private> d;
+    unsigned mStep;
 };
 
 /// The checksum of two pieces from theirs.

@@ -1,80 +1,142 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The filters as plain loops that the compiler turns into vector code.
+/// Chooses a filter for each row: all are weighed in one pass over it, and only the best is written.
 #include "codecs/PNGFilter.h"
-#include "base/Simd.h"
-#include "codecs/Codec.h"
 #include "codecs/PixelRows.h"
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "codecs/PNGFilter.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#ifndef ZP_PNG_FILTER_ONCE
+#define ZP_PNG_FILTER_ONCE
 namespace zp::codec
 {
 namespace
 {
 
-/// Sums of the bytes taken as signed numbers, without their signs: what is small compresses well.
-ZP_MULTIVERSION std::uint64_t weight(const std::uint8_t* bytes, std::size_t count)
+std::uint8_t nearest(int left, int up, int corner)
 {
-    std::uint64_t total = 0;
-    for (std::size_t i = 0; i < count;) {
-        const std::size_t end = std::min(count, i + 4096);
-        std::uint32_t sum = 0;
-        for (; i < end; ++i) {
-            const std::uint32_t v = bytes[i]; // as a signed byte, its size
-            sum += v < 128 ? v : 256 - v;
+    const int toLeft = std::abs(up - corner), toUp = std::abs(left - corner);
+    const int toCorner = std::abs(left + up - 2 * corner);
+    if (toLeft <= toUp && toLeft <= toCorner) return std::uint8_t(left);
+    return std::uint8_t(toUp <= toCorner ? up : corner);
+}
+
+} // namespace
+} // namespace zp::codec
+#endif
+
+HWY_BEFORE_NAMESPACE();
+namespace zp::codec::HWY_NAMESPACE
+{
+namespace
+{
+namespace hn = hwy::HWY_NAMESPACE;
+
+using D8 = hn::ScalableTag<std::uint8_t>;
+using V8 = hn::Vec<D8>;
+
+HWY_INLINE V8 distance(V8 a, V8 b) { return hn::Sub(hn::Max(a, b), hn::Min(a, b)); }
+HWY_INLINE hn::Mask<D8> notAbove(V8 a, V8 b) { return hn::Eq(hn::Min(a, b), a); }
+
+/// The neighbour nearest to left + above - corner, without leaving bytes: the corner's distance is the sum of the other
+/// two where both lie on the same side of the corner (and then never the least unless all are none), else the
+/// difference.
+HWY_INLINE V8 nearestOf(V8 left, V8 up, V8 corner)
+{
+    const V8 toLeft = distance(up, corner), toUp = distance(left, corner);
+    const auto opposite = hn::Xor(notAbove(left, corner), notAbove(up, corner));
+    const V8 toCorner = hn::IfThenElse(opposite, distance(toLeft, toUp), hn::SaturatedAdd(toLeft, toUp));
+    const V8 other = hn::IfThenElse(notAbove(toUp, toCorner), up, corner);
+    return hn::IfThenElse(notAbove(toLeft, hn::Min(toUp, toCorner)), left, other);
+}
+
+/// Sums of eight bytes each, taken as signed numbers without their signs.
+HWY_INLINE hn::Vec<hn::Repartition<std::uint64_t, D8>> weights(V8 v)
+{
+    return hn::SumsOf8(hn::Min(v, hn::Sub(hn::Zero(D8()), v)));
+}
+HWY_INLINE std::uint32_t weight(std::uint8_t v) { return std::min<std::uint32_t>(v, 256u - v); }
+
+void weigh(const std::uint8_t* row, const std::uint8_t* above, std::size_t count, unsigned step,
+           std::uint64_t (&sums)[kPNGFilters])
+{
+    const D8 d;
+    const hn::Repartition<std::uint64_t, D8> d64;
+    auto sub = hn::Zero(d64), up = hn::Zero(d64), paeth = hn::Zero(d64);
+    std::size_t i = 0;
+    for (; i + hn::Lanes(d) <= count; i += hn::Lanes(d)) {
+        const V8 x = hn::LoadU(d, row + i), left = hn::LoadU(d, row + i - step);
+        const V8 over = hn::LoadU(d, above + i), corner = hn::LoadU(d, above + i - step);
+        sub = hn::Add(sub, weights(hn::Sub(x, left)));
+        up = hn::Add(up, weights(hn::Sub(x, over)));
+        paeth = hn::Add(paeth, weights(hn::Sub(x, nearestOf(left, over, corner))));
+    }
+    const auto total = [&](auto v) HWY_ATTR { return hn::GetLane(hn::SumOfLanes(d64, v)); };
+    std::uint64_t subSum = total(sub), upSum = total(up), paethSum = total(paeth);
+    for (; i < count; ++i) {
+        const std::uint8_t left = row[i - step], corner = above[i - step];
+        subSum += weight(std::uint8_t(row[i] - left));
+        upSum += weight(std::uint8_t(row[i] - above[i]));
+        paethSum += weight(std::uint8_t(row[i] - nearest(left, above[i], corner)));
+    }
+    sums[unsigned(PNGFilter::Sub)] = subSum;
+    sums[unsigned(PNGFilter::Up)] = upSum;
+    sums[unsigned(PNGFilter::Paeth)] = paethSum;
+}
+
+void apply(PNGFilter filter, const std::uint8_t* row, const std::uint8_t* above, std::size_t count, unsigned step,
+           std::uint8_t* out)
+{
+    const D8 d;
+    const std::size_t n = hn::Lanes(d), whole = count / n * n;
+    const std::uint8_t* const other = filter == PNGFilter::Up ? above : row - step;
+    std::size_t i = 0;
+    if (filter == PNGFilter::Paeth) {
+        for (; i < whole; i += n) {
+            const V8 left = hn::LoadU(d, row + i - step), corner = hn::LoadU(d, above + i - step);
+            hn::StoreU(hn::Sub(hn::LoadU(d, row + i), nearestOf(left, hn::LoadU(d, above + i), corner)), d, out + i);
         }
-        total += sum;
-    }
-    return total;
-}
-
-ZP_MULTIVERSION void subtract(const std::uint8_t* row, const std::uint8_t* other, std::uint8_t* out, std::size_t count)
-{
-    for (std::size_t i = 0; i < count; ++i) out[i] = std::uint8_t(row[i] - other[i]);
-}
-
-ZP_MULTIVERSION void paeth(const std::uint8_t* row, const std::uint8_t* left, const std::uint8_t* above,
-                           const std::uint8_t* corner, std::uint8_t* out, std::size_t count)
-{
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::int16_t a = left[i], b = above[i], c = corner[i];
-        const auto pa = std::int16_t(b > c ? b - c : c - b), pb = std::int16_t(a > c ? a - c : c - a);
-        const auto sum = std::int16_t(a + b - 2 * c);
-        const auto pc = std::int16_t(sum < 0 ? -sum : sum);
-        const std::int16_t nearest = pb <= pc ? b : c;
-        const std::int16_t predicted = pa <= pb && pa <= pc ? a : nearest;
-        out[i] = std::uint8_t(row[i] - predicted);
-    }
-}
-
-void toRGB(const std::uint8_t* argb, std::uint8_t* rgb, int count)
-{
-    for (int x = 0; x < count; ++x, argb += 4, rgb += 3) {
-        rgb[0] = argb[1];
-        rgb[1] = argb[2];
-        rgb[2] = argb[3];
+        for (; i < count; ++i) out[i] = std::uint8_t(row[i] - nearest(row[i - step], above[i], above[i - step]));
+    } else {
+        for (; i < whole; i += n) hn::StoreU(hn::Sub(hn::LoadU(d, row + i), hn::LoadU(d, other + i)), d, out + i);
+        for (; i < count; ++i) out[i] = std::uint8_t(row[i] - other[i]);
     }
 }
 
 } // namespace
+} // namespace zp::codec::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace zp::codec
+{
+HWY_EXPORT(weigh);
+HWY_EXPORT(apply);
+
+void weighFilters(const std::uint8_t* row, const std::uint8_t* above, std::size_t count, unsigned step,
+                  std::uint64_t (&sums)[kPNGFilters])
+{
+    HWY_DYNAMIC_DISPATCH(weigh)(row, above, count, step, sums);
+}
+void applyFilter(PNGFilter filter, const std::uint8_t* row, const std::uint8_t* above, std::size_t count, unsigned step,
+                 std::uint8_t* out)
+{
+    HWY_DYNAMIC_DISPATCH(apply)(filter, row, above, count, step, out);
+}
 
 RowFilter::RowFilter(int width, unsigned samples)
-    : mWidth(width),
-      mSamples(samples),
-      mRow(samples * (std::size_t(width) + 1)),
-      mAbove(mRow.size()),
-      mCandidate(mRow.size()),
-      mBest(mRow.size())
+    : mWidth(width), mSamples(samples), mRow(samples * (std::size_t(width) + 1)), mAbove(mRow.size())
 {
 }
 
 void RowFilter::unpack(ConstBitmapView pixels, int y)
 {
-    if (mSamples == 3)
-        toRGB(pixels.rowData(y), mRow.data() + 3, mWidth);
-    else
-        unpremultiplyRowToRGBA(pixels.rowData(y), mRow.data() + 4, std::size_t(mWidth));
+    const auto unpackRow = mSamples == 1 ? argbToGrey : mSamples == 3 ? argbToRGB : unpremultiplyRowToRGBA;
+    unpackRow(pixels.rowData(y), mRow.data() + mSamples, std::size_t(mWidth));
 }
 
 void RowFilter::filterRow(ConstBitmapView pixels, int y, bool fresh, std::uint8_t* out)
@@ -89,27 +151,14 @@ void RowFilter::filterRow(ConstBitmapView pixels, int y, bool fresh, std::uint8_
     unpack(pixels, y);
     const std::size_t count = std::size_t(mWidth) * mSamples;
     const std::uint8_t *row = mRow.data() + mSamples, *above = mAbove.data() + mSamples;
-
-    enum : std::uint8_t { kSub = 1, kUp = 2, kPaeth = 4 };
-    subtract(row, mRow.data(), mBest.data(), count);
-    out[0] = kSub;
-    std::uint64_t least = weight(mBest.data(), count);
-    const auto consider = [&](std::uint8_t filter) {
-        const std::uint64_t w = weight(mCandidate.data(), count);
-        if (w >= least) return;
-        least = w;
-        out[0] = filter;
-        std::swap(mBest, mCandidate);
-    };
-    if (y > 0) {
-        subtract(row, above, mCandidate.data(), count);
-        consider(kUp);
-        if (least > 0) {
-            paeth(row, mRow.data(), above, mAbove.data(), mCandidate.data(), count);
-            consider(kPaeth);
-        }
-    }
-    std::memcpy(out + 1, mBest.data(), count);
+    std::uint64_t sums[kPNGFilters];
+    weighFilters(row, above, count, mSamples, sums);
+    auto best = PNGFilter::Sub;
+    for (const PNGFilter filter : {PNGFilter::Up, PNGFilter::Paeth})
+        if (sums[unsigned(filter)] < sums[unsigned(best)]) best = filter;
+    out[0] = std::uint8_t(best);
+    applyFilter(best, row, above, count, mSamples, out + 1);
 }
 
 } // namespace zp::codec
+#endif

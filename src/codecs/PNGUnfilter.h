@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Undoes PNG's row filters.
 #pragma once
+#include "codecs/PNGFilter.h"
 #include <cstddef>
 #include <cstdint>
 
 namespace zp::codec
 {
-
-enum class PNGFilter : std::uint8_t { None, Sub, Up, Average, Paeth };
-inline constexpr unsigned kPNGFilters = 5;
 
 /// A filtered row of bytes R, G, B to opaque pixels A, R, G, B, or of R, G, B, A to pixels with straight alpha. Filters
 /// look at bytes of the same channel only, so they can be undone in the editor's order.

@@ -85,15 +85,15 @@ struct Strip {
 
 std::vector<std::uint8_t> writePNG(ConstBitmapView pixels, const ImageProperties& properties)
 {
-    const bool alpha = !isOpaque(pixels);
-    const unsigned samples = alpha ? 4 : 3;
+    // A picture without colours takes a third of the file as grey; but a profile is one for colours.
+    const unsigned samples = !isOpaque(pixels) ? 4 : properties.iccProfile.empty() && isGrey(pixels) ? 1 : 3;
     const std::size_t rowBytes = std::size_t(pixels.width) * samples;
     const int rowsPerStrip = std::clamp(int(kStripBytes / rowBytes), 1, pixels.height);
     const int strips = (pixels.height + rowsPerStrip - 1) / rowsPerStrip;
     std::vector<Strip> parts(static_cast<std::size_t>(strips));
     parallelBands(strips, 1, [&](int first, int last) {
         RowFilter filter(pixels.width, samples);
-        StripDeflater deflater;
+        StripDeflater deflater(samples);
         std::vector<std::uint8_t> raw;
         for (int strip = first; strip < last; ++strip) {
             const int y0 = strip * rowsPerStrip, y1 = std::min(pixels.height, y0 + rowsPerStrip);
@@ -116,7 +116,8 @@ std::vector<std::uint8_t> writePNG(ConstBitmapView pixels, const ImageProperties
     std::vector<std::uint8_t> header;
     putBig(header, std::uint32_t(pixels.width));
     putBig(header, std::uint32_t(pixels.height));
-    for (const int field : {8, alpha ? 6 : 2, 0, 0, 0}) header.push_back(std::uint8_t(field));
+    const int type = samples == 4 ? 6 : samples == 3 ? 2 : 0;
+    for (const int field : {8, type, 0, 0, 0}) header.push_back(std::uint8_t(field));
     putChunk(out, "IHDR", {header});
     putMetadata(out, pixels, properties);
 

@@ -174,6 +174,35 @@ bool opaqueRow(const std::uint8_t* argb, std::size_t count)
     return opaque;
 }
 
+bool greyRow(const std::uint8_t* argb, std::size_t count)
+{
+    const D32 d;
+    const std::size_t n = hn::Lanes(d);
+    const V32 two = hn::Set(d, 0xFFFF);
+    V32 differences = hn::Zero(d);
+    std::size_t x = 0;
+    for (; x + n <= count; x += n) {
+        const V32 pixels = hn::BitCast(d, hn::LoadU(D8(), argb + 4 * x));
+        const V32 redGreen = hn::And(hn::ShiftRight<8>(pixels), two), greenBlue = hn::ShiftRight<16>(pixels);
+        differences = hn::Or(differences, hn::Xor(redGreen, greenBlue));
+    }
+    bool grey = hn::AllTrue(d, hn::Eq(differences, hn::Zero(d)));
+    for (; x < count; ++x) grey &= argb[4 * x + 1] == argb[4 * x + 2] && argb[4 * x + 2] == argb[4 * x + 3];
+    return grey;
+}
+
+void toGrey(const std::uint8_t* argb, std::uint8_t* grey, std::size_t count)
+{
+    const D32 d;
+    const hn::Rebind<std::uint8_t, D32> bytes;
+    std::size_t x = 0;
+    for (; x + hn::Lanes(d) <= count; x += hn::Lanes(d))
+        hn::StoreU(
+            hn::U8FromU32(hn::And(hn::ShiftRight<8>(hn::BitCast(d, hn::LoadU(D8(), argb + 4 * x))), hn::Set(d, 255))),
+            bytes, grey + x);
+    for (; x < count; ++x) grey[x] = argb[4 * x + 1];
+}
+
 } // namespace
 } // namespace zp::codec::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
@@ -190,6 +219,8 @@ HWY_EXPORT(toRGB);
 HWY_EXPORT(fromRGBA);
 HWY_EXPORT(toRGBA);
 HWY_EXPORT(opaqueRow);
+HWY_EXPORT(greyRow);
+HWY_EXPORT(toGrey);
 
 void premultiplyRow(std::uint8_t* argb, std::size_t count) { HWY_DYNAMIC_DISPATCH(premultiply)(argb, count); }
 void unpremultiplyRowToRGBA(const std::uint8_t* argb, std::uint8_t* rgba, std::size_t count)
@@ -219,10 +250,23 @@ void argbToRGBA(const std::uint8_t* argb, std::uint8_t* rgba, std::size_t count)
 }
 bool isOpaqueRow(const std::uint8_t* argb, std::size_t count) { return HWY_DYNAMIC_DISPATCH(opaqueRow)(argb, count); }
 
+bool isGreyRow(const std::uint8_t* argb, std::size_t count) { return HWY_DYNAMIC_DISPATCH(greyRow)(argb, count); }
+void argbToGrey(const std::uint8_t* argb, std::uint8_t* grey, std::size_t count)
+{
+    HWY_DYNAMIC_DISPATCH(toGrey)(argb, grey, count);
+}
+
 bool isOpaque(ConstBitmapView pixels)
 {
     for (int y = 0; y < pixels.height; ++y)
         if (!isOpaqueRow(pixels.rowData(y), std::size_t(pixels.width))) return false;
+    return true;
+}
+
+bool isGrey(ConstBitmapView pixels)
+{
+    for (int y = 0; y < pixels.height; ++y)
+        if (!isGreyRow(pixels.rowData(y), std::size_t(pixels.width))) return false;
     return true;
 }
 

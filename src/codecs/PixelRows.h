@@ -26,9 +26,14 @@ void argbToRGB(const std::uint8_t* argb, std::uint8_t* rgb, std::size_t count);
 /// The same bytes in the other order.
 void rgbaToARGB(const std::uint8_t* rgba, std::uint8_t* argb, std::size_t count);
 void argbToRGBA(const std::uint8_t* argb, std::uint8_t* rgba, std::size_t count);
+/// The red of each pixel.
+void argbToGrey(const std::uint8_t* argb, std::uint8_t* grey, std::size_t count);
 bool isOpaqueRow(const std::uint8_t* argb, std::size_t count);
+/// Whether red, green and blue are the same in each pixel.
+bool isGreyRow(const std::uint8_t* argb, std::size_t count);
 
-/// Whether every pixel is opaque.
+/// Whether every pixel is opaque, or grey.
 bool isOpaque(ConstBitmapView pixels);
+bool isGrey(ConstBitmapView pixels);
 
 } // namespace zp::codec

@@ -118,6 +118,20 @@ TEST(ImageEncoder, EveryPremultipliedPixelSurvivesPNG)
     EXPECT_TRUE(samePixels(again.bitmap->view(), rep->view()));
 }
 
+TEST(ImageEncoder, APictureWithoutColoursBecomesAGreyPNG)
+{
+    constexpr std::size_t kTypeOffset = 25; // signature, IHDR's length and name, width, height, depth
+    const auto rep = makePicture(40, 30, Look::Flat);
+    EXPECT_EQ(encodePNG(rep->view(), {}).at(kTypeOffset), 0);
+    ImageProperties profiled; // a profile is one for colours
+    profiled.iccProfile.resize(200);
+    EXPECT_EQ(encodePNG(rep->view(), profiled).at(kTypeOffset), 2);
+    rep->view().pixel(39, 29)[3] = 91;
+    EXPECT_EQ(encodePNG(rep->view(), {}).at(kTypeOffset), 2);
+    rep->view().pixel(39, 29)[0] = 254;
+    EXPECT_EQ(encodePNG(rep->view(), {}).at(kTypeOffset), 6);
+}
+
 TEST(ImageEncoder, UnpremultipliesLikeTheRoundedQuotient)
 {
     for (int a = 1; a < 256; ++a)

@@ -69,6 +69,7 @@ std::vector<Kernel> kernels()
              q[0] = p[3];
              std::copy_n(p, 3, q + 1);
          }},
+        {"argbToGrey", 4, 1, codec::argbToGrey, [](const std::uint8_t* p, std::uint8_t* q) { *q = p[1]; }},
         {"argbToRGBA", 4, 4, codec::argbToRGBA,
          [](const std::uint8_t* p, std::uint8_t* q) {
              q[3] = p[0];
@@ -109,6 +110,22 @@ TEST(PixelRows, DoWhatOnePixelAtATimeDoes)
                 }
         });
     }
+}
+
+TEST(PixelRows, OneColourAnywhereIsSeen)
+{
+    test::onEveryTarget([&] {
+        for (std::size_t n = 1; n < 140; ++n) {
+            Row row(4 * n, 0);
+            for (std::size_t i = 0; i < n; ++i) std::fill_n(&row[4 * i], 4, std::uint8_t(7 * i));
+            ASSERT_TRUE(codec::isGreyRow(row.data(), n));
+            for (std::size_t i = 0; i < 4 * n; ++i) {
+                row[i] ^= 0x40;
+                ASSERT_EQ(codec::isGreyRow(row.data(), n), i % 4 == 0) << i << " of " << n;
+                row[i] ^= 0x40;
+            }
+        }
+    });
 }
 
 TEST(PixelRows, OneClearPixelAnywhereIsSeen)
