@@ -4,11 +4,14 @@
 #include "base/WorkPool.h"
 #include "codecs/Codec.h"
 #include "codecs/MetadataBlocks.h"
+#include "codecs/PNGUnfilter.h"
+#include "codecs/TIFFLZW.h"
 #include "codecs/TIFFSamples.h"
 #include "codecs/TIFFSource.h"
 #include <algorithm>
 #include <atomic>
 #include <cstring>
+#include <memory>
 
 namespace zp::codec
 {
@@ -38,65 +41,110 @@ struct ChunkFaults {
     std::uint64_t damaged = 0, empty = 0; ///< the second are among the first: nothing of them could be decoded
 };
 
+/// Decodes strips or tiles one after the other; one object a thread.
+class ChunkReader
+{
+public:
+    ChunkReader(Bytes bytes, const TIFFLayout& layout)
+        : mSource(bytes), // a handle of its own: libtiff's are not to be shared by threads
+          mLayout(layout),
+          mConverter(layout),
+          mPlanes(layout.separatePlanes ? layout.neededSamples() : 1),
+          mChunkBytes(std::size_t(layout.chunkRowBytes) * std::size_t(layout.chunkHeight)),
+          mBuffer(allocatePixelsUninitialized(mChunkBytes * mPlanes + LZWDecoder::kSlack))
+    {
+        TIFFLayout own;
+        mReady = mSource.isOpen() && own.read(mSource.handle()) && mBuffer;
+    }
+    bool isReady() const { return mReady; }
+
+    /// The chunk at @p row and @p column to its place. @return whether it was whole; @p empty is set when nothing of it
+    /// could be decoded
+    bool read(std::uint64_t row, std::uint64_t column, BitmapView out, bool& empty)
+    {
+        const TIFFLayout& l = mLayout;
+        const auto across = std::uint64_t((l.width + l.chunkWidth - 1) / l.chunkWidth);
+        const auto down = std::uint64_t((l.height + l.chunkHeight - 1) / l.chunkHeight);
+        const int x = int(column) * l.chunkWidth, y = int(row) * l.chunkHeight;
+        const int width = std::min(l.chunkWidth, l.width - x), height = std::min(l.chunkHeight, l.height - y);
+        const std::size_t wanted = std::size_t(l.chunkRowBytes) * std::size_t(height);
+        bool whole = true, differences = false;
+        for (unsigned plane = 0; plane < mPlanes; ++plane) {
+            const std::uint64_t index = (plane * down + row) * across + column;
+            whole &= unpack(index, mBuffer.get() + plane * mChunkBytes, wanted, differences);
+        }
+        const std::uint8_t* samples = mBuffer.get();
+        if (!whole) {
+            empty = std::all_of(samples, samples + mChunkBytes * mPlanes, [](std::uint8_t b) { return b == 0; });
+            if (empty) {
+                for (int i = 0; i < height; ++i) std::memset(out.pixel(x, y + i), 0, std::size_t(width) * 4);
+                return false;
+            }
+        }
+        for (int i = 0; i < height; ++i, samples += l.chunkRowBytes) {
+            if (differences)
+                mConverter.convertDifferences(samples, out.pixel(x, y + i), width);
+            else
+                mConverter.convertRow(samples, mChunkBytes, out.pixel(x, y + i), width);
+        }
+        return whole;
+    }
+
+private:
+    /// One strip or tile as samples, zeros where it is damaged. @param differences  set when each is still less the one
+    /// of the pixel before. @return whether it was whole
+    bool unpack(std::uint64_t index, std::uint8_t* to, std::size_t wanted, bool& differences)
+    {
+        const Bytes raw = mLayout.isPlainLZW() ? mSource.rawChunk(index) : Bytes();
+        if (raw.empty() || !LZWDecoder::handles(raw)) {
+            std::memset(to, 0, mChunkBytes); // a damaged chunk is decoded as far as it goes
+            return mSource.readChunk(index, to, std::int64_t(mChunkBytes), mLayout.tiled) >= std::int64_t(wanted);
+        }
+        const std::size_t got = mLZW.decode(raw, to, mChunkBytes);
+        std::memset(to + got, 0, mChunkBytes - got);
+        if (mLayout.predictor == PREDICTOR_HORIZONTAL) {
+            differences = mConverter.isPlain();
+            const std::size_t rowBytes = std::size_t(mLayout.chunkRowBytes);
+            const unsigned step = mLayout.separatePlanes ? 1 : mLayout.samples;
+            if (!differences)
+                for (std::uint8_t* row = to; row < to + mChunkBytes; row += rowBytes)
+                    unfilterBytes(PNGFilter::Sub, row, row, row, rowBytes, step);
+        }
+        return got >= wanted;
+    }
+
+    TIFFSource mSource;
+    const TIFFLayout& mLayout;
+    SampleConverter mConverter;
+    LZWDecoder mLZW;
+    unsigned mPlanes;
+    std::size_t mChunkBytes;
+    PixelMemory mBuffer;
+    bool mReady = false;
+};
+
 /// Strips or tiles straight into the rows.
 ChunkFaults decodeChunks(Bytes bytes, const TIFFLayout& layout, BitmapView out)
 {
     const auto across = std::uint64_t((layout.width + layout.chunkWidth - 1) / layout.chunkWidth);
-    const auto down = std::uint64_t((layout.height + layout.chunkHeight - 1) / layout.chunkHeight);
-    const unsigned planes = layout.separatePlanes ? layout.neededSamples() : 1;
-    std::atomic<std::uint64_t> failed{0}, empty{0};
-
+    const int down = (layout.height + layout.chunkHeight - 1) / layout.chunkHeight;
+    std::atomic<std::uint64_t> damaged{0}, empty{0};
     const auto decodeBand = [&](int first, int last) {
-        TIFFSource source(bytes); // a handle of its own: libtiff's are not to be shared by threads
-        TIFFLayout own;
-        if (!source.isOpen() || !own.read(source.handle())) {
-            failed += std::uint64_t(last - first) * across;
-            empty += std::uint64_t(last - first) * across;
-            return;
-        }
-        const std::size_t chunkBytes = std::size_t(layout.chunkRowBytes) * std::size_t(layout.chunkHeight);
-        const auto buffer = allocatePixelsUninitialized(chunkBytes * planes);
-        if (!buffer) {
-            failed += std::uint64_t(last - first) * across;
-            empty += std::uint64_t(last - first) * across;
-            return;
-        }
-        SampleConverter converter(layout);
-        for (std::uint64_t row = std::uint64_t(first); row < std::uint64_t(last); ++row) {
+        const auto reader = std::make_unique<ChunkReader>(bytes, layout);
+        for (int row = first; row < last; ++row)
             for (std::uint64_t column = 0; column < across; ++column) {
-                const int x = int(column) * layout.chunkWidth, y = int(row) * layout.chunkHeight;
-                const int width = std::min(layout.chunkWidth, layout.width - x);
-                const int height = std::min(layout.chunkHeight, layout.height - y);
-                bool whole = true;
-                for (unsigned plane = 0; plane < planes; ++plane) {
-                    const std::uint64_t index = (plane * down + row) * across + column;
-                    std::uint8_t* target = buffer.get() + plane * chunkBytes;
-                    std::memset(target, 0, chunkBytes); // a damaged chunk is decoded as far as it goes
-                    const std::int64_t got = source.readChunk(index, target, std::int64_t(chunkBytes), layout.tiled);
-                    whole &= got >= layout.chunkRowBytes * height;
-                }
-                if (!whole) {
-                    ++failed;
-                    const std::uint8_t* from = buffer.get();
-                    if (std::all_of(from, from + chunkBytes * planes, [](std::uint8_t b) { return b == 0; })) {
-                        ++empty;
-                        for (int i = 0; i < height; ++i) std::memset(out.pixel(x, y + i), 0, std::size_t(width) * 4);
-                        continue;
-                    }
-                }
-                for (int i = 0; i < height; ++i)
-                    converter.convertRow(buffer.get() + std::size_t(i) * std::size_t(layout.chunkRowBytes), chunkBytes,
-                                         out.pixel(x, y + i), width);
+                bool nothing = !reader->isReady();
+                if (!nothing && reader->read(std::uint64_t(row), column, out, nothing)) continue;
+                ++damaged;
+                if (nothing) ++empty;
             }
-        }
     };
     // Few large pieces: each opens the file's structure again.
-    const int rows = int(down);
-    if (rows < 2 || std::int64_t(layout.width) * layout.height < 500'000)
-        decodeBand(0, rows);
+    if (down < 2 || std::int64_t(layout.width) * layout.height < 500'000)
+        decodeBand(0, down);
     else
-        parallelBands(rows, std::max(1, rows / (2 * workerCount())), decodeBand);
-    return {failed, empty};
+        parallelBands(down, std::max(1, down / (2 * workerCount())), decodeBand);
+    return {damaged, empty};
 }
 
 /// libtiff's own conversion, for colours that are not red, green, blue, grey, palette or inks.

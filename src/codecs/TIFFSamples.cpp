@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Unpacks TIFF samples; bytes of red, green and blue, the usual case, take a short way.
 #include "codecs/TIFFSamples.h"
+#include "codecs/PNGUnfilter.h" // whose filter that looks to the left is TIFF's predictor
 #include "codecs/PixelRows.h"
 #include <algorithm>
 #include <bit>
@@ -152,22 +153,8 @@ void SampleConverter::unpack(const std::uint8_t* samples, unsigned first, unsign
 void SampleConverter::convertRow(const std::uint8_t* samples, std::size_t planeBytes, std::uint8_t* argb, int count)
 {
     const TIFFLayout& l = mLayout;
-    if (l.photometric == PHOTOMETRIC_RGB && l.bits == 8 && l.format != SAMPLEFORMAT_INT && !l.separatePlanes) {
-        std::uint8_t* p = argb;
-        if (!l.hasAlpha())
-            for (int x = 0; x < count; ++x, samples += l.samples, p += 4) {
-                p[0] = 255;
-                p[1] = samples[0];
-                p[2] = samples[1];
-                p[3] = samples[2];
-            }
-        else
-            for (int x = 0; x < count; ++x, samples += l.samples, p += 4) {
-                p[0] = samples[3];
-                p[1] = samples[0];
-                p[2] = samples[1];
-                p[3] = samples[2];
-            }
+    if (isPlain()) {
+        (l.samples == 4 ? rgbaToARGB : rgbToARGB)(samples, argb, std::size_t(count));
         finish(argb, count);
         return;
     }
@@ -208,6 +195,20 @@ void SampleConverter::convertRow(const std::uint8_t* samples, std::size_t planeB
     finish(argb, count);
 }
 
+bool SampleConverter::isPlain() const
+{
+    const TIFFLayout& l = mLayout;
+    return l.photometric == PHOTOMETRIC_RGB && l.bits == 8 && l.format != SAMPLEFORMAT_INT && !l.separatePlanes &&
+           l.samples == (l.hasAlpha() ? 4u : 3u);
+}
+
+void SampleConverter::convertDifferences(const std::uint8_t* samples, std::uint8_t* argb, int count) const
+{
+    const auto undo = mLayout.samples == 4 ? unfilterRGBA : unfilterRGB;
+    undo(PNGFilter::Sub, samples, nullptr, argb, std::size_t(count));
+    finish(argb, count);
+}
+
 void SampleConverter::finish(std::uint8_t* argb, int count) const
 {
     if (!mLayout.hasAlpha()) return;
@@ -215,8 +216,7 @@ void SampleConverter::finish(std::uint8_t* argb, int count) const
         premultiplyRow(argb, std::size_t(count));
         return;
     }
-    for (int x = 0; x < count; ++x, argb += 4)
-        for (int k = 1; k < 4; ++k) argb[k] = std::min(argb[k], argb[0]);
+    limitRowToAlpha(argb, std::size_t(count));
 }
 
 } // namespace zp::codec

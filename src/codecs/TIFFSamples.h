@@ -18,6 +18,10 @@ public:
     explicit SampleConverter(const TIFFLayout& layout);
     /// @param samples one row as libtiff decodes it; of planes, the first, the others @p planeBytes apart
     void convertRow(const std::uint8_t* samples, std::size_t planeBytes, std::uint8_t* argb, int count);
+    /// Whether rows are bytes of red, green and blue, or those and alpha, and nothing else.
+    bool isPlain() const;
+    /// A plain row whose samples are differences from the pixel before. Writes up to three pixels more.
+    void convertDifferences(const std::uint8_t* samples, std::uint8_t* argb, int count) const;
 
 private:
     void unpack(const std::uint8_t* samples, unsigned first, unsigned step, std::uint16_t* out, int count) const;

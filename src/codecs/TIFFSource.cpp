@@ -21,6 +21,8 @@ bool TIFFLayout::read(TIFF* tiff)
     get(TIFFTAG_SAMPLEFORMAT, format);
     get(TIFFTAG_INKSET, inkSet);
     get(TIFFTAG_COMPRESSION, compression);
+    get(TIFFTAG_FILLORDER, fillOrder);
+    if (compression == COMPRESSION_LZW) get(TIFFTAG_PREDICTOR, predictor); // a tag of this and few other codecs
     codecKnown = TIFFIsCODECConfigured(std::uint16_t(compression)) != 0;
     photometric = TIFFGetField(tiff, TIFFTAG_PHOTOMETRIC, &value) ? value
                   : samples >= 3                                  ? unsigned(PHOTOMETRIC_RGB)

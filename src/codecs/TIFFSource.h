@@ -2,6 +2,7 @@
 /// A TIFF file in memory, and how its first picture is laid out.
 #pragma once
 #include "codecs/Codec.h"
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
@@ -41,6 +42,14 @@ public:
     {
         return tiled ? TIFFReadEncodedTile(mHandle, std::uint32_t(index), to, count)
                      : TIFFReadEncodedStrip(mHandle, std::uint32_t(index), to, count);
+    }
+
+    /// The bytes of a strip or tile as they stand in the file, as far as the file has them.
+    Bytes rawChunk(std::uint64_t index) const
+    {
+        const std::uint64_t at = TIFFGetStrileOffset(mHandle, std::uint32_t(index));
+        if (at >= mBytes.size()) return {};
+        return mBytes.subspan(at, std::min(TIFFGetStrileByteCount(mHandle, std::uint32_t(index)), mBytes.size() - at));
     }
 
 private:
@@ -92,6 +101,7 @@ struct TIFFLayout {
     unsigned bits = 1, samples = 1, format = SAMPLEFORMAT_UINT, photometric = PHOTOMETRIC_MINISBLACK;
     unsigned extraSamples = 0, alphaKind = EXTRASAMPLE_UNSPECIFIED; ///< what the first extra sample means
     unsigned inkSet = INKSET_CMYK, compression = COMPRESSION_NONE;
+    unsigned predictor = PREDICTOR_NONE, fillOrder = FILLORDER_MSB2LSB;
     int orientation = 1;
     bool separatePlanes = false, tiled = false, codecKnown = false;
     int chunkWidth = 0, chunkHeight = 0; ///< of a tile, or of a strip of full width
@@ -109,6 +119,13 @@ struct TIFFLayout {
     bool hasAlpha() const { return samples > colourSamples() && alphaKind != EXTRASAMPLE_UNSPECIFIED; }
     unsigned neededSamples() const { return colourSamples() + (hasAlpha() ? 1 : 0); }
     std::uint64_t chunkCount() const;
+    /// Packed by LZW in the way that LZWDecoder knows, if its strips are not of the very old kind, in samples that need
+    /// no bringing into this machine's order.
+    bool isPlainLZW() const
+    {
+        return compression == COMPRESSION_LZW && fillOrder == FILLORDER_MSB2LSB && bits <= 8 &&
+               (predictor == PREDICTOR_NONE || (predictor == PREDICTOR_HORIZONTAL && bits == 8));
+    }
 };
 
 } // namespace zp::codec

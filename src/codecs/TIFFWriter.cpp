@@ -4,6 +4,7 @@
 #include "codecs/Codec.h"
 #include "codecs/CodecWriters.h"
 #include "codecs/MetadataBlocks.h"
+#include "codecs/PNGFilter.h" // whose filter that looks to the left is TIFF's only predictor
 #include "codecs/PixelRows.h"
 #include "codecs/TIFFLZW.h"
 #include <algorithm>
@@ -18,53 +19,27 @@ namespace
 constexpr std::size_t kStripBytes = 512 << 10;
 constexpr std::uint64_t kMaxFileBytes = 0xFFFF0000; // offsets are 32 bits
 
-/// One row as R, G, B or R, G, B, A, every sample minus the one of the pixel before when @p difference.
-void packRow(const std::uint8_t* argb, std::uint8_t* to, int count, bool alpha, bool difference)
-{
-    const unsigned step = alpha ? 4 : 3;
-    if (!difference) {
-        for (int x = 0; x < count; ++x, argb += 4, to += step) {
-            to[0] = argb[1];
-            to[1] = argb[2];
-            to[2] = argb[3];
-            if (alpha) to[3] = argb[0];
-        }
-        return;
-    }
-    std::uint8_t a = 0, r = 0, g = 0, b = 0;
-    for (int x = 0; x < count; ++x, argb += 4, to += step) {
-        to[0] = std::uint8_t(argb[1] - r);
-        to[1] = std::uint8_t(argb[2] - g);
-        to[2] = std::uint8_t(argb[3] - b);
-        if (alpha) to[3] = std::uint8_t(argb[0] - a);
-        a = argb[0];
-        r = argb[1];
-        g = argb[2];
-        b = argb[3];
-    }
-}
-
-std::vector<std::vector<std::uint8_t>> encodeStrips(ConstBitmapView pixels, bool alpha, bool lzw, int rowsPerStrip)
+std::vector<std::vector<std::uint8_t>> encodeStrips(ConstBitmapView pixels, unsigned samples, bool lzw,
+                                                    int rowsPerStrip)
 {
     const int strips = (pixels.height + rowsPerStrip - 1) / rowsPerStrip;
-    const std::size_t rowBytes = std::size_t(pixels.width) * (alpha ? 4 : 3);
+    const std::size_t rowBytes = std::size_t(pixels.width) * samples;
     std::vector<std::vector<std::uint8_t>> out(static_cast<std::size_t>(strips));
     parallelBands(strips, 1, [&](int first, int last) {
         LZWEncoder encoder;
-        std::vector<std::uint8_t> raw(rowBytes * std::size_t(rowsPerStrip)), packed;
-        for (int strip = first; strip < last; ++strip) {
-            const int y0 = strip * rowsPerStrip, y1 = std::min(pixels.height, y0 + rowsPerStrip);
-            for (int y = y0; y < y1; ++y)
-                packRow(pixels.rowData(y), &raw[std::size_t(y - y0) * rowBytes], pixels.width, alpha, lzw);
-            const std::span<const std::uint8_t> bytes(raw.data(), std::size_t(y1 - y0) * rowBytes);
-            auto& strip_ = out[std::size_t(strip)];
-            if (lzw) {
-                packed.clear();
-                encoder.encode(bytes, packed);
-                strip_.assign(packed.begin(), packed.end());
-            } else {
-                strip_.assign(bytes.begin(), bytes.end());
+        std::vector<std::uint8_t> raw(rowBytes * std::size_t(rowsPerStrip)), row(samples + rowBytes), packed;
+        for (int i = first; i < last; ++i) {
+            const int y0 = i * rowsPerStrip, y1 = std::min(pixels.height, y0 + rowsPerStrip);
+            std::uint8_t* to = raw.data();
+            for (int y = y0; y < y1; ++y, to += rowBytes) {
+                std::uint8_t* const plain = lzw ? row.data() + samples : to; // before its first pixel stand zeros
+                (samples == 4 ? argbToRGBA : argbToRGB)(pixels.rowData(y), plain, std::size_t(pixels.width));
+                if (lzw) applyFilter(PNGFilter::Sub, plain, nullptr, rowBytes, samples, to);
             }
+            const std::span<const std::uint8_t> bytes(raw.data(), std::size_t(y1 - y0) * rowBytes);
+            if (lzw) encoder.encode(bytes, packed);
+            const auto strip = lzw ? std::span<const std::uint8_t>(packed) : bytes;
+            out[std::size_t(i)].assign(strip.begin(), strip.end());
         }
     });
     return out;
@@ -77,7 +52,7 @@ std::vector<std::uint8_t> writeTIFF(ConstBitmapView pixels, const ImagePropertie
     const bool alpha = !isOpaque(pixels);
     const unsigned samples = alpha ? 4 : 3;
     const int rowsPerStrip = std::clamp(int(kStripBytes / (std::size_t(pixels.width) * samples)), 1, pixels.height);
-    const auto strips = encodeStrips(pixels, alpha, lzw, rowsPerStrip);
+    const auto strips = encodeStrips(pixels, samples, lzw, rowsPerStrip);
 
     ExifBlock block = exifForSaving(properties, pixels.width, pixels.height);
     ExifDirectory& file = block.image;
