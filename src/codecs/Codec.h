@@ -38,6 +38,9 @@ struct Decoded {
 };
 
 Decoded decodeJPEG(Bytes bytes, const ImportOptions& options);
+/// A JPEG file's pixels into @p pixels, which have the file's size, as they stand in it. @return false when it is
+/// damaged in any way, of another size or no such file: then pixels may have been written. Throws bad_alloc.
+bool decodeJPEGInto(Bytes bytes, BitmapView pixels);
 Decoded decodePNG(Bytes bytes, const ImportOptions& options);
 Decoded decodeTIFF(Bytes bytes, const ImportOptions& options);
 

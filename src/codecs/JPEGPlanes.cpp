@@ -37,8 +37,8 @@ bool PlaneDecoder::handles(jpeg_decompress_struct& info)
     return true;
 }
 
-PlaneDecoder::PlaneDecoder(jpeg_decompress_struct& info, BitmapView out)
-    : mInfo(info), mOut(out), mPlanes(std::size_t(info.num_components))
+PlaneDecoder::PlaneDecoder(jpeg_decompress_struct& info, BitmapView out, int skip)
+    : mInfo(info), mOut(out), mSkip(skip), mEnd(skip + out.height), mPlanes(std::size_t(info.num_components))
 {
     const int least = info.min_DCT_scaled_size;
     mRowsOfUnit = info.max_v_samp_factor * least;
@@ -59,9 +59,11 @@ PlaneDecoder::PlaneDecoder(jpeg_decompress_struct& info, BitmapView out)
         plane.stride = std::size_t(c.width_in_blocks) * std::size_t(c.DCT_scaled_size) + kRowSlack;
         unitBytes += plane.stride * std::size_t(plane.rowsOfUnit);
     }
-    const int all = dividedUp(out.height, mRowsOfUnit);
-    mBatch = std::clamp(int(kBatchBytes / unitBytes), 1, all);
-    mUnits = std::min(all, kBatches * mBatch);
+    const int rows = std::min(mEnd + (mNeedsNext ? 1 : 0), int(info.output_height));
+    mWanted = dividedUp(rows, mRowsOfUnit);
+    mBatch = std::clamp(int(kBatchBytes / unitBytes), 1, mWanted);
+    mUnits = std::min(mWanted, kBatches * mBatch);
+    mConverted = std::max(0, mSkip - (mNeedsNext ? 1 : 0)); // of the row before the first one the samples are needed
     for (Plane& plane : mPlanes) {
         plane.rows.resize(plane.stride * std::size_t(plane.rowsOfUnit) * std::size_t(mUnits) + kRowSlack);
         plane.wide.resize(2 * std::size_t(plane.width) + 2 * kRowSlack);
@@ -85,11 +87,11 @@ int PlaneDecoder::decode()
         std::unique_lock lock(mMutex);
         for (;;) {
             mChanged.wait(lock, [this] { return !mConverting && (mEnded || mConverted < convertible()); });
-            if (mConverted == convertible()) return;
+            if (mConverted >= convertible()) return;
             convertBand(lock);
         }
     });
-    return mConverted;
+    return std::max(0, mConverted - mSkip);
 }
 
 /// Owns nothing that a jump of the library's could leak.
@@ -97,7 +99,7 @@ void PlaneDecoder::readUnits(jpeg_decompress_struct& info, PlaneDecoder& self)
 {
     if (setjmp(static_cast<Errors*>(info.err)->jump)) return;
     JSAMPARRAY planes[3];
-    while (info.output_scanline < info.output_height) {
+    while (self.mDecoded < self.mWanted) {
         self.pointAtNextUnit(planes);
         jpeg_read_raw_data(&info, planes, JDIMENSION(self.mRowsOfUnit));
         self.unitIsDecoded();
@@ -136,7 +138,7 @@ void PlaneDecoder::unitIsDecoded()
 int PlaneDecoder::convertible() const
 {
     const int rows = mPublished * mRowsOfUnit;
-    return std::min(mOut.height, mEnded || !mNeedsNext ? rows : std::max(0, rows - 1));
+    return std::min(mEnd, mEnded || !mNeedsNext ? rows : std::max(0, rows - 1));
 }
 
 void PlaneDecoder::convertBand(std::unique_lock<std::mutex>& lock)
@@ -147,13 +149,13 @@ void PlaneDecoder::convertBand(std::unique_lock<std::mutex>& lock)
     const int last = std::min(convertible(), ((first + early) / band + 1) * band - early);
     mConverting = true;
     lock.unlock();
-    for (int y = first; y < last; ++y) {
+    for (int y = std::max(first, mSkip); y < last; ++y) {
         const std::uint8_t* rows[3];
         for (std::size_t i = 0; i < mPlanes.size(); ++i) rows[i] = samplesOfRow(mPlanes[i], y, units);
         if (mPlanes.size() == 1)
-            greysToARGB(rows[0], mOut.rowData(y), std::size_t(mOut.width));
+            greysToARGB(rows[0], mOut.rowData(y - mSkip), std::size_t(mOut.width));
         else
-            coloursToARGB(rows[0], rows[1], rows[2], mOut.rowData(y), std::size_t(mOut.width));
+            coloursToARGB(rows[0], rows[1], rows[2], mOut.rowData(y - mSkip), std::size_t(mOut.width));
     }
     lock.lock();
     mConverted = last;

@@ -20,10 +20,12 @@ public:
     /// full or half resolution across and down. Asked when the header is read and the scale and the wanted colours set.
     static bool handles(jpeg_decompress_struct& info);
 
-    /// @p info is about to be started, with its raw_data_out set, and outlives this. Throws bad_alloc.
-    PlaneDecoder(jpeg_decompress_struct& info, BitmapView out);
-    /// Decodes everything. @return how many rows of pixels are whole: all of them unless an error of the library's
-    /// ended the decoding. Any thread; of the pool's workers one joins in when it is free.
+    /// @p info was started, with its raw_data_out set, and outlives this. @param skip  rows before those of @p out,
+    /// which are decoded only for what the first one needs of them: none or a multiple of what a call of the library
+    /// gives. Throws bad_alloc.
+    PlaneDecoder(jpeg_decompress_struct& info, BitmapView out, int skip = 0);
+    /// Decodes as far as the rows of pixels need it. @return how many rows of pixels are whole: all of them unless an
+    /// error of the library's ended the decoding. Any thread; of the pool's workers one joins in when it is free.
     int decode();
 
 private:
@@ -47,10 +49,12 @@ private:
 
     jpeg_decompress_struct& mInfo;
     const BitmapView mOut;
+    const int mSkip, mEnd; ///< rows of the picture before those wanted, and before those behind
     std::vector<Plane> mPlanes;
     std::vector<std::uint16_t> mSums;
     std::vector<JSAMPROW> mRowPointers;
     int mRowsOfUnit = 0;     ///< rows of pixels that one call of the library gives
+    int mWanted = 0;         ///< units that are decoded at all
     int mUnits = 0;          ///< that the planes hold
     int mBatch = 1;          ///< units that are handed over at a time
     bool mNeedsNext = false; ///< a row may need samples of the row below
@@ -60,7 +64,7 @@ private:
     std::mutex mMutex; ///< guards what follows
     std::condition_variable mChanged;
     int mPublished = 0;       ///< units whose samples may be read
-    int mConverted = 0;       ///< rows of pixels
+    int mConverted = 0;       ///< rows of pixels, those that are skipped included
     bool mEnded = false;      ///< nothing more will be decoded
     bool mConverting = false; ///< one thread is at it
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// JPEG files straight into A, R, G, B rows.
 #include "codecs/Codec.h"
+#include "codecs/JPEGBands.h"
 #include "codecs/JPEGPlanes.h"
 #include "codecs/LibJPEG.h"
 #include "codecs/MetadataBlocks.h"
@@ -26,7 +27,7 @@ struct Session {
     jpeg_decompress_struct info{};
     jpeg::Errors errors;
     jpeg_progress_mgr progress{};
-    std::shared_ptr<BitmapRep> bitmap;
+    BitmapView out;
     std::vector<std::uint8_t> inkRow; ///< one row of a four-ink picture
 
     ~Session() { jpeg_destroy_decompress(&info); } // harmless on one that was never created
@@ -57,10 +58,21 @@ bool readHeader(Session& s, Bytes bytes, bool keepMarkers)
     return true;
 }
 
+/// Settles what the pixels shall be like.
+bool choose(Session& s, unsigned reduction)
+{
+    if (setjmp(s.errors.jump)) return false;
+    s.info.out_color_space = s.info.num_components == 4 ? JCS_CMYK : JCS_EXT_ARGB;
+    s.info.scale_num = 1;
+    s.info.scale_denom = reduction;
+    s.info.raw_data_out = jpeg::PlaneDecoder::handles(s.info);
+    jpeg_calc_output_dimensions(&s.info);
+    return true;
+}
+
 bool startDecoding(Session& s)
 {
     if (setjmp(s.errors.jump)) return false;
-    s.info.raw_data_out = jpeg::PlaneDecoder::handles(s.info);
     jpeg_start_decompress(&s.info);
     return true;
 }
@@ -83,7 +95,7 @@ void inksToColours(const std::uint8_t* inks, std::uint8_t* argb, int count, bool
 void readRows(Session& s)
 {
     if (setjmp(s.errors.jump)) return;
-    const BitmapView out = s.bitmap->view();
+    const BitmapView out = s.out;
     if (s.info.out_color_space == JCS_CMYK) {
         JSAMPROW row = s.inkRow.data();
         while (s.info.output_scanline < s.info.output_height) {
@@ -101,14 +113,6 @@ void readRows(Session& s)
         for (int i = 0; i < count; ++i) rows[i] = out.rowData(y + i);
         jpeg_read_scanlines(&s.info, rows, JDIMENSION(count));
     }
-}
-
-/// @return how many rows are whole
-int decodeRows(Session& s)
-{
-    if (s.info.raw_data_out) return jpeg::PlaneDecoder(s.info, s.bitmap->view()).decode();
-    readRows(s);
-    return int(s.info.output_scanline);
 }
 
 /// The rest of the file is only looked at for warnings.
@@ -193,6 +197,23 @@ unsigned reductionFor(const jpeg_decompress_struct& info, const ImportOptions& o
     return 1;
 }
 
+/// Everything into s.out, which has the chosen size. @return how many rows are whole
+int decodePixels(Session& s, Bytes bytes)
+{
+    if (s.info.raw_data_out)
+        if (const auto bands = jpeg::BandPlan::make(bytes, s.info); bands && bands->decode(s.out)) return s.out.height;
+    if (!startDecoding(s)) return 0;
+    if (s.info.raw_data_out) {
+        const int rows = jpeg::PlaneDecoder(s.info, s.out).decode();
+        if (rows == s.out.height) finish(s);
+        return rows;
+    }
+    if (s.info.out_color_space == JCS_CMYK) s.inkRow.resize(std::size_t{4} * s.info.output_width);
+    readRows(s);
+    if (s.info.output_scanline == s.info.output_height) finish(s);
+    return int(s.info.output_scanline);
+}
+
 } // namespace
 
 Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
@@ -201,35 +222,36 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
     if (!readHeader(s, bytes, options.properties)) return Decoded::failure(sentence(s));
     Decoded result;
     if (!checkSize(s.info.image_width, s.info.image_height, bytes.size(), result.error)) return result;
-
-    const bool inks = s.info.num_components == 4;
     if (s.info.num_components == 2) return Decoded::failure("JPEG pictures with two components cannot be read.");
-    s.info.out_color_space = inks ? JCS_CMYK : JCS_EXT_ARGB;
     result.orientation = orientationOf(s.info);
-    s.info.scale_num = 1;
-    s.info.scale_denom = reductionFor(s.info, options, result.orientation);
-    if (s.info.scale_denom > 1)
+    const unsigned reduction = reductionFor(s.info, options, result.orientation);
+    if (reduction > 1)
         result.reduction = {
-            .divisor = int(s.info.scale_denom), .width = int(s.info.image_width), .height = int(s.info.image_height)};
-    if (!startDecoding(s)) return Decoded::failure(sentence(s));
+            .divisor = int(reduction), .width = int(s.info.image_width), .height = int(s.info.image_height)};
+    if (!choose(s, reduction)) return Decoded::failure(sentence(s));
 
-    s.bitmap = BitmapRep::createUninitialized(int(s.info.output_width), int(s.info.output_height));
-    if (!s.bitmap) return Decoded::failure("There is not enough memory for this picture.");
-    if (inks) s.inkRow.resize(std::size_t{4} * s.info.output_width);
-    const BitmapView out = s.bitmap->view();
-    const int done = decodeRows(s);
-    const bool complete = done == out.height;
-    if (!complete) {
-        if (done == 0) return Decoded::failure(sentence(s));
-        for (int y = done; y < out.height; ++y) std::memset(out.rowData(y), 0, std::size_t(out.rowBytes));
-    }
-    if (options.properties) collectProperties(s.info, s.bitmap->properties); // finishing forgets the markers
-    if (complete) finish(s);
-    result.damaged = !complete || s.errors.num_warnings > 0;
+    auto bitmap = BitmapRep::createUninitialized(int(s.info.output_width), int(s.info.output_height));
+    if (!bitmap) return Decoded::failure("There is not enough memory for this picture.");
+    if (options.properties) collectProperties(s.info, bitmap->properties); // finishing forgets the markers
+    s.out = bitmap->view();
+    const int rows = decodePixels(s, bytes);
+    if (rows == 0) return Decoded::failure(sentence(s));
+    for (int y = rows; y < s.out.height; ++y) std::memset(s.out.rowData(y), 0, std::size_t(s.out.rowBytes));
+    result.damaged = rows < s.out.height || s.errors.num_warnings > 0;
     if (result.damaged)
-        s.bitmap->properties.warnings.emplace_back("The JPEG data is damaged; what could be read is shown.");
-    result.bitmap = std::move(s.bitmap);
+        bitmap->properties.warnings.emplace_back("The JPEG data is damaged; what could be read is shown.");
+    result.bitmap = std::move(bitmap);
     return result;
+}
+
+bool decodeJPEGInto(Bytes bytes, BitmapView pixels)
+{
+    Session s;
+    if (!readHeader(s, bytes, false) || s.info.num_components == 2) return false;
+    if (int(s.info.image_width) != pixels.width || int(s.info.image_height) != pixels.height) return false;
+    if (!choose(s, 1)) return false;
+    s.out = pixels;
+    return decodePixels(s, bytes) == pixels.height && s.errors.num_warnings == 0;
 }
 
 } // namespace zp::codec

@@ -6,6 +6,7 @@
 /// is made of block rows of 16 rows of pixels.
 #pragma once
 #include "base/BitmapView.h"
+#include "codecs/JPEGSegments.h"
 #include "codecs/LibJPEG.h"
 #include <array>
 #include <cstdint>
@@ -16,8 +17,6 @@ namespace zp::jpeg
 {
 
 inline constexpr int kBlockRow = 16; ///< rows of pixels
-inline constexpr std::uint8_t kMark = 0xFF, kEndOfImage = 0xD9, kRestart0 = 0xD0;
-inline constexpr int kRestartCycle = 8; ///< restart markers are numbered modulo this
 
 /// Divisors and codes of one kind of component, as the coder wants them.
 struct StripTables {

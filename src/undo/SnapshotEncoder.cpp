@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Compressing the strips of a picture that changed, each by itself, and joining them into one JPEG file.
 #include "base/WorkPool.h"
-#include "undo/JPEGMarkers.h"
 #include "undo/SnapshotJPEG.h"
+#include "undo/SnapshotSeal.h"
 #include <algorithm>
 #include <atomic>
 #include <new>

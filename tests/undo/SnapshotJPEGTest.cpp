@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Snapshot colours: one standard JPEG made of strips, the same as the library makes and reads in one go.
 #include "undo/SnapshotJPEG.h"
-#include "undo/JPEGMarkers.h"
+#include "undo/SnapshotSeal.h"
 #include "undo/TestPictures.h"
 #include <algorithm>
 #include <gtest/gtest.h>

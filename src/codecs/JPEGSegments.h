@@ -1,32 +1,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The bytes of a JPEG file that cutting and joining strips has to know, and the segment that vouches for a file.
+/// The bytes of a JPEG file that cutting and joining its strips has to know.
 #pragma once
-#include "codecs/JPEGStrips.h"
-#include "undo/Fingerprint.h"
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <optional>
 #include <span>
-#include <vector>
 
 namespace zp::jpeg
 {
 
-inline constexpr std::uint8_t kStartOfImage = 0xD8;
-inline constexpr std::uint8_t kFrameBaseline = 0xC0, kFrameExtended = 0xC1, kHuffmanTables = 0xC4, kArithmetic = 0xCC;
-inline constexpr std::uint8_t kQuantisation = 0xDB;
-inline constexpr std::uint8_t kRestartInterval = 0xDD, kStartOfScan = 0xDA, kApp0 = 0xE0, kApp9 = 0xE9;
-/// Where the height stands in a frame segment, counted from its 0xFF: marker, length, precision come before.
+inline constexpr std::uint8_t kMark = 0xFF, kStartOfImage = 0xD8, kEndOfImage = 0xD9, kRestart0 = 0xD0;
+inline constexpr std::uint8_t kFrameBaseline = 0xC0, kFrameExtended = 0xC1, kFrameLast = 0xCF;
+inline constexpr std::uint8_t kHuffmanTables = 0xC4, kExtensions = 0xC8, kArithmeticTables = 0xCC; ///< among the frames
+inline constexpr std::uint8_t kStartOfScan = 0xDA, kApp0 = 0xE0, kApp9 = 0xE9;
+inline constexpr int kRestartCycle = 8; ///< restart markers are numbered modulo this
+/// Where the height stands in a frame segment, counted from its 0xFF: marker, length, precision come before; the width
+/// follows.
 inline constexpr std::size_t kFrameHeightOffset = 5;
 
-inline bool isRestart(std::uint8_t marker) { return marker >= kRestart0 && marker <= kRestart0 + 7; }
 inline int read16(const std::uint8_t* bytes) { return bytes[0] << 8 | bytes[1]; }
 inline void write16(std::uint8_t* bytes, int value)
 {
     bytes[0] = std::uint8_t(value >> 8);
     bytes[1] = std::uint8_t(value);
+}
+
+/// Whether a segment of this kind states the picture's size.
+inline bool isFrame(std::uint8_t marker)
+{
+    return marker >= kFrameBaseline && marker <= kFrameLast && marker != kHuffmanTables && marker != kExtensions &&
+           marker != kArithmeticTables;
 }
 
 struct Segment {
@@ -70,34 +74,6 @@ inline std::size_t findMarker(std::span<const std::uint8_t> data, std::size_t fr
         ++from;
     }
     return data.size();
-}
-
-/// The segment that holds the fingerprint of everything behind it.
-inline constexpr std::array<std::uint8_t, 9> kSealName = {'Z', 'e', 'l', 'p', 'a', 'n', 'e', 0, 1};
-inline constexpr std::size_t kSealSize = 4 + kSealName.size() + 16;
-
-inline void writeSeal(std::uint8_t* at, Fingerprint fingerprint)
-{
-    at[0] = kMark;
-    at[1] = kApp9;
-    write16(at + 2, int(kSealSize) - 2);
-    std::memcpy(at + 4, kSealName.data(), kSealName.size());
-    std::memcpy(at + 4 + kSealName.size(), &fingerprint.low, 8);
-    std::memcpy(at + 12 + kSealName.size(), &fingerprint.high, 8);
-}
-
-inline bool isSeal(std::span<const std::uint8_t> file, const Segment& segment)
-{
-    return segment.marker == kApp9 && segment.end - segment.begin == kSealSize &&
-           std::memcmp(file.data() + segment.begin + 4, kSealName.data(), kSealName.size()) == 0;
-}
-
-inline Fingerprint sealedFingerprint(std::span<const std::uint8_t> file, const Segment& seal)
-{
-    Fingerprint result;
-    std::memcpy(&result.low, file.data() + seal.begin + 4 + kSealName.size(), 8);
-    std::memcpy(&result.high, file.data() + seal.begin + 12 + kSealName.size(), 8);
-    return result;
 }
 
 } // namespace zp::jpeg
