@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Opening and saving 24 megapixels beside the bare libraries, memory to memory.
 #include "base/Folders.h"
+#include "codecs/BenchPictures.h"
 #include "codecs/ImageEncoder.h"
 #include "codecs/ImageImporter.h"
 #include "codecs/TIFFSource.h"
 #include <benchmark/benchmark.h>
-#include <cmath>
 #include <cstdlib>
 #include <cstring>
-#include <opencv2/imgproc.hpp>
 #include <png.h>
-#include <random>
+#include <spng.h>
 #include <turbojpeg.h>
 #include <unistd.h>
 
@@ -18,65 +17,19 @@ namespace
 {
 
 using namespace zp;
-
-constexpr int kWidth = 6000, kHeight = 4000;
-
-/// A photograph enlarged, with the noise of a sensor; or flat colours and a curve.
-std::shared_ptr<BitmapRep> picture(bool photo)
-{
-    static std::shared_ptr<BitmapRep> made[2];
-    auto& rep = made[photo];
-    if (rep) return rep;
-    rep = BitmapRep::create(kWidth, kHeight);
-    cv::Mat target(kHeight, kWidth, CV_8UC4, rep->bitmapData(), std::size_t(rep->bytesPerRow()));
-    if (photo) {
-        const auto source = importImageFile(std::string(ZP_TESTDATA) + "/images/photos/tahoe-gps.jpg").bitmap;
-        const cv::Mat from(source->pixelsHigh(), source->pixelsWide(), CV_8UC4, source->bitmapData(),
-                           std::size_t(source->bytesPerRow()));
-        cv::resize(from, target, target.size(), 0, 0, cv::INTER_LINEAR);
-        std::mt19937 random(1);
-        std::normal_distribution<float> noise(0, 2);
-        std::vector<int> table(65536);
-        for (int& n : table) n = int(std::lround(noise(random)));
-        for (int y = 0; y < kHeight; ++y)
-            for (int x = 0; x < kWidth; ++x) {
-                std::uint8_t* p = rep->view().pixel(x, y);
-                p[0] = 255;
-                for (int k = 1; k < 4; ++k) p[k] = std::uint8_t(std::clamp(p[k] + table[random() & 65535], 0, 255));
-            }
-    } else {
-        target = cv::Scalar(255, 250, 248, 240);
-        for (int i = 0; i < 60; ++i)
-            cv::rectangle(target, {i * 97 % kWidth, i * 131 % kHeight, 700, 500},
-                          cv::Scalar(255, i * 40 % 256, i * 70 % 256, i * 110 % 256), cv::FILLED);
-        cv::ellipse(target, {3000, 2000}, {2500, 1500}, 20, 0, 360, cv::Scalar(255, 20, 20, 60), 9, cv::LINE_AA);
-    }
-    return rep;
-}
-
-std::vector<std::uint8_t> turboEncode(const BitmapRep& rep, int quality)
-{
-    static const tjhandle handle = tjInitCompress();
-    unsigned char* out = nullptr;
-    unsigned long bytes = 0;
-    tjCompress2(handle, rep.bitmapData(), kWidth, int(rep.bytesPerRow()), kHeight, TJPF_XRGB, &out, &bytes, TJSAMP_420,
-                quality, 0);
-    std::vector<std::uint8_t> result(out, out + bytes);
-    tjFree(out);
-    return result;
-}
+using namespace zp::bench;
 
 void pixels(benchmark::State& state) { state.SetItemsProcessed(state.iterations() * std::int64_t{kWidth} * kHeight); }
 
 void JPEGOpen(benchmark::State& state)
 {
-    const auto bytes = turboEncode(*picture(true), 92);
+    const auto bytes = turboEncode(*picture(Photo), 92);
     for (auto _ : state) benchmark::DoNotOptimize(importImage(bytes).bitmap.get());
     pixels(state);
 }
 void JPEGOpenFile(benchmark::State& state)
 {
-    const auto bytes = turboEncode(*picture(true), 92);
+    const auto bytes = turboEncode(*picture(Photo), 92);
     const std::string path = temporaryFolder() + "/zelpane-bench-" + std::to_string(getpid()) + ".jpg";
     if (!writeFileSafely(path, bytes.data(), bytes.size())) return state.SkipWithError("cannot be written");
     for (auto _ : state) benchmark::DoNotOptimize(importImageFile(path).bitmap.get());
@@ -85,7 +38,7 @@ void JPEGOpenFile(benchmark::State& state)
 }
 void JPEGOpenPeerTurbo(benchmark::State& state)
 {
-    const auto bytes = turboEncode(*picture(true), 92);
+    const auto bytes = turboEncode(*picture(Photo), 92);
     auto out = BitmapRep::create(kWidth, kHeight); // warm
     const tjhandle handle = tjInitDecompress();
     for (auto _ : state)
@@ -94,35 +47,30 @@ void JPEGOpenPeerTurbo(benchmark::State& state)
     tjDestroy(handle);
     pixels(state);
 }
+/// A file of our own, whose strips are decoded side by side.
+void JPEGOpenOwn(benchmark::State& state)
+{
+    const auto bytes = encodeJPEG(picture(Photo)->view(), {}, {.factor = 0.92});
+    for (auto _ : state) benchmark::DoNotOptimize(importImage(bytes).bitmap.get());
+    pixels(state);
+}
 void JPEGSave(benchmark::State& state)
 {
-    const auto rep = picture(true);
+    const auto rep = picture(Photo);
     for (auto _ : state) benchmark::DoNotOptimize(encodeJPEG(rep->view(), {}, {.fallbackBackground = kWhite}).data());
     pixels(state);
 }
 void JPEGSavePeerTurbo(benchmark::State& state)
 {
-    for (auto _ : state) benchmark::DoNotOptimize(turboEncode(*picture(true), 70).data());
+    for (auto _ : state) benchmark::DoNotOptimize(turboEncode(*picture(Photo), 70).data());
     pixels(state);
-}
-
-/// What the libraries take: rows of three bytes a pixel, one after the other.
-template <class Take>
-void eachRowInRGB(const BitmapRep& rep, Take take)
-{
-    std::vector<std::uint8_t> row(3 * kWidth);
-    for (int y = 0; y < kHeight; ++y) {
-        const std::uint8_t* p = rep.view().rowData(y);
-        for (std::size_t x = 0; x < kWidth; ++x) std::memcpy(&row[3 * x], p + 4 * x + 1, 3);
-        take(row.data(), y);
-    }
 }
 
 /// @param encode  gives the bytes of a picture's file
 template <class Encode>
 void measureSaving(benchmark::State& state, Encode encode)
 {
-    const auto rep = picture(state.range(0));
+    const auto rep = picture(Look(state.range(0)));
     std::size_t bytes = 0;
     for (auto _ : state) bytes = encode(*rep).size();
     state.counters["MB"] = double(bytes) / 1e6;
@@ -170,12 +118,12 @@ void TIFFSave(benchmark::State& state)
 void TIFFSavePeerLibtiff(benchmark::State& state) { measureSaving(state, tiffByLibrary); }
 void TIFFOpen(benchmark::State& state)
 {
-    const auto bytes = encodeTIFF(picture(state.range(0))->view(), {});
+    const auto bytes = encodeTIFF(picture(Look(state.range(0)))->view(), {});
     for (auto _ : state) benchmark::DoNotOptimize(importImage(bytes).bitmap.get());
 }
 void TIFFOpenPeerLibtiff(benchmark::State& state)
 {
-    const auto bytes = encodeTIFF(picture(state.range(0))->view(), {});
+    const auto bytes = encodeTIFF(picture(Look(state.range(0)))->view(), {});
     std::vector<std::uint8_t> row(3 * kWidth);
     for (auto _ : state) {
         codec::TIFFSource source(bytes);
@@ -215,12 +163,12 @@ void PNGSavePeerLibpng(benchmark::State& state)
 }
 void PNGOpen(benchmark::State& state)
 {
-    const auto bytes = pngByLibrary(*picture(state.range(0)), 1);
+    const auto bytes = pngByLibrary(*picture(Look(state.range(0))), 1);
     for (auto _ : state) benchmark::DoNotOptimize(importImage(bytes).bitmap.get());
 }
 void PNGOpenPeerLibpng(benchmark::State& state)
 {
-    const auto bytes = pngByLibrary(*picture(state.range(0)), 1);
+    const auto bytes = pngByLibrary(*picture(Look(state.range(0))), 1);
     auto rep = BitmapRep::create(kWidth, kHeight);
     for (auto _ : state) {
         struct Source {
@@ -241,10 +189,46 @@ void PNGOpenPeerLibpng(benchmark::State& state)
     }
 }
 
+void PNGOpenPeerSpng(benchmark::State& state)
+{
+    const auto bytes = pngByLibrary(*picture(Look(state.range(0))), 1);
+    std::vector<std::uint8_t> out(std::size_t{4} * kWidth * kHeight);
+    for (auto _ : state) {
+        spng_ctx* context = spng_ctx_new(0);
+        spng_set_png_buffer(context, bytes.data(), bytes.size());
+        if (spng_decode_image(context, out.data(), out.size(), SPNG_FMT_RGBA8, 0) != 0) state.SkipWithError("refused");
+        spng_ctx_free(context);
+    }
+}
+void PNGSavePeerSpng(benchmark::State& state)
+{
+    measureSaving(state, [&](const BitmapRep& rep) {
+        static std::vector<std::uint8_t> rows(std::size_t{3} * kWidth * kHeight);
+        eachRowInRGB(rep, [](const std::uint8_t* row, int y) {
+            std::memcpy(&rows[std::size_t(y) * 3 * kWidth], row, 3 * kWidth);
+        });
+        spng_ctx* context = spng_ctx_new(SPNG_CTX_ENCODER);
+        spng_ihdr header{kWidth, kHeight, 8, SPNG_COLOR_TYPE_TRUECOLOR, 0, 0, 0};
+        spng_set_ihdr(context, &header);
+        spng_set_option(context, SPNG_ENCODE_TO_BUFFER, 1);
+        spng_set_option(context, SPNG_IMG_COMPRESSION_LEVEL, 1);
+        spng_set_option(context, SPNG_FILTER_CHOICE, SPNG_FILTER_CHOICE_SUB);
+        spng_encode_image(context, rows.data(), rows.size(), SPNG_FMT_PNG, SPNG_ENCODE_FINALIZE);
+        std::size_t size = 0;
+        int error = 0;
+        auto* bytes = static_cast<std::uint8_t*>(spng_get_png_buffer(context, &size, &error));
+        std::vector<std::uint8_t> file(bytes, bytes + size);
+        std::free(bytes);
+        spng_ctx_free(context);
+        return file;
+    });
+}
+
 constexpr auto kUnit = benchmark::kMillisecond;
 BENCHMARK(JPEGOpen)->Unit(kUnit)->UseRealTime();
 BENCHMARK(JPEGOpenFile)->Unit(kUnit)->UseRealTime();
 BENCHMARK(JPEGOpenPeerTurbo)->Unit(kUnit)->UseRealTime();
+BENCHMARK(JPEGOpenOwn)->Unit(kUnit)->UseRealTime();
 BENCHMARK(JPEGSave)->Unit(kUnit)->UseRealTime();
 BENCHMARK(JPEGSavePeerTurbo)->Unit(kUnit)->UseRealTime();
 BENCHMARK(TIFFSave)->Arg(1)->Arg(0)->ArgName("photo")->Unit(kUnit)->UseRealTime();
@@ -260,6 +244,8 @@ BENCHMARK(PNGSavePeerLibpng)
     ->Unit(kUnit)
     ->UseRealTime();
 BENCHMARK(PNGOpen)->Arg(1)->Arg(0)->ArgName("photo")->Unit(kUnit)->UseRealTime();
+BENCHMARK(PNGOpenPeerSpng)->Arg(1)->Arg(0)->ArgName("photo")->Unit(kUnit)->UseRealTime();
+BENCHMARK(PNGSavePeerSpng)->Arg(1)->Arg(0)->ArgName("photo")->Unit(kUnit)->UseRealTime();
 BENCHMARK(PNGOpenPeerLibpng)->Arg(1)->Arg(0)->ArgName("photo")->Unit(kUnit)->UseRealTime();
 
 } // namespace
