@@ -3,6 +3,7 @@
 #include "base/BitmapRep.h"
 #include "drawing/Resample.h"
 #include "support/NoisePicture.h"
+#include <QImage>
 #include <benchmark/benchmark.h>
 #include <map>
 #include <opencv2/imgproc.hpp>
@@ -46,6 +47,19 @@ void theirs(benchmark::State& state)
     }
 }
 
+/// Qt's smooth scaling, with as many threads as it likes; its own byte order, which costs it nothing.
+void theirsQt(benchmark::State& state)
+{
+    BitmapRep& rep = sized(int(state.range(0)), int(state.range(1)));
+    const QImage source(rep.bitmapData(), rep.pixelsWide(), rep.pixelsHigh(), qsizetype(rep.bytesPerRow()),
+                        QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) {
+        const QImage out =
+            source.scaled(int(state.range(2)), int(state.range(3)), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        benchmark::DoNotOptimize(out.constBits());
+    }
+}
+
 void sizes(benchmark::internal::Benchmark* bench)
 {
     bench->Args({6000, 4000, 1600, 1067})
@@ -59,5 +73,6 @@ void sizes(benchmark::internal::Benchmark* bench)
 }
 BENCHMARK(ours)->Name("BM_Resample")->Apply(sizes);
 BENCHMARK(theirs)->Name("OpenCV_Resize")->Apply(sizes);
+BENCHMARK(theirsQt)->Name("Qt_Smooth")->Apply(sizes);
 
 } // namespace
