@@ -4,6 +4,7 @@
 add_library(zp_flags INTERFACE)
 target_compile_options(zp_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual
                                           -Werror -fno-math-errno
+                                          -ffp-contract=off # a fused product would round otherwise than one of a lesser machine
                                           -Wno-restrict) # GCC 12 reports it falsely on std::string's operator+
 if(ZP_SANITIZE STREQUAL "address")
     add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)

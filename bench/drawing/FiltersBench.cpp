@@ -3,10 +3,12 @@
 #include "base/BitmapRep.h"
 #include "drawing/Filters.h"
 #include "support/NoisePicture.h"
+#include "support/OpenCvPeer.h"
 #include <benchmark/benchmark.h>
 #include <opencv2/imgproc.hpp>
 
 using namespace zp;
+using bench::matOf;
 
 namespace
 {
@@ -23,11 +25,6 @@ BitmapRep& target()
     static const std::shared_ptr<BitmapRep> rep = BitmapRep::create(kWidth, kHeight);
     return *rep;
 }
-cv::Mat matOf(BitmapRep& rep)
-{
-    return {rep.pixelsHigh(), rep.pixelsWide(), CV_8UC4, rep.bitmapData(), std::size_t(rep.bytesPerRow())};
-}
-
 void run(benchmark::State& state, const FilterSettings& settings)
 {
     const ConstBitmapView source = photo().view();

@@ -3,12 +3,14 @@
 #include "base/BitmapRep.h"
 #include "drawing/Resample.h"
 #include "support/NoisePicture.h"
+#include "support/OpenCvPeer.h"
 #include <QImage>
 #include <benchmark/benchmark.h>
 #include <map>
 #include <opencv2/imgproc.hpp>
 
 using namespace zp;
+using bench::matOf;
 
 namespace
 {
@@ -20,11 +22,6 @@ BitmapRep& sized(int width, int height)
     if (!rep) rep = bench::noisePicture(width, height);
     return *rep;
 }
-cv::Mat matOf(BitmapRep& rep)
-{
-    return {rep.pixelsHigh(), rep.pixelsWide(), CV_8UC4, rep.bitmapData(), std::size_t(rep.bytesPerRow())};
-}
-
 void ours(benchmark::State& state)
 {
     BitmapRep& source = sized(int(state.range(0)), int(state.range(1)));

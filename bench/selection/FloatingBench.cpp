@@ -3,10 +3,12 @@
 /// pixels.
 #include "selection/FloatingImage.h"
 #include "support/NoisePicture.h"
+#include "support/OpenCvPeer.h"
 #include <benchmark/benchmark.h>
 #include <opencv2/imgproc.hpp>
 
 using namespace zp;
+using bench::matOf;
 
 namespace
 {
@@ -19,10 +21,6 @@ BitmapRep& photo()
     return *rep;
 }
 
-cv::Mat matOf(BitmapRep& rep)
-{
-    return {rep.pixelsHigh(), rep.pixelsWide(), CV_8UC4, rep.bitmapData(), std::size_t(rep.bytesPerRow())};
-}
 cv::Rect cvBox() { return {int(kBox.minX()), int(kBox.minY()), int(kBox.size.width), int(kBox.size.height)}; }
 
 BezierPath outline(int kind) { return kind == 0 ? BezierPath::withRect(kBox) : BezierPath::withOvalInRect(kBox); }
@@ -76,7 +74,6 @@ void BM_AnchorTurnedOpenCv(benchmark::State& state)
 {
     const cv::Mat image = matOf(photo()), floating = image(cvBox()).clone();
     cv::Mat to = matOf(photo());
-    cv::setNumThreads(2);
     const cv::Mat map = cv::getRotationMatrix2D({1500, 1000}, -20, 1);
     cv::Mat shifted = map.clone();
     shifted.at<double>(0, 2) += 1003, shifted.at<double>(1, 2) += 777;

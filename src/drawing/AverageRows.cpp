@@ -12,6 +12,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 template <class D>
 HWY_INLINE hn::Vec<D> weighed(D d, const std::uint8_t* bytes, std::uint32_t weight)
@@ -53,6 +55,7 @@ void averageCells(std::uint32_t* sums, int columns, int low, const AverageCell* 
     }
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

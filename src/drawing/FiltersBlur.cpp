@@ -19,7 +19,7 @@ namespace
 constexpr int kStrip = 256;
 
 void blurStrip(ConstBitmapView source, BitmapView destination, const BlurJob& job, const BlurWeights& weights,
-               const BlurPasses& passes, PixelBox box)
+               PixelBox box, bool stream)
 {
     const int radius = weights.radius(), taps = 2 * radius + 1, width = blocks(box.width());
     const int last = source.height - 1;
@@ -31,15 +31,15 @@ void blurStrip(ConstBitmapView source, BitmapView destination, const BlurJob& jo
         for (; next <= std::min(last, y + radius); ++next) {
             Wide* row = fetched.row(next);
             fetchRow(source, next, box.x0 - radius, box.x1 + radius, job, row);
-            passes.along(row + std::ptrdiff_t{4} * radius, blurred.row(next), box.width(), weights);
+            blurAlong(row + std::ptrdiff_t{4} * radius, blurred.row(next), box.width(), weights);
         }
         for (int k = -radius; k <= radius; ++k) rows[std::size_t(k + radius)] = blurred.row(std::clamp(y + k, 0, last));
         std::uint32_t* out = destination.row(y) + box.x0;
         if (job.sharpen)
-            passes.acrossSharpened(rows.data(), fetched.row(y) + std::ptrdiff_t{4} * radius, out, box.width(), weights,
-                                   job.amount);
+            sharpenAcross(rows.data(), fetched.row(y) + std::ptrdiff_t{4} * radius, out, box.width(), weights,
+                          job.amount, stream);
         else
-            passes.acrossToPixels(rows.data(), out, box.width(), weights);
+            blurAcrossToPixels(rows.data(), out, box.width(), weights, stream);
     }
 }
 
@@ -93,15 +93,14 @@ void blurPart(ConstBitmapView source, BitmapView destination, const BlurJob& job
 {
     if (job.sigma > kWidestDirect && !job.sharpen) return wideBlurPart(source, destination, job, part);
     const BlurWeights weights = gaussianWeights(job.sigma);
-    const BlurPasses& passes = job.passes ? *job.passes : blurPasses();
     const int radius = weights.radius();
     // Bands share the machine's cores; the rows above each band are computed twice, so a band is many times their
     // number.
     parallelBands(part.height(), std::max(64, 8 * radius), [&](int from, int to) {
         const int strip = std::max(kStrip, blocks(8 * radius));
         for (int x = part.x0; x < part.x1; x += strip)
-            blurStrip(source, destination, job, weights, passes,
-                      {x, part.y0 + from, std::min(part.x1, x + strip), part.y0 + to});
+            blurStrip(source, destination, job, weights,
+                      {x, part.y0 + from, std::min(part.x1, x + strip), part.y0 + to}, false);
     });
 }
 

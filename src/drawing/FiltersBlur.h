@@ -24,7 +24,6 @@ struct BlurJob {
     ColourMatrix matrix;
     bool sharpen = false; ///< unsharp mask instead of the blur itself; sigma up to kWidestDirect
     SharpenAmount amount;
-    const BlurPasses* passes = nullptr; ///< null: the fastest
 };
 
 /// Writes @p part of @p destination. Edges are extended. Both cores.

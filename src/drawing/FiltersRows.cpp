@@ -1,31 +1,195 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Row passes of the filters: plain loops the compiler vectorises, and the blur's passes for each processor.
+/// Colour in 32-bit floating point, blurs in 16-bit lanes.
 #include "drawing/FiltersRows.h"
-#include "base/Simd.h"
 #include <algorithm>
 #include <cstring>
-#if defined(__x86_64__)
-#include <immintrin.h>
-#endif
 
-namespace zp::filters
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "drawing/FiltersRows.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "base/PixelVectors-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zp::HWY_NAMESPACE
 {
-
 namespace
 {
 
-/// Two samples written as one word.
-using SampleWord = std::uint32_t __attribute__((may_alias));
+using filters::BlurWeights;
+using filters::ColourMatrix;
+using filters::kBlock;
+using filters::kWideBits;
+using filters::kWideOne;
+using filters::SharpenAmount;
+using filters::Wide;
 
 /// Half a level in wide samples, for rounding.
 constexpr int kWideHalf = 1 << (kWideBits - 1);
 
-/// Between 0 and alpha; NaN becomes 0.
-inline float clampToAlpha(float v, float alpha)
+// ---- colour ---------------------------------------------------------------------------------------------------------
+
+/// Red, green and blue of pixels through a matrix, each between 0 and @p scale times alpha, cut to whole numbers after
+/// half has been added.
+template <class D>
+struct Coloured {
+    hn::Vec<D> alpha, red, green, blue;
+};
+
+template <class D>
+HWY_INLINE Coloured<D> coloured(D d, hn::Vec<D> pixels, const float* m, float scale)
 {
-    const float low = v > 0 ? v : 0;
-    return low < alpha ? low : alpha;
+    const hn::RebindToSigned<D> whole;
+    const hn::RebindToFloat<D> real;
+    const auto byte = hn::Set(d, 255u);
+    const auto number = [&](hn::Vec<D> v) ZP_LANES { return hn::ConvertTo(real, hn::BitCast(whole, v)); };
+    const auto alpha = hn::And(pixels, byte);
+    const auto a = number(alpha), r = number(hn::And(hn::ShiftRight<8>(pixels), byte)),
+               g = number(hn::And(hn::ShiftRight<16>(pixels), byte)), b = number(hn::ShiftRight<24>(pixels));
+    const auto top = hn::Mul(a, hn::Set(real, scale));
+    const auto row = [&](int i) ZP_LANES {
+        const auto red = hn::Mul(hn::Set(real, m[4 * i]), r), green = hn::Mul(hn::Set(real, m[4 * i + 1]), g);
+        const auto blue = hn::Mul(hn::Set(real, m[4 * i + 2]), b), bias = hn::Mul(hn::Set(real, m[4 * i + 3]), a);
+        const auto sum = hn::Add(hn::Add(hn::Add(red, green), blue), bias);
+        // What is no number becomes 0.
+        const auto low = hn::IfThenElseZero(hn::Gt(sum, hn::Zero(real)), sum);
+        const auto rounded = hn::Add(hn::Min(low, top), hn::Set(real, 0.5f));
+        return hn::BitCast(d, hn::ConvertTo(whole, rounded));
+    };
+    return {alpha, row(0), row(1), row(2)};
 }
+
+void colourRow(const std::uint32_t* pixels, std::uint32_t* out, int count, const ColourMatrix& matrix)
+{
+    const ColourMatrix own = matrix;
+    forEachVector<std::uint32_t>(std::size_t(count), [&](auto d, std::size_t at) ZP_LANES {
+        const auto c = coloured(d, hn::LoadU(d, pixels + at), own.m, 1);
+        const auto lower = hn::Or(c.alpha, hn::ShiftLeft<8>(c.red));
+        hn::StoreU(hn::Or(lower, hn::Or(hn::ShiftLeft<16>(c.green), hn::ShiftLeft<24>(c.blue))), d, out + at);
+    });
+}
+
+void colourRowWide(const std::uint32_t* pixels, Wide* out, int count, const ColourMatrix& matrix)
+{
+    constexpr float kScale = 1 << kWideBits;
+    ColourMatrix own = matrix;
+    for (float& v : own.m) v *= kScale;
+    auto* const words = reinterpret_cast<std::uint32_t*>(out);
+    forEachVector<std::uint32_t>(std::size_t(count), [&](auto d, std::size_t at) ZP_LANES {
+        const auto c = coloured(d, hn::LoadU(d, pixels + at), own.m, kScale);
+        // Two samples to a word, two words to a pixel.
+        hn::StoreInterleaved2(hn::Or(hn::ShiftLeft<kWideBits>(c.alpha), hn::ShiftLeft<16>(c.red)),
+                              hn::Or(c.green, hn::ShiftLeft<16>(c.blue)), d, words + 2 * at);
+    });
+}
+
+void widenRow(const std::uint32_t* pixels, Wide* out, int count)
+{
+    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(pixels);
+    forEachVector<Wide>(std::size_t(count) * 4, [=](auto d, std::size_t at) ZP_LANES {
+        const hn::Rebind<std::uint8_t, decltype(d)> narrow;
+        hn::StoreU(hn::ShiftLeft<kWideBits>(hn::PromoteTo(d, hn::LoadU(narrow, bytes + at))), d, out + at);
+    });
+}
+
+// ---- blurs ----------------------------------------------------------------------------------------------------------
+
+using Samples16 = hn::CappedTag<Wide, 32>;
+using Vector = hn::Vec<Samples16>;
+constexpr int kLanes = int(hn::MaxLanes(Samples16()));
+/// Vectors at once: enough to share the weights' loads and hide each other's waits.
+constexpr int kGroup = 4;
+constexpr int kGroupSamples = kGroup * kLanes;
+static_assert(kBlock * 4 % kGroupSamples == 0);
+
+HWY_INLINE void middleShare(Vector (&sum)[kGroup], const Wide* middle, const BlurWeights& weights)
+{
+    const Samples16 d;
+    const auto taken = hn::Set(d, weights.taken);
+    for (int v = 0; v < kGroup; ++v) {
+        const auto c = hn::LoadU(d, middle + kLanes * v);
+        sum[v] = hn::Sub(c, hn::MulFixedPoint15(c, taken));
+    }
+}
+
+HWY_INLINE void addPair(Vector (&sum)[kGroup], const Wide* before, const Wide* behind, std::int16_t share)
+{
+    const Samples16 d;
+    const auto weight = hn::Set(d, share);
+    for (int v = 0; v < kGroup; ++v) {
+        const auto both = hn::Add(hn::LoadU(d, before + kLanes * v), hn::LoadU(d, behind + kLanes * v));
+        sum[v] = hn::Add(sum[v], hn::MulFixedPoint15(both, weight));
+    }
+}
+
+HWY_INLINE void sumAcross(Vector (&sum)[kGroup], const Wide* const* rows, int at, const BlurWeights& weights)
+{
+    const int radius = weights.radius();
+    middleShare(sum, rows[radius] + at, weights);
+    for (int k = 1; k <= radius; ++k)
+        addPair(sum, rows[radius - k] + at, rows[radius + k] + at, weights.side[std::size_t(k - 1)]);
+}
+
+HWY_INLINE void storeGroup(const Vector (&sum)[kGroup], Wide* out)
+{
+    for (int v = 0; v < kGroup; ++v) hn::StoreU(sum[v], Samples16(), out + kLanes * v);
+}
+
+void blurAlong(const Wide* middle, Wide* out, int count, const BlurWeights& weights)
+{
+    const int radius = weights.radius();
+    for (int i = 0; i < 4 * count; i += kGroupSamples) {
+        Vector sum[kGroup];
+        middleShare(sum, middle + i, weights);
+        for (int k = 1; k <= radius; ++k)
+            addPair(sum, middle + i - 4 * k, middle + i + 4 * k, weights.side[std::size_t(k - 1)]);
+        storeGroup(sum, out + i);
+    }
+}
+
+void blurAcross(const Wide* const* rows, Wide* out, int count, const BlurWeights& weights)
+{
+    for (int i = 0; i < 4 * count; i += kGroupSamples) {
+        Vector sum[kGroup];
+        sumAcross(sum, rows, i, weights);
+        storeGroup(sum, out + i);
+    }
+}
+
+/// A group's samples as pixels, rounded, from sample @p i of the row on.
+HWY_INLINE void storePixels(const Vector (&sum)[kGroup], std::uint32_t* pixels, int i, int count, bool stream)
+{
+    const Samples16 d;
+    const hn::Repartition<std::uint8_t, Samples16> whole;
+    const hn::Half<decltype(whole)> half;
+    const auto bytes = [&](Vector v) ZP_LANES {
+        return hn::DemoteTo(half, hn::ShiftRight<kWideBits>(hn::Add(v, hn::Set(d, kWideHalf))));
+    };
+    HWY_ALIGN std::uint8_t rest[kGroupSamples];
+    const bool fits = i + kGroupSamples <= 4 * count;
+    std::uint8_t* const target = fits ? reinterpret_cast<std::uint8_t*>(pixels) + i : rest;
+    for (int v = 0; v < kGroup; v += 2) {
+        const auto two = hn::Combine(whole, bytes(sum[v + 1]), bytes(sum[v]));
+        if (stream && fits)
+            hn::Stream(two, whole, target + kLanes * v);
+        else
+            hn::StoreU(two, whole, target + kLanes * v);
+    }
+    if (!fits) std::memcpy(pixels + i / 4, rest, std::size_t(count) * 4 - std::size_t(i));
+}
+
+void blurAcrossToPixels(const Wide* const* rows, std::uint32_t* pixels, int count, const BlurWeights& weights,
+                        bool stream)
+{
+    for (int i = 0; i < 4 * count; i += kGroupSamples) {
+        Vector sum[kGroup];
+        sumAcross(sum, rows, i, weights);
+        storePixels(sum, pixels, i, count, stream);
+    }
+}
+
+// ---- unsharp mask ---------------------------------------------------------------------------------------------------
 
 /// Blurred samples rescaled from the blurred alpha to the alpha of the pixels at @p middle.
 void underAlpha(Wide* blurred, const Wide* middle, int samples)
@@ -40,218 +204,92 @@ void underAlpha(Wide* blurred, const Wide* middle, int samples)
     }
 }
 
-namespace plain
+/// Each pixel's alpha for all of its samples.
+HWY_INLINE Vector alphas(Vector v)
 {
-#define ZP_PASS
-constexpr int kLanes = 8;
-struct Vector {
-    Wide lane[kLanes];
-};
-template <class F>
-inline Vector each(F&& f)
-{
-    Vector r;
-    for (int i = 0; i < kLanes; ++i) r.lane[i] = Wide(f(i));
-    return r;
+    const Samples16 d;
+    const hn::Repartition<std::uint8_t, Samples16> bytes;
+    HWY_ALIGN static constexpr std::uint8_t kAlphas[16] = {0, 1, 0, 1, 0, 1, 0, 1, 8, 9, 8, 9, 8, 9, 8, 9};
+    return hn::BitCast(d, hn::TableLookupBytes(hn::BitCast(bytes, v), hn::LoadDup128(bytes, kAlphas)));
 }
-inline Vector load(const Wide* p)
-{
-    Vector r;
-    std::memcpy(r.lane, p, sizeof r);
-    return r;
-}
-inline void store(Wide* p, const Vector& v) { std::memcpy(p, v.lane, sizeof v); }
-inline Vector set(std::int16_t value)
-{
-    return each([&](int) { return value; });
-}
-inline Vector zero() { return set(0); }
-inline Vector add(const Vector& a, const Vector& b)
-{
-    return each([&](int i) { return a.lane[i] + b.lane[i]; });
-}
-inline Vector sub(const Vector& a, const Vector& b)
-{
-    return each([&](int i) { return a.lane[i] - b.lane[i]; });
-}
-inline Vector addSaturated(const Vector& a, const Vector& b)
-{
-    return each([&](int i) { return std::clamp(a.lane[i] + b.lane[i], -32768, 32767); });
-}
-/// a * b / 32768, rounded: what the processors' own instruction gives.
-inline Vector mulRound(const Vector& a, const Vector& b)
-{
-    return each([&](int i) { return ((a.lane[i] * b.lane[i] >> 14) + 1) >> 1; });
-}
-inline Vector smaller(const Vector& a, const Vector& b)
-{
-    return each([&](int i) { return std::min(a.lane[i], b.lane[i]); });
-}
-inline Vector larger(const Vector& a, const Vector& b)
-{
-    return each([&](int i) { return std::max(a.lane[i], b.lane[i]); });
-}
-inline Vector alphas(const Vector& v)
-{
-    return each([&](int i) { return v.lane[i & ~3]; });
-}
-inline Vector colours(const Vector& v)
-{
-    return each([&](int i) { return i % 4 == 0 ? 0 : int(v.lane[i]); });
-}
-inline bool isOpaque(const Vector& v, const Vector& blurred)
-{
-    for (int i = 0; i < kLanes; i += 4)
-        if (v.lane[i] != kWideOne || blurred.lane[i] < kWideOne - kWideHalf) return false;
-    return true;
-}
-inline void storePixels(std::uint32_t* p, const Vector& v)
-{
-    std::uint8_t bytes[kLanes];
-    for (int i = 0; i < kLanes; ++i) bytes[i] = std::uint8_t(std::clamp((v.lane[i] + kWideHalf) >> kWideBits, 0, 255));
-    std::memcpy(p, bytes, sizeof bytes);
-}
-#include "drawing/FiltersPasses.inc"
-#undef ZP_PASS
-} // namespace plain
 
-#if defined(__x86_64__)
-namespace avx2
+void sharpenAcross(const Wide* const* rows, const Wide* middle, std::uint32_t* pixels, int count,
+                   const BlurWeights& weights, SharpenAmount amount, bool stream)
 {
-#define ZP_PASS __attribute__((target("avx2")))
-constexpr int kLanes = 16;
-using Vector = __m256i;
-ZP_PASS inline Vector load(const Wide* p) { return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)); }
-ZP_PASS inline void store(Wide* p, Vector v) { _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), v); }
-ZP_PASS inline Vector set(std::int16_t value) { return _mm256_set1_epi16(value); }
-ZP_PASS inline Vector zero() { return _mm256_setzero_si256(); }
-ZP_PASS inline Vector add(Vector a, Vector b) { return _mm256_add_epi16(a, b); }
-ZP_PASS inline Vector sub(Vector a, Vector b) { return _mm256_sub_epi16(a, b); }
-ZP_PASS inline Vector addSaturated(Vector a, Vector b) { return _mm256_adds_epi16(a, b); }
-ZP_PASS inline Vector mulRound(Vector a, Vector b) { return _mm256_mulhrs_epi16(a, b); }
-ZP_PASS inline Vector smaller(Vector a, Vector b) { return _mm256_min_epi16(a, b); }
-ZP_PASS inline Vector larger(Vector a, Vector b) { return _mm256_max_epi16(a, b); }
-ZP_PASS inline Vector alphas(Vector v) { return _mm256_shufflehi_epi16(_mm256_shufflelo_epi16(v, 0), 0); }
-ZP_PASS inline Vector colours(Vector v) { return _mm256_andnot_si256(_mm256_set1_epi64x(0xFFFF), v); }
-ZP_PASS inline bool isOpaque(Vector v, Vector blurred)
-{
-    const Vector clear =
-        _mm256_or_si256(_mm256_cmpgt_epi16(set(kWideOne), v), _mm256_cmpgt_epi16(set(kWideOne - kWideHalf), blurred));
-    return _mm256_testz_si256(clear, _mm256_set1_epi64x(0xFFFF));
+    const Samples16 d;
+    const hn::Repartition<std::uint64_t, Samples16> pixel;
+    const auto factor = hn::Set(d, amount.factor);
+    const auto colours = hn::BitCast(d, hn::Set(pixel, ~std::uint64_t{0xFFFF}));
+    for (int i = 0; i < 4 * count; i += kGroupSamples) {
+        Vector sum[kGroup];
+        sumAcross(sum, rows, i, weights);
+        for (int v = 0; v < kGroup; ++v) {
+            const auto c = hn::LoadU(d, middle + i + kLanes * v);
+            // Opaque pixels among opaque ones, the usual case, have the blurred colour as it is.
+            const auto least = hn::Min(c, hn::Add(sum[v], hn::Set(d, kWideHalf)));
+            if (!hn::AllTrue(d, hn::Eq(alphas(hn::Min(least, hn::Set(d, kWideOne))), hn::Set(d, kWideOne)))) {
+                // The blurred colour as it would be under this pixel's alpha.
+                HWY_ALIGN Wide blurred[kLanes];
+                hn::Store(sum[v], d, blurred);
+                underAlpha(blurred, middle + i + kLanes * v, kLanes);
+                sum[v] = hn::Load(d, blurred);
+            }
+            const auto difference = hn::And(hn::Sub(c, sum[v]), colours);
+            auto change = hn::MulFixedPoint15(hn::Add(difference, difference), factor);
+            for (int k = 0; k < amount.doublings; ++k) change = hn::SaturatedAdd(change, change);
+            sum[v] = hn::Max(hn::Zero(d), hn::Min(hn::SaturatedAdd(c, change), alphas(c)));
+        }
+        storePixels(sum, pixels, i, count, stream);
+    }
 }
-ZP_PASS inline void storePixels(std::uint32_t* p, Vector v)
-{
-    const Vector levels = _mm256_srai_epi16(_mm256_add_epi16(v, set(kWideHalf)), kWideBits);
-    const __m128i bytes = _mm_packus_epi16(_mm256_castsi256_si128(levels), _mm256_extracti128_si256(levels, 1));
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(p), bytes);
-}
-#include "drawing/FiltersPasses.inc"
-#undef ZP_PASS
-} // namespace avx2
-
-namespace avx512
-{
-#define ZP_PASS __attribute__((target("avx512f,avx512bw")))
-constexpr int kLanes = 32;
-using Vector = __m512i;
-ZP_PASS inline Vector load(const Wide* p) { return _mm512_loadu_si512(p); }
-ZP_PASS inline void store(Wide* p, Vector v) { _mm512_storeu_si512(p, v); }
-ZP_PASS inline Vector set(std::int16_t value) { return _mm512_set1_epi16(value); }
-ZP_PASS inline Vector zero() { return _mm512_setzero_si512(); }
-ZP_PASS inline Vector add(Vector a, Vector b) { return _mm512_add_epi16(a, b); }
-ZP_PASS inline Vector sub(Vector a, Vector b) { return _mm512_sub_epi16(a, b); }
-ZP_PASS inline Vector addSaturated(Vector a, Vector b) { return _mm512_adds_epi16(a, b); }
-ZP_PASS inline Vector mulRound(Vector a, Vector b) { return _mm512_mulhrs_epi16(a, b); }
-ZP_PASS inline Vector smaller(Vector a, Vector b) { return _mm512_min_epi16(a, b); }
-ZP_PASS inline Vector larger(Vector a, Vector b) { return _mm512_max_epi16(a, b); }
-ZP_PASS inline Vector alphas(Vector v) { return _mm512_shufflehi_epi16(_mm512_shufflelo_epi16(v, 0), 0); }
-ZP_PASS inline Vector colours(Vector v) { return _mm512_maskz_mov_epi16(0xEEEEEEEE, v); }
-ZP_PASS inline bool isOpaque(Vector v, Vector blurred)
-{
-    return (_mm512_mask_cmplt_epi16_mask(0x11111111, v, set(kWideOne)) |
-            _mm512_mask_cmplt_epi16_mask(0x11111111, blurred, set(kWideOne - kWideHalf))) == 0;
-}
-ZP_PASS inline void storePixels(std::uint32_t* p, Vector v)
-{
-    const Vector levels = _mm512_srai_epi16(_mm512_add_epi16(v, set(kWideHalf)), kWideBits);
-    const __m256i bytes = _mm512_maskz_cvtusepi16_epi8(0xFFFFFFFF, larger(levels, zero()));
-    _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), bytes);
-}
-#include "drawing/FiltersPasses.inc"
-#undef ZP_PASS
-} // namespace avx512
-#endif
 
 } // namespace
+} // namespace zp::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
 
-const BlurPasses* blurPassesFor(Processor processor)
+#if HWY_ONCE
+namespace zp
 {
-    switch (processor) {
-    case Processor::Plain:
-        return &plain::kPasses;
-#if defined(__x86_64__)
-    case Processor::Avx2:
-        return __builtin_cpu_supports("avx2") ? &avx2::kPasses : nullptr;
-    case Processor::Avx512:
-        return __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") ? &avx512::kPasses : nullptr;
+
+HWY_EXPORT(colourRow);
+HWY_EXPORT(colourRowWide);
+HWY_EXPORT(widenRow);
+HWY_EXPORT(blurAlong);
+HWY_EXPORT(blurAcross);
+HWY_EXPORT(blurAcrossToPixels);
+HWY_EXPORT(sharpenAcross);
+
+namespace filters
+{
+
+void colourRow(const std::uint32_t* pixels, std::uint32_t* out, int count, const ColourMatrix& matrix)
+{
+    HWY_DYNAMIC_DISPATCH(colourRow)(pixels, out, count, matrix);
+}
+void colourRowWide(const std::uint32_t* pixels, Wide* out, int count, const ColourMatrix& matrix)
+{
+    HWY_DYNAMIC_DISPATCH(colourRowWide)(pixels, out, count, matrix);
+}
+void widenRow(const std::uint32_t* pixels, Wide* out, int count) { HWY_DYNAMIC_DISPATCH(widenRow)(pixels, out, count); }
+void blurAlong(const Wide* middle, Wide* out, int count, const BlurWeights& weights)
+{
+    HWY_DYNAMIC_DISPATCH(blurAlong)(middle, out, count, weights);
+}
+void blurAcross(const Wide* const* rows, Wide* out, int count, const BlurWeights& weights)
+{
+    HWY_DYNAMIC_DISPATCH(blurAcross)(rows, out, count, weights);
+}
+void blurAcrossToPixels(const Wide* const* rows, std::uint32_t* pixels, int count, const BlurWeights& weights,
+                        bool stream)
+{
+    HWY_DYNAMIC_DISPATCH(blurAcrossToPixels)(rows, pixels, count, weights, stream);
+}
+void sharpenAcross(const Wide* const* rows, const Wide* middle, std::uint32_t* pixels, int count,
+                   const BlurWeights& weights, SharpenAmount amount, bool stream)
+{
+    HWY_DYNAMIC_DISPATCH(sharpenAcross)(rows, middle, pixels, count, weights, amount, stream);
+}
+
+} // namespace filters
+} // namespace zp
 #endif
-    default:
-        return nullptr;
-    }
-}
-
-const BlurPasses& blurPasses()
-{
-    static const BlurPasses& best = []() -> const BlurPasses& {
-        for (const Processor processor : {Processor::Avx512, Processor::Avx2})
-            if (const BlurPasses* passes = blurPassesFor(processor)) return *passes;
-        return *blurPassesFor(Processor::Plain);
-    }();
-    return best;
-}
-
-ZP_MULTIVERSION void colourRow(const std::uint32_t* __restrict pixels, std::uint32_t* __restrict out, int count,
-                               const ColourMatrix& matrix)
-{
-    const ColourMatrix own = matrix;
-    const float* m = own.m;
-    for (int i = 0; i < count; ++i) {
-        const std::uint32_t w = pixels[i];
-        const float a = float(int(w & 255)), r = float(int(w >> 8 & 255)), g = float(int(w >> 16 & 255)),
-                    b = float(int(w >> 24));
-        const float red = clampToAlpha(m[0] * r + m[1] * g + m[2] * b + m[3] * a, a) + 0.5f;
-        const float green = clampToAlpha(m[4] * r + m[5] * g + m[6] * b + m[7] * a, a) + 0.5f;
-        const float blue = clampToAlpha(m[8] * r + m[9] * g + m[10] * b + m[11] * a, a) + 0.5f;
-        out[i] =
-            (w & 255) | std::uint32_t(int(red)) << 8 | std::uint32_t(int(green)) << 16 | std::uint32_t(int(blue)) << 24;
-    }
-}
-
-ZP_MULTIVERSION void colourRowWide(const std::uint32_t* __restrict pixels, Wide* __restrict out, int count,
-                                   const ColourMatrix& matrix)
-{
-    constexpr float kScale = 1 << kWideBits;
-    ColourMatrix own = matrix;
-    for (float& v : own.m) v *= kScale;
-    const float* m = own.m;
-    auto* words = reinterpret_cast<SampleWord*>(out);
-    for (int i = 0; i < count; ++i) {
-        const std::uint32_t w = pixels[i];
-        const float a = float(int(w & 255)), r = float(int(w >> 8 & 255)), g = float(int(w >> 16 & 255)),
-                    b = float(int(w >> 24));
-        const float top = a * kScale;
-        const float red = clampToAlpha(m[0] * r + m[1] * g + m[2] * b + m[3] * a, top) + 0.5f;
-        const float green = clampToAlpha(m[4] * r + m[5] * g + m[6] * b + m[7] * a, top) + 0.5f;
-        const float blue = clampToAlpha(m[8] * r + m[9] * g + m[10] * b + m[11] * a, top) + 0.5f;
-        words[2 * i] = (w & 255) << kWideBits | std::uint32_t(int(red)) << 16;
-        words[2 * i + 1] = std::uint32_t(int(green)) | std::uint32_t(int(blue)) << 16;
-    }
-}
-
-ZP_MULTIVERSION void widenRow(const std::uint32_t* __restrict pixels, Wide* __restrict out, int count)
-{
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(pixels);
-    for (int i = 0; i < 4 * count; ++i) out[i] = Wide(bytes[i] << kWideBits);
-}
-
-} // namespace zp::filters

@@ -44,22 +44,17 @@ void colourRow(const std::uint32_t* pixels, std::uint32_t* out, int count, const
 void colourRowWide(const std::uint32_t* pixels, Wide* out, int count, const ColourMatrix& matrix);
 void widenRow(const std::uint32_t* pixels, Wide* out, int count);
 
-/// The passes that have a version for each processor. Counts are pixels.
-struct BlurPasses {
-    /// @param middle the first output pixel's own samples; radius pixels before and behind the blocks must be readable
-    void (*along)(const Wide* middle, Wide* out, int count, const BlurWeights& weights);
-    /// @param rows 2 * radius + 1 row starts, the middle one in the middle
-    void (*across)(const Wide* const* rows, Wide* out, int count, const BlurWeights& weights);
-    /// The same, rounded to pixels; @p pixels is written up to count only.
-    void (*acrossToPixels)(const Wide* const* rows, std::uint32_t* pixels, int count, const BlurWeights& weights);
-    /// The same, and then colour moves away from the blurred colour, both taken without alpha; alpha stays.
-    void (*acrossSharpened)(const Wide* const* rows, const Wide* middle, std::uint32_t* pixels, int count,
-                            const BlurWeights& weights, SharpenAmount amount);
-};
-enum class Processor { Plain, Avx2, Avx512 };
-/// @return null when this machine has no such processor
-const BlurPasses* blurPassesFor(Processor processor);
-/// The fastest this machine has.
-const BlurPasses& blurPasses();
+/// The blur along a row. @param middle the first output pixel's own samples; radius pixels before and behind the blocks
+/// must be readable
+void blurAlong(const Wide* middle, Wide* out, int count, const BlurWeights& weights);
+/// Down the columns. @param rows 2 * radius + 1 row starts, the middle one in the middle
+void blurAcross(const Wide* const* rows, Wide* out, int count, const BlurWeights& weights);
+/// The same, rounded to pixels; @p pixels is written up to count only. @param stream stores go past the cache: @p
+/// pixels is aligned to 64 bytes, and the thread calls finishStreaming() when it is done
+void blurAcrossToPixels(const Wide* const* rows, std::uint32_t* pixels, int count, const BlurWeights& weights,
+                        bool stream);
+/// The same, and then colour moves away from the blurred colour, both taken without alpha; alpha stays.
+void sharpenAcross(const Wide* const* rows, const Wide* middle, std::uint32_t* pixels, int count,
+                   const BlurWeights& weights, SharpenAmount amount, bool stream);
 
 } // namespace zp::filters

@@ -1,107 +1,137 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Wide rows at half and double the size: plain loops, and the two that rearrange pixels by hand.
+/// Wide rows at half and double the size.
 #include "drawing/FiltersScaling.h"
-#include "base/Simd.h"
-#include <algorithm>
-#if defined(__x86_64__)
-#include <immintrin.h>
-#endif
 
-namespace zp::filters
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "drawing/FiltersScaling.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "base/PixelVectors-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zp::HWY_NAMESPACE
 {
-
 namespace
 {
 
-// Four samples add up within 16 bits without a sign: 4 * 255 * 64 and some rounding.
-using Sum = std::uint16_t;
+using filters::kWideBits;
+using filters::Wide;
 
-#if defined(__x86_64__)
-#define ZP_AVX2 __attribute__((target("avx2")))
-
-ZP_AVX2 inline __m256i load(const Wide* p) { return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)); }
-ZP_AVX2 inline void store(Wide* p, __m256i v) { _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), v); }
-
-/// @return pixels done
-ZP_AVX2 int halveRowsAvx2(const Wide* a, const Wide* b, Wide* out, int count)
+/// Calls f(tag, pixel) for every pixel, 64 bits each: in whole vectors, then one by one.
+template <class F>
+HWY_INLINE void forEachWidePixel(int count, F&& f)
 {
-    const __m256i two = _mm256_set1_epi16(2);
+    const hn::ScalableTag<std::uint64_t> d;
+    const int lanes = int(hn::Lanes(d));
     int x = 0;
-    for (; x + 4 <= count; x += 4) {
-        const __m256i first = _mm256_add_epi16(load(a + 8 * x), load(b + 8 * x));
-        const __m256i second = _mm256_add_epi16(load(a + 8 * x + 16), load(b + 8 * x + 16));
-        const __m256i sum =
-            _mm256_add_epi16(_mm256_unpacklo_epi64(first, second), _mm256_unpackhi_epi64(first, second));
-        const __m256i mean = _mm256_srli_epi16(_mm256_add_epi16(sum, two), 2);
-        store(out + 4 * x, _mm256_permute4x64_epi64(mean, 0xD8));
-    }
-    return x;
+    for (; x + lanes <= count; x += lanes) f(d, x);
+    const hn::CappedTag<std::uint64_t, 1> one;
+    for (; x < count; ++x) f(one, x);
 }
 
-ZP_AVX2 int doubleRowAvx2(const Wide* row, Wide* out, int count)
+/// Samples without a sign, so that four of them add up within 16 bits.
+template <class D>
+HWY_INLINE hn::Vec<Wide16<D>> load(D, const Wide* row)
 {
-    const __m256i two = _mm256_set1_epi16(2);
-    int x = 0;
-    for (; x + 4 <= count; x += 4) {
-        const __m256i own = load(row + 4 * x);
-        const __m256i three = _mm256_add_epi16(_mm256_add_epi16(own, own), _mm256_add_epi16(own, two));
-        const __m256i even = _mm256_srli_epi16(_mm256_add_epi16(three, load(row + 4 * x - 4)), 2);
-        const __m256i odd = _mm256_srli_epi16(_mm256_add_epi16(three, load(row + 4 * x + 4)), 2);
-        const __m256i low = _mm256_unpacklo_epi64(even, odd), high = _mm256_unpackhi_epi64(even, odd);
-        store(out + 8 * x, _mm256_permute2x128_si256(low, high, 0x20));
-        store(out + 8 * x + 16, _mm256_permute2x128_si256(low, high, 0x31));
-    }
-    return x;
+    return hn::LoadU(Wide16<D>(), reinterpret_cast<const std::uint16_t*>(row));
 }
-
-bool haveAvx2()
+template <class D>
+HWY_INLINE void store(D, hn::Vec<Wide16<D>> v, Wide* row)
 {
-    static const bool have = __builtin_cpu_supports("avx2");
-    return have;
+    hn::StoreU(v, Wide16<D>(), reinterpret_cast<std::uint16_t*>(row));
 }
-#endif
 
-} // namespace
+/// (3 near + far + 2) / 4.
+template <class D16, class V = hn::Vec<D16>>
+HWY_INLINE V threeToOne(D16 d, V near, V far)
+{
+    return hn::ShiftRight<2>(hn::Add(hn::Add(hn::Add(near, near), near), hn::Add(far, hn::Set(d, 2))));
+}
 
 void halveRows(const Wide* a, const Wide* b, Wide* out, int count)
 {
-    int done = 0;
-#if defined(__x86_64__)
-    if (haveAvx2()) done = halveRowsAvx2(a, b, out, count);
-#endif
-    for (int x = done; x < count; ++x)
-        for (int c = 0; c < 4; ++c) {
-            const int i = 8 * x + c;
-            out[4 * x + c] = Wide(Sum(a[i] + a[i + 4] + b[i] + b[i + 4] + 2) >> 2);
+    forEachWidePixel(count, [=](auto d, int x) ZP_LANES {
+        const Wide16<decltype(d)> d16;
+        const auto rows = [&](int at) ZP_LANES { return hn::BitCast(d, hn::Add(load(d, a + at), load(d, b + at))); };
+        const int lanes = int(hn::Lanes(d));
+        const auto low = rows(8 * x), high = rows(8 * x + 4 * lanes);
+        if constexpr (hn::MaxLanes(decltype(d)()) == 1) {
+            const auto sum = hn::Add(hn::BitCast(d16, low), hn::BitCast(d16, high));
+            store(d, hn::ShiftRight<2>(hn::Add(sum, hn::Set(d16, 2))), out + 4 * x);
+        } else {
+            const auto even = hn::BitCast(d16, hn::ConcatEven(d, high, low));
+            const auto odd = hn::BitCast(d16, hn::ConcatOdd(d, high, low));
+            store(d, hn::ShiftRight<2>(hn::Add(hn::Add(even, odd), hn::Set(d16, 2))), out + 4 * x);
         }
+    });
 }
 
-ZP_MULTIVERSION void mixRows(const Wide* __restrict near, const Wide* __restrict far, Wide* __restrict out, int count)
+void mixRows(const Wide* near, const Wide* far, Wide* out, int count)
 {
-    for (int i = 0; i < 4 * count; ++i) out[i] = Wide(Sum(Sum(near[i]) * 3 + Sum(far[i]) + 2) >> 2);
+    forEachWidePixel(count, [=](auto d, int x) ZP_LANES {
+        store(d, threeToOne(Wide16<decltype(d)>(), load(d, near + 4 * x), load(d, far + 4 * x)), out + 4 * x);
+    });
 }
 
 void doubleRow(const Wide* row, Wide* out, int count)
 {
-    int done = 0;
-#if defined(__x86_64__)
-    if (haveAvx2()) done = doubleRowAvx2(row, out, count);
-#endif
-    for (int x = done; x < count; ++x)
-        for (int c = 0; c < 4; ++c) {
-            const Wide* p = row + 4 * x + c;
-            out[8 * x + c] = Wide(Sum(3 * p[0] + p[-4] + 2) >> 2);
-            out[8 * x + 4 + c] = Wide(Sum(3 * p[0] + p[4] + 2) >> 2);
+    forEachWidePixel(count, [=](auto d, int x) ZP_LANES {
+        const Wide16<decltype(d)> d16;
+        const auto own = load(d, row + 4 * x);
+        const auto left = threeToOne(d16, own, load(d, row + 4 * x - 4));
+        const auto right = threeToOne(d16, own, load(d, row + 4 * x + 4));
+        if constexpr (hn::MaxLanes(decltype(d)()) == 1) {
+            store(d, left, out + 8 * x);
+            store(d, right, out + 8 * x + 4);
+        } else {
+            hn::StoreInterleaved2(hn::BitCast(d, left), hn::BitCast(d, right), d,
+                                  reinterpret_cast<std::uint64_t*>(out + 8 * x));
         }
+    });
 }
 
-ZP_MULTIVERSION void narrowRow(const Wide* __restrict row, std::uint32_t* __restrict pixels, int count)
+void narrowRow(const Wide* row, std::uint32_t* pixels, int count)
 {
-    auto* bytes = reinterpret_cast<std::uint8_t*>(pixels);
-    for (int i = 0; i < 4 * count; ++i) {
-        const Wide level = Wide(Wide(row[i] + (1 << (kWideBits - 1))) >> kWideBits);
-        bytes[i] = std::uint8_t(level < 255 ? level : 255);
-    }
+    auto* const bytes = reinterpret_cast<std::uint8_t*>(pixels);
+    forEachVector<Wide>(std::size_t(count) * 4, [=](auto d, std::size_t at) ZP_LANES {
+        const hn::Rebind<std::uint8_t, decltype(d)> narrow;
+        const auto half = hn::Set(d, 1 << (kWideBits - 1));
+        const auto levels = hn::ShiftRight<kWideBits>(hn::Add(hn::LoadU(d, row + at), half));
+        hn::StoreU(hn::DemoteTo(narrow, levels), narrow, bytes + at);
+    });
 }
 
-} // namespace zp::filters
+} // namespace
+} // namespace zp::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace zp
+{
+
+HWY_EXPORT(halveRows);
+HWY_EXPORT(mixRows);
+HWY_EXPORT(doubleRow);
+HWY_EXPORT(narrowRow);
+
+namespace filters
+{
+
+void halveRows(const Wide* a, const Wide* b, Wide* out, int count)
+{
+    HWY_DYNAMIC_DISPATCH(halveRows)(a, b, out, count);
+}
+void mixRows(const Wide* near, const Wide* far, Wide* out, int count)
+{
+    HWY_DYNAMIC_DISPATCH(mixRows)(near, far, out, count);
+}
+void doubleRow(const Wide* row, Wide* out, int count) { HWY_DYNAMIC_DISPATCH(doubleRow)(row, out, count); }
+void narrowRow(const Wide* row, std::uint32_t* pixels, int count)
+{
+    HWY_DYNAMIC_DISPATCH(narrowRow)(row, pixels, count);
+}
+
+} // namespace filters
+} // namespace zp
+#endif

@@ -28,9 +28,8 @@ inline int floorHalf(int v) { return v >> 1; }
 class WideStrip
 {
 public:
-    WideStrip(ConstBitmapView source, const BlurJob& job, const BlurWeights& weights, const BlurPasses& passes,
-              int levels, int x0, int x1)
-        : mSource(source), mJob(job), mWeights(weights), mPasses(passes), mLevels(levels)
+    WideStrip(ConstBitmapView source, const BlurJob& job, const BlurWeights& weights, int levels, int x0, int x1)
+        : mSource(source), mJob(job), mWeights(weights), mLevels(levels)
     {
         // Columns each level must give for the one above: a neighbour on either side.
         mUp.resize(std::size_t(levels) + 1);
@@ -101,8 +100,8 @@ private:
         if (mNext == kNone) mNext = y;
         for (; mNext <= y; ++mNext) {
             const Wide* row = downRow(mLevels, mNext);
-            mPasses.along(row + std::ptrdiff_t{4} * mWeights.radius(), mBlurred.row(mNext),
-                          mUp[std::size_t(mLevels)].x1 - mUp[std::size_t(mLevels)].x0, mWeights);
+            blurAlong(row + std::ptrdiff_t{4} * mWeights.radius(), mBlurred.row(mNext),
+                      mUp[std::size_t(mLevels)].x1 - mUp[std::size_t(mLevels)].x0, mWeights);
         }
         return mBlurred.row(y);
     }
@@ -118,7 +117,7 @@ private:
         if (l == mLevels) {
             const int radius = mWeights.radius();
             for (int k = -radius; k <= radius; ++k) mTaps[std::size_t(k + radius)] = alongRow(y + k);
-            mPasses.across(mTaps.data(), out, level.x1 - level.x0, mWeights);
+            blurAcross(mTaps.data(), out, level.x1 - level.x0, mWeights);
             return out;
         }
         const Level& below = mUp[std::size_t(l) + 1];
@@ -142,7 +141,6 @@ private:
     ConstBitmapView mSource;
     const BlurJob& mJob;
     const BlurWeights& mWeights;
-    const BlurPasses& mPasses;
     int mLevels;
     std::vector<Level> mUp, mDown;
     Ring mBlurred{1, 1};
@@ -159,12 +157,11 @@ void wideBlurPart(ConstBitmapView source, BitmapView destination, const BlurJob&
     while (sigma / (1 << levels) > kWidestDirect) ++levels;
     const double square = double(1 << levels) * double(1 << levels);
     const BlurWeights weights = gaussianWeights(std::sqrt((sigma * sigma - (square - 1) / 3) / square));
-    const BlurPasses& passes = job.passes ? *job.passes : blurPasses();
     const int strip = kReducedStrip << levels;
     parallelBands(part.height(), std::max(64, (8 * weights.radius()) << levels), [&](int from, int to) {
         for (int x = part.x0; x < part.x1; x += strip) {
             const int x1 = std::min(part.x1, x + strip);
-            WideStrip rows(source, job, weights, passes, levels, x, x1);
+            WideStrip rows(source, job, weights, levels, x, x1);
             for (int y = part.y0 + from; y < part.y0 + to; ++y) rows.writeRow(y, destination.row(y) + x);
         }
     });

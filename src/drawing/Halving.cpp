@@ -13,6 +13,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 /// Sums of pixels, two bytes to a lane of 32 bits. The most there are, 256 bytes and half of it for rounding, just fit
 /// 16 bits without a sign.
@@ -137,6 +139,7 @@ void averageSquaresOver(const std::uint8_t* pixels, std::ptrdiff_t rowBytes, int
     averageInto<true>(pixels, rowBytes, count, level, out);
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

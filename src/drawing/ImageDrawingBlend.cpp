@@ -14,6 +14,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 /// d = f(tag, place, what is there) for every pixel of a run.
 template <class F>
@@ -183,6 +185,7 @@ void multiplyCoverByMask(std::uint8_t* cover, const std::uint8_t* mask, int coun
     multiply(cover, mask, count, 255);
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

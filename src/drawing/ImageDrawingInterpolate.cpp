@@ -61,6 +61,8 @@ inline Position positionAt(const SampleLine& line, std::int64_t k)
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 using namespace interpolation;
 using Four = hn::CappedTag<std::int16_t, 16>; ///< the samples of four pixels, or of two where vectors are short
@@ -129,6 +131,7 @@ void interpolateInside(ConstBitmapView image, const SampleLine& line, const Weig
     std::copy_n(rest, last - k, out + k);
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

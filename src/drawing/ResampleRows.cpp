@@ -13,6 +13,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 using resampling::kFirstBits;
 using resampling::kSourceBits;
@@ -190,6 +192,7 @@ void finishRow(const Wide* row, std::uint32_t* pixels, int count, int bits)
     for (; at < std::size_t(count) * 4; at += 4) store(hn::CappedTag<Wide, 4>(), at);
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

@@ -13,6 +13,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 static_assert(std::endian::native == std::endian::little, "alpha is taken from the low byte of a pixel's word");
 
@@ -35,6 +37,7 @@ void convertToScreen(const std::uint32_t* pixels, std::uint32_t* out, int count)
     });
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

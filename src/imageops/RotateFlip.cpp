@@ -49,6 +49,8 @@ struct Turn {
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 #if HWY_MAX_BYTES >= 64
 using Pixels = hn::CappedTag<std::uint32_t, kLine>;
@@ -162,6 +164,7 @@ void exchangeRows(std::uint32_t* a, std::uint32_t* b, int width)
     });
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

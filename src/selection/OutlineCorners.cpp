@@ -16,6 +16,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 /// What is known of the 64 points at the left borders of a word's pixels.
 template <class D>
@@ -120,6 +122,7 @@ std::size_t findCorners(const std::uint64_t* above, const std::uint64_t* below, 
     return std::size_t(out - first);
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

@@ -13,6 +13,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 /// Which of 64 bytes are not 255.
 HWY_INLINE std::uint64_t selectedOf64(const std::uint8_t* bytes)
@@ -59,6 +61,7 @@ void clearBlackRow(std::uint32_t* row, int width)
     });
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

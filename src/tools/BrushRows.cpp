@@ -12,6 +12,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 void stampRow(std::uint32_t* pixels, const std::uint32_t* add, const std::uint32_t* keep, int count)
 {
@@ -33,6 +35,7 @@ void eraseRow(std::uint32_t* pixels, const std::uint8_t* mask, int count)
     });
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

@@ -12,6 +12,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 void gatherAlpha(const std::uint32_t* pixels, std::uint8_t* alpha, int count)
 {
@@ -72,6 +74,7 @@ std::size_t pairlessBlocks(const std::uint8_t* bytes, std::size_t count)
     return i;
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 

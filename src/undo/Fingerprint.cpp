@@ -30,6 +30,8 @@ constexpr std::uint64_t kSpread2 = 0xC3A5C85C97CB3127u;
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
+namespace
+{
 
 using Words = hn::CappedTag<std::uint64_t, 8>;
 using Vector = hn::Vec<Words>;
@@ -65,6 +67,7 @@ void absorb(std::uint64_t* HWY_RESTRICT lanes, const std::uint8_t* HWY_RESTRICT 
     for (int i = 0; i < kVectors; ++i) hn::StoreU(chains[i], d, lanes + i * int(hn::MaxLanes(d)));
 }
 
+} // namespace
 } // namespace zp::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
