@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Gaussian blur and unsharp mask: columns of a few hundred pixels run down the picture with their last rows in cache.
+/// Gaussian blur and unsharp mask: strips run down the picture with their last rows in cache.
 #include "drawing/FiltersBlur.h"
+#include "base/CpuHints.h"
 #include "base/WorkPool.h"
 #include "drawing/FiltersRing.h"
+#include "drawing/FiltersScaling.h"
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -14,9 +16,19 @@ namespace zp::filters
 namespace
 {
 
-/// Pixels across a strip: with the rows a kernel of usual width needs, its samples fit the second cache with room to
-/// spare, and the pixels computed twice at its sides are few.
-constexpr int kStrip = 256;
+/// Bytes that a strip's last rows may take: they stay in the second cache beside what comes and goes. Narrower strips,
+/// for the first cache's sake, were slower: memory likes long rows.
+constexpr int kNearBytes = 256 << 10;
+/// A part of this many bytes does not stay in the cache: stores that go past it save reading the lines first.
+constexpr std::int64_t kStreamFrom = std::int64_t{8} << 20;
+/// Rows by which memory is announced: a strip's next row is far away, and nothing else would fetch it in time.
+constexpr int kRowsAhead = 4;
+
+/// Pixels across a strip that keeps so many rows of the picture.
+int stripWidth(int rows)
+{
+    return std::clamp(kNearBytes / (rows * 4 * int(sizeof(Wide))) / kBlock * kBlock, 4 * kBlock, 64 * kBlock);
+}
 
 void blurStrip(ConstBitmapView source, BitmapView destination, const BlurJob& job, const BlurWeights& weights,
                PixelBox box, bool stream)
@@ -24,7 +36,7 @@ void blurStrip(ConstBitmapView source, BitmapView destination, const BlurJob& jo
     const int radius = weights.radius(), taps = 2 * radius + 1, width = blocks(box.width());
     const int last = source.height - 1;
     // The unsharp mask meets a row again when the rows below it have passed.
-    Ring fetched(job.sharpen ? radius + 1 : 1, width + 2 * radius), blurred(taps, width);
+    Ring fetched(job.sharpen ? radius + 1 : 1, width + 2 * radius), blurred(taps, width), line(1, width);
     std::vector<const Wide*> rows(std::size_t(taps), nullptr);
     int next = std::max(0, box.y0 - radius);
     for (int y = box.y0; y < box.y1; ++y) {
@@ -35,11 +47,13 @@ void blurStrip(ConstBitmapView source, BitmapView destination, const BlurJob& jo
         }
         for (int k = -radius; k <= radius; ++k) rows[std::size_t(k + radius)] = blurred.row(std::clamp(y + k, 0, last));
         std::uint32_t* out = destination.row(y) + box.x0;
-        if (job.sharpen)
-            sharpenAcross(rows.data(), fetched.row(y) + std::ptrdiff_t{4} * radius, out, box.width(), weights,
-                          job.amount, stream);
-        else
+        if (job.sharpen) {
+            blurAcross(rows.data(), line.row(0), box.width(), weights);
+            const Wide* const middle = fetched.row(y) + std::ptrdiff_t{4} * radius;
+            sharpenRow(line.row(0), middle, out, box.width(), job.amount, stream);
+        } else {
             blurAcrossToPixels(rows.data(), out, box.width(), weights, stream);
+        }
     }
 }
 
@@ -47,7 +61,11 @@ void blurStrip(ConstBitmapView source, BitmapView destination, const BlurJob& jo
 
 void fetchRow(ConstBitmapView source, int y, int x0, int x1, const BlurJob& job, Wide* out)
 {
+    y = std::clamp(y, 0, source.height - 1);
     const int in0 = std::clamp(x0, 0, source.width - 1), in1 = std::clamp(x1, in0 + 1, source.width);
+    const std::uint32_t* const ahead = source.row(std::min(y + kRowsAhead, source.height - 1));
+    for (int x = in0; x < in1; x += 16) prefetch(ahead + x);
+    prefetch(ahead + in1 - 1);
     const std::uint32_t* pixels = source.row(y) + in0;
     Wide* inside = out + std::ptrdiff_t{4} * (in0 - x0);
     if (job.colour)
@@ -60,9 +78,19 @@ void fetchRow(ConstBitmapView source, int y, int x0, int x1, const BlurJob& job,
         std::memcpy(p, last, 4 * sizeof(Wide));
 }
 
+BlurPlan planBlur(double sigma)
+{
+    BlurPlan plan{0, std::min(sigma, kWidestSigma)};
+    while (true) {
+        // Halving and doubling add the filter's variance once each.
+        const double left = (plan.sigma * plan.sigma - 2 * kHalvingVariance) / 4;
+        if (left < kFinestHalved * kFinestHalved) return plan;
+        plan = {plan.levels + 1, std::sqrt(left)};
+    }
+}
+
 BlurWeights gaussianWeights(double sigma)
 {
-    sigma = std::min(sigma, kWidestSigma);
     // Three sigmas hold all but a quarter of a per cent, which the normalisation gives back.
     const int radius = std::max(0, int(std::ceil(3 * sigma)));
     std::vector<double> share;
@@ -87,20 +115,33 @@ BlurWeights gaussianWeights(double sigma)
     return weights;
 }
 
-int blurReach(double sigma) { return int(std::ceil(5 * std::min(sigma, kWidestSigma))) + 2; }
+int blurReach(double sigma)
+{
+    const BlurPlan plan = planBlur(sigma);
+    const int radius = gaussianWeights(plan.sigma).radius();
+    // Each halving and each doubling looks at most so far in pixels of its own size, which double from level to level.
+    return plan.levels == 0 ? radius : (radius + 2 * kHalvingReach + 1) << plan.levels;
+}
 
 void blurPart(ConstBitmapView source, BitmapView destination, const BlurJob& job, PixelBox part)
 {
-    if (job.sigma > kWidestDirect && !job.sharpen) return wideBlurPart(source, destination, job, part);
-    const BlurWeights weights = gaussianWeights(job.sigma);
+    const BlurPlan plan = planBlur(job.sigma);
+    const BlurWeights weights = gaussianWeights(plan.sigma);
     const int radius = weights.radius();
+    const bool aligned = reinterpret_cast<std::uintptr_t>(destination.row(part.y0) + part.x0) % 64 == 0;
+    const bool stream = aligned && std::int64_t{4} * part.width() * part.height() >= kStreamFrom;
+    const int strip = plan.levels == 0 ? stripWidth(2 * radius + 1) : stripWidth(2 * radius + 1) << plan.levels;
     // Bands share the machine's cores; the rows above each band are computed twice, so a band is many times their
     // number.
-    parallelBands(part.height(), std::max(64, 8 * radius), [&](int from, int to) {
-        const int strip = std::max(kStrip, blocks(8 * radius));
-        for (int x = part.x0; x < part.x1; x += strip)
-            blurStrip(source, destination, job, weights,
-                      {x, part.y0 + from, std::min(part.x1, x + strip), part.y0 + to}, false);
+    parallelBands(part.height(), std::max(64, (8 * radius) << plan.levels), [&](int from, int to) {
+        for (int x = part.x0; x < part.x1; x += strip) {
+            const PixelBox box{x, part.y0 + from, std::min(part.x1, x + strip), part.y0 + to};
+            if (plan.levels == 0)
+                blurStrip(source, destination, job, weights, box, stream);
+            else
+                blurHalvedStrip(source, destination, job, weights, plan.levels, box, stream);
+        }
+        if (stream) finishStreaming();
     });
 }
 

@@ -213,33 +213,43 @@ HWY_INLINE Vector alphas(Vector v)
     return hn::BitCast(d, hn::TableLookupBytes(hn::BitCast(bytes, v), hn::LoadDup128(bytes, kAlphas)));
 }
 
-void sharpenAcross(const Wide* const* rows, const Wide* middle, std::uint32_t* pixels, int count,
-                   const BlurWeights& weights, SharpenAmount amount, bool stream)
+void sharpenRow(const Wide* blurredRow, const Wide* middle, std::uint32_t* pixels, int count, SharpenAmount amount,
+                bool stream)
 {
     const Samples16 d;
     const hn::Repartition<std::uint64_t, Samples16> pixel;
     const auto factor = hn::Set(d, amount.factor);
     const auto colours = hn::BitCast(d, hn::Set(pixel, ~std::uint64_t{0xFFFF}));
     for (int i = 0; i < 4 * count; i += kGroupSamples) {
-        Vector sum[kGroup];
-        sumAcross(sum, rows, i, weights);
+        Vector sharp[kGroup];
         for (int v = 0; v < kGroup; ++v) {
-            const auto c = hn::LoadU(d, middle + i + kLanes * v);
+            const int at = i + kLanes * v;
+            const auto c = hn::LoadU(d, middle + at);
+            auto soft = hn::LoadU(d, blurredRow + at);
             // Opaque pixels among opaque ones, the usual case, have the blurred colour as it is.
-            const auto least = hn::Min(c, hn::Add(sum[v], hn::Set(d, kWideHalf)));
+            const auto least = hn::Min(c, hn::Add(soft, hn::Set(d, kWideHalf)));
             if (!hn::AllTrue(d, hn::Eq(alphas(hn::Min(least, hn::Set(d, kWideOne))), hn::Set(d, kWideOne)))) {
                 // The blurred colour as it would be under this pixel's alpha.
                 HWY_ALIGN Wide blurred[kLanes];
-                hn::Store(sum[v], d, blurred);
-                underAlpha(blurred, middle + i + kLanes * v, kLanes);
-                sum[v] = hn::Load(d, blurred);
+                hn::Store(soft, d, blurred);
+                underAlpha(blurred, middle + at, kLanes);
+                soft = hn::Load(d, blurred);
             }
-            const auto difference = hn::And(hn::Sub(c, sum[v]), colours);
+            const auto difference = hn::And(hn::Sub(c, soft), colours);
             auto change = hn::MulFixedPoint15(hn::Add(difference, difference), factor);
             for (int k = 0; k < amount.doublings; ++k) change = hn::SaturatedAdd(change, change);
-            sum[v] = hn::Max(hn::Zero(d), hn::Min(hn::SaturatedAdd(c, change), alphas(c)));
+            sharp[v] = hn::Max(hn::Zero(d), hn::Min(hn::SaturatedAdd(c, change), alphas(c)));
         }
-        storePixels(sum, pixels, i, count, stream);
+        storePixels(sharp, pixels, i, count, stream);
+    }
+}
+
+void narrowRow(const Wide* row, std::uint32_t* pixels, int count, bool stream)
+{
+    for (int i = 0; i < 4 * count; i += kGroupSamples) {
+        Vector samples[kGroup];
+        for (int v = 0; v < kGroup; ++v) samples[v] = hn::LoadU(Samples16(), row + i + kLanes * v);
+        storePixels(samples, pixels, i, count, stream);
     }
 }
 
@@ -257,7 +267,8 @@ HWY_EXPORT(widenRow);
 HWY_EXPORT(blurAlong);
 HWY_EXPORT(blurAcross);
 HWY_EXPORT(blurAcrossToPixels);
-HWY_EXPORT(sharpenAcross);
+HWY_EXPORT(narrowRow);
+HWY_EXPORT(sharpenRow);
 
 namespace filters
 {
@@ -284,10 +295,14 @@ void blurAcrossToPixels(const Wide* const* rows, std::uint32_t* pixels, int coun
 {
     HWY_DYNAMIC_DISPATCH(blurAcrossToPixels)(rows, pixels, count, weights, stream);
 }
-void sharpenAcross(const Wide* const* rows, const Wide* middle, std::uint32_t* pixels, int count,
-                   const BlurWeights& weights, SharpenAmount amount, bool stream)
+void narrowRow(const Wide* row, std::uint32_t* pixels, int count, bool stream)
 {
-    HWY_DYNAMIC_DISPATCH(sharpenAcross)(rows, middle, pixels, count, weights, amount, stream);
+    HWY_DYNAMIC_DISPATCH(narrowRow)(row, pixels, count, stream);
+}
+void sharpenRow(const Wide* blurred, const Wide* middle, std::uint32_t* pixels, int count, SharpenAmount amount,
+                bool stream)
+{
+    HWY_DYNAMIC_DISPATCH(sharpenRow)(blurred, middle, pixels, count, amount, stream);
 }
 
 } // namespace filters

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Wide rows at half and double the size.
+/// Halving and doubling of wide rows, pixels as lanes of 64 bits.
 #include "drawing/FiltersScaling.h"
 
 #undef HWY_TARGET_INCLUDE
@@ -15,10 +15,18 @@ namespace zp::HWY_NAMESPACE
 namespace
 {
 
-using filters::kWideBits;
 using filters::Wide;
 
-/// Calls f(tag, pixel) for every pixel, 64 bits each: in whole vectors, then one by one.
+/// The filter's three shares of a pair of pixels, the inner pair's first, in 1/32768: one sixteenth more than the half
+/// that a pair's sum needs is never reached, so nothing overflows.
+constexpr std::int16_t kPairs[3] = {10 * 1024, 5 * 1024, 1024};
+/// The same filter's shares when each pixel becomes two.
+constexpr std::int16_t kOwn = 20 * 1024, kNearer = 10 * 1024, kOther = 2 * 1024;
+
+template <class D>
+using Samples16 = hn::Repartition<Wide, D>;
+
+/// Calls f(tag, pixel) for every pixel: in whole vectors, then one by one.
 template <class F>
 HWY_INLINE void forEachWidePixel(int count, F&& f)
 {
@@ -30,75 +38,89 @@ HWY_INLINE void forEachWidePixel(int count, F&& f)
     for (; x < count; ++x) f(one, x);
 }
 
-/// Samples without a sign, so that four of them add up within 16 bits.
+/// A vector from pixel @p x of the row on.
 template <class D>
-HWY_INLINE hn::Vec<Wide16<D>> load(D, const Wide* row)
+HWY_INLINE hn::Vec<Samples16<D>> load(D, const Wide* row, std::ptrdiff_t x)
 {
-    return hn::LoadU(Wide16<D>(), reinterpret_cast<const std::uint16_t*>(row));
-}
-template <class D>
-HWY_INLINE void store(D, hn::Vec<Wide16<D>> v, Wide* row)
-{
-    hn::StoreU(v, Wide16<D>(), reinterpret_cast<std::uint16_t*>(row));
+    return hn::LoadU(Samples16<D>(), row + 4 * x);
 }
 
-/// (3 near + far + 2) / 4.
 template <class D16, class V = hn::Vec<D16>>
-HWY_INLINE V threeToOne(D16 d, V near, V far)
+HWY_INLINE V share(D16 d, V v, std::int16_t of)
 {
-    return hn::ShiftRight<2>(hn::Add(hn::Add(hn::Add(near, near), near), hn::Add(far, hn::Set(d, 2))));
+    return hn::MulFixedPoint15(v, hn::Set(d, of));
 }
 
-void halveRows(const Wide* a, const Wide* b, Wide* out, int count)
+void halveDown(const Wide* const (&rows)[6], Wide* out, int count)
+{
+    forEachWidePixel(count, [&](auto d, int x) ZP_LANES {
+        const Samples16<decltype(d)> d16;
+        auto sum = hn::Zero(d16);
+        for (int k = 0; k < 3; ++k)
+            sum = hn::Add(sum, share(d16, hn::Add(load(d, rows[2 - k], x), load(d, rows[3 + k], x)), kPairs[k]));
+        hn::StoreU(sum, d16, out + 4 * x);
+    });
+}
+
+void halveAlong(const Wide* row, Wide* out, int count)
 {
     forEachWidePixel(count, [=](auto d, int x) ZP_LANES {
-        const Wide16<decltype(d)> d16;
-        const auto rows = [&](int at) ZP_LANES { return hn::BitCast(d, hn::Add(load(d, a + at), load(d, b + at))); };
+        const Samples16<decltype(d)> d16;
         const int lanes = int(hn::Lanes(d));
-        const auto low = rows(8 * x), high = rows(8 * x + 4 * lanes);
-        if constexpr (hn::MaxLanes(decltype(d)()) == 1) {
-            const auto sum = hn::Add(hn::BitCast(d16, low), hn::BitCast(d16, high));
-            store(d, hn::ShiftRight<2>(hn::Add(sum, hn::Set(d16, 2))), out + 4 * x);
-        } else {
-            const auto even = hn::BitCast(d16, hn::ConcatEven(d, high, low));
-            const auto odd = hn::BitCast(d16, hn::ConcatOdd(d, high, low));
-            store(d, hn::ShiftRight<2>(hn::Add(hn::Add(even, odd), hn::Set(d16, 2))), out + 4 * x);
-        }
+        // The first and the second pixel of each of the vector's pairs, which begin at pixel 2 x + offset.
+        const auto firsts = [&](int offset) ZP_LANES {
+            const auto low = hn::BitCast(d, load(d, row, 2 * x + offset));
+            if constexpr (hn::MaxLanes(decltype(d)()) == 1) {
+                return hn::BitCast(d16, low);
+            } else {
+                const auto high = hn::BitCast(d, load(d, row, 2 * x + offset + lanes));
+                return hn::BitCast(d16, hn::ConcatEven(d, high, low));
+            }
+        };
+        const auto seconds = [&](int offset) ZP_LANES {
+            if constexpr (hn::MaxLanes(decltype(d)()) == 1) {
+                return load(d, row, 2 * x + offset + 1);
+            } else {
+                const auto low = hn::BitCast(d, load(d, row, 2 * x + offset));
+                const auto high = hn::BitCast(d, load(d, row, 2 * x + offset + lanes));
+                return hn::BitCast(d16, hn::ConcatOdd(d, high, low));
+            }
+        };
+        auto sum = share(d16, hn::Add(firsts(0), seconds(0)), kPairs[0]);
+        sum = hn::Add(sum, share(d16, hn::Add(seconds(-2), firsts(2)), kPairs[1]));
+        sum = hn::Add(sum, share(d16, hn::Add(firsts(-2), seconds(2)), kPairs[2]));
+        hn::StoreU(sum, d16, out + 4 * x);
     });
 }
 
-void mixRows(const Wide* near, const Wide* far, Wide* out, int count)
+/// Ten, five and one sixteenths.
+template <class D16, class V = hn::Vec<D16>>
+HWY_INLINE V doubled(D16 d, V nearer, V own, V other)
+{
+    return hn::Add(hn::Add(share(d, own, kOwn), share(d, nearer, kNearer)), share(d, other, kOther));
+}
+
+void doubleDown(const Wide* nearer, const Wide* own, const Wide* other, Wide* out, int count)
 {
     forEachWidePixel(count, [=](auto d, int x) ZP_LANES {
-        store(d, threeToOne(Wide16<decltype(d)>(), load(d, near + 4 * x), load(d, far + 4 * x)), out + 4 * x);
+        const Samples16<decltype(d)> d16;
+        hn::StoreU(doubled(d16, load(d, nearer, x), load(d, own, x), load(d, other, x)), d16, out + 4 * x);
     });
 }
 
-void doubleRow(const Wide* row, Wide* out, int count)
+void doubleAlong(const Wide* row, Wide* out, int count)
 {
     forEachWidePixel(count, [=](auto d, int x) ZP_LANES {
-        const Wide16<decltype(d)> d16;
-        const auto own = load(d, row + 4 * x);
-        const auto left = threeToOne(d16, own, load(d, row + 4 * x - 4));
-        const auto right = threeToOne(d16, own, load(d, row + 4 * x + 4));
+        const Samples16<decltype(d)> d16;
+        const auto before = load(d, row, x - 1), own = load(d, row, x), behind = load(d, row, x + 1);
+        const auto left = doubled(d16, before, own, behind), right = doubled(d16, behind, own, before);
         if constexpr (hn::MaxLanes(decltype(d)()) == 1) {
-            store(d, left, out + 8 * x);
-            store(d, right, out + 8 * x + 4);
+            hn::StoreU(left, d16, out + 8 * x);
+            hn::StoreU(right, d16, out + 8 * x + 4);
         } else {
             hn::StoreInterleaved2(hn::BitCast(d, left), hn::BitCast(d, right), d,
                                   reinterpret_cast<std::uint64_t*>(out + 8 * x));
         }
-    });
-}
-
-void narrowRow(const Wide* row, std::uint32_t* pixels, int count)
-{
-    auto* const bytes = reinterpret_cast<std::uint8_t*>(pixels);
-    forEachVector<Wide>(std::size_t(count) * 4, [=](auto d, std::size_t at) ZP_LANES {
-        const hn::Rebind<std::uint8_t, decltype(d)> narrow;
-        const auto half = hn::Set(d, 1 << (kWideBits - 1));
-        const auto levels = hn::ShiftRight<kWideBits>(hn::Add(hn::LoadU(d, row + at), half));
-        hn::StoreU(hn::DemoteTo(narrow, levels), narrow, bytes + at);
     });
 }
 
@@ -110,27 +132,24 @@ HWY_AFTER_NAMESPACE();
 namespace zp
 {
 
-HWY_EXPORT(halveRows);
-HWY_EXPORT(mixRows);
-HWY_EXPORT(doubleRow);
-HWY_EXPORT(narrowRow);
+HWY_EXPORT(halveDown);
+HWY_EXPORT(halveAlong);
+HWY_EXPORT(doubleDown);
+HWY_EXPORT(doubleAlong);
 
 namespace filters
 {
 
-void halveRows(const Wide* a, const Wide* b, Wide* out, int count)
+void halveDown(const Wide* const (&rows)[6], Wide* out, int count)
 {
-    HWY_DYNAMIC_DISPATCH(halveRows)(a, b, out, count);
+    HWY_DYNAMIC_DISPATCH(halveDown)(rows, out, count);
 }
-void mixRows(const Wide* near, const Wide* far, Wide* out, int count)
+void halveAlong(const Wide* row, Wide* out, int count) { HWY_DYNAMIC_DISPATCH(halveAlong)(row, out, count); }
+void doubleDown(const Wide* nearer, const Wide* own, const Wide* other, Wide* out, int count)
 {
-    HWY_DYNAMIC_DISPATCH(mixRows)(near, far, out, count);
+    HWY_DYNAMIC_DISPATCH(doubleDown)(nearer, own, other, out, count);
 }
-void doubleRow(const Wide* row, Wide* out, int count) { HWY_DYNAMIC_DISPATCH(doubleRow)(row, out, count); }
-void narrowRow(const Wide* row, std::uint32_t* pixels, int count)
-{
-    HWY_DYNAMIC_DISPATCH(narrowRow)(row, pixels, count);
-}
+void doubleAlong(const Wide* row, Wide* out, int count) { HWY_DYNAMIC_DISPATCH(doubleAlong)(row, out, count); }
 
 } // namespace filters
 } // namespace zp
