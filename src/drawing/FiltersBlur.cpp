@@ -16,44 +16,57 @@ namespace zp::filters
 namespace
 {
 
-/// Bytes that a strip's last rows may take: they stay in the second cache beside what comes and goes. Narrower strips,
-/// for the first cache's sake, were slower: memory likes long rows.
-constexpr int kNearBytes = 256 << 10;
+/// Pixels across a strip: whole rows of any ordinary picture, for memory likes long rows best, even where a strip's
+/// last rows do not stay in the first cache. Those of a strip this wide stay in the second.
+constexpr int kStrip = 8192;
 /// A part of this many bytes does not stay in the cache: stores that go past it save reading the lines first.
 constexpr std::int64_t kStreamFrom = std::int64_t{8} << 20;
-/// Rows by which memory is announced: a strip's next row is far away, and nothing else would fetch it in time.
-constexpr int kRowsAhead = 4;
-
-/// Pixels across a strip that keeps so many rows of the picture.
-int stripWidth(int rows)
+/// Repeats the ends of a wide row over the places beside it.
+void extendRow(Wide* row, int count, int before, int behind)
 {
-    return std::clamp(kNearBytes / (rows * 4 * int(sizeof(Wide))) / kBlock * kBlock, 4 * kBlock, 64 * kBlock);
+    for (int i = 1; i <= before; ++i) std::memcpy(row - std::ptrdiff_t{4} * i, row, 4 * sizeof(Wide));
+    const Wide* const last = row + std::ptrdiff_t{4} * (count - 1);
+    for (int i = 0; i < behind; ++i) std::memcpy(row + std::ptrdiff_t{4} * (count + i), last, 4 * sizeof(Wide));
 }
 
+/// A blur without halving, down the columns first: the pixels' own rows are what it needs of the rows above and below.
 void blurStrip(ConstBitmapView source, BitmapView destination, const BlurJob& job, const BlurWeights& weights,
                PixelBox box, bool stream)
 {
-    const int radius = weights.radius(), taps = 2 * radius + 1, width = blocks(box.width());
-    const int last = source.height - 1;
-    // The unsharp mask meets a row again when the rows below it have passed.
-    Ring fetched(job.sharpen ? radius + 1 : 1, width + 2 * radius), blurred(taps, width), line(1, width);
+    const int radius = weights.radius(), taps = 2 * radius + 1, width = blocks(box.width() + 2 * radius) + kBlock;
+    const int in0 = std::max(0, box.x0 - radius), in1 = std::min(source.width, box.x1 + radius);
+    // Only pixels that change colour first are kept as wide rows.
+    Ring coloured(job.colour ? taps : 1, width), line(2, width);
     std::vector<const Wide*> rows(std::size_t(taps), nullptr);
+    std::vector<const std::uint32_t*> pixels(std::size_t(taps), nullptr);
+    Wide* const down = line.row(0) + std::ptrdiff_t{4} * radius; // the strip's first pixel
+    Wide* const inside = down + std::ptrdiff_t{4} * (in0 - box.x0);
     int next = std::max(0, box.y0 - radius);
     for (int y = box.y0; y < box.y1; ++y) {
-        for (; next <= std::min(last, y + radius); ++next) {
-            Wide* row = fetched.row(next);
-            fetchRow(source, next, box.x0 - radius, box.x1 + radius, job, row);
-            blurAlong(row + std::ptrdiff_t{4} * radius, blurred.row(next), box.width(), weights);
-        }
-        for (int k = -radius; k <= radius; ++k) rows[std::size_t(k + radius)] = blurred.row(std::clamp(y + k, 0, last));
-        std::uint32_t* out = destination.row(y) + box.x0;
-        if (job.sharpen) {
-            blurAcross(rows.data(), line.row(0), box.width(), weights);
-            const Wide* const middle = fetched.row(y) + std::ptrdiff_t{4} * radius;
-            sharpenRow(line.row(0), middle, out, box.width(), job.amount, stream);
+        const auto rowAt = [&](int k) { return std::clamp(y + k - radius, 0, source.height - 1); };
+        if (job.colour) {
+            for (; next <= rowAt(2 * radius); ++next)
+                colourRowWide(source.row(next) + in0, coloured.row(next), in1 - in0, job.matrix);
+            for (int k = 0; k < taps; ++k) rows[std::size_t(k)] = coloured.row(rowAt(k));
+            blurAcross(rows.data(), inside, in1 - in0, weights);
         } else {
-            blurAcrossToPixels(rows.data(), out, box.width(), weights, stream);
+            for (int k = 0; k < taps; ++k) pixels[std::size_t(k)] = source.row(rowAt(k)) + in0;
+            blurPixelsAcross(pixels.data(), inside, in1 - in0, weights);
         }
+        extendRow(inside, in1 - in0, in0 - (box.x0 - radius), box.x1 + radius - in1);
+        std::uint32_t* const out = destination.row(y) + box.x0;
+        if (!job.sharpen) {
+            blurAlongToPixels(down, out, box.width(), weights, stream);
+            continue;
+        }
+        Wide* const soft = line.row(1);
+        blurAlong(down, soft, box.width(), weights);
+        Wide* own = line.row(0);
+        if (job.colour)
+            own = coloured.row(y) + std::ptrdiff_t{4} * (box.x0 - in0);
+        else
+            widenRow(source.row(y) + box.x0, own, box.width());
+        sharpenRow(soft, own, out, box.width(), job.amount, stream);
     }
 }
 
@@ -63,19 +76,13 @@ void fetchRow(ConstBitmapView source, int y, int x0, int x1, const BlurJob& job,
 {
     y = std::clamp(y, 0, source.height - 1);
     const int in0 = std::clamp(x0, 0, source.width - 1), in1 = std::clamp(x1, in0 + 1, source.width);
-    const std::uint32_t* const ahead = source.row(std::min(y + kRowsAhead, source.height - 1));
-    for (int x = in0; x < in1; x += 16) prefetch(ahead + x);
-    prefetch(ahead + in1 - 1);
     const std::uint32_t* pixels = source.row(y) + in0;
     Wide* inside = out + std::ptrdiff_t{4} * (in0 - x0);
     if (job.colour)
         colourRowWide(pixels, inside, in1 - in0, job.matrix);
     else
         widenRow(pixels, inside, in1 - in0);
-    for (Wide* p = inside - 4; p >= out; p -= 4) std::memcpy(p, inside, 4 * sizeof(Wide));
-    const Wide* last = inside + std::ptrdiff_t{4} * (in1 - in0 - 1);
-    for (Wide* p = inside + std::ptrdiff_t{4} * (in1 - in0); p < out + std::ptrdiff_t{4} * (x1 - x0); p += 4)
-        std::memcpy(p, last, 4 * sizeof(Wide));
+    extendRow(inside, in1 - in0, in0 - x0, x1 - in1);
 }
 
 BlurPlan planBlur(double sigma)
@@ -130,12 +137,11 @@ void blurPart(ConstBitmapView source, BitmapView destination, const BlurJob& job
     const int radius = weights.radius();
     const bool aligned = reinterpret_cast<std::uintptr_t>(destination.row(part.y0) + part.x0) % 64 == 0;
     const bool stream = aligned && std::int64_t{4} * part.width() * part.height() >= kStreamFrom;
-    const int strip = plan.levels == 0 ? stripWidth(2 * radius + 1) : stripWidth(2 * radius + 1) << plan.levels;
     // Bands share the machine's cores; the rows above each band are computed twice, so a band is many times their
     // number.
     parallelBands(part.height(), std::max(64, (8 * radius) << plan.levels), [&](int from, int to) {
-        for (int x = part.x0; x < part.x1; x += strip) {
-            const PixelBox box{x, part.y0 + from, std::min(part.x1, x + strip), part.y0 + to};
+        for (int x = part.x0; x < part.x1; x += kStrip) {
+            const PixelBox box{x, part.y0 + from, std::min(part.x1, x + kStrip), part.y0 + to};
             if (plan.levels == 0)
                 blurStrip(source, destination, job, weights, box, stream);
             else

@@ -36,7 +36,6 @@ int blurReach(double sigma);
 void blurPart(ConstBitmapView source, BitmapView destination, const BlurJob& job, PixelBox part);
 
 /// Pixels [x0, x1) of row @p y as wide samples, colour steps applied; places outside repeat the picture's border.
-/// Announces the row that will be asked for next but a few.
 void fetchRow(ConstBitmapView source, int y, int x0, int x1, const BlurJob& job, Wide* out);
 
 /// One strip of a blur on a halved picture, columns x0 to x1 of the destination, its rows written from above down.

@@ -25,6 +25,9 @@ using filters::kWideOne;
 using filters::SharpenAmount;
 using filters::Wide;
 
+/// So many bytes beforehand are pixels announced that come from memory: between two of their lines lies too much work
+/// for the processor to see the next by itself. Behind a row begins the next.
+constexpr std::size_t kAhead = 4096;
 /// Half a level in wide samples, for rounding.
 constexpr int kWideHalf = 1 << (kWideBits - 1);
 
@@ -64,6 +67,7 @@ void colourRow(const std::uint32_t* pixels, std::uint32_t* out, int count, const
 {
     const ColourMatrix own = matrix;
     forEachVector<std::uint32_t>(std::size_t(count), [&](auto d, std::size_t at) ZP_LANES {
+        prefetch(reinterpret_cast<const std::uint8_t*>(pixels + at) + kAhead);
         const auto c = coloured(d, hn::LoadU(d, pixels + at), own.m, 1);
         const auto lower = hn::Or(c.alpha, hn::ShiftLeft<8>(c.red));
         hn::StoreU(hn::Or(lower, hn::Or(hn::ShiftLeft<16>(c.green), hn::ShiftLeft<24>(c.blue))), d, out + at);
@@ -77,6 +81,7 @@ void colourRowWide(const std::uint32_t* pixels, Wide* out, int count, const Colo
     for (float& v : own.m) v *= kScale;
     auto* const words = reinterpret_cast<std::uint32_t*>(out);
     forEachVector<std::uint32_t>(std::size_t(count), [&](auto d, std::size_t at) ZP_LANES {
+        prefetch(reinterpret_cast<const std::uint8_t*>(pixels + at) + kAhead);
         const auto c = coloured(d, hn::LoadU(d, pixels + at), own.m, kScale);
         // Two samples to a word, two words to a pixel.
         hn::StoreInterleaved2(hn::Or(hn::ShiftLeft<kWideBits>(c.alpha), hn::ShiftLeft<16>(c.red)),
@@ -89,6 +94,7 @@ void widenRow(const std::uint32_t* pixels, Wide* out, int count)
     const auto* const bytes = reinterpret_cast<const std::uint8_t*>(pixels);
     forEachVector<Wide>(std::size_t(count) * 4, [=](auto d, std::size_t at) ZP_LANES {
         const hn::Rebind<std::uint8_t, decltype(d)> narrow;
+        prefetch(bytes + at + kAhead);
         hn::StoreU(hn::ShiftLeft<kWideBits>(hn::PromoteTo(d, hn::LoadU(narrow, bytes + at))), d, out + at);
     });
 }
@@ -136,14 +142,18 @@ HWY_INLINE void storeGroup(const Vector (&sum)[kGroup], Wide* out)
     for (int v = 0; v < kGroup; ++v) hn::StoreU(sum[v], Samples16(), out + kLanes * v);
 }
 
+HWY_INLINE void sumAlong(Vector (&sum)[kGroup], const Wide* middle, const BlurWeights& weights)
+{
+    middleShare(sum, middle, weights);
+    for (int k = 1; k <= weights.radius(); ++k)
+        addPair(sum, middle - 4 * k, middle + 4 * k, weights.side[std::size_t(k - 1)]);
+}
+
 void blurAlong(const Wide* middle, Wide* out, int count, const BlurWeights& weights)
 {
-    const int radius = weights.radius();
     for (int i = 0; i < 4 * count; i += kGroupSamples) {
         Vector sum[kGroup];
-        middleShare(sum, middle + i, weights);
-        for (int k = 1; k <= radius; ++k)
-            addPair(sum, middle + i - 4 * k, middle + i + 4 * k, weights.side[std::size_t(k - 1)]);
+        sumAlong(sum, middle + i, weights);
         storeGroup(sum, out + i);
     }
 }
@@ -157,8 +167,49 @@ void blurAcross(const Wide* const* rows, Wide* out, int count, const BlurWeights
     }
 }
 
-/// A group's samples as pixels, rounded, from sample @p i of the row on.
-HWY_INLINE void storePixels(const Vector (&sum)[kGroup], std::uint32_t* pixels, int i, int count, bool stream)
+/// The blur down the columns of pixels, from sample @p at on, for so many vectors at once.
+template <int kVectors, class D>
+HWY_INLINE void sumPixelsAcross(D d, const std::uint32_t* const* rows, const BlurWeights& weights, std::size_t at,
+                                Wide* out)
+{
+    const std::size_t lanes = hn::Lanes(d);
+    const int radius = weights.radius();
+    const auto bytes = [&](int k, std::size_t v) ZP_LANES {
+        const hn::Rebind<std::uint8_t, D> narrow;
+        return hn::PromoteTo(d, hn::LoadU(narrow, reinterpret_cast<const std::uint8_t*>(rows[k]) + at + v * lanes));
+    };
+    hn::Vec<D> sum[kVectors];
+    for (std::size_t v = 0; v < kVectors; ++v) {
+        const auto own = hn::ShiftLeft<kWideBits>(bytes(radius, v));
+        sum[v] = hn::Sub(own, hn::MulFixedPoint15(own, hn::Set(d, weights.taken)));
+    }
+    for (int k = 1; k <= radius; ++k) {
+        const auto weight = hn::Set(d, weights.side[std::size_t(k - 1)]);
+        for (std::size_t v = 0; v < kVectors; ++v) {
+            const auto both = hn::ShiftLeft<kWideBits>(hn::Add(bytes(radius - k, v), bytes(radius + k, v)));
+            sum[v] = hn::Add(sum[v], hn::MulFixedPoint15(both, weight));
+        }
+    }
+    for (std::size_t v = 0; v < kVectors; ++v) hn::StoreU(sum[v], d, out + at + v * lanes);
+}
+
+void blurPixelsAcross(const std::uint32_t* const* rows, Wide* out, int count, const BlurWeights& weights)
+{
+    const Samples16 d;
+    const std::size_t all = std::size_t(count) * 4;
+    std::size_t at = 0;
+    const auto* const newest = reinterpret_cast<const std::uint8_t*>(rows[2 * weights.radius()]);
+    for (; at + kGroupSamples <= all; at += kGroupSamples) {
+        for (int line = 0; line < kGroupSamples; line += 64) prefetch(newest + at + std::size_t(line) + kAhead);
+        sumPixelsAcross<kGroup>(d, rows, weights, at, out);
+    }
+    forEachVector<Wide>(all - at, [&](auto tag, std::size_t more)
+                                      ZP_LANES { sumPixelsAcross<1>(tag, rows, weights, at + more, out); });
+}
+
+/// A group's samples as bytes of pixels, rounded.
+template <bool kStream>
+HWY_INLINE void storePixels(const Vector (&sum)[kGroup], std::uint8_t* target)
 {
     const Samples16 d;
     const hn::Repartition<std::uint8_t, Samples16> whole;
@@ -166,27 +217,45 @@ HWY_INLINE void storePixels(const Vector (&sum)[kGroup], std::uint32_t* pixels, 
     const auto bytes = [&](Vector v) ZP_LANES {
         return hn::DemoteTo(half, hn::ShiftRight<kWideBits>(hn::Add(v, hn::Set(d, kWideHalf))));
     };
-    HWY_ALIGN std::uint8_t rest[kGroupSamples];
-    const bool fits = i + kGroupSamples <= 4 * count;
-    std::uint8_t* const target = fits ? reinterpret_cast<std::uint8_t*>(pixels) + i : rest;
     for (int v = 0; v < kGroup; v += 2) {
         const auto two = hn::Combine(whole, bytes(sum[v + 1]), bytes(sum[v]));
-        if (stream && fits)
+        if constexpr (kStream)
             hn::Stream(two, whole, target + kLanes * v);
         else
             hn::StoreU(two, whole, target + kLanes * v);
     }
-    if (!fits) std::memcpy(pixels + i / 4, rest, std::size_t(count) * 4 - std::size_t(i));
 }
 
-void blurAcrossToPixels(const Wide* const* rows, std::uint32_t* pixels, int count, const BlurWeights& weights,
-                        bool stream)
+/// Calls f(sums, sample) for a row's groups and makes pixels of what it leaves in the sums.
+template <class F>
+HWY_INLINE void makePixels(std::uint32_t* pixels, int count, bool stream, F&& f)
 {
-    for (int i = 0; i < 4 * count; i += kGroupSamples) {
-        Vector sum[kGroup];
-        sumAcross(sum, rows, i, weights);
-        storePixels(sum, pixels, i, count, stream);
+    auto* const bytes = reinterpret_cast<std::uint8_t*>(pixels);
+    const int whole = 4 * count / kGroupSamples * kGroupSamples;
+    Vector sum[kGroup];
+    int i = 0;
+    if (stream) {
+        for (; i < whole; i += kGroupSamples) {
+            f(sum, i);
+            storePixels<true>(sum, bytes + i);
+        }
+    } else {
+        for (; i < whole; i += kGroupSamples) {
+            f(sum, i);
+            storePixels<false>(sum, bytes + i);
+        }
     }
+    if (i == 4 * count) return;
+    HWY_ALIGN std::uint8_t rest[kGroupSamples];
+    f(sum, i);
+    storePixels<false>(sum, rest);
+    std::memcpy(bytes + i, rest, std::size_t(4 * count - i));
+}
+
+void blurAlongToPixels(const Wide* middle, std::uint32_t* pixels, int count, const BlurWeights& weights, bool stream)
+{
+    makePixels(pixels, count, stream,
+               [&](Vector(&sum)[kGroup], int i) ZP_LANES { sumAlong(sum, middle + i, weights); });
 }
 
 // ---- unsharp mask ---------------------------------------------------------------------------------------------------
@@ -220,8 +289,7 @@ void sharpenRow(const Wide* blurredRow, const Wide* middle, std::uint32_t* pixel
     const hn::Repartition<std::uint64_t, Samples16> pixel;
     const auto factor = hn::Set(d, amount.factor);
     const auto colours = hn::BitCast(d, hn::Set(pixel, ~std::uint64_t{0xFFFF}));
-    for (int i = 0; i < 4 * count; i += kGroupSamples) {
-        Vector sharp[kGroup];
+    makePixels(pixels, count, stream, [&](Vector(&sharp)[kGroup], int i) ZP_LANES {
         for (int v = 0; v < kGroup; ++v) {
             const int at = i + kLanes * v;
             const auto c = hn::LoadU(d, middle + at);
@@ -240,17 +308,14 @@ void sharpenRow(const Wide* blurredRow, const Wide* middle, std::uint32_t* pixel
             for (int k = 0; k < amount.doublings; ++k) change = hn::SaturatedAdd(change, change);
             sharp[v] = hn::Max(hn::Zero(d), hn::Min(hn::SaturatedAdd(c, change), alphas(c)));
         }
-        storePixels(sharp, pixels, i, count, stream);
-    }
+    });
 }
 
 void narrowRow(const Wide* row, std::uint32_t* pixels, int count, bool stream)
 {
-    for (int i = 0; i < 4 * count; i += kGroupSamples) {
-        Vector samples[kGroup];
+    makePixels(pixels, count, stream, [&](Vector(&samples)[kGroup], int i) ZP_LANES {
         for (int v = 0; v < kGroup; ++v) samples[v] = hn::LoadU(Samples16(), row + i + kLanes * v);
-        storePixels(samples, pixels, i, count, stream);
-    }
+    });
 }
 
 } // namespace
@@ -266,7 +331,8 @@ HWY_EXPORT(colourRowWide);
 HWY_EXPORT(widenRow);
 HWY_EXPORT(blurAlong);
 HWY_EXPORT(blurAcross);
-HWY_EXPORT(blurAcrossToPixels);
+HWY_EXPORT(blurPixelsAcross);
+HWY_EXPORT(blurAlongToPixels);
 HWY_EXPORT(narrowRow);
 HWY_EXPORT(sharpenRow);
 
@@ -290,10 +356,13 @@ void blurAcross(const Wide* const* rows, Wide* out, int count, const BlurWeights
 {
     HWY_DYNAMIC_DISPATCH(blurAcross)(rows, out, count, weights);
 }
-void blurAcrossToPixels(const Wide* const* rows, std::uint32_t* pixels, int count, const BlurWeights& weights,
-                        bool stream)
+void blurPixelsAcross(const std::uint32_t* const* rows, Wide* out, int count, const BlurWeights& weights)
 {
-    HWY_DYNAMIC_DISPATCH(blurAcrossToPixels)(rows, pixels, count, weights, stream);
+    HWY_DYNAMIC_DISPATCH(blurPixelsAcross)(rows, out, count, weights);
+}
+void blurAlongToPixels(const Wide* middle, std::uint32_t* pixels, int count, const BlurWeights& weights, bool stream)
+{
+    HWY_DYNAMIC_DISPATCH(blurAlongToPixels)(middle, pixels, count, weights, stream);
 }
 void narrowRow(const Wide* row, std::uint32_t* pixels, int count, bool stream)
 {

@@ -49,15 +49,16 @@ void widenRow(const std::uint32_t* pixels, Wide* out, int count);
 void blurAlong(const Wide* middle, Wide* out, int count, const BlurWeights& weights);
 /// Down the columns. @param rows 2 * radius + 1 row starts, the middle one in the middle
 void blurAcross(const Wide* const* rows, Wide* out, int count, const BlurWeights& weights);
+/// The same of rows of pixels; exactly count are read and written.
+void blurPixelsAcross(const std::uint32_t* const* rows, Wide* out, int count, const BlurWeights& weights);
 
 // The passes below make pixels; @p pixels is written up to count only. @param stream stores go past the cache: @p
 // pixels is aligned to 64 bytes, and the thread calls finishStreaming() when it is done
 
 /// Rounded.
 void narrowRow(const Wide* row, std::uint32_t* pixels, int count, bool stream);
-/// The same of a blur down the columns.
-void blurAcrossToPixels(const Wide* const* rows, std::uint32_t* pixels, int count, const BlurWeights& weights,
-                        bool stream);
+/// The same of a blur along the row.
+void blurAlongToPixels(const Wide* middle, std::uint32_t* pixels, int count, const BlurWeights& weights, bool stream);
 /// Colour moved away from the blurred colour, both taken without alpha; alpha stays. @param middle the pixels' own
 /// samples
 void sharpenRow(const Wide* blurred, const Wide* middle, std::uint32_t* pixels, int count, SharpenAmount amount,
