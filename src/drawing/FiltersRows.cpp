@@ -55,10 +55,10 @@ HWY_INLINE Coloured<D> coloured(D d, hn::Vec<D> pixels, const float* m, float sc
         const auto red = hn::Mul(hn::Set(real, m[4 * i]), r), green = hn::Mul(hn::Set(real, m[4 * i + 1]), g);
         const auto blue = hn::Mul(hn::Set(real, m[4 * i + 2]), b), bias = hn::Mul(hn::Set(real, m[4 * i + 3]), a);
         const auto sum = hn::Add(hn::Add(hn::Add(red, green), blue), bias);
-        // What is no number becomes 0.
-        const auto low = hn::IfThenElseZero(hn::Gt(sum, hn::Zero(real)), sum);
+        // What is no number becomes 0: of such a one and another the larger is the second.
+        const auto low = hn::Max(sum, hn::Zero(real));
         const auto rounded = hn::Add(hn::Min(low, top), hn::Set(real, 0.5f));
-        return hn::BitCast(d, hn::ConvertTo(whole, rounded));
+        return hn::BitCast(d, cutToWhole(whole, rounded));
     };
     return {alpha, row(0), row(1), row(2)};
 }
