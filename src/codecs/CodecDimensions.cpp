@@ -27,8 +27,8 @@ public:
         struct stat facts {
         };
         if (mFd < 0 || fstat(mFd, &facts) != 0 || !S_ISREG(facts.st_mode)) return;
-        mSize = std::uint64_t(facts.st_size);
-        mHead.resize(std::min<std::uint64_t>(mSize, kHead));
+        mFileSize = std::uint64_t(facts.st_size);
+        mHead.resize(std::min<std::uint64_t>(mFileSize, kHead));
         mHead.resize(std::size_t(std::max<ssize_t>(0, pread(mFd, mHead.data(), mHead.size(), 0))));
     }
     ~HeaderFile()
@@ -39,7 +39,7 @@ public:
     HeaderFile& operator=(const HeaderFile&) = delete;
 
     Bytes head() const { return mHead; }
-    std::uint64_t size() const { return mSize; }
+    std::uint64_t size() const { return mFileSize; }
     /// @return how many of the @p count bytes were there
     std::size_t read(std::uint64_t offset, std::uint8_t* to, std::size_t count) const
     {
@@ -49,7 +49,7 @@ public:
             std::memcpy(to, mHead.data() + offset, count);
             return count;
         }
-        const ssize_t n = offset < mSize ? pread(mFd, to, count, off_t(offset)) : 0;
+        const ssize_t n = offset < mFileSize ? pread(mFd, to, count, off_t(offset)) : 0;
         return n > 0 ? std::size_t(n) : 0;
     }
     std::uint32_t number(std::uint64_t offset, unsigned size, bool bigEndian) const
@@ -66,7 +66,7 @@ public:
 private:
     static constexpr std::uint64_t kHead = 4096;
     int mFd;
-    std::uint64_t mSize = 0;
+    std::uint64_t mFileSize = 0;
     std::vector<std::uint8_t> mHead;
 };
 

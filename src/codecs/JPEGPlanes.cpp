@@ -79,14 +79,14 @@ int PlaneDecoder::decode()
             readUnits(mInfo, *this);
             const std::scoped_lock lock(mMutex);
             mPublished = mDecoded;
-            mEnded = true;
+            mAllDecoded = true;
             mChanged.notify_all();
             return;
         }
         // This part runs beside the first or, where no worker is free, behind it.
         std::unique_lock lock(mMutex);
         for (;;) {
-            mChanged.wait(lock, [this] { return !mConverting && (mEnded || mConverted < convertible()); });
+            mChanged.wait(lock, [this] { return !mConverting && (mAllDecoded || mConverted < convertible()); });
             if (mConverted >= convertible()) return;
             convertBand(lock);
         }
@@ -138,7 +138,7 @@ void PlaneDecoder::unitIsDecoded()
 int PlaneDecoder::convertible() const
 {
     const int rows = mPublished * mRowsOfUnit;
-    return std::min(mEnd, mEnded || !mNeedsNext ? rows : std::max(0, rows - 1));
+    return std::min(mEnd, mAllDecoded || !mNeedsNext ? rows : std::max(0, rows - 1));
 }
 
 void PlaneDecoder::convertBand(std::unique_lock<std::mutex>& lock)

@@ -65,7 +65,7 @@ private:
     std::condition_variable mChanged;
     int mPublished = 0;       ///< units whose samples may be read
     int mConverted = 0;       ///< rows of pixels, those that are skipped included
-    bool mEnded = false;      ///< nothing more will be decoded
+    bool mAllDecoded = false; ///< nothing more will be decoded
     bool mConverting = false; ///< one thread is at it
 };
 

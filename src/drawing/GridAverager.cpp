@@ -59,7 +59,7 @@ GridAverager::Cells::Cells(double start, double step, int count, int low, int hi
 }
 
 GridAverager::GridAverager(ConstBitmapView image, PixelBox part, const AveragingGrid& grid)
-    : mImage(image),
+    : mSource(image),
       mColumns(grid.left, grid.stepX, grid.columns, part.x0, part.x1),
       mRows(grid.top, grid.stepY, grid.rows, part.y0, part.y1),
       mLevel(levelOf(grid))
@@ -83,7 +83,7 @@ void GridAverager::average(int row, int first, int last, std::uint32_t* out, boo
     const int from = std::clamp(mColumns.wholeFirst, first, last), to = std::clamp(mColumns.wholeLast, from, last);
     averageWeighed(cell, first, from, out, over);
     if (from < to)
-        (over ? averageSquaresOver : averageSquares)(mImage, mColumns.cells[std::size_t(from)].first, cell.first,
+        (over ? averageSquaresOver : averageSquares)(mSource, mColumns.cells[std::size_t(from)].first, cell.first,
                                                      to - from, mLevel, out + (from - first));
     averageWeighed(cell, to, last, out + (to - first), over);
 }
@@ -110,9 +110,9 @@ void GridAverager::averageWeighed(const AverageCell& row, int first, int last, s
             wideRoom.resize(std::size_t(columns) * 4);
             sums = wideRoom.data();
         }
-        startWeighing(mImage.pixel(low, row.first), weight[0], sums, 4 * columns);
+        startWeighing(mSource.pixel(low, row.first), weight[0], sums, 4 * columns);
         for (int k = 1; k < row.count; ++k)
-            if (weight[k]) addWeighed(mImage.pixel(low, row.first + k), weight[k], sums, 4 * columns);
+            if (weight[k]) addWeighed(mSource.pixel(low, row.first + k), weight[k], sums, 4 * columns);
         averageCells(sums, columns, low, cells, mColumns.weights.data(), over ? means : out, count);
         if (over) blendRun({out, means, 0, nullptr, count}, CompositingOperation::SourceOver, 255);
         first += count;

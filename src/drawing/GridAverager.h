@@ -42,7 +42,7 @@ private:
     void average(int row, int first, int last, std::uint32_t* out, bool over) const;
     void averageWeighed(const AverageCell& row, int first, int last, std::uint32_t* out, bool over) const;
 
-    ConstBitmapView mImage;
+    ConstBitmapView mSource;
     Cells mColumns, mRows;
     int mLevel = 0; ///< of a grid that halves the image this many times, cells on whole pixels; 0: any other grid
 };

@@ -41,7 +41,7 @@ bool ImageSampler::isNearlyShift(const AffineTransform& m, PixelBox part, int& d
 
 ImageSampler::ImageSampler(ConstBitmapView image, PixelBox part, const AffineTransform& toTarget, PixelBox target,
                            bool nearest)
-    : mImage(image), mPart(part), mNearest(nearest)
+    : mSource(image), mPart(part), mNearest(nearest)
 {
     if (isNearlyShift(toTarget, part, mShiftX, mShiftY)) {
         mShift = true;
@@ -65,7 +65,7 @@ void ImageSampler::reduce(double scaleX, double scaleY, AffineTransform& toTarge
         grid.stepX = 1 / toTarget.m11, grid.stepY = 1 / toTarget.m22;
         grid.left = (target.x0 - toTarget.tX) * grid.stepX, grid.top = (target.y0 - toTarget.tY) * grid.stepY;
         grid.columns = target.width(), grid.rows = target.height();
-        mAverager = std::make_unique<const GridAverager>(mImage, mPart, grid);
+        mAverager = std::make_unique<const GridAverager>(mSource, mPart, grid);
         mTarget = target;
         return;
     }
@@ -93,14 +93,14 @@ void ImageSampler::reduce(double scaleX, double scaleY, AffineTransform& toTarge
         toTarget = before; // interpolated from the full image instead: coarse, but drawn
         return;
     }
-    const GridAverager averager(mImage, mPart, grid);
+    const GridAverager averager(mSource, mPart, grid);
     const double perRow = double(mPart.width()) * std::max(1.0, grid.stepY);
     parallelBands(grid.rows, std::max(1, int(kPixelsPerBand / perRow)), [&](int first, int last) {
         for (int row = first; row < last; ++row)
             averager.average(row, 0, grid.columns, reinterpret_cast<std::uint32_t*>(mReduced.get() + rowBytes * row));
     });
-    mImage = {mReduced.get(), grid.columns, grid.rows, rowBytes};
-    mPart = mImage.box();
+    mSource = {mReduced.get(), grid.columns, grid.rows, rowBytes};
+    mPart = mSource.box();
     mDirect = isNearlyShift(toTarget, mPart, mShiftX, mShiftY);
 }
 
@@ -113,7 +113,7 @@ bool ImageSampler::drawOver(int y, int x0, int x1, std::uint32_t* to) const
 
 const std::uint32_t* ImageSampler::generate(int y, int x0, int x1, std::uint32_t* room) const
 {
-    if (mShift || mDirect) return mImage.row(y - mShiftY) + (x0 - mShiftX);
+    if (mShift || mDirect) return mSource.row(y - mShiftY) + (x0 - mShiftX);
     if (mAverager) {
         mAverager->average(y - mTarget.y0, x0 - mTarget.x0, x1 - mTarget.x0, room);
         return room;
@@ -124,13 +124,13 @@ const std::uint32_t* ImageSampler::generate(int y, int x0, int x1, std::uint32_t
     SampleLine line{fixed32(u), fixed32(v), fixed32(mToImage.m11), fixed32(mToImage.m12)};
     if (mNearest) {
         for (int x = x0; x < x1; ++x, line.x += line.dx, line.y += line.dy)
-            room[x - x0] = mImage.row(std::clamp(int(line.y >> 32), mPart.y0,
-                                                 mPart.y1 - 1))[std::clamp(int(line.x >> 32), mPart.x0, mPart.x1 - 1)];
+            room[x - x0] = mSource.row(std::clamp(int(line.y >> 32), mPart.y0,
+                                                  mPart.y1 - 1))[std::clamp(int(line.x >> 32), mPart.x0, mPart.x1 - 1)];
         return room;
     }
     const std::int64_t half = std::int64_t{1} << 31;
     line.x -= half, line.y -= half;
-    interpolateLine(mImage, mPart, line, room, x1 - x0);
+    interpolateLine(mSource, mPart, line, room, x1 - x0);
     return room;
 }
 

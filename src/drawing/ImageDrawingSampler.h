@@ -40,7 +40,7 @@ public:
 private:
     void reduce(double scaleX, double scaleY, AffineTransform& toTarget, PixelBox target);
 
-    ConstBitmapView mImage;
+    ConstBitmapView mSource;
     PixelBox mPart;
     AffineTransform mToImage;
     bool mNearest, mShift = false, mDirect = false;

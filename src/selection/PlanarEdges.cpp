@@ -114,7 +114,7 @@ void EdgeGrid::forEachCell(const GridEdge& edge, F&& f) const
     for (int r = r0; r <= r1; ++r) {
         // The part of the edge within the row, and a little more for what double precision loses.
         const double slack = 1 + std::abs(slope);
-        const double top = double(mY0) + r * mSize, bottom = top + mSize;
+        const double top = double(mY0) + r * mCellSize, bottom = top + mCellSize;
         double xa = double(low.x) + (top - double(low.y)) * slope,
                xb = double(low.x) + (bottom - double(low.y)) * slope;
         if (xa > xb) std::swap(xa, xb);
@@ -135,9 +135,9 @@ void EdgeGrid::build(const std::vector<GridEdge>& edges)
     }
     const double width = double(x1 - mX0) + 1, height = double(y1 - mY0) + 1, count = double(edges.size()) + 1;
     // A few cells per edge keep the memory in hand; most edges then lie in one or two, and few share a cell.
-    mSize = std::max({std::sqrt(width * height / std::min(4 * count, kMostCells)),
-                      std::max(width, height) / std::min(4 * count, 8192.0), 4.0});
-    mPerUnit = 1 / mSize;
+    mCellSize = std::max({std::sqrt(width * height / std::min(4 * count, kMostCells)),
+                          std::max(width, height) / std::min(4 * count, 8192.0), 4.0});
+    mPerUnit = 1 / mCellSize;
     mColumns = int(width * mPerUnit) + 1, mRows = int(height * mPerUnit) + 1;
     const std::size_t cells = std::size_t(mColumns) * std::size_t(mRows);
     mStarts.assign(cells + 2, 0);

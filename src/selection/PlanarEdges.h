@@ -33,7 +33,7 @@ public:
     int rows() const { return mRows; }
     int columnOf(std::int64_t x) const { return cell(x, mX0, mColumns); }
     int rowOf(std::int64_t y) const { return cell(y, mY0, mRows); }
-    std::int64_t leftOf(int column) const { return mX0 + std::int64_t(double(column) * mSize); }
+    std::int64_t leftOf(int column) const { return mX0 + std::int64_t(double(column) * mCellSize); }
     struct Range {
         const std::uint32_t *first, *last;
         const std::uint32_t* begin() const { return first; }
@@ -54,7 +54,7 @@ private:
     template <class F>
     void forEachCell(const GridEdge& edge, F&& f) const;
     std::int64_t mX0 = 0, mY0 = 0;
-    double mSize = 1, mPerUnit = 1;
+    double mCellSize = 1, mPerUnit = 1;
     int mColumns = 1, mRows = 1;
     std::vector<std::uint32_t> mStarts, mEntries;
 };
