@@ -21,6 +21,7 @@ namespace
 constexpr int kStrip = 8192;
 /// A part of this many bytes does not stay in the cache: stores that go past it save reading the lines first.
 constexpr std::int64_t kStreamFrom = std::int64_t{8} << 20;
+
 /// Repeats the ends of a wide row over the places beside it.
 void extendRow(Wide* row, int count, int before, int behind)
 {

@@ -10,7 +10,8 @@ namespace zp::filters
 /// A blur wider than any picture leaves its mean; beyond this nothing changes any more that is worth the time.
 inline constexpr double kWidestSigma = 1000;
 /// A blur is taken on the picture halved as often as leaves it a Gaussian of this sigma: finer ones would show the
-/// halved grid. The result is within 1.2 levels of the true one for any picture there could be, mostly within a tenth.
+/// halved grid. The result is within 1.3 levels of the true one for any picture there could be (a checkerboard made for
+/// it), within 0.95 at a sigma of 2.5, 0.25 at 4 and 7.
 inline constexpr double kFinestHalved = 0.87;
 
 struct BlurJob {
