@@ -2,12 +2,12 @@
 /// Coverage, blending and image drawing beside AGG and OpenCV on pictures of 24 megapixels.
 #include "base/BitmapRep.h"
 #include "drawing/BitmapContext.h"
+#include "support/OpenCvPeer.h"
 #include <agg_pixfmt_gray.h>
 #include <agg_pixfmt_rgba.h>
 #include <agg_rasterizer_scanline_aa.h>
 #include <agg_renderer_scanline.h>
 #include <agg_scanline_u.h>
-#include "support/OpenCvPeer.h"
 #include <benchmark/benchmark.h>
 #include <cstring>
 #include <numbers>

@@ -8,8 +8,8 @@
 namespace zp::bench
 {
 
-/// The picture's own memory as OpenCV sees it. Every benchmark that calls OpenCV starts with one, for its number of threads
-/// is the whole process's and another may have changed it.
+/// The picture's own memory as OpenCV sees it. Every benchmark that calls OpenCV starts with one, for its number of
+/// threads is the whole process's and another may have changed it.
 inline cv::Mat matOf(BitmapRep& rep)
 {
     cv::setNumThreads(workerCount());
