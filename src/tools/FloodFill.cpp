@@ -11,19 +11,19 @@ ColumnFillResult floodFill(BitmapView pixels, ConstMaskView walls, PixelPoint se
                            FillStack& stack, TileRegion& tiles)
 {
     const TileQuery query{pixels.row(seed.y)[seed.x], tolerance, true};
-    const TileKernels& kernels = tiles.kernels();
     stack.clear();
     const bool neverFull = stackNeverFills(pixels.width, pixels.height, stack);
     tiles.find(pixels, walls, seed, query, [&](PixelBox box) {
         if (!neverFull) return false;
-        for (int y = box.y0; y < box.y1; ++y) kernels.paintRow(pixels.row(y) + box.x0, ~std::uint64_t{0}, fill);
+        paintBox(pixels.row(box.y0) + box.x0, pixels.rowBytes, box.width(), box.height(), fill);
         return true;
     });
     if (!neverFull && tiles.columnScanPushes() > std::size_t(stack.capacity()))
         return floodFillColumns(pixels, walls, seed, fill, tolerance, stack);
     const PixelBox box = tiles.box();
-    tiles.visitRows(box.y0, box.y1,
-                    [&](int x, int y, std::uint64_t bits) { kernels.paintRow(pixels.row(y) + x, bits, fill); });
+    tiles.visitRows(box.y0, box.y1, [&](int x, int y, std::uint64_t bits) {
+        paintBits(pixels.row(y) + x, bits, fill, pixels.width - x);
+    });
     return {box, true};
 }
 

@@ -11,18 +11,18 @@ ColumnFillResult magicWand(ConstBitmapView pixels, MaskView mask, PixelPoint see
                            FillStack& stack, TileRegion& tiles)
 {
     const TileQuery query{target, tolerance, false};
-    const TileKernels& kernels = tiles.kernels();
     stack.clear();
     const bool neverFull = stackNeverFills(pixels.width, pixels.height, stack);
     tiles.find(pixels, mask, seed, query, [&](PixelBox box) {
         if (!neverFull) return false;
-        for (int y = box.y0; y < box.y1; ++y) kernels.clearRow(mask.row(y) + box.x0, ~std::uint64_t{0});
+        clearBox(mask.row(box.y0) + box.x0, mask.stride, box.width(), box.height());
         return true;
     });
     if (!neverFull && tiles.columnScanPushes() > std::size_t(stack.capacity()))
         return magicWandColumns(pixels, mask, seed, target, tolerance, stack);
     const PixelBox box = tiles.box();
-    tiles.visitRows(box.y0, box.y1, [&](int x, int y, std::uint64_t bits) { kernels.clearRow(mask.row(y) + x, bits); });
+    tiles.visitRows(box.y0, box.y1,
+                    [&](int x, int y, std::uint64_t bits) { clearBits(mask.row(y) + x, bits, mask.width - x); });
     return {box, true};
 }
 

@@ -1,33 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Matching and writing 64 pixels at a time, for AVX-512, AVX2 and any machine.
+/// Matching and writing 64 pixels at a time.
 #include "tools/TileKernels.h"
-#include "tools/PixelCompare.h"
 #include <algorithm>
 #include <bit>
 #include <cstring>
-#if defined(__x86_64__)
-#include <immintrin.h>
-#endif
 
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "tools/TileKernels.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "base/PixelVectors-inl.h"
+
+#ifndef ZP_TILE_KERNELS_ONCE
+#define ZP_TILE_KERNELS_ONCE
 namespace zp
 {
-
 namespace
 {
 
-TileEdges edgesOf(const TileRows& open)
-{
-    TileEdges edges{0, 0, true};
-    std::uint64_t all = ~std::uint64_t{0};
-    for (int y = 0; y < kTileSide; ++y) {
-        const std::uint64_t row = open[std::size_t(y)];
-        edges.left |= (row & 1) << y;
-        edges.right |= (row >> 63) << y;
-        all &= row;
-    }
-    edges.allOpen = all == ~std::uint64_t{0};
-    return edges;
-}
+constexpr std::uint64_t kAll = ~std::uint64_t{0};
 
 /// Each byte's lowest match and how far above it the highest is: x matches when x - low, modulo 256, is at most that.
 struct ByteRange {
@@ -43,173 +35,174 @@ struct ByteRange {
     }
 };
 
-// ---- any machine ----------------------------------------------------------------------------------------------------
-
-TileEdges loadPlain(const TileSource& source, const TileQuery& query, TileRows& open)
-{
-    open.fill(0);
-    for (int y = 0; y < source.height; ++y) {
-        const auto* row = reinterpret_cast<const std::uint32_t*>(source.pixels + source.rowBytes * y);
-        std::uint64_t bits = 0;
-        for (int x = 0; x < source.width; ++x)
-            bits |= std::uint64_t{wordsMatch(row[x], query.target, query.tolerance)} << x;
-        if (source.mask) {
-            const std::uint8_t* mask = source.mask + source.maskStride * y;
-            for (int x = 0; x < source.width; ++x)
-                if ((mask[x] == 0) != query.openWhereMaskIsZero) bits &= ~(std::uint64_t{1} << x);
-        }
-        open[std::size_t(y)] = bits;
-    }
-    return edgesOf(open);
-}
-
-template <class Pixel>
-void writeRuns(Pixel* row, std::uint64_t bits, Pixel value)
+template <class T>
+void writeRuns(T* row, std::uint64_t bits, T value)
 {
     while (bits) {
         const int first = std::countr_zero(bits), length = std::countr_one(bits >> first);
         std::fill_n(row + first, length, value);
         if (first + length == 64) return;
-        bits &= ~std::uint64_t{0} << (first + length);
+        bits &= kAll << (first + length);
     }
 }
 
-void paintRowPlain(std::uint32_t* row, std::uint64_t bits, std::uint32_t word) { writeRuns(row, bits, word); }
-void clearRowPlain(std::uint8_t* row, std::uint64_t bits) { writeRuns<std::uint8_t>(row, bits, 0); }
-
-constexpr TileKernels kPlain{loadPlain, paintRowPlain, clearRowPlain};
-
-#if defined(__x86_64__)
-
-// ---- AVX2 -----------------------------------------------------------------------------------------------------------
-
-__attribute__((target("avx2"))) std::uint64_t maskBitsAvx2(const std::uint8_t* mask, bool zero)
+/// Calls the lines of a row from memory. Tiles lie far apart, and no processor guesses which is next.
+inline void announceRow(const TileSource& tile, int y)
 {
-    const __m256i none = _mm256_setzero_si256();
-    const auto zeroBits = [&](const std::uint8_t* p) __attribute__((target("avx2")))
-    {
-        const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p));
-        return std::uint64_t(std::uint32_t(_mm256_movemask_epi8(_mm256_cmpeq_epi8(bytes, none))));
-    };
-    const std::uint64_t bits = zeroBits(mask) | zeroBits(mask + 32) << 32;
-    return zero ? bits : ~bits;
+    constexpr std::ptrdiff_t kLine = 64;
+    const std::uint8_t* const row = tile.pixels + tile.rowBytes * y;
+    for (std::ptrdiff_t at = 0; at < 4 * kTileSide; at += kLine) prefetch(row + at);
+    if (tile.mask) prefetch(tile.mask + tile.maskStride * y);
 }
 
-__attribute__((target("avx2"))) TileEdges loadAvx2(const TileSource& source, const TileQuery& query, TileRows& open)
+} // namespace
+} // namespace zp
+#endif
+
+HWY_BEFORE_NAMESPACE();
+namespace zp::HWY_NAMESPACE
 {
-    // The far edges of a picture are few: they may go the plain way.
-    if (source.width < kTileSide) return loadPlain(source, query, open);
-    const ByteRange range(query);
-    const __m256i low = _mm256_set1_epi32(int(range.low)), reach = _mm256_set1_epi32(int(range.reach));
-    const __m256i none = _mm256_setzero_si256();
-    for (int y = 0; y < source.height; ++y) {
-        const std::uint8_t* row = source.pixels + source.rowBytes * y;
-        std::uint64_t bits = 0;
-        for (int part = 0; part < 8; ++part) {
-            const __m256i pixels = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(row + 32 * part));
-            const __m256i beyond = _mm256_subs_epu8(_mm256_sub_epi8(pixels, low), reach);
-            const int eight = _mm256_movemask_ps(_mm256_castsi256_ps(_mm256_cmpeq_epi32(beyond, none)));
-            bits |= std::uint64_t(unsigned(eight)) << (8 * part);
-        }
-        if (source.mask) bits &= maskBitsAvx2(source.mask + source.maskStride * y, query.openWhereMaskIsZero);
-        open[std::size_t(y)] = bits;
+namespace
+{
+
+/// A vector's mask as its lowest bits.
+template <class D, class M>
+HWY_INLINE std::uint64_t bitsOf(D d, M mask)
+{
+    std::uint8_t bytes[8] = {};
+    hn::StoreMaskBits(d, mask, bytes);
+    std::uint64_t bits;
+    std::memcpy(&bits, bytes, sizeof bits);
+    return bits;
+}
+
+HWY_INLINE std::uint64_t matchesOf64(const std::uint8_t* pixels, const ByteRange& range)
+{
+    const hn::CappedTag<std::uint32_t, kTileSide> d;
+    const hn::Repartition<std::uint8_t, decltype(d)> d8;
+    const auto low = hn::BitCast(d8, hn::Set(d, range.low)), reach = hn::BitCast(d8, hn::Set(d, range.reach));
+    std::uint64_t bits = 0;
+    for (std::size_t x = 0; x < kTileSide; x += hn::Lanes(d)) {
+        const auto beyond = hn::SaturatedSub(hn::Sub(hn::LoadU(d8, pixels + 4 * x), low), reach);
+        bits |= bitsOf(d, hn::Eq(hn::BitCast(d, beyond), hn::Zero(d))) << x;
     }
-    std::fill(open.begin() + source.height, open.end(), 0);
-    return edgesOf(open);
+    return bits;
 }
 
-constexpr TileKernels kAvx2{loadAvx2, paintRowPlain, clearRowPlain};
-
-// ---- AVX-512 --------------------------------------------------------------------------------------------------------
-
-#define ZP_AVX512 __attribute__((target("avx512f,avx512bw,avx512dq,avx512vl")))
-
-/// Matches of one row. @p Full: 64 pixels; else the first @p width, and no byte beyond them is touched.
-template <bool Full>
-ZP_AVX512 inline std::uint64_t matchRow512(const std::uint8_t* row, __m512i low, __m512i reach, std::uint64_t columns)
+HWY_INLINE std::uint64_t zerosOf64(const std::uint8_t* bytes)
 {
-    const auto sixteen = [&](int part) ZP_AVX512 {
-        const auto wanted = __mmask16(columns >> (16 * part));
-        const __m512i pixels =
-            Full ? _mm512_loadu_si512(row + 64 * part) : _mm512_maskz_loadu_epi32(wanted, row + 64 * part);
-        const __m512i beyond = _mm512_subs_epu8(_mm512_sub_epi8(pixels, low), reach);
-        return std::uint64_t(Full ? _mm512_testn_epi32_mask(beyond, beyond)
-                                  : _mm512_mask_testn_epi32_mask(wanted, beyond, beyond));
-    };
-    return sixteen(0) | sixteen(1) << 16 | sixteen(2) << 32 | sixteen(3) << 48;
+    const hn::CappedTag<std::uint8_t, kTileSide> d;
+    std::uint64_t bits = 0;
+    for (std::size_t x = 0; x < kTileSide; x += hn::Lanes(d))
+        bits |= bitsOf(d, hn::Eq(hn::LoadU(d, bytes + x), hn::Zero(d))) << x;
+    return bits;
 }
 
-template <bool Full>
-ZP_AVX512 void loadRows512(const TileSource& source, const TileQuery& query, TileRows& open)
+TileEdges loadTile(const TileSource& source, const TileQuery& query, TileRows& open, const TileSource* next)
 {
     const ByteRange range(query);
-    const __m512i low = _mm512_set1_epi32(int(range.low)), reach = _mm512_set1_epi32(int(range.reach));
-    const std::uint64_t columns = ~std::uint64_t{0} >> (64 - source.width);
-    for (int y = 0; y < source.height; ++y) {
-        std::uint64_t bits = matchRow512<Full>(source.pixels + source.rowBytes * y, low, reach, columns);
-        if (source.mask) {
-            const __m512i mask = _mm512_maskz_loadu_epi8(columns, source.mask + source.maskStride * y);
-            const std::uint64_t nonZero = _mm512_test_epi8_mask(mask, mask);
-            bits &= query.openWhereMaskIsZero ? ~nonZero : nonZero;
-        }
-        open[std::size_t(y)] = bits;
-    }
-}
-
-ZP_AVX512 TileEdges load512(const TileSource& source, const TileQuery& query, TileRows& open)
-{
-    if (source.width == kTileSide) {
-        loadRows512<true>(source, query, open);
-    } else {
-        loadRows512<false>(source, query, open);
-    }
-    std::fill(open.begin() + source.height, open.end(), 0);
-
+    const bool whole = source.width == kTileSide;
+    const std::uint64_t columns = kAll >> (kTileSide - source.width);
     TileEdges edges{0, 0, false};
-    __m512i all = _mm512_set1_epi64(-1);
-    for (int y = 0; y < kTileSide; y += 8) {
-        const __m512i rows = _mm512_loadu_si512(open.data() + y);
-        edges.left |= std::uint64_t(_mm512_test_epi64_mask(rows, _mm512_set1_epi64(1))) << y;
-        edges.right |= std::uint64_t(_mm512_movepi64_mask(rows)) << y;
-        all = _mm512_and_si512(all, rows);
+    std::uint64_t all = kAll;
+    for (int y = 0; y < source.height; ++y) {
+        if (next && y < next->height) announceRow(*next, y);
+        const std::uint8_t *row = source.pixels + source.rowBytes * y, *mask = source.mask + source.maskStride * y;
+        alignas(64) std::uint8_t pixels[4 * kTileSide], bytes[kTileSide];
+        if (!whole) {
+            std::memcpy(pixels, row, 4 * std::size_t(source.width));
+            row = pixels;
+        }
+        std::uint64_t bits = matchesOf64(row, range);
+        if (source.mask) {
+            if (!whole) {
+                std::memcpy(bytes, mask, std::size_t(source.width));
+                mask = bytes;
+            }
+            const std::uint64_t zeros = zerosOf64(mask);
+            bits &= query.openWhereMaskIsZero ? zeros : ~zeros;
+        }
+        bits &= columns;
+        open[std::size_t(y)] = bits;
+        edges.left |= (bits & 1) << y;
+        edges.right |= (bits >> (kTileSide - 1)) << y;
+        all &= bits;
     }
-    edges.allOpen = _mm512_cmpeq_epi64_mask(all, _mm512_set1_epi64(-1)) == 0xFF;
+    std::fill(open.begin() + source.height, open.end(), 0);
+    edges.allOpen = source.height == kTileSide && all == kAll;
     return edges;
 }
 
-ZP_AVX512 void paintRow512(std::uint32_t* row, std::uint64_t bits, std::uint32_t word)
+template <class T>
+HWY_INLINE void writeBits(T* row, std::uint64_t bits, T value, int room)
 {
-    const __m512i words = _mm512_set1_epi32(int(word));
-    if (bits == ~std::uint64_t{0}) {
-        for (int part = 0; part < 4; ++part) _mm512_storeu_si512(row + 16 * part, words);
-    } else {
-        for (int part = 0; part < 4; ++part)
-            _mm512_mask_storeu_epi32(row + 16 * part, __mmask16(bits >> (16 * part)), words);
+    // A vector's store may touch what it does not change.
+    if (room < kTileSide) return writeRuns(row, bits, value);
+    const hn::CappedTag<T, kTileSide> d;
+    const auto v = hn::Set(d, value);
+    for (std::size_t x = 0; x < kTileSide; x += hn::Lanes(d), bits >>= hn::Lanes(d) % 64) {
+        std::uint8_t bytes[8];
+        std::memcpy(bytes, &bits, sizeof bytes);
+        hn::BlendedStore(v, hn::LoadMaskBits(d, bytes), d, row + x);
     }
 }
 
-ZP_AVX512 void clearRow512(std::uint8_t* row, std::uint64_t bits)
+void paintBits(std::uint32_t* row, std::uint64_t bits, std::uint32_t word, int room)
 {
-    _mm512_mask_storeu_epi8(row, bits, _mm512_setzero_si512());
+    writeBits(row, bits, word, room);
+}
+void clearBits(std::uint8_t* row, std::uint64_t bits, int room) { writeBits<std::uint8_t>(row, bits, 0, room); }
+
+template <class T>
+HWY_INLINE void fillBox(T* first, std::ptrdiff_t rowBytes, int width, int height, T value)
+{
+    for (int y = 0; y < height; ++y) {
+        T* const row = reinterpret_cast<T*>(reinterpret_cast<std::uint8_t*>(first) + rowBytes * y);
+        forEachVector<T>(std::size_t(width),
+                         [=](auto d, std::size_t at) ZP_LANES { hn::StoreU(hn::Set(d, value), d, row + at); });
+    }
 }
 
-constexpr TileKernels kAvx512{load512, paintRow512, clearRow512};
-
-#endif
+void paintBox(std::uint32_t* first, std::ptrdiff_t rowBytes, int width, int height, std::uint32_t word)
+{
+    fillBox(first, rowBytes, width, height, word);
+}
+void clearBox(std::uint8_t* first, std::ptrdiff_t rowBytes, int width, int height)
+{
+    fillBox<std::uint8_t>(first, rowBytes, width, height, 0);
+}
 
 } // namespace
+} // namespace zp::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
 
-const TileKernels& tileKernels(TileVectors atMost)
+#if HWY_ONCE
+namespace zp
 {
-#if defined(__x86_64__)
-    static const bool avx512 = __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
-                               __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512vl");
-    static const bool avx2 = __builtin_cpu_supports("avx2");
-    if (atMost == TileVectors::Best && avx512) return kAvx512;
-    if (atMost != TileVectors::Plain && avx2) return kAvx2;
-#endif
-    static_cast<void>(atMost);
-    return kPlain;
+
+HWY_EXPORT(loadTile);
+HWY_EXPORT(paintBits);
+HWY_EXPORT(clearBits);
+HWY_EXPORT(paintBox);
+HWY_EXPORT(clearBox);
+
+TileEdges loadTile(const TileSource& source, const TileQuery& query, TileRows& open, const TileSource* next)
+{
+    return HWY_DYNAMIC_DISPATCH(loadTile)(source, query, open, next);
+}
+void paintBits(std::uint32_t* row, std::uint64_t bits, std::uint32_t word, int room)
+{
+    HWY_DYNAMIC_DISPATCH(paintBits)(row, bits, word, room);
+}
+void clearBits(std::uint8_t* row, std::uint64_t bits, int room) { HWY_DYNAMIC_DISPATCH(clearBits)(row, bits, room); }
+void paintBox(std::uint32_t* first, std::ptrdiff_t rowBytes, int width, int height, std::uint32_t word)
+{
+    HWY_DYNAMIC_DISPATCH(paintBox)(first, rowBytes, width, height, word);
+}
+void clearBox(std::uint8_t* first, std::ptrdiff_t rowBytes, int width, int height)
+{
+    HWY_DYNAMIC_DISPATCH(clearBox)(first, rowBytes, width, height);
 }
 
 } // namespace zp
+#endif

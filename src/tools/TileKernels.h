@@ -33,18 +33,17 @@ struct TileEdges {
     bool allOpen;              ///< all 4096 are
 };
 
-/// One set of loops. All sets give the same results.
-struct TileKernels {
-    /// Fills all 64 words of @p open; rows and columns beyond the source are 0.
-    TileEdges (*load)(const TileSource& source, const TileQuery& query, TileRows& open);
-    /// row[x] = word for every bit x that is set.
-    void (*paintRow)(std::uint32_t* row, std::uint64_t bits, std::uint32_t word);
-    /// row[x] = 0 for every bit x that is set.
-    void (*clearRow)(std::uint8_t* row, std::uint64_t bits);
-};
+/// Fills all 64 words of @p open; rows and columns beyond the source are 0. @param next  the tile that will be asked
+/// for next, if known: its lines are called from memory meanwhile
+TileEdges loadTile(const TileSource& source, const TileQuery& query, TileRows& open, const TileSource* next);
 
-enum class TileVectors { Best, Avx2, Plain };
-/// The best set this machine has that is not above the one asked for.
-const TileKernels& tileKernels(TileVectors atMost = TileVectors::Best);
+/// row[x] = word for every bit x that is set. @param room  elements that the row has from here on: bits lie within it,
+/// and nothing beyond it is touched
+void paintBits(std::uint32_t* row, std::uint64_t bits, std::uint32_t word, int room);
+/// row[x] = 0, the same way.
+void clearBits(std::uint8_t* row, std::uint64_t bits, int room);
+/// A whole box of pixels, or of mask bytes. @p rowBytes: from row to row
+void paintBox(std::uint32_t* first, std::ptrdiff_t rowBytes, int width, int height, std::uint32_t word);
+void clearBox(std::uint8_t* first, std::ptrdiff_t rowBytes, int width, int height);
 
 } // namespace zp

@@ -41,9 +41,8 @@ std::uint64_t spreadBoth(std::uint64_t open, std::uint64_t seeds)
 
 } // namespace
 
-TileRegion::TileRegion(TileVectors vectors)
-    : mKernels(&tileKernels(vectors)),
-      mTileMemory(kMostTiles * sizeof(Tile)),
+TileRegion::TileRegion()
+    : mTileMemory(kMostTiles * sizeof(Tile)),
       mQueueMemory((kMostTiles + 1) * 4),
       mTiles(reinterpret_cast<Tile*>(mTileMemory.data())),
       mQueue(reinterpret_cast<std::uint32_t*>(mQueueMemory.data()))
@@ -118,16 +117,23 @@ PixelBox TileRegion::boxOf(const Tile& tile) const
     return {x, y, std::min(x + kTileSide, mPixels.width), std::min(y + kTileSide, mPixels.height)};
 }
 
-void TileRegion::load(Tile& tile)
+TileSource TileRegion::sourceOf(const Tile& tile) const
 {
     const PixelBox box = boxOf(tile);
-    const TileSource source{mPixels.pixel(box.x0, box.y0),
-                            mPixels.rowBytes,
-                            mMask.isEmpty() ? nullptr : mMask.row(box.y0) + box.x0,
-                            mMask.stride,
-                            box.width(),
-                            box.height()};
-    const TileEdges edges = mKernels->load(source, mQuery, tile.open);
+    return {mPixels.pixel(box.x0, box.y0),
+            mPixels.rowBytes,
+            mMask.isEmpty() ? nullptr : mMask.row(box.y0) + box.x0,
+            mMask.stride,
+            box.width(),
+            box.height()};
+}
+
+void TileRegion::load(Tile& tile)
+{
+    const Tile* const next = mHead == mTail ? nullptr : mTiles + mQueue[mHead];
+    TileSource ahead{};
+    if (next && !next->loaded) ahead = sourceOf(*next);
+    const TileEdges edges = loadTile(sourceOf(tile), mQuery, tile.open, next && !next->loaded ? &ahead : nullptr);
     tile.region.fill(0);
     tile.leftOpen = edges.left, tile.rightOpen = edges.right, tile.allOpen = edges.allOpen;
     tile.loaded = true;

@@ -18,7 +18,7 @@ namespace zp
 class TileRegion
 {
 public:
-    explicit TileRegion(TileVectors vectors = TileVectors::Best);
+    TileRegion();
 
     /// Looks for the 4-connected region of open pixels around @p seed (see TileQuery); finds nothing when the seed
     /// itself is not open.
@@ -58,7 +58,6 @@ public:
             }
         }
     }
-    const TileKernels& kernels() const { return *mKernels; }
 
 private:
     struct alignas(64) Tile {
@@ -82,8 +81,8 @@ private:
     void enqueue(Tile& tile);
     void load(Tile& tile);
     PixelBox boxOf(const Tile& tile) const;
+    TileSource sourceOf(const Tile& tile) const;
 
-    const TileKernels* mKernels;
     ReservedMemory mTileMemory, mQueueMemory;
     Tile* mTiles;
     std::uint32_t* mQueue; ///< a ring of tile numbers; a tile is in it at most once

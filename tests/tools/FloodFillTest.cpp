@@ -149,13 +149,9 @@ RandomCase randomCase(std::mt19937& random, int round)
     return c;
 }
 
-class FloodFillVectors : public testing::TestWithParam<TileVectors>
+TEST(FloodFill, PaintsWhatABreadthFirstSearchFindsOnAThousandPictures)
 {
-};
-
-TEST_P(FloodFillVectors, PaintsWhatABreadthFirstSearchFindsOnAThousandPictures)
-{
-    TileRegion tiles(GetParam());
+    TileRegion tiles;
     for (int round = 0; round < 1000; ++round) {
         std::mt19937 random(unsigned(round) + 7000);
         RandomCase c = randomCase(random, round);
@@ -176,14 +172,6 @@ TEST_P(FloodFillVectors, PaintsWhatABreadthFirstSearchFindsOnAThousandPictures)
         ASSERT_TRUE(result.completed);
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Machines, FloodFillVectors,
-                         testing::Values(TileVectors::Best, TileVectors::Avx2, TileVectors::Plain),
-                         [](const auto& parameter) {
-                             return std::string(parameter.param == TileVectors::Best   ? "Best"
-                                                : parameter.param == TileVectors::Avx2 ? "Avx2"
-                                                                                       : "Plain");
-                         });
 
 /// The scan once more, written from its description with a vector that grows: what a full stack must look like.
 bool describedFill(Picture& picture, Mask* walls, PixelPoint seed, std::uint32_t fill, int tolerance,

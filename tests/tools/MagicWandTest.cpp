@@ -62,13 +62,9 @@ TEST(MagicWand, PartlySelectedBytesAreOpenAndBecomeSelected)
     EXPECT_TRUE(mask == Mask(5, 1, 0));
 }
 
-class MagicWandVectors : public testing::TestWithParam<TileVectors>
+TEST(MagicWand, MarksWhatTheColumnScanMarksAlsoWithAFullStack)
 {
-};
-
-TEST_P(MagicWandVectors, MarksWhatTheColumnScanMarksAlsoWithAFullStack)
-{
-    TileRegion tiles(GetParam());
+    TileRegion tiles;
     int ranFull = 0;
     for (int round = 0; round < 1000; ++round) {
         std::mt19937 random(unsigned(round) + 555);
@@ -93,14 +89,6 @@ TEST_P(MagicWandVectors, MarksWhatTheColumnScanMarksAlsoWithAFullStack)
     }
     EXPECT_GT(ranFull, 50);
 }
-
-INSTANTIATE_TEST_SUITE_P(Machines, MagicWandVectors,
-                         testing::Values(TileVectors::Best, TileVectors::Avx2, TileVectors::Plain),
-                         [](const auto& parameter) {
-                             return std::string(parameter.param == TileVectors::Best   ? "Best"
-                                                : parameter.param == TileVectors::Avx2 ? "Avx2"
-                                                                                       : "Plain");
-                         });
 
 TEST(MagicWandPainting, PaintsAndMarksWhatMatchesWithoutLookingAtTheMask)
 {
