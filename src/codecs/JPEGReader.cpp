@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// JPEG files straight into A, R, G, B rows.
+#include "base/FixedPoint.h"
 #include "codecs/Codec.h"
 #include "codecs/JPEGBands.h"
 #include "codecs/JPEGPlanes.h"
@@ -83,7 +84,7 @@ void inksToColours(const std::uint8_t* inks, std::uint8_t* argb, int count, bool
     const unsigned flip = inverted ? 0 : 255;
     for (int x = 0; x < count; ++x, inks += 4, argb += 4) {
         const unsigned k = inks[3] ^ flip;
-        const auto scale = [k](unsigned ink) { return std::uint8_t(dividedBy255(ink * k)); };
+        const auto scale = [k](unsigned ink) { return std::uint8_t(divide255(ink * k)); };
         argb[0] = 255;
         argb[1] = scale(inks[0] ^ flip);
         argb[2] = scale(inks[1] ^ flip);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Single samples through a table, all others one by one.
 #include "codecs/PNGSamples.h"
+#include "base/FixedPoint.h"
 #include "codecs/PixelRows.h"
 #include <algorithm>
 #include <cstring>
@@ -17,7 +18,7 @@ std::uint16_t big16(const std::uint8_t* p) { return std::uint16_t(p[0] << 8 | p[
 
 std::uint32_t pixelOf(std::uint32_t a, std::uint32_t r, std::uint32_t g, std::uint32_t b)
 {
-    const auto scaled = [a](std::uint32_t c) { return dividedBy255(c * a); };
+    const auto scaled = [a](std::uint32_t c) { return divide255(c * a); };
     return a | scaled(r) << 8 | scaled(g) << 16 | scaled(b) << 24;
 }
 

@@ -9,6 +9,8 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#include "base/PixelVectors-inl.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace zp::codec::HWY_NAMESPACE
 {
@@ -45,19 +47,14 @@ HWY_INLINE V8 lookUp(V8 bytes, std::uint32_t pixel)
 /// The pixel's alpha in each of its bytes.
 HWY_INLINE V8 alphas(V8 pixels) { return lookUp(pixels, 0); }
 
-/// Nearest to product / 255.
-HWY_INLINE V16 divide(V16 product)
-{
-    const V16 sum = hn::Add(product, hn::Set(D16(), 128));
-    return hn::ShiftRight<8>(hn::Add(sum, hn::ShiftRight<8>(sum)));
-}
+using zp::HWY_NAMESPACE::divide255;
 /// Bytes times bytes by 255, rounded: the bytes at even places, then those at odd ones.
 HWY_INLINE V8 multiply(V8 a, V8 b)
 {
     const D16 d;
     const V16 x = hn::BitCast(d, a), y = hn::BitCast(d, b), byte = hn::Set(d, 255);
-    const V16 even = divide(hn::Mul(hn::And(x, byte), hn::And(y, byte)));
-    const V16 odd = divide(hn::Mul(hn::ShiftRight<8>(x), hn::ShiftRight<8>(y)));
+    const V16 even = divide255(d, hn::Mul(hn::And(x, byte), hn::And(y, byte)));
+    const V16 odd = divide255(d, hn::Mul(hn::ShiftRight<8>(x), hn::ShiftRight<8>(y)));
     return hn::BitCast(D8(), hn::Or(even, hn::ShiftLeft<8>(odd)));
 }
 HWY_INLINE V8 everyPixel(std::uint32_t word) { return hn::BitCast(D8(), hn::Set(D32(), word)); }

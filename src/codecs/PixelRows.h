@@ -9,9 +9,6 @@
 namespace zp::codec
 {
 
-/// Nearest to product / 255, for every product of two bytes.
-constexpr std::uint32_t dividedBy255(std::uint32_t product) { return (product + 128 + ((product + 128) >> 8)) >> 8; }
-
 /// Multiplies colour by alpha, rounded, in place.
 void premultiplyRow(std::uint8_t* argb, std::size_t count);
 /// Straight-alpha bytes R, G, B, A, rounded; colour under zero alpha becomes 0, colour above alpha 255.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The mouse with pencil and eraser: a path while the button is down, drawn at the release by what also shows it
 /// before.
+#include "base/FixedPoint.h"
 #include "base/PixelMemory.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Sounds.h"
@@ -85,7 +86,7 @@ void erase(BitmapView pixels, int x, int y, BezierPath path, const BezierPath* c
         outline.transform(toPart(x + box.x0, y + box.y0));
         renderPathInMask({allowed.get(), box.width(), box.height(), box.width()}, outline, kSelected);
         for (std::size_t i = 0; i < bytes; ++i)
-            keep[i] = std::uint8_t(255 - ((255 - keep[i]) * (255 - allowed[i]) + 127) / 255);
+            keep[i] = std::uint8_t(255 - divide255(std::uint32_t((255 - keep[i]) * (255 - allowed[i]))));
     }
     eraseThroughMask(pixels.part(box), mask);
 }

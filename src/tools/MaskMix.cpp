@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Rows of pixels mixed by rows of a mask.
 #include "tools/MaskMix.h"
+#include "base/FixedPoint.h"
 #include <algorithm>
 #include <cstring>
 
@@ -28,7 +29,7 @@ void mixThroughMask(BitmapView pixels, ConstBitmapView changed, ConstMaskView ma
                 std::memcpy(to, from, 4);
                 continue;
             }
-            for (int c = 0; c < 4; ++c) to[c] = std::uint8_t((from[c] * (255 - m) + to[c] * m + 127) / 255);
+            for (int c = 0; c < 4; ++c) to[c] = std::uint8_t(divide255(from[c] * (255 - m) + to[c] * m));
         }
     }
 }

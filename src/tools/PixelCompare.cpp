@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Packing of colours and the two tests for alikeness.
 #include "tools/PixelCompare.h"
+#include "base/FixedPoint.h"
 #include <bit>
 #include <cmath>
 
@@ -17,7 +18,10 @@ std::uint32_t word(std::uint8_t highest, std::uint8_t second, std::uint8_t third
     return std::uint32_t{highest} << 24 | std::uint32_t{second} << 16 | std::uint32_t{third} << 8 | lowest;
 }
 
-std::uint8_t timesAlpha(std::uint8_t color, std::uint8_t alpha) { return std::uint8_t((color * alpha + 127) / 255); }
+std::uint8_t timesAlpha(std::uint8_t color, std::uint8_t alpha)
+{
+    return std::uint8_t(divide255(std::uint32_t{color} * alpha));
+}
 
 } // namespace
 

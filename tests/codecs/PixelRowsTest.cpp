@@ -145,11 +145,5 @@ TEST(PixelRows, OneClearPixelAnywhereIsSeen)
     });
 }
 
-TEST(PixelRows, DividesEveryProductRounded)
-{
-    for (unsigned product = 0; product <= 255 * 255; ++product)
-        ASSERT_EQ(codec::dividedBy255(product), (2 * product + 255) / 510);
-}
-
 } // namespace
 } // namespace zp
