@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Paths into 8-bit masks.
 #include "base/CpuHints.h"
-#include "base/Simd.h"
 #include "drawing/BitmapContext.h"
+#include "drawing/CoverageRows.h"
 #include "drawing/CoverageStroke.h"
 #include <cstring>
 
@@ -11,27 +11,6 @@ namespace zp
 
 namespace
 {
-/// Stretches of an edge are mostly shorter than this: not worth the vector loop's beginning and end.
-constexpr int kShort = 12;
-
-inline std::uint8_t moved(std::uint8_t byte, std::uint8_t cover, std::uint8_t value)
-{
-    // In 16 bits throughout: the sum is at most 255 * 255 + 128, and its own high byte still fits on top.
-    const auto sum = std::uint16_t(value * cover + byte * (255 - cover) + 128);
-    return std::uint8_t(std::uint16_t(sum + (sum >> 8)) >> 8);
-}
-
-ZP_MULTIVERSION void moveManyTowards(std::uint8_t* bytes, const std::uint8_t* cover, int count, std::uint8_t value)
-{
-    for (int i = 0; i < count; ++i) bytes[i] = moved(bytes[i], cover[i], value);
-}
-
-void moveTowards(std::uint8_t* bytes, const std::uint8_t* cover, int count, std::uint8_t value)
-{
-    if (count >= kShort) return moveManyTowards(bytes, cover, count, value);
-    for (int i = 0; i < count; ++i) bytes[i] = moved(bytes[i], cover[i], value);
-}
-
 class MaskSink final : public CoverageSink
 {
 public:
@@ -56,7 +35,7 @@ void fillPathInMask(MaskView mask, const BezierPath& path, std::uint8_t value, b
     CoverageRaster raster(mask.box());
     raster.addPath(path, {});
     MaskSink sink(mask, value);
-    raster.sweep(path.windingRule(), antialias, sink);
+    raster.sweepInBands(path.windingRule(), antialias, sink);
 }
 
 void strokePathInMask(MaskView mask, const BezierPath& path, std::uint8_t value)
@@ -65,7 +44,7 @@ void strokePathInMask(MaskView mask, const BezierPath& path, std::uint8_t value)
     CoverageRaster raster(mask.box());
     addStroke(raster, path, {});
     MaskSink sink(mask, value);
-    raster.sweep(WindingRule::NonZero, true, sink);
+    raster.sweepInBands(WindingRule::NonZero, true, sink);
 }
 
 } // namespace zp

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Area accumulation: each edge adds signed area to the pixels it crosses, a running sum along the row does the rest.
 #include "drawing/CoverageRaster.h"
-#include "base/Simd.h"
+#include "base/WorkPool.h"
+#include "drawing/CoverageRows.h"
 #include <algorithm>
 #include <bit>
 #include <cstring>
@@ -14,9 +15,6 @@ namespace
 {
 constexpr int kFraction = 16;
 constexpr std::int64_t kPixel = std::int64_t{1} << kFraction;
-/// One whole pixel of area. 21 bits leave room for a thousand outlines on top of each other in 32.
-constexpr int kAreaBits = 21;
-constexpr std::int32_t kWhole = 1 << kAreaBits;
 constexpr int kAreaPerDy = kAreaBits - kFraction;
 /// Edges are cut to this many pixels around the origin, so that whole numbers hold them.
 constexpr double kFarAway = 1e7;
@@ -28,6 +26,8 @@ constexpr int kLongRun = 16;
 /// on memory to count.
 constexpr int kRowsAhead = 3;
 constexpr std::size_t kFewEdges = 64;
+/// Fewer pixels are not worth waking another core.
+constexpr int kPixelsOfBand = 1 << 20;
 
 /// An edge at work: where it is at the top of the current row.
 struct ActiveEdge {
@@ -36,29 +36,6 @@ struct ActiveEdge {
     std::int64_t x;
     std::int32_t sign;
 };
-
-/// @return round(|sum| / kWhole * 255) after the winding rule
-inline std::uint8_t coverNonZero(std::int32_t sum)
-{
-    const std::uint32_t area = std::min<std::uint32_t>(sum < 0 ? 0u - std::uint32_t(sum) : std::uint32_t(sum), kWhole);
-    return std::uint8_t((area * 255 + kWhole / 2) >> kAreaBits);
-}
-
-inline std::uint8_t coverEvenOdd(std::int32_t sum)
-{
-    std::uint32_t area = (sum < 0 ? 0u - std::uint32_t(sum) : std::uint32_t(sum)) & (2u * kWhole - 1);
-    area = area > std::uint32_t(kWhole) ? 2u * kWhole - area : area;
-    return std::uint8_t((area * 255 + kWhole / 2) >> kAreaBits);
-}
-
-/// Turns 64 running sums into coverage.
-ZP_MULTIVERSION void coverBlock(const std::int32_t* sums, std::uint8_t* cover, bool evenOdd)
-{
-    if (evenOdd)
-        for (int i = 0; i < 64; ++i) cover[i] = coverEvenOdd(sums[i]);
-    else
-        for (int i = 0; i < 64; ++i) cover[i] = coverNonZero(sums[i]);
-}
 
 /// One row's area differences and which of them are not zero.
 class RowAccumulator
@@ -99,8 +76,8 @@ public:
             const int base = w * 64;
             if (std::popcount(bits) > 10 && base + 64 <= mWidth) {
                 out.run(at, base, level(sum, evenOdd));
-                std::int32_t sums[64];
-                for (int i = 0; i < 64; ++i) sums[i] = sum += mArea[std::size_t(base + i)];
+                std::int32_t sums[kCoverBlock];
+                for (int i = 0; i < kCoverBlock; ++i) sums[i] = sum += mArea[std::size_t(base + i)];
                 std::memset(&mArea[std::size_t(base)], 0, 64 * sizeof(std::int32_t));
                 coverBlock(sums, out.cover + base, evenOdd);
                 out.written(base, base + 64);
@@ -332,39 +309,57 @@ PixelBox CoverageRaster::extent() const
     return PixelBox{low(mMinX), low(mMinY), high(mMaxX), high(mMaxY)}.intersected(mBox);
 }
 
+CoverageRaster::Order CoverageRaster::sorted(PixelBox box) const
+{
+    const std::int64_t top = std::int64_t{box.y0} * kPixel;
+    const auto rows = std::size_t(box.height());
+    const auto firstRow = [&](const Edge& e) {
+        return e.y0 <= top ? 0 : std::min(std::size_t((e.y0 - top) >> kFraction), rows);
+    };
+    Order order{std::vector<std::uint32_t>(mEdges.size()), std::vector<std::uint32_t>(rows + 2)};
+    for (const Edge& e : mEdges) ++order.starts[firstRow(e) + 1];
+    for (std::size_t i = 1; i < order.starts.size(); ++i) order.starts[i] += order.starts[i - 1];
+    std::vector<std::uint32_t> next(order.starts.begin(), order.starts.end() - 1);
+    for (std::uint32_t i = 0; i < mEdges.size(); ++i) order.edges[next[firstRow(mEdges[i])]++] = i;
+    return order;
+}
+
 void CoverageRaster::sweep(WindingRule rule, bool antialias, CoverageSink& sink)
 {
     closeSubpath();
     const PixelBox box = extent();
+    if (!box.isEmpty()) sweepRows(box, sorted(box), 0, box.height(), rule, antialias, sink);
+}
+
+void CoverageRaster::sweepInBands(WindingRule rule, bool antialias, CoverageSink& sink)
+{
+    closeSubpath();
+    const PixelBox box = extent();
     if (box.isEmpty()) return;
-    const int rows = box.height();
+    const Order order = sorted(box);
+    parallelBands(box.height(), 1 + kPixelsOfBand / box.width(),
+                  [&](int first, int last) { sweepRows(box, order, first, last, rule, antialias, sink); });
+}
+
+void CoverageRaster::sweepRows(PixelBox box, const Order& order, int first, int last, WindingRule rule, bool antialias,
+                               CoverageSink& sink) const
+{
     const std::int64_t top = std::int64_t{box.y0} * kPixel, left = std::int64_t{box.x0} * kPixel;
-
-    // Edges in the order of the row they begin in (those that begin above, in the first).
-    const auto firstRow = [&](const Edge& e) { return e.y0 <= top ? 0 : int((e.y0 - top) >> kFraction); };
-    std::vector<std::uint32_t> starts(std::size_t(rows) + 2);
-    for (const Edge& e : mEdges) ++starts[std::size_t(std::min(firstRow(e), rows)) + 1];
-    for (std::size_t i = 1; i < starts.size(); ++i) starts[i] += starts[i - 1];
-    std::vector<std::uint32_t> order(mEdges.size());
-    {
-        std::vector<std::uint32_t> next(starts.begin(), starts.end() - 1);
-        for (std::uint32_t i = 0; i < mEdges.size(); ++i)
-            order[next[std::size_t(std::min(firstRow(mEdges[i]), rows))]++] = i;
-    }
-
     RowAccumulator row(box.width());
     std::vector<ActiveEdge> active;
-    for (int r = 0; r < rows; ++r) {
+    for (int r = first; r < last; ++r) {
         const std::int64_t rowTop = top + std::int64_t{r} * kPixel, rowEnd = rowTop + kPixel;
-        for (std::uint32_t i = starts[std::size_t(r)]; i < starts[std::size_t(r) + 1]; ++i) {
-            const Edge& e = mEdges[order[i]];
+        // In the first row also those that began in the rows above.
+        for (std::uint32_t i = r == first ? 0 : order.starts[std::size_t(r)]; i < order.starts[std::size_t(r) + 1];
+             ++i) {
+            const Edge& e = mEdges[order.edges[i]];
             if (e.y1 <= rowTop) continue;
             ActiveEdge a{e.x0, e.y0, e.x1, e.y1, double(e.x1 - e.x0) / double(e.y1 - e.y0), e.x0, e.sign};
             if (e.y0 < rowTop) a.x = e.x0 + std::int64_t(std::floor(double(rowTop - e.y0) * a.slope + 0.5));
             active.push_back(a);
         }
         if (active.empty()) continue;
-        const bool announce = active.size() <= kFewEdges && r + kRowsAhead < rows;
+        const bool announce = active.size() <= kFewEdges && r + kRowsAhead < last;
         std::size_t kept = 0;
         for (std::size_t i = 0; i < active.size(); ++i) {
             ActiveEdge& e = active[i];

@@ -45,6 +45,8 @@ public:
 
     /// @param antialias when false, pixels covered by half or more are covered whole and the others not at all
     void sweep(WindingRule rule, bool antialias, CoverageSink& sink);
+    /// The same on all cores: the sink hears of different rows from several threads at once, each row from one of them.
+    void sweepInBands(WindingRule rule, bool antialias, CoverageSink& sink);
 
 private:
     /// 2^-16 pixels; top end first. The sign says which way the outline ran.
@@ -55,6 +57,16 @@ private:
     };
     void addEdge(CurvePoint a, CurvePoint b);
     void addFixed(std::int64_t x0, std::int64_t y0, std::int64_t x1, std::int64_t y1);
+
+    /// The edges in the order of the row they begin in (those that begin above the box, in its first).
+    struct Order {
+        std::vector<std::uint32_t> edges;
+        std::vector<std::uint32_t> starts; ///< where each row's edges begin among them
+    };
+    Order sorted(PixelBox box) const;
+    /// Rows [first, last) of @p box, counted from its top.
+    void sweepRows(PixelBox box, const Order& order, int first, int last, WindingRule rule, bool antialias,
+                   CoverageSink& sink) const;
 
     PixelBox mBox;
     std::vector<Edge> mEdges;
