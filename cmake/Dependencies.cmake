@@ -4,16 +4,11 @@ set(CMAKE_AUTOMOC OFF) # only the targets that hold widgets ask for it
 find_package(Threads REQUIRED)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Network PrintSupport Svg Test)
 find_package(PkgConfig REQUIRED)
-# zp_library(PREFIX NAME MODULE [HEADER]): a library with a pkg-config file, as target PkgConfig::PREFIX. NAME and its version stand
+# zp_library(PREFIX NAME MODULE): a library with a pkg-config file, as target PkgConfig::PREFIX. NAME and its version stand
 # in what --version prints.
 set(ZP_LIBRARIES "")
 macro(zp_library prefix name module)
     pkg_check_modules(${prefix} REQUIRED IMPORTED_TARGET ${module})
-    set(header ${ARGN})
-    if(NOT ${prefix}_VERSION AND header) # its header says what its pkg-config file does not
-        file(STRINGS ${${prefix}_INCLUDEDIR}/${header} ${prefix}_VERSION REGEX "define [A-Z_]*VERSION \"")
-        string(REGEX REPLACE ".*\"(.*)\".*" "\\1" ${prefix}_VERSION "${${prefix}_VERSION}")
-    endif()
     # In brackets: "deflate" followed by a number is what Debian's checks know a copy of zlib by.
     list(APPEND ZP_LIBRARIES "${name} (${${prefix}_VERSION})")
 endmacro()
@@ -29,6 +24,5 @@ list(APPEND ZP_LIBRARIES "zlib (${ZLIB_VERSION_STRING})")
 zp_library(DEFLATE libdeflate libdeflate)
 zp_library(MAGICK ImageMagick Magick++)
 zp_library(LZ4 LZ4 liblz4)
-zp_library(CLIPPER Clipper polyclipping clipper.hpp)
 zp_library(SOUND libcanberra libcanberra)
 list(JOIN ZP_LIBRARIES ", " ZP_LIBRARIES)

@@ -353,7 +353,7 @@ void addEdges(const std::vector<GridLoop>& loops, bool ofClip, std::vector<GridE
 
 } // namespace
 
-bool clipPlanar(gpc_op operation, const std::vector<GridLoop>& subject, WindingRule subjectRule,
+void clipPlanar(gpc_op operation, const std::vector<GridLoop>& subject, WindingRule subjectRule,
                 const std::vector<GridLoop>& clip, WindingRule clipRule, std::vector<GridLoop>& result)
 {
     result.clear();
@@ -365,10 +365,8 @@ bool clipPlanar(gpc_op operation, const std::vector<GridLoop>& subject, WindingR
     addEdges(subject, false, edges);
     addEdges(clip, true, edges);
     EdgeGrid grid;
-    if (!cutAtCrossings(edges, grid)) return false;
-    if (edges.empty()) return true;
-    Net(edges, grid, operation, subjectRule, clipRule).collectLoops(result);
-    return true;
+    cutAtCrossings(edges, grid);
+    if (!edges.empty()) Net(edges, grid, operation, subjectRule, clipRule).collectLoops(result);
 }
 
 } // namespace zp

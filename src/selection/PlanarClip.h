@@ -18,10 +18,9 @@ using GridLoop = std::vector<GridPoint>;
 
 /// What the operation leaves of two sets of closed loops, as loops that do not cross; outer ones turn from x to y,
 /// holes against it. Coordinates up to 2^46. Exact but for crossings, which are rounded to the grid.
-/// @return false when rounding keeps making new crossings, which no input is known to do; @p result is then undefined
 /// Time: O(n) for n edges and crossings when edges are short against the whole, as drawn and traced outlines have them;
 /// a test for each pair of edges that come near each other otherwise. Any thread.
-bool clipPlanar(gpc_op operation, const std::vector<GridLoop>& subject, WindingRule subjectRule,
+void clipPlanar(gpc_op operation, const std::vector<GridLoop>& subject, WindingRule subjectRule,
                 const std::vector<GridLoop>& clip, WindingRule clipRule, std::vector<GridLoop>& result);
 
 } // namespace zp

@@ -10,7 +10,6 @@ namespace zp
 namespace
 {
 
-constexpr int kMostRounds = 12; ///< two or three do; rounding could at worst go on moving things about
 constexpr double kMostCells = 4.0 * 1024 * 1024;
 
 struct Cut {
@@ -149,11 +148,11 @@ void EdgeGrid::build(const std::vector<GridEdge>& edges)
         forEachCell(edges[i], [&](std::size_t c) { mEntries[mStarts[c + 1]++] = i; });
 }
 
-bool cutAtCrossings(std::vector<GridEdge>& edges, EdgeGrid& grid)
+void cutAtCrossings(std::vector<GridEdge>& edges, EdgeGrid& grid)
 {
     std::vector<Cut> cuts;
     std::size_t firstNew = 0; // pairs of edges from before have been looked at
-    for (int round = 0; round < kMostRounds; ++round) {
+    for (;;) {
         grid.build(edges);
         cuts.clear();
         for (int r = 0; r < grid.rows(); ++r)
@@ -163,10 +162,9 @@ bool cutAtCrossings(std::vector<GridEdge>& edges, EdgeGrid& grid)
                 for (const std::uint32_t* j = range.last; j != range.first && j[-1] >= firstNew; --j)
                     for (const std::uint32_t* i = range.first; i != j - 1; ++i) cutPair(edges, *i, j[-1], cuts);
             }
-        if (cuts.empty()) return true;
+        if (cuts.empty()) return;
         firstNew = apply(cuts, edges);
     }
-    return false;
 }
 
 } // namespace zp

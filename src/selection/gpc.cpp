@@ -7,13 +7,12 @@
 #include "selection/RectilinearClip.h"
 #include <algorithm>
 #include <cmath>
-#include <polyclipping/clipper.hpp>
 
 namespace
 {
 
 constexpr double kGrid = 65536;   ///< steps per unit: a vertex moves by less than 1/100,000 of a pixel
-constexpr double kFarthest = 1e9; ///< units; keeps all of Clipper's products inside its 128 bits
+constexpr double kFarthest = 1e9; ///< units; keeps all products inside 128 bits
 
 std::int64_t onGrid(double value) { return std::llround(std::clamp(value, -kFarthest, kFarthest) * kGrid); }
 
@@ -35,52 +34,6 @@ std::vector<zp::GridLoop> gridLoops(const gpc_polygon& polygon)
     return loops;
 }
 
-void addTo(ClipperLib::Clipper& clipper, const std::vector<zp::GridLoop>& loops, ClipperLib::PolyType type)
-{
-    for (const zp::GridLoop& loop : loops) {
-        ClipperLib::Path path;
-        path.reserve(loop.size());
-        for (const zp::GridPoint p : loop) path.emplace_back(p.x, p.y);
-        clipper.AddPath(path, type, true);
-    }
-}
-
-ClipperLib::ClipType clipperOperation(gpc_op operation)
-{
-    switch (operation) {
-    case GPC_DIFF:
-        return ClipperLib::ctDifference;
-    case GPC_INT:
-        return ClipperLib::ctIntersection;
-    case GPC_XOR:
-        return ClipperLib::ctXor;
-    case GPC_UNION:
-        break;
-    }
-    return ClipperLib::ctUnion;
-}
-
-ClipperLib::PolyFillType clipperRule(zp::WindingRule rule)
-{
-    return rule == zp::WindingRule::EvenOdd ? ClipperLib::pftEvenOdd : ClipperLib::pftNonZero;
-}
-
-/// Clipper's sweep, for what the own one gives up on.
-void clipBySweep(gpc_op operation, const std::vector<zp::GridLoop>& subject, zp::WindingRule subjectRule,
-                 const std::vector<zp::GridLoop>& clip, zp::WindingRule clipRule, std::vector<zp::GridLoop>& result)
-{
-    ClipperLib::Clipper clipper;
-    addTo(clipper, subject, ClipperLib::ptSubject);
-    addTo(clipper, clip, ClipperLib::ptClip);
-    ClipperLib::Paths solution;
-    clipper.Execute(clipperOperation(operation), solution, clipperRule(subjectRule), clipperRule(clipRule));
-    result.clear();
-    for (const ClipperLib::Path& path : solution) {
-        zp::GridLoop& loop = result.emplace_back();
-        for (const ClipperLib::IntPoint p : path) loop.push_back({p.X, p.Y});
-    }
-}
-
 bool turnsBack(const zp::GridLoop& loop)
 {
     double twiceArea = 0;
@@ -98,8 +51,7 @@ void clipOnGrid(gpc_op operation, const gpc_polygon& subject, zp::WindingRule su
 {
     const std::vector<zp::GridLoop> subjectLoops = gridLoops(subject), clipLoops = gridLoops(clip);
     std::vector<zp::GridLoop> loops;
-    if (!zp::clipPlanar(operation, subjectLoops, subjectRule, clipLoops, clipRule, loops))
-        clipBySweep(operation, subjectLoops, subjectRule, clipLoops, clipRule, loops);
+    zp::clipPlanar(operation, subjectLoops, subjectRule, clipLoops, clipRule, loops);
 
     zp::PolygonWriter writer(result);
     for (const zp::GridLoop& loop : loops) {
