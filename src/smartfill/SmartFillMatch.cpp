@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The robust distance, and the plain version of a step.
 #include "smartfill/SmartFillMatch.h"
-#include "base/Simd.h"
 #include "smartfill/SmartFill.h"
+#include "smartfill/SmartFillRace.h"
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -38,35 +38,11 @@ std::int32_t pixelDistance(const std::int32_t* table, std::uint32_t a, std::uint
     return sum;
 }
 
-// A lower bound of the robust distance that loops over bytes can take: nothing up to kBoundFrom, then a straight line,
-// level from kBoundTo on.
-constexpr int kBoundFrom = 7, kBoundTo = 90;
-
-int boundSteps(int difference) { return std::clamp(difference, kBoundFrom, kBoundTo) - kBoundFrom; }
-
-/// How much each step of the line may stand for, so that the curve lies above it everywhere.
-std::int32_t boundUnit()
-{
-    static const std::int32_t unit = [] {
-        std::int32_t least = robustDistanceTable()[255];
-        for (int d = kBoundFrom + 1; d < 256; ++d) least = std::min(least, robustDistanceTable()[d] / boundSteps(d));
-        return least;
-    }();
-    return unit;
-}
-
-/// Adds the bound, in steps, for each of the tries' bytes and @p value to the sums.
-ZP_MULTIVERSION void addBound(const std::uint8_t* bytes, std::uint8_t value, std::uint16_t* sums)
-{
-    for (int i = 0; i < kRandomTries; ++i) {
-        const int difference = std::max(bytes[i], value) - std::min(bytes[i], value);
-        sums[i] = std::uint16_t(sums[i] + boundSteps(difference));
-    }
-}
-
 /// A step at work: what is compared with, and the best so far.
 class PlainStep
 {
+    static constexpr int kStart = 8; ///< tries that are compared before any can be dropped
+
 public:
     PlainStep(const MatchState& state, const Neighbourhood& near) : mState(state), mNear(near)
     {
@@ -90,17 +66,26 @@ public:
     void atRandom(int start)
     {
         const std::int32_t* const place = mState.drawn->place.data() + start;
-        // Lower bounds of the errors by the neighbours close around, which come as streams.
-        std::uint16_t bounds[kRandomTries] = {};
-        if (mBest.error < kWorstError && !mNear.far) boundByNearest(start, bounds);
-        std::uint8_t left[kRandomTries + 1];
-        int count = 0;
-        const std::int32_t limit = (mBest.error + boundUnit() - 1) / boundUnit();
-        for (int i = 0; i < kRandomTries; ++i) {
-            left[count] = std::uint8_t(i);
-            count += bounds[i] < limit;
+        if (mNear.far) return compareAll(place, kRandomTries);
+        if (mNear.count < 2) return compare(place[0]); // the first will do
+        // Nothing to drop anyone by: the first few make a start.
+        int next = 0;
+        if (mBest.error == kWorstError)
+            for (; next < kStart && mBest.error; ++next) compare(place[next]);
+        if (!mBest.error) return;
+        const CoarseDistance distance(mBest.error);
+        Contenders contenders;
+        int k = 1;
+        if (const NeighbourStreams streams = nearestStreams(start); streams.count > 0) {
+            k += raceStreams(streams, distance, place, contenders);
+        } else {
+            contenders.count = kRandomTries;
+            std::copy_n(place, kRandomTries, contenders.place);
+            std::fill_n(contenders.error, kRandomTries, 0);
         }
-        for (int i = 0; i < count && mBest.error; ++i) compare(place[left[i]]);
+        for (; k < mNear.count && contenders.count > kFewContenders; ++k)
+            raceOn(mState.source + mNear.delta[k], mValue[k], distance, contenders);
+        compareAll(contenders.place, contenders.count);
     }
 
     BestMatch best() const { return mBest; }
@@ -117,19 +102,27 @@ private:
         return x >= 0 && y >= 0 && x < layout.width && y < layout.height ? layout.index(x, y) : -1;
     }
 
-    void boundByNearest(int start, std::uint16_t* bounds) const
+    /// The nearest neighbours as far as they are those close around.
+    NeighbourStreams nearestStreams(int start) const
     {
-        constexpr int kDeepest = 3;
-        int k = 1;
-        for (std::size_t i = 0; i < DrawnSources::kAround && k <= std::min(mNear.count - 1, kDeepest); ++i) {
+        NeighbourStreams streams;
+        streams.channels = mState.channelCount;
+        for (std::size_t i = 0; i < DrawnSources::kAround && streams.count + 1 < mNear.count; ++i) {
+            const int k = streams.count + 1;
             if (mState.aroundDelta[i] != mNear.delta[k]) continue;
             for (int c = 0; c < mState.channelCount; ++c) {
                 const unsigned channel = mState.channels[unsigned(c)];
-                addBound(mState.drawn->around[i][channel].data() + start, std::uint8_t(mValue[k] >> (8 * channel)),
-                         bounds);
+                streams.bytes[streams.count][c] = mState.drawn->around[i][channel].data() + start;
+                streams.value[streams.count][c] = std::uint8_t(mValue[k] >> (8 * channel));
             }
-            ++k;
+            ++streams.count;
         }
+        return streams;
+    }
+
+    void compareAll(const std::int32_t* candidates, int count)
+    {
+        for (int i = 0; i < count && mBest.error; ++i) compare(candidates[i]);
     }
 
     void compare(std::int32_t c)
