@@ -1,14 +1,17 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Shared by ./run, ./test and ./package: the packages that are missing, then the build. To be sourced, with $root set; or to be
-# called with parts of the list (run, test, long, bench) to install those. Everything it says goes to standard error.
+# called with parts of the list (run, test, long, arm64, bench) to install those. Everything it says goes to standard error.
 
-# packages_of PART...: the packages listed under those headings. "long" stands for the test part's packages so marked.
+# packages_of PART...: the packages listed under those headings. A package with marks behind its name belongs to these parts instead.
 packages_of() {
     awk -v wanted=" $* " '
         /^## / { part = $2; next }
         /^#/ || NF == 0 { next }
-        index(wanted, " " ($2 == "long" ? "long" : part) " ") { print $1 }' "$root/packaging/packages.txt"
+        NF == 1 { marks = part }
+        NF > 1 { marks = $0; sub(/^[^ ]+ /, "", marks) }
+        { count = split(marks, mark, " ") }
+        { for (i = 1; i <= count; i++) if (index(wanted, " " mark[i] " ")) { print $1; next } }' "$root/packaging/packages.txt"
 }
 
 # install_missing_packages PART...
@@ -46,6 +49,6 @@ build() {
 if [ "${BASH_SOURCE[0]}" = "$0" ]; then
     set -euo pipefail
     root=$(cd "$(dirname "$0")/.." && pwd)
-    [ $# -gt 0 ] || { echo "usage: $0 PART... (run, test, long, bench)" >&2 && exit 2; }
+    [ $# -gt 0 ] || { echo "usage: $0 PART... (run, test, long, arm64, bench)" >&2 && exit 2; }
     install_missing_packages "$@"
 fi
