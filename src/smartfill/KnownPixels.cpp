@@ -2,7 +2,7 @@
 /// The nearest known pixels: a short walk where they are dense, discs of bits where they are rare, rings of tiles
 /// beyond.
 #include "smartfill/KnownPixels.h"
-#include "base/Simd.h"
+#include "smartfill/SmartFillRows.h"
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -178,28 +178,6 @@ const KnownPixels::DiscRows& KnownPixels::disc(int radius)
     return discs[std::size_t(radius)];
 }
 
-namespace
-{
-
-ZP_MULTIVERSION int commonBits(const std::uint64_t* a, const std::uint64_t* b, int count)
-{
-    int bits = 0;
-    for (int i = 0; i < count; ++i) bits += std::popcount(a[i] & b[i]);
-    return bits;
-}
-
-/// How many of @p keys, all different, are less than each.
-ZP_MULTIVERSION void rank(const std::uint32_t* keys, int count, std::uint32_t* ranks)
-{
-    for (int i = 0; i < count; ++i) {
-        std::uint32_t less = 0;
-        for (int j = 0; j < count; ++j) less += std::uint32_t(keys[j] < keys[i]);
-        ranks[i] = less;
-    }
-}
-
-} // namespace
-
 int KnownPixels::leastDisc(const DiscRows& rows, int most)
 {
     const auto holdsEnough = [&](int radius) {
@@ -233,7 +211,7 @@ bool KnownPixels::searchDisc(int x, int y, Neighbourhood& out) const
             keys[count++] = std::uint32_t((dx * dx + dy * dy) << 12 | (dy + kBias) << 6 | (dx + kBias));
         }
     }
-    rank(keys, count, ranks);
+    rankKeys(keys, count, ranks);
     const std::int32_t here = mLayout.index(x, y);
     for (int i = 0; i < count; ++i) {
         if (ranks[i] >= kNeighbours) continue;

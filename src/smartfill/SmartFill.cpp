@@ -3,10 +3,10 @@
 #include "smartfill/SmartFill.h"
 #include "base/Log.h"
 #include "base/PixelMemory.h"
-#include "base/Simd.h"
 #include "smartfill/KnownPixels.h"
 #include "smartfill/SmartFillMatch.h"
 #include "smartfill/SmartFillRandom.h"
+#include "smartfill/SmartFillRows.h"
 #include <algorithm>
 #include <array>
 #include <ctime>
@@ -21,29 +21,6 @@ namespace
 {
 
 constexpr std::int64_t kStepsPerProgress = 1024; // a power of two: a point is where the low bits are zero
-
-/// One row of the clearance, its neighbour in the pass being done: what the three pixels there leave of it.
-ZP_MULTIVERSION void growFrom(const std::uint8_t* done, std::uint8_t* row, int width)
-{
-    for (int x = 0; x < width; ++x) {
-        const int least = std::min({int(done[x - 1]), int(done[x]), int(done[x + 1])});
-        row[x] = std::uint8_t(std::min(int(row[x]), least + 1));
-    }
-}
-
-/// The four bytes of the pixels at @p place, each in an array of its own.
-ZP_MULTIVERSION void takePixels(const std::uint32_t* pixels,
-                                const std::array<std::int32_t, DrawnSources::kCount>& place,
-                                std::array<std::array<std::uint8_t, DrawnSources::kCount>, 4>& bytes)
-{
-    for (std::size_t i = 0; i < place.size(); ++i) {
-        const std::uint32_t pixel = pixels[place[i]];
-        bytes[0][i] = std::uint8_t(pixel);
-        bytes[1][i] = std::uint8_t(pixel >> 8);
-        bytes[2][i] = std::uint8_t(pixel >> 16);
-        bytes[3][i] = std::uint8_t(pixel >> 24);
-    }
-}
 
 /// One run's workspace.
 class SmartFillRun
@@ -158,7 +135,9 @@ void SmartFillRun::draw(std::int64_t t)
     for (int i = 0; i < DrawnSources::kCount; ++i)
         mDrawn.place[std::size_t(i)] = mSourceList[mRandom.draw(length, t, i)];
     for (std::size_t k = 0; k < mDrawn.around.size(); ++k)
-        takePixels(mSource.data() + mState.aroundDelta[k], mDrawn.place, mDrawn.around[k]);
+        takePixels(mSource.data() + mState.aroundDelta[k], mDrawn.place.data(), DrawnSources::kCount,
+                   {mDrawn.around[k][0].data(), mDrawn.around[k][1].data(), mDrawn.around[k][2].data(),
+                    mDrawn.around[k][3].data()});
 }
 
 /// Which channels are worth comparing.
