@@ -16,6 +16,11 @@ zp_library(HIGHWAY Highway libhwy)
 # Highway keeps its plain-C++ target from compilers before GCC 12.3 for a fault that shows on other processors; without it a
 # machine older than SSSE3 had no kernels at all. The tests run every kernel on that target too.
 target_compile_definitions(PkgConfig::HIGHWAY INTERFACE HWY_BROKEN_EMU128=0)
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL "aarch64")
+    # Vectors whose length only the processor knows cannot stand in records and arrays, where kernels keep theirs: NEON serves all.
+    target_compile_definitions(PkgConfig::HIGHWAY INTERFACE
+                               "HWY_DISABLED_TARGETS=(HWY_SVE|HWY_SVE2|HWY_SVE_256|HWY_SVE2_128)")
+endif()
 zp_library(AGG AGG libagg)
 zp_library(JPEG libjpeg libjpeg)
 zp_library(TIFF libtiff libtiff-4)

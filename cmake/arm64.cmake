@@ -24,4 +24,9 @@ set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,-rpath-link,${ZP_ROOT}/usr/lib/aarch64-linu
 execute_process(COMMAND dpkg-architecture -qDEB_HOST_MULTIARCH OUTPUT_VARIABLE ZP_HERE OUTPUT_STRIP_TRAILING_WHITESPACE)
 set(QT_HOST_PATH /usr)
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/${ZP_HERE}/cmake)
-set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L ${ZP_ROOT})
+# ImageMagick looks for its readers and its lists at places that only an installed system has.
+file(GLOB ZP_READERS ${ZP_ROOT}/usr/lib/aarch64-linux-gnu/ImageMagick-*/modules-*/coders)
+file(GLOB ZP_LISTS ${ZP_ROOT}/etc/ImageMagick-* ${ZP_ROOT}/usr/share/ImageMagick-*)
+list(JOIN ZP_LISTS ":" ZP_LISTS)
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64-static -L ${ZP_ROOT} -E MAGICK_CODER_MODULE_PATH=${ZP_READERS}
+                                  -E MAGICK_CONFIGURE_PATH=${ZP_LISTS})
