@@ -3,15 +3,21 @@
 #include "app/CommandLine.h"
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
+#include "base/Folders.h"
+#include "base/Log.h"
 #include "batch/BatchCommandLine.h"
+#include "desktop/Application.h"
+#include "desktop/EndSignals.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Panels.h"
 #include "desktop/SingleInstance.h"
 #include "script/ScriptDriver.h"
 #include <QApplication>
+#include <QSessionManager>
 #include <QTimer>
 #include <csignal>
 #include <cstdio>
+#include <exception>
 
 using namespace zp;
 
@@ -28,7 +34,7 @@ static void carryOut(ZPAppController& controller, const std::string& request)
     if (request == "--image-processor") controller.imageProcessor();
 }
 
-int main(int argc, char** argv)
+static int run(int argc, char** argv)
 {
     if (argc > 1 && std::string(argv[1]) == "--batch") return runBatchCommandLine(argc, argv);
     CommandLine line = parseCommandLine(argc, argv);
@@ -59,7 +65,9 @@ int main(int argc, char** argv)
     QCoreApplication::setOrganizationName("zelpane");
     QGuiApplication::setDesktopFileName("zelpane");
     QGuiApplication::setApplicationDisplayName("Zelpane");
-    QApplication application(argc, argv);
+    // One home for Qt's files and our own.
+    if (qEnvironmentVariableIsEmpty("HOME")) qputenv("HOME", QByteArray::fromStdString(homeFolder()));
+    Application application(argc, argv);
     QApplication::setStyle("fusion"); // the same on every desktop and platform plug-in
     applyColorScheme();
     QApplication::setQuitOnLastWindowClosed(false);
@@ -67,11 +75,23 @@ int main(int argc, char** argv)
     // What to begin with goes behind the files, in the words of the command line: a path that is absolute is never one.
     std::vector<std::string> requests = line.files;
     if (!line.request.empty()) requests.push_back(line.request);
+    // Before there is a socket to be left behind; a signal that comes now is answered when the loop runs.
+    ZPAppController* running = nullptr;
+    const EndSignals endSignals([&running](int number) {
+        logLine("ended by signal %d", number);
+        running->endBySignal();
+    });
     SingleInstance instance;
     if (!scripted && instance.handOver(requests)) return 0;
 
     installKeyModifierWatch();
     ZPAppController controller;
+    running = &controller;
+    // The end of the desktop's session: nothing is asked, and nothing lost.
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &controller, [&controller](QSessionManager& m) {
+        m.setRestartHint(QSessionManager::RestartNever);
+        controller.endBySignal();
+    });
     controller.applicationWillFinishLaunching();
     controller.window().show();
     std::unique_ptr<ScriptDriver> driver;
@@ -92,4 +112,14 @@ int main(int argc, char** argv)
     const int status = QApplication::exec();
     controller.applicationWillTerminate();
     return driver ? driver->exitStatus() : status;
+}
+
+int main(int argc, char** argv)
+{
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& error) { // before there is a loop, or while the last files are finished
+        std::fprintf(stderr, "zelpane: there is not enough memory (%s)\n", error.what());
+        return 1;
+    }
 }

@@ -2,9 +2,9 @@
 /// The command line and the colour scheme.
 #include "app/CommandLine.h"
 #include "base/Simd.h"
+#include "desktop/Settings.h"
 #include <QApplication>
 #include <QPalette>
-#include <QSettings>
 #include <filesystem>
 
 namespace zp
@@ -93,7 +93,7 @@ CommandLine parseCommandLine(int argc, char** argv)
 void applyColorScheme()
 {
     QString scheme = qEnvironmentVariable("ZELPANE_SCHEME");
-    if (scheme.isEmpty()) scheme = QSettings().value("colorScheme", "auto").toString();
+    if (scheme.isEmpty()) scheme = settings().value("colorScheme", "auto").toString();
     // A desktop that brings a dark palette of its own is left alone.
     // Asked once: later the palette is our own.
     static const bool desktopIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;

@@ -28,6 +28,7 @@ public:
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
         QPixmap picture(size);
+        if (picture.isNull()) return picture; // no memory
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         paint(&painter, QRect(QPoint(0, 0), size), mode, state);

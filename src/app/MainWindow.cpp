@@ -5,6 +5,7 @@
 #include "base/Folders.h"
 #include "canvas/ToolTable.h"
 #include "canvas/ZPCanvas.h"
+#include "codecs/ImageImporter.h"
 #include "desktop/ColorWell.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/ScrollView.h"
@@ -199,10 +200,16 @@ void MainWindow::setToolImages()
         mToolButtons[std::size_t(row.tool)]->setIcon(icon);
     }
     for (int i = 0; i < mUi->mBrushPopUp->count(); ++i) {
-        QImage tip(QFile::decodeName(shippedResourcesFolder().c_str()) + QString("/B%1.png").arg(i + 1));
+        const std::string name = QString("B%1.png").arg(i + 1).toStdString();
+        const auto read = importImageFile(readableResourcePath(name), {.properties = false}).bitmap;
+        if (!read) continue;
+        QImage tip(read->pixelsWide(), read->pixelsHigh(), QImage::Format_ARGB32_Premultiplied);
         if (tip.isNull()) continue;
         // Only the shape counts: its alpha in the colour of the text.
-        tip = tip.scaled(60, 60, Qt::KeepAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_ARGB32);
+        for (int y = 0; y < tip.height(); ++y)
+            for (int x = 0; x < tip.width(); ++x)
+                reinterpret_cast<QRgb*>(tip.scanLine(y))[x] = QRgb(read->view().pixel(x, y)[0]) << 24;
+        tip = tip.scaled(60, 60, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         QPainter painter(&tip);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         painter.fillRect(tip.rect(), palette().color(QPalette::WindowText));

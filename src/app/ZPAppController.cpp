@@ -18,6 +18,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Panels.h"
+#include "desktop/Settings.h"
 #include "desktop/Sounds.h"
 #include "desktop/SystemProbes.h"
 #include "document/Document.h"
@@ -33,8 +34,6 @@
 #include <QFile>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSettings>
-#include <fstream>
 
 using namespace zp;
 
@@ -170,12 +169,26 @@ void ZPAppController::terminate()
     QCoreApplication::exit(0);
 }
 
+void ZPAppController::endBySignal()
+{
+    mKeepsWork = true;
+    mTerminated = true;
+    ZPImageProcessor* processor = ZPImageProcessor::sharedImageProcessor();
+    if (processor->isRunning()) processor->cancel();
+    QCoreApplication::exit(0); // of every loop, a dialog's as well
+}
+
 void ZPAppController::applicationWillTerminate()
 {
-    mDocument->close();
-    const char* state = mMenu->item("retina:")->isChecked() ? "YES" : "NO";
-    std::ofstream flag(resourcePath(kRetinaFile), std::ios::binary | std::ios::trunc);
-    flag << state;
+    if (mKeepsWork) {
+        mDocument->endGesture();
+        mDocument->waitForWorkers();
+    } else {
+        mDocument->close();
+    }
+    const std::string state = mMenu->item("retina:")->isChecked() ? "YES" : "NO";
+    const std::string file = resourcePath(kRetinaFile);
+    if (readWholeFile(file, 1024) != state) writeFileSafely(file, state.data(), state.size());
     NotificationCenter::defaultCenter().removeObserver(this);
 }
 
@@ -195,24 +208,25 @@ void ZPAppController::openPath(const std::string& path)
 
 void ZPAppController::noteRecentFile(const std::string& path)
 {
-    QSettings settings;
-    QStringList recent = settings.value("recentFiles").toStringList();
+    QStringList recent = settings().value("recentFiles").toStringList();
     // Kept as percent-encoded bytes, so that names that are not UTF-8 survive.
     const QString entry = QString::fromLatin1(QByteArray::fromStdString(path).toPercentEncoding("/"));
     recent.removeAll(entry);
     recent.prepend(entry);
     while (recent.size() > kRecentFiles) recent.removeLast();
-    settings.setValue("recentFiles", recent);
+    settings().setValue("recentFiles", recent);
 }
 
 void ZPAppController::fillRecentMenu()
 {
     QMenu* menu = mMenu->recentMenu();
     menu->clear();
-    for (const QString& entry : QSettings().value("recentFiles").toStringList()) {
+    for (const QString& entry : settings().value("recentFiles").toStringList()) {
         const std::string path = QByteArray::fromPercentEncoding(entry.toLatin1()).toStdString();
-        QAction* item = menu->addAction(toText(lastPathComponent(path)), this, [this, path] { openPath(path); });
-        item->setToolTip(toText(path));
+        // Names are shown as they are: an ampersand marks no key, and markup is text.
+        QAction* item =
+            menu->addAction(toText(lastPathComponent(path)).replace("&", "&&"), this, [this, path] { openPath(path); });
+        item->setToolTip(QString("<span>%1</span>").arg(toText(path).toHtmlEscaped()));
         item->setEnabled(fileExists(path));
     }
     if (menu->isEmpty()) menu->addAction(tr("No recent images"))->setEnabled(false);

@@ -35,6 +35,8 @@ public:
     /// Asks whether to quit. @return the answer
     bool applicationShouldTerminate();
     void applicationWillTerminate();
+    /// Asks nothing: the picture as it is is kept and offered at the next start, and the program ends in order.
+    void endBySignal();
 
     bool validateMenuItem(const QString& action, QString* title);
     /// An open gesture ends before a command is validated.
@@ -83,5 +85,5 @@ private:
     MainMenu* mMenu = nullptr;
     ZPCanvas* mCanvas = nullptr;
     std::map<QString, std::function<void()>> mShell; ///< commands that the application carries out itself
-    bool mTerminated = false;
+    bool mTerminated = false, mKeepsWork = false;
 };

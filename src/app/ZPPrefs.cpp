@@ -5,11 +5,11 @@
 #include "desktop/Desktop.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Panels.h"
+#include "desktop/Settings.h"
 #include "desktop/Sounds.h"
 #include "ui_Prefs.h"
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QSettings>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QUrl>
@@ -74,7 +74,6 @@ ZPPrefs::ZPPrefs() : mUi(std::make_unique<Ui::Prefs>())
     });
     connect(mUi->mSchemePopUp, &QComboBox::currentIndexChanged, this, [](int scheme) {
         settings().setValue(kSchemeSetting, kSchemes.value(scheme));
-        settings().sync(); // read again through another object
         applyColorScheme();
     });
     connect(mUi->mSoundsCheck, &QCheckBox::toggled, this, [](bool on) {

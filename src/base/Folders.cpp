@@ -116,6 +116,7 @@ std::string pathWithoutExtension(const std::string& path)
 std::string pathWithExtension(const std::string& path, const std::string& extension)
 {
     const std::string base = pathWithoutExtension(path);
+    if (base.empty() || base == "/") return base; // no name to extend
     return extension.empty() ? base : base + "." + extension;
 }
 

@@ -37,7 +37,7 @@ std::string folderOfPath(const std::string& path);
 /// Behind the last dot of the last component, without the dot; empty for none and for a leading dot only.
 std::string pathExtension(const std::string& path);
 std::string pathWithoutExtension(const std::string& path);
-/// Extension replaced (or appended, when there was none).
+/// Extension replaced (or appended, when there was none). A path without a name ("/") stays as it is.
 std::string pathWithExtension(const std::string& path, const std::string& extension);
 /// "~" and "~/..." become the home folder.
 std::string pathWithTildeExpanded(const std::string& path);

@@ -68,7 +68,7 @@ std::vector<std::string> batchPlan(const BatchSettings& settings, const std::vec
 }
 
 std::string processBatchImage(const BatchSettings& settings, const std::string& name, BatchResults& missing)
-{
+try {
     BatchPicture picture(settings, name);
     if (std::string why = picture.read(); !why.empty()) return why;
     if (std::string why = picture.fit(); !why.empty()) return why;
@@ -82,6 +82,8 @@ std::string processBatchImage(const BatchSettings& settings, const std::string& 
     if (missing.tiff) note(picture.writeTIFF(), missing.tiff);
     if (missing.jpeg) note(picture.writeJPEG(), missing.jpeg);
     return sentences;
+} catch (const std::exception&) {
+    return "There is not enough memory.";
 }
 
 std::vector<BatchOutcome> runBatch(const BatchSettings& settings, const std::vector<std::string>& names,

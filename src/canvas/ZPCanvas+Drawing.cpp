@@ -113,13 +113,23 @@ void ZPCanvas::antsNeedDisplay()
 void ZPCanvas::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
+    try {
+        paintRegion(painter, event->region());
+    } catch (const std::exception& error) {
+        // Not through the toolkit's own painting, which would never paint again: what is on screen stays.
+        logLine("not painted: %s", error.what());
+    }
+}
+
+void ZPCanvas::paintRegion(QPainter& painter, const QRegion& region)
+{
     // All drawing is in device pixels, so that a line stays one device pixel at fractional screen scales too.
     const QTransform device = painter.deviceTransform();
     const double deviceScale = devicePixelRatioF();
     painter.setWorldTransform(device.inverted());
     const QPointF corner = device.map(QPointF(0, 0));
     const QPoint origin(qRound(corner.x()), qRound(corner.y()));
-    for (const QRect& rect : event->region()) {
+    for (const QRect& rect : region) {
         const QRectF exact = device.mapRect(QRectF(rect));
         const QRect pixels(QPoint(int(std::floor(exact.left())), int(std::floor(exact.top()))),
                            QPoint(int(std::ceil(exact.right())) - 1, int(std::ceil(exact.bottom())) - 1));

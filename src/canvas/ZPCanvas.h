@@ -61,6 +61,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void paintRegion(QPainter& painter, const QRegion& region);
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -43,6 +43,9 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options);
 bool decodeJPEGInto(Bytes bytes, BitmapView pixels);
 Decoded decodePNG(Bytes bytes, const ImportOptions& options);
 Decoded decodeTIFF(Bytes bytes, const ImportOptions& options);
+/// Whether a Photoshop file's pixels are numbers of a palette's 256 colours.
+bool isIndexedPSD(Bytes bytes);
+Decoded decodeIndexedPSD(Bytes bytes, const ImportOptions& options);
 
 /// Whether a picture of this size may be decoded from a file of @p fileBytes; fills @p error with a sentence when not.
 /// Asked before memory is taken: sizes out of bounds, more than the machine can hold, and files so small for their

@@ -38,6 +38,9 @@ Decoded decode(Bytes bytes, const ImportOptions& options)
         return codec::decodePNG(bytes, options);
     case Format::TIFF:
         return codec::decodeTIFF(bytes, options);
+    case Format::PSD:
+        if (codec::isIndexedPSD(bytes)) return codec::decodeIndexedPSD(bytes, options);
+        [[fallthrough]];
     default:
         return codec::decodeByMagick(bytes, format, options);
     }
@@ -118,7 +121,7 @@ ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptio
 }
 
 ImportedImage importImageFile(const std::string& path, const ImportOptions& options)
-{
+try {
     const OpenFile file(path);
     if (file.fd() < 0) return {.error = sentenceFor(errno)};
     struct stat facts {
@@ -142,6 +145,8 @@ ImportedImage importImageFile(const std::string& path, const ImportOptions& opti
         got += std::size_t(n);
     }
     return importImage({memory.get(), got}, options);
+} catch (const std::exception&) {
+    return {.error = "There is not enough memory to read the file."};
 }
 
 } // namespace zp

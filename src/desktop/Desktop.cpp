@@ -2,15 +2,13 @@
 /// Settings, remembered window frames, and paths as bytes on either side of Qt's texts.
 #include "desktop/Desktop.h"
 #include "base/Folders.h"
+#include "desktop/Settings.h"
 #include <QEvent>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QScreen>
-#include <QSettings>
-#include <QStandardPaths>
 #include <QUrl>
 #include <QWidget>
-#include <memory>
 
 namespace zp
 {
@@ -49,15 +47,6 @@ bool liesOnAScreen(const QRect& frame)
 }
 
 } // namespace
-
-QSettings& settings()
-{
-    static std::unique_ptr<QSettings> opened;
-    const QString path =
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/zelpane/zelpane.conf";
-    if (!opened || opened->fileName() != path) opened = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    return *opened;
-}
 
 bool setFrameAutosaveName(QWidget* window, const QString& name)
 {

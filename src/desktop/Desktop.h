@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Small services of the desktop for windows: settings, remembered frames, and paths that cross between Qt and bytes.
+/// Small services of the desktop for windows: remembered frames, and paths that cross between Qt and bytes.
 #pragma once
 #include <QString>
 #include <QStringList>
@@ -7,16 +7,11 @@
 #include <vector>
 
 class QMimeData;
-class QSettings;
 class QUrl;
 class QWidget;
 
 namespace zp
 {
-
-/// The user's settings file ("zelpane.conf" in the configuration folder, shared with QSettings of the application).
-/// Main thread. Opened at first use; reopened when the configuration folder has changed since.
-QSettings& settings();
 
 /// Restores the frame that was saved under @p name, and saves it from now on whenever the window is hidden. A frame
 /// that lies on no screen is not restored. @return whether a frame was restored

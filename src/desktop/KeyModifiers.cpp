@@ -2,11 +2,11 @@
 /// The held modifier keys: from the keyboard, from a script, or from switches on screen.
 #include "desktop/KeyModifiers.h"
 #include "desktop/Desktop.h"
+#include "desktop/Settings.h"
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QInputEvent>
 #include <QKeyEvent>
-#include <QSettings>
 #include <QThread>
 #include <array>
 #include <atomic>

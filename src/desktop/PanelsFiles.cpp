@@ -4,9 +4,9 @@
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/PanelsState.h"
+#include "desktop/Settings.h"
 #include <QApplication>
 #include <QFileDialog>
-#include <QSettings>
 #include <QUrl>
 #include <deque>
 

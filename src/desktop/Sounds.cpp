@@ -40,7 +40,7 @@ class Player
 public:
     void ask(const std::string& name)
     {
-        {
+        try {
             const std::lock_guard hold(mGuard);
             mAsked.push_back(name);
             if (mAsked.size() > kRemembered) mAsked.pop_front();
@@ -54,6 +54,9 @@ public:
                 std::thread([this] { run(); }).detach(); // lives as long as the program, as the player does
             }
             mWaiting.push_back(name);
+        } catch (const std::exception&) { // no thread or no memory for a sound: whoever asked goes on
+            const std::lock_guard hold(mGuard);
+            mBroken = true;
         }
         mWake.notify_one();
     }

@@ -9,6 +9,7 @@
 #include "tools/StrokeGeometry.h"
 #include <algorithm>
 #include <cstring>
+#include <exception>
 #include <limits>
 #include <new>
 
@@ -89,6 +90,7 @@ void BrushStroke::begin(Start start, Point first)
     mBrushImage = mStrokeStart.tip;
     mJournal = TileJournal(std::as_const(*mStrokeStart.bitmap).view());
     mStamped = false;
+    mFailed = false;
     mCaptureDone = false;
     mDrawWorkerDone = false;
     mSegmentsDrawn = 0;
@@ -173,10 +175,11 @@ void BrushStroke::stamp(const BrushStamp& stamp, BitmapView pixels, PixelPoint c
     if (box.isEmpty()) return;
     mStamped = true;
     if (mStrokeStart.clip.isEmpty()) {
-        if (mJournal.keep(pixels, box)) stamp.drawAt(pixels, corner.x, corner.y);
-        return;
+        if (!mJournal.keep(pixels, box)) throw std::bad_alloc();
+        return stamp.drawAt(pixels, corner.x, corner.y);
     }
-    if (!maskReaches(mStrokeStart.clip, box) || !mJournal.keep(pixels, box)) return;
+    if (!maskReaches(mStrokeStart.clip, box)) return;
+    if (!mJournal.keep(pixels, box)) throw std::bad_alloc();
     // Stamped beside the picture, and mixed in as far as the selection lets it through.
     scratch.width = box.width(), scratch.height = box.height();
     for (int y = 0; y < scratch.height; ++y)
@@ -186,6 +189,19 @@ void BrushStroke::stamp(const BrushStamp& stamp, BitmapView pixels, PixelPoint c
 }
 
 void BrushStroke::drawThread()
+{
+    try {
+        drawPoints();
+    } catch (const std::exception& error) {
+        logLine("drawThread: %s", error.what());
+        mFailed = true;
+    }
+    // The flag is set where the step is recorded, on the main thread: between the two no press may come.
+    mDrawWorkerDone.store(true, std::memory_order_release);
+    mEnded.wake();
+}
+
+void BrushStroke::drawPoints()
 {
     mRect1 = mRect2 = mRect3 = mRect4 = mRect5 = Rect{};
     const StrokeMeasures measures(mStrokeStart.size);
@@ -265,9 +281,6 @@ void BrushStroke::drawThread()
         mSegmentsDrawn.store(i - 1, std::memory_order_release);
     }
     if (drained) logLine("draw thread finish");
-    // The flag is set where the step is recorded, on the main thread: between the two no press may come.
-    mDrawWorkerDone.store(true, std::memory_order_release);
-    mEnded.wake();
 }
 
 } // namespace zp

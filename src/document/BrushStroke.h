@@ -69,7 +69,9 @@ public:
     const UndoRect& undoRect() const { return mUndoRect; } ///< steady when the stroke is joined
     std::uint32_t segmentsDrawn() const { return mSegmentsDrawn.load(std::memory_order_acquire); }
     /// Whether there were stamps, and the clip let none of them through. After join(), before forgetBefore().
-    bool wasClippedAway() const { return mStamped && mJournal.isEmpty(); }
+    bool wasClippedAway() const { return mStamped && !mFailed && mJournal.isEmpty(); }
+    /// Whether memory ran out while it was drawn. After join(); takeBack() then leaves nothing of it.
+    bool hasFailed() const { return mFailed; }
 
     // ---- transitions ---------------------------------------------------------------------------------------------
 
@@ -87,6 +89,7 @@ public:
 private:
     void pollThread(); ///< body of the capture thread
     void drawThread(); ///< body of the drawing thread
+    void drawPoints();
     void stamp(const BrushStamp& stamp, BitmapView pixels, PixelPoint corner, BitmapView scratch);
 
     const std::uint32_t mCapacity;
@@ -103,6 +106,7 @@ private:
     std::shared_ptr<BitmapRep> mStampScratch; ///< where a clipped stamp is drawn first
     TileJournal mJournal;
     bool mStamped = false;                   ///< a stamp fell on the picture; the drawing thread's until the join
+    bool mFailed = false;                    ///< the same
     std::atomic<bool> mDrawWorkerDone{true}; ///< the drawing thread has nothing left to do
     bool mStrokeOpen = false;
     std::atomic<std::uint32_t> mSegmentsDrawn{0}; ///< painted, and their redisplay asked for

@@ -151,6 +151,15 @@ void Document::strokeEnded()
 {
     BrushStroke& stroke = mGesture.stroke();
     stroke.join();
+    if (stroke.hasFailed()) {
+        stroke.takeBack(mPicture.writablePixels());
+        // Said when whatever ended the stroke is done: the gate may be about to open.
+        QTimer::singleShot(0, this, [] { runAlert(tr("There is not enough memory."), {}, {tr("OK")}); });
+        if (mGesture.actions()) mGesture.refuse();
+        emit touched(mPicture.bounds());
+        emit changed();
+        return;
+    }
     const bool clippedAway = stroke.wasClippedAway();
     stroke.forgetBefore();
     if (mGesture.actions())

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The gate for gestures: what all tools share at press, drag and release.
+#include "base/Log.h"
 #include "desktop/KeyModifiers.h"
+#include "desktop/Panels.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
 #include <new>
@@ -25,14 +27,20 @@ void Document::handle(const char* stepName, const std::function<void(Edit&)>& bo
 {
     Edit edit(*this);
     mGateOpen = true;
+    bool failed = true;
     try {
         body(edit);
+        failed = false;
     } catch (const std::bad_alloc&) {
-        edit.alert(tr("There is not enough memory."), {});
-    } catch (const std::system_error&) {
-        edit.alert(tr("There is not enough memory."), {});
+    } catch (const std::system_error& error) {
+        logLine("a gesture: %s", error.what());
     }
     mGateOpen = false;
+    if (failed) {
+        cancelGesture(); // as before the press
+        runAlert(tr("There is not enough memory."), {}, {tr("OK")});
+        return;
+    }
     mOwesStep |= edit.mWrote;
     // One step for the whole gesture: when its tool asks for it, else when it ends and pixels were written.
     const bool ended = !mGesture.isMouseDown() && !strokeIsOpen();

@@ -7,6 +7,7 @@
 #include "operations/SelectedPixels.h"
 #include "selection/FloatingImage.h"
 #include <QCoreApplication>
+#include <new>
 
 namespace zp
 {
@@ -25,6 +26,7 @@ std::shared_ptr<const BitmapRep> pictureToCopy(Edit& edit)
     floating.logDrawing("");
     const std::shared_ptr<BitmapRep> copy = copyOfFloating(floating.image(), selection.record(), *selection.outline(),
                                                            selection.bounds(), edit.paint().opacity());
+    if (!copy && !selection.bounds().isEmpty()) throw std::bad_alloc();
     if (copy && edit.picture().bitmap()) copy->properties = edit.picture().bitmap()->properties;
     return copy;
 }
@@ -35,7 +37,7 @@ bool putOnPasteboard(Edit& edit)
     const std::shared_ptr<const BitmapRep> picture = pictureToCopy(edit);
     if (!picture) return false;
     std::vector<std::uint8_t> tiff = encodeTIFF(picture->view(), picture->properties);
-    if (tiff.empty()) return false;
+    if (tiff.empty()) throw std::bad_alloc();
     Pasteboard::general().setTIFF(std::move(tiff));
     return true;
 }

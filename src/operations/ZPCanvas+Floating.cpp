@@ -6,6 +6,7 @@
 #include "operations/SelectedPixels.h"
 #include <QCoreApplication>
 #include <cmath>
+#include <new>
 
 namespace zp
 {
@@ -13,7 +14,9 @@ namespace zp
 bool liftSelection(Edit& edit)
 {
     if (!edit.selection().lift(edit.picture())) {
-        edit.refuse(); // an outline without area, or no memory
+        const Rect box = edit.selection().bounds();
+        if (!box.isEmpty() && intersects(box, edit.picture().bounds())) throw std::bad_alloc();
+        edit.refuse(); // an outline without area
         return false;
     }
     playSound("Pop");

@@ -25,8 +25,8 @@ std::string absolutePath(const std::string& path)
     return failed || path.empty() ? path : whole.string();
 }
 
-/// Coordinates that arithmetic on whole numbers can bear; no picture reaches anywhere near.
-bool isFarEnoughInside(double coordinate) { return std::abs(coordinate) <= 1e9; }
+/// Coordinates that arithmetic on whole numbers can bear at every zoom; no picture reaches anywhere near.
+bool isFarEnoughInside(double coordinate) { return std::abs(coordinate) <= 1e7; }
 
 } // namespace
 

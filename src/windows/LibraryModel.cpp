@@ -70,7 +70,7 @@ QVariant LibraryModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole: {
         const LibraryItem& item = shown(index.row());
         if (item.broken) return tr("The file that this link leads to is gone. The link can be deleted.");
-        return textFromPath(item.file());
+        return QString("<span>%1</span>").arg(textFromPath(item.file()).toHtmlEscaped()); // markup in names is text
     }
     default:
         return {};

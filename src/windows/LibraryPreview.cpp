@@ -4,6 +4,7 @@
 #include "codecs/ImageImporter.h"
 #include <QPainter>
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 using namespace zp;
@@ -46,7 +47,11 @@ LibraryPreview::LibraryPreview(QWidget* parent) : QWidget(parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     mPoll.setInterval(kPollMilliseconds);
     connect(&mPoll, &QTimer::timeout, this, &LibraryPreview::take);
-    mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
+    try {
+        mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
+    } catch (const std::system_error&) {
+        // no thread to be had: the list goes without a preview
+    }
 }
 
 LibraryPreview::~LibraryPreview() = default;
@@ -87,11 +92,12 @@ void LibraryPreview::work(const std::stop_token& stop)
         ImportOptions options;
         options.atLeastWidth = options.atLeastHeight = wanted.side;
         options.properties = false;
-        const ImportedImage read = importImageFile(wanted.path, options);
+        ImportedImage read = importImageFile(wanted.path, options);
         QImage picture;
         if (read.bitmap) picture = reduced(*read.bitmap, wanted.side);
+        if (read.bitmap && picture.isNull()) read.error = "There is not enough memory for this picture.";
         const std::lock_guard hold(mGuard);
-        mDone = Done{wanted.request, std::move(picture), read.error};
+        mDone = Done{wanted.request, std::move(picture), std::move(read.error)};
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The smart fill window's buttons, its worker, and the way of a result back into the picture.
 #include "windows/ZPSmartFill.h"
+#include "base/Log.h"
 #include "base/NotificationCenter.h"
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
@@ -139,6 +140,8 @@ void ZPSmartFill::run()
     mDocument->endGesture(); // what is being painted is part of what is filled from
     const Picture& picture = mDocument->picture();
 
+    mRun = std::make_unique<Run>();
+    Run& run = *mRun;
     mUi->mProgressBar->setPercent(0);
     enableButtons(true);
     mTimeNULL = now();
@@ -148,8 +151,6 @@ void ZPSmartFill::run()
     mRunning = true;
     mDocument->setComputing(true);
 
-    mRun = std::make_unique<Run>();
-    Run& run = *mRun;
     run.seed = mSeed ? mSeed : std::uint64_t(std::time(nullptr));
     run.area = smartFillArea(mSelRect, picture.width(), picture.height(), mUi->mRadiusSlider->value(),
                              mUi->mFasterCheckbox->isChecked());
@@ -175,7 +176,8 @@ void ZPSmartFill::calcThread(Run& run)
     hooks.cancelled = [this] { return mCancel.load(std::memory_order_acquire); };
     try {
         run.status = fillSmartFillPicture(run.picture, run.seed, hooks);
-    } catch (const std::bad_alloc&) {
+    } catch (const std::exception& error) {
+        logLine("smart fill: %s", error.what());
         run.outOfMemory = true;
     }
     mWorkerDone.store(true, std::memory_order_release); // hands the run over

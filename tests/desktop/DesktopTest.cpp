@@ -2,17 +2,18 @@
 /// Paths across the border to Qt, remembered frames, sounds, held keys and the pasteboard.
 #include "desktop/Desktop.h"
 #include "base/BitmapRep.h"
+#include "base/Folders.h"
 #include "codecs/ImageEncoder.h"
 #include "codecs/ImageImporter.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Pasteboard.h"
+#include "desktop/Settings.h"
 #include "desktop/Sounds.h"
 #include <QApplication>
 #include <QClipboard>
 #include <QImage>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QSettings>
 #include <QTest>
 #include <QUrl>
 #include <gtest/gtest.h>
@@ -54,6 +55,57 @@ TEST(DesktopFrames, AreRememberedUnderTheirName)
     settings().setValue("frames/Broken", QByteArray("nonsense"));
     QWidget broken;
     EXPECT_FALSE(setFrameAutosaveName(&broken, "Broken"));
+}
+
+TEST(SettingsFile, KeepsTextsListsAndBytes)
+{
+    const std::string path = temporaryFolder() + "/settings/a.conf";
+    const QByteArray bytes("\0\1\xFF=,\n%", 7);
+    const QStringList list{"a, b", "", "50 %", "\u00fc\n"};
+    {
+        Settings settings(path);
+        EXPECT_EQ(settings.value("none", 7), 7);
+        settings.setValue("text", "a=b\n[c] %41 \u00fc");
+        settings.setValue("list", list);
+        settings.setValue("one", QStringList{"alone"});
+        settings.setValue("bytes", bytes);
+        settings.setValue("on", true);
+        settings.setValue("off", false);
+        settings.setValue("gone", 1);
+        settings.remove("gone");
+    }
+    const Settings again(path);
+    EXPECT_EQ(again.value("text").toString(), "a=b\n[c] %41 \u00fc");
+    EXPECT_EQ(again.value("list").toStringList(), list);
+    EXPECT_EQ(again.value("one").toStringList(), QStringList{"alone"});
+    EXPECT_EQ(again.value("bytes").toByteArray(), bytes);
+    EXPECT_TRUE(again.value("on").toBool());
+    EXPECT_FALSE(again.value("off", true).toBool());
+    EXPECT_FALSE(again.value("gone").isValid());
+}
+
+TEST(SettingsFile, OfTheFirstVersionIsRead)
+{
+    const std::string path = temporaryFolder() + "/old.conf";
+    const std::string text = "[General]\nunit=inches\nrecentFiles=/a%20b, /c\n\n[keys]\noption=meta\n";
+    ASSERT_TRUE(writeFileSafely(path, text.data(), text.size()));
+    Settings settings(path);
+    EXPECT_EQ(settings.value("unit").toString(), "inches");
+    EXPECT_EQ(settings.value("recentFiles").toStringList(), (QStringList{"/a%20b", "/c"}));
+    EXPECT_EQ(settings.value("keys/option").toString(), "meta");
+}
+
+TEST(SettingsFile, ThatCannotBeReadIsNotWrittenOver)
+{
+    const std::string path = temporaryFolder() + "/large.conf";
+    const std::string text(5 << 20, 'x');
+    ASSERT_TRUE(writeFileSafely(path, text.data(), text.size()));
+    {
+        Settings settings(path);
+        settings.setValue("unit", "inches");
+        EXPECT_EQ(settings.value("unit").toString(), "inches");
+    }
+    EXPECT_EQ(readWholeFile(path), text);
 }
 
 TEST(Sounds, AreRememberedAndNeverWaitedFor)

@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <map>
 #include <memory>
 
 namespace zp::test
@@ -18,7 +19,8 @@ namespace zp::test
 class Session
 {
 public:
-    explicit Session(const QStringList& arguments = {"--no-start-choice"}, const QString& home = {})
+    explicit Session(const QStringList& arguments = {"--no-start-choice"}, const QString& home = {},
+                     const std::map<QString, QString>& variables = {})
     {
         if (home.isEmpty()) {
             mOwnHome = std::make_unique<QTemporaryDir>();
@@ -34,6 +36,7 @@ public:
         environment.insert("XDG_RUNTIME_DIR", mHome + "/runtime");
         for (const char* unwanted : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
             environment.remove(unwanted);
+        for (const auto& [name, value] : variables) environment.insert(name, value);
         mProcess.setProcessEnvironment(environment);
         mProcess.setWorkingDirectory(mHome);
         mProcess.start(ZP_PROGRAM, QStringList{"--script", "-"} + arguments);
@@ -98,6 +101,24 @@ public:
     QStringList log() { return toStrings(must("log")["lines"].toArray()); }
     /// Sends a line that may have no answer, because it ends the program.
     void send(const QString& line) { mProcess.write(line.toUtf8() + '\n'); }
+    /// Waits for the answer of a line that was sent. @return false when the program is gone or does not answer
+    bool takeAnswer(int milliseconds = 20'000)
+    {
+        while (!mProcess.canReadLine())
+            if (!mProcess.waitForReadyRead(milliseconds)) return false;
+        mProcess.readLine();
+        return true;
+    }
+    /// Whether the program still answers, and nothing is at work in it any more.
+    bool settles()
+    {
+        send("alert");
+        if (!takeAnswer()) return false;
+        return true;
+    }
+    void terminate() { mProcess.terminate(); }
+    bool finishes(int milliseconds = 20'000) { return mProcess.waitForFinished(milliseconds); }
+    QProcess& process() { return mProcess; }
     bool ended() { return mProcess.waitForFinished(20'000) && mProcess.exitCode() == 0; }
     /// Ends the input. @return the exit status
     int end()
