@@ -2,10 +2,19 @@
 # What every target of the house shares, and one function for each kind of target.
 
 add_library(zp_flags INTERFACE)
-target_compile_options(zp_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual
-                                          -Werror -fno-math-errno
-                                          -ffp-contract=off # a fused product would round otherwise than one of a lesser machine
-                                          -Wno-restrict) # GCC 12 reports it falsely on std::string's operator+
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(zp_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual
+                                              -Werror -fno-math-errno
+                                              -ffp-contract=off # a fused product would round otherwise than one of a lesser machine
+                                              -Wno-restrict) # GCC 12 reports it falsely on std::string's operator+
+else() # the fuzzers' compiler knows some of these and remarks on other things
+    target_compile_options(zp_flags INTERFACE -Wall -Wextra -fno-math-errno -ffp-contract=off)
+endif()
+if(ZP_FUZZING)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=address,undefined)
+    add_compile_definitions(ZP_SANITIZED)
+endif()
 if(ZP_SANITIZE STREQUAL "address")
     add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=address,undefined)

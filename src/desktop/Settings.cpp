@@ -83,11 +83,13 @@ void Settings::remove(const QString& key)
 
 void Settings::changed()
 {
-    if (!std::exchange(mChanged, true)) QTimer::singleShot(0, this, &Settings::save);
+    mChanged = true;
+    if (!std::exchange(mScheduled, true)) QTimer::singleShot(0, this, &Settings::save);
 }
 
 void Settings::save()
 {
+    mScheduled = false;
     if (!mChanged || !mWritable) return;
     QByteArray text;
     for (const auto& [key, value] : mValues) text += key.toUtf8() + '=' + encoded(value) + '\n';

@@ -33,6 +33,7 @@ private:
     std::string mPath;
     std::map<QString, QVariant> mValues;
     bool mWritable = false, mChanged = false;
+    bool mScheduled = false; ///< the event loop will save
 };
 
 /// The user's: "zelpane/zelpane.conf" in XDG_CONFIG_HOME, else in the home folder's ".config". Opened at first use;

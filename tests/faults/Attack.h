@@ -148,11 +148,14 @@ private:
 inline void everyFault(const std::function<bool(faults::Call, std::int64_t)>& attempt, int places = 8)
 {
     const bool all = qEnvironmentVariableIsSet("ZP_LONG");
+    int struck = 0;
     for (const faults::Call call : faults::kCalls) {
         std::int64_t n = 1;
-        for (int tried = 0; attempt(call, n) && !testing::Test::HasFatalFailure(); ++tried)
+        for (int tried = 0; attempt(call, n) && !testing::Test::HasFatalFailure(); ++tried, ++struck)
             n += all ? 1 : 1 + tried * tried / places;
     }
+    EXPECT_GT(struck, 0) << "the injector reached nothing";
+    std::printf("%d calls failed\n", struck);
 }
 
 inline std::string nameOf(faults::Call call) { return faults::kCallNames[std::size_t(call)]; }

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Whatever is being written when the program is killed is there as it was, or as it was to become.
+#include "codecs/ImageImporter.h"
+#include "support/Samples.h"
+#include "support/Session.h"
+#include <random>
+#include <set>
+#include <unistd.h>
+
+using zp::test::sample;
+using zp::test::Session;
+
+namespace
+{
+
+int rounds() { return qEnvironmentVariableIsSet("ZP_LONG") ? 500 : 25; }
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The moments differ from run to run; the seed stands in the log of a run that failed.
+std::mt19937& chance()
+{
+    static const unsigned seed = std::random_device{}();
+    static std::mt19937 numbers(seed);
+    testing::Test::RecordProperty("seed", int(seed));
+    return numbers;
+}
+
+int upTo(int most) { return int(chance()() % unsigned(most + 1)); }
+
+struct Writing {
+    const char* name;
+    const char* file;         ///< what is written, below the home folder
+    const char* first;        ///< a line that writes it one way,
+    const char* other;        ///< and one that writes it the other way, each after its preparation
+    const char* prepareFirst; ///< lines, semicolons between them
+    const char* prepareOther;
+};
+
+/// Two contents are written in turn, over each other, until the kill; then the file must be one of the two.
+class Kills : public testing::TestWithParam<Writing>
+{
+};
+
+TEST_P(Kills, LeaveOneOfTheTwoFiles)
+{
+    const Writing& w = GetParam();
+    QTemporaryDir home;
+    QFile::copy(QString::fromStdString(sample("photos/seeding-600-cmyk.jpg")), home.filePath("a.jpg"));
+    const QString file = home.filePath(w.file);
+    std::set<QByteArray> right;
+    const auto start = [&] {
+        auto session = std::make_unique<Session>(QStringList{"--no-start-choice"}, home.path());
+        if (!session->must("alert")["alert"].isNull()) session->must("answer Discard");
+        session->must("open " + home.filePath("a.jpg"));
+        session->must("menu prefs:");
+        session->must("set mPageField https://example.org/kept");
+        session->must("key Return");
+        session->must("menu selectAll:");
+        session->must("wait");
+        return session;
+    };
+    const auto write = [&](Session& s, bool other, bool wait) {
+        const QString lines = QString(other ? w.prepareOther : w.prepareFirst) + ";" + (other ? w.other : w.first);
+        for (const QString& line : QString(lines).replace("HOME", home.path()).split(';', Qt::SkipEmptyParts))
+            wait ? void(s.must(line)) : s.send(line);
+    };
+    {
+        const auto s = start();
+        for (const bool other : {false, true}) {
+            write(*s, other, true);
+            s->must("sleep 0.05");
+            right.insert(contents(file));
+        }
+        ASSERT_EQ(right.size(), 2u);
+        ASSERT_FALSE(right.count(QByteArray())) << file.toStdString();
+        EXPECT_EQ(s->end(), 0);
+    }
+    std::set<QByteArray> met;
+    for (int round = 0; round < rounds(); ++round) {
+        const auto s = start();
+        const QByteArray before = contents(file);
+        if (QByteArray(w.file).endsWith("conf")) right.insert(before);
+        for (int i = 0; i < 40; ++i) write(*s, i % 2, false);
+        usleep(useconds_t(upTo(60'000)));
+        s->kill();
+        const QByteArray now = contents(file);
+        EXPECT_TRUE(right.count(now)) << "round " << round << ": " << now.size() << " bytes";
+        met.insert(now);
+        if (HasFailure()) break;
+    }
+    EXPECT_GE(met.size(), 1u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OfWriting, Kills,
+    testing::Values(Writing{"TIFF", "b.tiff", "send saveImageAsTIFF: HOME/b.tiff", "send saveImageAsTIFF: HOME/b.tiff",
+                            "menu rotateCW:", "menu rotateCCW:"},
+                    Writing{"JPEG", "b.jpg", "send saveImageAsJPEG: HOME/b.jpg", "send saveImageAsJPEG: HOME/b.jpg",
+                            "menu rotateCW:", "menu rotateCCW:"},
+                    Writing{"PNG", "b.png", "send saveImageAsPNG: HOME/b.png", "send saveImageAsPNG: HOME/b.png",
+                            "menu rotateCW:", "menu rotateCCW:"},
+                    Writing{"Selection", "chosen", "send saveSelection: HOME/chosen", "send saveSelection: HOME/chosen",
+                            "menu selectAll:", "press 10 10;drag 200 150;release 200 150"},
+                    Writing{"Preferences", ".config/zelpane/zelpane.conf", "sleep 0.001", "sleep 0.001",
+                            "set mUnitPopUp #1", "set mUnitPopUp #2"}),
+    [](const auto& one) { return std::string(one.param.name); });
+
+TEST(KillsOfABatch, LeaveWholeResultsAndTheSameFolderInTheEnd)
+{
+    QTemporaryDir folder;
+    const QString in = folder.filePath("in"), out = folder.filePath("out"), right = folder.filePath("right");
+    for (const QString& made : {in, out, right}) QDir().mkpath(made);
+    for (int i = 0; i < 6; ++i)
+        QFile::copy(
+            QString::fromStdString(sample(i % 2 ? "photos/seeding-600-grey.jpg" : "made/exif/orientation-6.jpg")),
+            in + QString("/%1.jpg").arg(i));
+    const auto start = [&](const QString& to, QProcess& process) {
+        process.start(ZP_PROGRAM, {"--batch", in, to, "--tiff", "--jpeg", "--fit", "300x300", "--skip-existing"});
+        ASSERT_TRUE(process.waitForStarted());
+    };
+    QProcess whole;
+    start(right, whole);
+    ASSERT_TRUE(whole.waitForFinished(60'000));
+    for (int round = 0; round < rounds(); ++round) {
+        for (const QString& name : QDir(out).entryList(QDir::Files | QDir::Hidden)) QFile::remove(out + "/" + name);
+        QProcess process;
+        start(out, process);
+        usleep(useconds_t(upTo(120'000)));
+        process.kill();
+        process.waitForFinished();
+        for (const QString& name : QDir(out).entryList(QDir::Files)) // without what begins with a dot
+            ASSERT_EQ(contents(out + "/" + name), contents(right + "/" + name)) << name.toStdString();
+        QProcess again;
+        start(out, again);
+        ASSERT_TRUE(again.waitForFinished(60'000));
+        EXPECT_EQ(again.exitCode(), 0);
+        EXPECT_EQ(QDir(out).entryList(QDir::Files), QDir(right).entryList(QDir::Files));
+    }
+}
+
+} // namespace
