@@ -54,6 +54,13 @@ void MainMenu::addRow(QMenu& menu, const Command& row)
     connect(item, &QAction::triggered, this, [this, item] { choose(item); });
 }
 
+QAction* MainMenu::itemOfKeys(const QKeySequence& keys) const
+{
+    for (QAction* item : mOrder)
+        if (item->shortcuts().contains(keys)) return item;
+    return nullptr;
+}
+
 QString MainMenu::menuTitleOf(QAction* item) const { return item->property("menu").toString(); }
 
 void MainMenu::validate()
@@ -63,6 +70,14 @@ void MainMenu::validate()
         item->setEnabled(mValidate(item->property("action").toString(), &title));
         if (!title.isEmpty()) item->setText(title);
     }
+    for (auto state = mStates.cbegin(); state != mStates.cend(); ++state)
+        item(state.key())->setChecked(state.value()());
+}
+
+void MainMenu::setState(const QString& action, std::function<bool()> isOn)
+{
+    item(action)->setCheckable(true);
+    mStates.insert(action, std::move(isOn));
 }
 
 void MainMenu::choose(QAction* item)

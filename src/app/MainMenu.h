@@ -28,6 +28,8 @@ public:
     MainMenu(QMenuBar* bar, Validator validate, Performer prepare, Performer perform);
 
     QAction* item(const QString& action) const { return mItems.value(action); }
+    /// The item that has that shortcut; null for none.
+    QAction* itemOfKeys(const QKeySequence& keys) const;
     const QList<QAction*>& items() const { return mOrder; }
     QMenu* menu(const QString& title) const { return mMenus.value(title); }
     QString menuTitleOf(QAction* item) const;
@@ -35,6 +37,8 @@ public:
     void validate();
     /// Chooses the item if it is enabled. @return an error in a word or two, empty when chosen
     QString choose(const QString& action);
+    /// Gives an item a check mark that says what @p isOn answers whenever the menus are validated.
+    void setState(const QString& action, std::function<bool()> isOn);
     QMenu* recentMenu() const { return mRecent; }
 
 private:
@@ -44,6 +48,7 @@ private:
     Performer mPrepare, mPerform;
     QHash<QString, QAction*> mItems;
     QHash<QString, QMenu*> mMenus;
+    QHash<QString, std::function<bool()>> mStates;
     QList<QAction*> mOrder;
     QMenu* mRecent = nullptr;
 };

@@ -33,6 +33,13 @@ namespace
 constexpr const char* kZoomTitles[] = {"6.25%", "12.5%", "25%", "50%", "100%", "200%", "400%", "800%", "1600%"};
 static_assert(std::size(kZoomTitles) == kZoomLevels.size());
 
+/// A zoom as people say it.
+QString percent(float zoom)
+{
+    const double value = double(zoom) * 100;
+    return QString("%1 %").arg(value, 0, 'g', value >= 1000 ? 4 : 3);
+}
+
 QString tool(const char* text) { return QCoreApplication::translate("Tools", text); }
 
 } // namespace
@@ -96,7 +103,12 @@ void MainWindow::setUpTools()
 
 void MainWindow::setUpToolOptions()
 {
-    connect(mUi->mColorWell, &ColorWell::colorChosen, this, [this](Color c) { mDocument.setPaintColor(c); });
+    connect(mUi->mColorWell, &ColorWell::colorChosen, this, [this](Color c, bool goesOn) {
+        if (goesOn)
+            mDocument.movePaintColor(c);
+        else
+            mDocument.setPaintColor(c);
+    });
 
     const auto setSize = [this](int size) { mDocument.setBrushSize(float(size)); };
     connect(mUi->mSizeSlider, &QSlider::valueChanged, this, setSize);
@@ -129,9 +141,18 @@ void MainWindow::setUpZoom()
         mCanvas->zoom(double(kZoomLevels[std::size_t(index)]) * 100);
         giveFocusBack();
     });
-    connect(mUi->mScrollView, &ScrollView::zoomRequested, this, [this](int steps, QPointF p) {
-        const float z = mDocument.view().effectiveZoom();
-        const Point anchor{float(p.x() / z), float(p.y() / z)};
+    mUi->mZoomPopUp->setWidestFace(tr("Fit · %1").arg(percent(0.0888f)));
+    const auto inPicture = [this](QPointF p) {
+        const double z = mDocument.view().effectiveZoom();
+        return Point{float(p.x() / z), float(p.y() / z)};
+    };
+    connect(mUi->mScrollView, &ScrollView::roomChanged, this, [this](QSize room) {
+        mDocument.setRoom({float(room.width()), float(room.height())});
+    });
+    connect(mUi->mScrollView, &ScrollView::scaleRequested, this,
+            [this, inPicture](double factor, QPointF p) { mCanvas->scaleZoom(factor, inPicture(p)); });
+    connect(mUi->mScrollView, &ScrollView::zoomRequested, this, [this, inPicture](int steps, QPointF p) {
+        const Point anchor = inPicture(p);
         for (int i = std::abs(steps); i > 0; --i) mCanvas->stepZoom(steps > 0 ? 1 : -1, anchor);
     });
     for (const QScrollBar* bar : {mUi->mScrollView->horizontalScrollBar(), mUi->mScrollView->verticalScrollBar()})
@@ -248,7 +269,13 @@ void MainWindow::showPaint()
 void MainWindow::showZoom()
 {
     const QSignalBlocker quiet(mUi->mZoomPopUp);
-    mUi->mZoomPopUp->setCurrentIndex(mDocument.view().nearestLevel());
+    const View& view = mDocument.view();
+    mUi->mZoomPopUp->setCurrentIndex(view.nearestLevel());
+    const bool isLevel = kZoomLevels[std::size_t(view.nearestLevel())] == view.zoom();
+    if (view.fit() != Fit::No)
+        mUi->mZoomPopUp->setFace(tr("Fit · %1").arg(percent(view.zoom())));
+    else
+        mUi->mZoomPopUp->setFace(isLevel ? QString() : percent(view.zoom()));
 }
 
 void MainWindow::giveFocusBack() { mCanvas->setFocus(); }
@@ -290,17 +317,7 @@ void MainWindow::showStatus()
     setWindowTitle(name.empty() ? tr("Untitled — Zelpane") : QString("%1 — Zelpane").arg(QString::fromStdString(name)));
 }
 
-void MainWindow::fitToWindow()
-{
-    const Size size = mDocument.picture().size();
-    if (!mDocument.picture().isLoaded()) return;
-    // The viewport without scroll bars, whether they show now or not.
-    const QSize room = mUi->mScrollView->size();
-    // Half a pixel less, so that rounding up never brings a scroll bar.
-    const float scale =
-        std::min((float(room.width()) - 0.5f) / size.width, (float(room.height()) - 0.5f) / size.height);
-    mCanvas->setZoom(mDocument.view().isRetina() ? scale * 2 : scale);
-}
+void MainWindow::toggleFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {

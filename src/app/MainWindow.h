@@ -31,7 +31,7 @@ public:
     ZPCanvas* canvas() const { return mCanvas; }
     /// Sets every item of the tool pop-up and of the strip to the image named like it.
     void setToolImages();
-    void fitToWindow();
+    void toggleFullScreen();
 
     std::function<bool()> mayClose; ///< asked before the window closes
     std::function<void(const std::string&)> openDroppedFile;
@@ -50,7 +50,7 @@ private:
     void setUpStatusLine();
     void showTool();   ///< the chosen tool and the options that its row puts on show
     void showPaint();  ///< colour and size
-    void showZoom();   ///< the level nearest to the zoom
+    void showZoom();   ///< the level nearest to the zoom, and on the closed pop-up the zoom itself
     void showStatus(); ///< status line and title, all of it from the document
     void showPointer();
     void giveFocusBack();

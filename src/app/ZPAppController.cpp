@@ -65,6 +65,8 @@ ZPAppController::ZPAppController()
     mMenu->item("retina:")->setCheckable(true);
     mMenu->item("retina:")->setChecked(retina);
     if (retina) mDocument->setRetina(true);
+    mMenu->setState("fitToWindow:", [this] { return mDocument->view().fit() != Fit::No; });
+    mMenu->setState("fullScreen:", [this] { return mWindow->isFullScreen(); });
     // Windows stand above the canvas: it reaches the text editor through these.
     setTextToolHooks({[](int size) { ZPTextEditor::sharedInstance()->setFontSize(size); },
                       [] { ZPTextEditor::sharedInstance()->showWindow(); },
@@ -365,5 +367,9 @@ void ZPAppController::buildShell()
     mShell["zoomIn:"] = [this] { mCanvas->stepZoom(1); };
     mShell["zoomOut:"] = [this] { mCanvas->stepZoom(-1); };
     mShell["actualSize:"] = [this] { mCanvas->zoom(100); };
-    mShell["fitToWindow:"] = [this] { mWindow->fitToWindow(); };
+    mShell["fitToWindow:"] = [this] { mDocument->fitPicture(); };
+    mShell["fullScreen:"] = [this] { mWindow->toggleFullScreen(); };
+    mShell["largerBrush:"] = [this] { mDocument->stepBrushSize(1); };
+    mShell["smallerBrush:"] = [this] { mDocument->stepBrushSize(-1); };
+    mShell["swapColours:"] = [this] { mDocument->swapPaintColors(); };
 }

@@ -8,9 +8,19 @@
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
 #include "operations/TextToolHook.h"
+#include <QScrollBar>
+#include <algorithm>
 #include <cmath>
 
 using namespace zp;
+
+namespace
+{
+
+/// Screen points that are shown around what is revealed.
+constexpr int kRevealMargin = 12;
+
+} // namespace
 
 ZPCanvas::ZPCanvas(Document& document, QWidget* parent)
     : QWidget(parent), mDocument(document), mDrawing(std::make_unique<DrawingState>())
@@ -24,6 +34,7 @@ ZPCanvas::ZPCanvas(Document& document, QWidget* parent)
     setCursor(Qt::CrossCursor);
     connect(&mDocument, &Document::touched, this, &ZPCanvas::setNeedsDisplayInRect);
     connect(&mDocument, &Document::antsMoved, this, &ZPCanvas::antsNeedDisplay);
+    connect(&mDocument, &Document::revealed, this, &ZPCanvas::reveal);
     connect(&mDocument, &Document::pictureReplaced, this, &ZPCanvas::updateViewGeometry);
     connect(&mDocument, &Document::zoomChanged, this, &ZPCanvas::updateViewGeometry);
     connect(&mDocument, &Document::pointerMoved, this, &ZPCanvas::ringNeedsDisplay);
@@ -96,9 +107,37 @@ void ZPCanvas::setZoom(float factor, std::optional<Point> anchor)
     }
 }
 
+void ZPCanvas::scaleZoom(double factor, Point anchor)
+{
+    const float now = mDocument.view().zoom();
+    setZoom(std::clamp(float(now * factor), std::min(now, kZoomLevels.front()), std::max(now, kZoomLevels.back())),
+            anchor);
+}
+
+void ZPCanvas::reveal(Rect imageRect)
+{
+    auto* scroll = parentWidget() ? qobject_cast<ScrollView*>(parentWidget()->parentWidget()) : nullptr;
+    const double z = mDocument.view().effectiveZoom();
+    if (!scroll || z <= 0) return;
+    const Rect wanted = intersectionRect(imageRect, bounds());
+    if (wanted.isEmpty()) return;
+    const auto follow = [z](QScrollBar* bar, float near, float far) {
+        const int first = int(std::floor(double(near) * z)) - kRevealMargin,
+                  last = int(std::ceil(double(far) * z)) + kRevealMargin, room = bar->pageStep();
+        if (first < bar->value() || last - first > room)
+            bar->setValue(first);
+        else if (last > bar->value() + room)
+            bar->setValue(last - room);
+    };
+    follow(scroll->horizontalScrollBar(), wanted.minX(), wanted.maxX());
+    follow(scroll->verticalScrollBar(), wanted.minY(), wanted.maxY());
+}
+
 void ZPCanvas::stepZoom(int step, std::optional<Point> anchor)
 {
-    const float level = kZoomLevels[std::size_t(mDocument.view().levelBeyond(step))];
+    const float now = mDocument.view().zoom();
+    float level = kZoomLevels[std::size_t(mDocument.view().levelBeyond(step))];
+    if ((step > 0) != (level > now) && level != now) level = now; // beyond the last level already
     if (anchor) return setZoom(level, anchor);
     zoom(double(level) * 100);
 }

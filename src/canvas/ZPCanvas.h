@@ -50,6 +50,10 @@ public:
     void setZoom(float factor, std::optional<zp::Point> anchor = std::nullopt);
     /// One level in (+1) or out (-1).
     void stepZoom(int step, std::optional<zp::Point> anchor = std::nullopt);
+    /// Larger by @p factor, within the zoom levels; a picture fitted below the smallest may stay there.
+    void scaleZoom(double factor, zp::Point anchor);
+    /// Scrolls as little as shows that part, or its near corner when it is larger than the view.
+    void reveal(zp::Rect imageRect);
 
     /// The view was scrolled: another point of the picture lies under a pointer that rests.
     void pictureMovedUnderPointer();

@@ -2,6 +2,7 @@
 /// The colour well and the one colour panel that all wells share.
 #include "desktop/ColorWell.h"
 #include <QColorDialog>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
@@ -10,6 +11,8 @@ namespace
 {
 
 bool panelShowsAlpha = false;
+/// Milliseconds between looks whether a hand has let go.
+constexpr int kHandInterval = 30;
 
 QColor toQt(zp::Color c) { return QColor::fromRgbF(c.red, c.green, c.blue, c.alpha); }
 
@@ -20,6 +23,10 @@ ColorWell::ColorWell(QWidget* parent) : QAbstractButton(parent)
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(tr("Colour"));
     connect(this, &QAbstractButton::clicked, this, &ColorWell::openPanel);
+    mHandWatch.setInterval(kHandInterval);
+    connect(&mHandWatch, &QTimer::timeout, this, [this] {
+        if (QGuiApplication::mouseButtons() == Qt::NoButton) mHandWatch.stop();
+    });
 }
 
 void ColorWell::setPanelShowsAlpha(bool on) { panelShowsAlpha = on; }
@@ -33,10 +40,12 @@ void ColorWell::setColor(zp::Color color)
     update();
 }
 
-void ColorWell::chooseColor(zp::Color color)
+void ColorWell::chooseColor(zp::Color color) { choose(color, false); }
+
+void ColorWell::choose(zp::Color color, bool goesOn)
 {
     setColor(color);
-    emit colorChosen(color);
+    emit colorChosen(color, goesOn);
 }
 
 void ColorWell::openPanel()
@@ -52,7 +61,11 @@ void ColorWell::openPanel()
     panel->setOption(QColorDialog::ShowAlphaChannel, panelShowsAlpha);
     panel->setCurrentColor(toQt(mColor));
     connect(panel, &QColorDialog::currentColorChanged, this, [this](const QColor& c) {
-        if (c.isValid()) chooseColor({float(c.redF()), float(c.greenF()), float(c.blueF()), float(c.alphaF())});
+        if (!c.isValid()) return;
+        // A drag through the panel is one choice, however many colours it passes.
+        const bool goesOn = mHandWatch.isActive();
+        if (QGuiApplication::mouseButtons() != Qt::NoButton) mHandWatch.start();
+        choose({float(c.redF()), float(c.greenF()), float(c.blueF()), float(c.alphaF())}, goesOn);
     });
     panel->show();
     panel->raise();

@@ -3,6 +3,7 @@
 #pragma once
 #include "base/Color.h"
 #include <QAbstractButton>
+#include <QTimer>
 
 /// Transparent colours are shown over a chequerboard with the opaque colour in one corner.
 class ColorWell : public QAbstractButton
@@ -21,12 +22,15 @@ public:
     static void setPanelShowsAlpha(bool on);
 
 signals:
-    void colorChosen(zp::Color color);
+    /// @param goesOn  part of the choice before: the hand that picks it has not let go
+    void colorChosen(zp::Color color, bool goesOn);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void openPanel();
+    void choose(zp::Color color, bool goesOn);
     zp::Color mColor;
+    QTimer mHandWatch; ///< runs from a change by a held button until that is let go
 };

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The clipboard as a giver and taker of TIFF, with PNG for the programs that know no TIFF.
 #include "desktop/Pasteboard.h"
+#include "base/Folders.h"
 #include "codecs/ImageEncoder.h"
 #include "codecs/ImageImporter.h"
+#include "desktop/Desktop.h"
 #include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -60,6 +62,17 @@ private:
     mutable QByteArray mPNG;
 };
 
+/// The first file on the clipboard that its header says to be a picture. Reads a few kilobytes of each.
+std::optional<std::string> copiedPictureFile(const QMimeData* data)
+{
+    if (!data->hasUrls()) return std::nullopt;
+    for (const std::string& path : pathsFromMimeData(data)) {
+        const PixelDimensions size = imageFileDimensions(path);
+        if (size.width > 0 && size.height > 0) return path;
+    }
+    return std::nullopt;
+}
+
 const QMimeData* clipboardData() { return QGuiApplication::clipboard()->mimeData(); }
 
 } // namespace
@@ -85,6 +98,9 @@ std::vector<std::uint8_t> Pasteboard::imageData() const
         const QByteArray bytes = data->data(type);
         if (!bytes.isEmpty()) return {bytes.begin(), bytes.end()};
     }
+    // Files that a file manager copied: the first that is a picture.
+    if (const std::optional<std::string> file = copiedPictureFile(data))
+        if (const std::optional<std::string> bytes = readWholeFile(*file)) return {bytes->begin(), bytes->end()};
     // A picture handed over inside the toolkit has no bytes yet.
     if (data->hasImage()) {
         QByteArray bytes;
@@ -101,7 +117,7 @@ bool Pasteboard::hasImageData() const
     if (!data) return false;
     for (const char* type : kAccepted)
         if (data->hasFormat(type)) return true;
-    return data->hasFormat(kQtImage);
+    return copiedPictureFile(data) || data->hasFormat(kQtImage);
 }
 
 QStringList Pasteboard::types() const

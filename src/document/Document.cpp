@@ -15,6 +15,8 @@ namespace
 constexpr int kPoolPatience = 1500;
 /// How often requests from outside look whether they may run.
 constexpr int kRequestInterval = 30;
+/// What a step changes of the brush's size, and the sizes that the window's field offers.
+constexpr float kSizeStep = 0.1f, kSmallestSize = 1, kLargestSize = 2000;
 
 } // namespace
 
@@ -68,9 +70,26 @@ void Document::setZoom(float factor)
     emit changed();
 }
 
+void Document::fitPicture()
+{
+    mView.setFit(Fit::Whole);
+    mView.refit(mPicture.size());
+    emit zoomChanged();
+    emit changed();
+}
+
+void Document::setRoom(Size room)
+{
+    mView.setRoom(room);
+    if (!mView.refit(mPicture.size())) return;
+    emit zoomChanged();
+    emit changed();
+}
+
 void Document::setRetina(bool on)
 {
     mView.setRetina(on);
+    mView.refit(mPicture.size());
     emit zoomChanged();
     emit changed();
 }
@@ -84,6 +103,14 @@ void Document::setPointer(Point point, bool inside)
 
 void Document::setPaintColor(Color color)
 {
+    mPaint.keepColor(mPaint.color(), color);
+    movePaintColor(color);
+}
+
+void Document::swapPaintColors() { setPaintColor(mPaint.otherColor()); }
+
+void Document::movePaintColor(Color color)
+{
     mPaint.setColor(color);
     // The colour's opacity is that of what floats.
     if (mSelection.floating()) emit touched(mSelection.bounds());
@@ -95,6 +122,12 @@ void Document::setBrushSize(float size)
     if (!(size > 0) || !std::isfinite(size) || size == mPaint.size()) return;
     mPaint.setSize(size);
     emit paintChanged();
+}
+
+void Document::stepBrushSize(int step)
+{
+    const float size = mPaint.size(), by = std::max(1.0f, std::round(size * kSizeStep));
+    setBrushSize(std::clamp(size + float(step) * by, kSmallestSize, kLargestSize));
 }
 
 void Document::chooseTool(Tool tool)

@@ -92,11 +92,21 @@ public:
     // ---- looking and painting: nothing that a step records --------------------------------------------------------
 
     void setZoom(float factor);
+    /// The whole picture in the window, from now on and whatever becomes of the window.
+    void fitPicture();
+    /// The window has that much room for the picture, in screen points.
+    void setRoom(Size room);
     void setRetina(bool on);
     void setOnScreen(bool on) { mView.setOnScreen(on); }
     void setPointer(Point point, bool inside);
+    /// Another choice of colour, after which the one before can be swapped in.
     void setPaintColor(Color color);
+    /// The same choice goes on: the hand that picks the colour still moves.
+    void movePaintColor(Color color);
+    void swapPaintColors();
     void setBrushSize(float size);
+    /// A step larger (+1) or smaller (-1): about a tenth, at least a pixel.
+    void stepBrushSize(int step);
     void setBrushShape(int index) { mPaint.setBrushShape(index); }
     void setToleranceSetting(int setting) { mPaint.setToleranceSetting(setting); }
 
@@ -116,7 +126,8 @@ public:
 signals:
     void touched(zp::Rect imageRect); ///< main thread: that part of the picture shows something new
     void antsMoved();
-    void pictureReplaced(); ///< another bitmap or another size
+    void revealed(zp::Rect imageRect); ///< the person is to see that part
+    void pictureReplaced();            ///< another bitmap or another size
     void zoomChanged();
     void pointerMoved();
     void paintChanged(); ///< colour or size

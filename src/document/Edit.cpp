@@ -44,6 +44,10 @@ void Edit::replacePicture(std::shared_ptr<BitmapRep> rep, const Replacement& how
     mSelection.pictureReplaced(mPicture.width(), mPicture.height());
     mWrote = true;
     mReplaced = true;
+    if (how.begins)
+        mView.begin(mPicture.size());
+    else
+        mView.refit(mPicture.size());
     redraw();
 }
 

@@ -43,6 +43,8 @@ public:
     Settled settleFloat();
     void redraw(Rect imageRect) { mDirty = unionRect(mDirty, imageRect); }
     void redraw() { mRedrawAll = true; }
+    /// The person is to see that part of the picture: the view goes there.
+    void reveal(Rect imageRect) { mRevealed = imageRect; }
 
     /// The command cannot act: a beep, and no step unless something was changed before.
     void refuse();
@@ -70,7 +72,7 @@ private:
     Paint& mPaint;
     History& mHistory;
     View& mView;
-    Rect mDirty;
+    Rect mDirty, mRevealed;
     bool mRedrawAll = false, mWrote = false, mReplaced = false, mRefused = false;
     bool mStepWanted = false, mStepDecided = false;
     QString mWhy;

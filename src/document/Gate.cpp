@@ -119,12 +119,16 @@ void Document::closeEdit(Edit& edit, const char* stepName, StepRule rule)
     const bool due = edit.mStepDecided
                          ? edit.mStepWanted
                          : (rule == StepRule::Always && !edit.mRefused) || (rule != StepRule::Never && edit.mWrote);
-    if (edit.mReplaced) emit pictureReplaced();
+    if (edit.mReplaced) {
+        emit pictureReplaced();
+        emit zoomChanged(); // fitted, or at its own pixels
+    }
     if (due) mHistory.record(mPicture, stepName);
     if (edit.mRedrawAll)
         emit touched(mPicture.bounds());
     else if (!edit.mDirty.isEmpty())
         emit touched(edit.mDirty);
+    if (!edit.mRevealed.isEmpty()) emit revealed(edit.mRevealed);
     emit changed();
 }
 

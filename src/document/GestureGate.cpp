@@ -110,6 +110,7 @@ void Document::release(Point point)
 
 void Document::releaseOpenGesture(Point point)
 {
+    if (mGesture.actions()) mPaint.keepColor(mColorBefore, mPaint.color());
     handle(mGesture.stepName(), [&](Edit& edit) {
         const ToolActions* actions = mGesture.actions();
         mGesture.release(point);
@@ -150,7 +151,7 @@ bool Document::cancelGesture()
     if (mGesture.before()) mSelection.bringBack(*mGesture.before());
     mGesture.takeBack();
     mOwesStep = false;
-    if (mPaint.color() != mColorBefore) setPaintColor(mColorBefore);
+    if (mPaint.color() != mColorBefore) movePaintColor(mColorBefore);
     emit touched(mPicture.bounds());
     emit changed();
     runRequests();

@@ -11,6 +11,8 @@ class Paint
 {
 public:
     const Color& color() const { return mColor; }
+    /// The one that was chosen before it; white at first.
+    const Color& otherColor() const { return mOtherColor; }
     float opacity() const { return mColor.alpha; }
     float size() const { return mSize; } ///< brush diameter, stroke width, tolerance of the older fills, in pixels
     int brushShape() const { return mBrushShape; } ///< 0 for the first
@@ -23,6 +25,11 @@ public:
     // ---- transitions ---------------------------------------------------------------------------------------------
 
     void setColor(Color color) { mColor = color; }
+    /// Of a choice: what was chosen before can be swapped in.
+    void keepColor(Color before, Color chosen)
+    {
+        if (before != chosen) mOtherColor = before;
+    }
     void setSize(float size) { mSize = size; }
     void setBrushShape(int index) { mBrushShape = index; }
     void setToleranceSetting(int setting) { mToleranceSetting = setting; }
@@ -34,7 +41,7 @@ public:
     void setFillColors(Color oldColor, Color newColor) { mOldColor = oldColor, mNewColor = newColor; }
 
 private:
-    Color mColor = kBlack;
+    Color mColor = kBlack, mOtherColor = kWhite;
     float mSize = 20;
     int mBrushShape = 0;
     Color mOldColor, mNewColor;

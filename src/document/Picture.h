@@ -19,11 +19,12 @@ struct Replacement {
     bool makeGWorld = true;
     bool storeBitmapPointer = true;
     bool imageHasSize = true;
+    bool begins = false; ///< a document of its own: it is looked at anew
 };
-inline constexpr Replacement kBlankPicture{ImageCacheMode::Default, true, false, true};
+inline constexpr Replacement kBlankPicture{ImageCacheMode::Default, true, false, true, true};
 inline constexpr Replacement kInternalPicture{ImageCacheMode::Never, true, false, true};
 /// An opened picture has no GWorld until it is rebuilt, and its image takes its size from the bitmap.
-inline constexpr Replacement kOpenedPicture{ImageCacheMode::Never, false, true, false};
+inline constexpr Replacement kOpenedPicture{ImageCacheMode::Never, false, true, false, true};
 inline constexpr Replacement kRebuiltPicture{};
 
 /// One bitmap seen in three ways: as a representation, as an image to draw, as a graphics world over the same bytes.

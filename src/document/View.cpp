@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Zoom levels from where the zoom is.
 #include "document/View.h"
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace zp
 {
@@ -10,7 +12,30 @@ namespace
 {
 /// Zooms closer than this to a level are that level: a fitted picture may come out as 0.99999.
 constexpr float kSameZoom = 1.001f;
+/// Of a screen point: so much less room is counted on, so that rounding up never brings a scroll bar.
+constexpr float kSpare = 0.5f;
 } // namespace
+
+float View::wholeZoom(Size picture) const
+{
+    const float scale = std::min((mRoom.width - kSpare) / picture.width, (mRoom.height - kSpare) / picture.height);
+    return m2xRetina ? scale * 2 : scale;
+}
+
+void View::begin(Size picture)
+{
+    if (mRoom.width < 1 || mRoom.height < 1 || picture.width < 1 || picture.height < 1) return;
+    const float ownPixels = 1, whole = wholeZoom(picture);
+    mFit = whole < ownPixels ? Fit::Shrink : Fit::No;
+    mZoom = std::min(whole, ownPixels);
+}
+
+bool View::refit(Size picture)
+{
+    if (mFit == Fit::No || mRoom.width < 1 || mRoom.height < 1 || picture.width < 1 || picture.height < 1) return false;
+    const float whole = wholeZoom(picture), wanted = mFit == Fit::Shrink ? std::min(whole, 1.0f) : whole;
+    return std::exchange(mZoom, wanted) != wanted;
+}
 
 int View::nearestLevel() const
 {

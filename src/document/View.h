@@ -11,6 +11,13 @@ namespace zp
 /// evenly.
 inline constexpr std::array<float, 9> kZoomLevels{0.0625f, 0.125f, 0.25f, 0.5f, 1, 2, 4, 8, 16};
 
+/// Whether the zoom follows the room that the window has for the picture.
+enum class Fit {
+    No,
+    Shrink, ///< the whole picture, but not larger than its own pixels: how a large one opens
+    Whole,  ///< the whole picture as large as it goes: when a person asked for it
+};
+
 /// Looking changes nothing that is edited, so the widget and the main window may ask for these transitions any time.
 /// Main thread.
 class View
@@ -20,6 +27,8 @@ public:
     bool isRetina() const { return m2xRetina; }
     /// The zoom, halved in 2x retina mode.
     float effectiveZoom() const { return m2xRetina ? mZoom * 0.5f : mZoom; }
+    Fit fit() const { return mFit; }
+    Size room() const { return mRoom; } ///< of the window for the picture, in screen points; zero when there is none
     /// The level nearest to the zoom, by ratio.
     int nearestLevel() const;
     /// The level to go to from here: the next larger (+1) or smaller (-1) one, the last where there is none.
@@ -31,7 +40,13 @@ public:
     /// Whether anybody sees the picture: a program that plays a script may have no window on screen.
     bool isOnScreen() const { return mOnScreen; }
 
-    void setZoom(float factor) { mZoom = factor; }
+    void setZoom(float factor) { mZoom = factor, mFit = Fit::No; }
+    void setFit(Fit fit) { mFit = fit; }
+    void setRoom(Size room) { mRoom = room; }
+    /// Another document: one larger than the room is fitted, any other shows its own pixels. Without a room all stays.
+    void begin(Size picture);
+    /// The zoom that the fit asks for, when there is one. @return whether it is another now
+    bool refit(Size picture);
     void setRetina(bool on) { m2xRetina = on; }
     void setPointer(Point point) { mPointer = point; }
     void setPointerInside(bool inside) { mPointerInside = inside; }
@@ -39,7 +54,12 @@ public:
     void setInfoWithoutSelection(const char* text) { mInfoWithoutSelection = text; }
 
 private:
+    /// The largest zoom at which the whole picture is seen.
+    float wholeZoom(Size picture) const;
+
     float mZoom = 1;
+    Fit mFit = Fit::No;
+    Size mRoom;
     bool m2xRetina = false;
     Point mPointer;
     bool mPointerInside = false, mOnScreen = false;

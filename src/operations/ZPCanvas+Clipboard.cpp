@@ -71,6 +71,7 @@ void place(Edit& edit, bool into)
                        target.origin.y + target.size.height * 0.5f - size.height * 0.5f, size.width, size.height);
     }
     edit.selection().place(std::move(picture), box, into);
+    edit.reveal(box);
     edit.gesture().openPolygon(false);
     edit.redraw();
 }

@@ -90,7 +90,7 @@ void tool::pickColor(Edit& edit, Point point)
     const ConstBitmapView pixels = edit.picture().pixels();
     if (pixels.isEmpty() || !edit.picture().bounds().contains(point)) return;
     const int x = std::min(int(point.x), pixels.width - 1), y = std::min(int(point.y), pixels.height - 1);
-    edit.document().setPaintColor(unpackPremultiplied(pixels.row(y)[x]));
+    edit.document().movePaintColor(unpackPremultiplied(pixels.row(y)[x]));
 }
 
 } // namespace zp

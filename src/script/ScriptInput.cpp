@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Commands that act on the canvas: mouse, keys, files, operations; and those that wait.
+#include "app/MainMenu.h"
+#include "app/MainWindow.h"
 #include "app/ZPAppController.h"
 #include "base/Folders.h"
 #include "canvas/ZPCanvas.h"
 #include "desktop/KeyModifiers.h"
 #include "document/Document.h"
 #include "script/ScriptDriver.h"
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -79,6 +82,15 @@ void ScriptDriver::sendKey(const std::string& key)
     Qt::KeyboardModifiers held;
     if (bits & kShiftKey) held |= Qt::ShiftModifier;
     const QPointer<QWidget> alive(target);
+    // A shortcut comes before the key, unless the widget that has the focus needs the key for itself.
+    QKeyEvent claim(QEvent::ShortcutOverride, code, held, typed);
+    claim.ignore();
+    QApplication::sendEvent(target, &claim);
+    if (!claim.isAccepted() && window == &mController.window())
+        if (QAction* item = mController.menu().itemOfKeys(QKeySequence(QKeyCombination(held, Qt::Key(code))))) {
+            mController.menu().choose(item->property("action").toString());
+            return;
+        }
     QKeyEvent press(QEvent::KeyPress, code, held, typed);
     QApplication::sendEvent(target, &press);
     QKeyEvent release(QEvent::KeyRelease, code, held, typed);

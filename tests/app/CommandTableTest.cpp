@@ -62,7 +62,7 @@ TEST(CommandTable, RowsOfAMenuHaveTitleAndTipAndStandTogether)
             EXPECT_STRNE(row.tip, "") << row.action;
         }
     }
-    EXPECT_EQ(begun.size(), 8u);
+    EXPECT_EQ(begun.size(), 9u);
 }
 
 TEST(CommandTable, ShortcutsAreKeysAndEachIsOneCommands)

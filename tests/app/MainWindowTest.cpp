@@ -2,6 +2,10 @@
 /// The main window shows what the document has, and says to it what is chosen.
 #include "app/MainWindow.h"
 #include "canvas/ToolTable.h"
+#include "desktop/ColorWell.h"
+#include "desktop/FacePopUp.h"
+#include "desktop/Pasteboard.h"
+#include "desktop/ScrollView.h"
 #include "support/DocumentFixture.h"
 #include <QComboBox>
 #include <QLabel>
@@ -105,6 +109,74 @@ TEST_F(MainWindowControls, TheZoomPopUpHasTheLevelsAndFollows)
     EXPECT_EQ(zooms.currentText(), "800%");
     document->setZoom(0.3f);
     EXPECT_EQ(zooms.currentText(), "25%");
+}
+
+TEST_F(MainWindowControls, TheClosedZoomPopUpSaysTheTrueZoomAndItsItemsStay)
+{
+    auto& zooms = find<FacePopUp>("mZoomPopUp");
+    document->setRoom({800, 600});
+    makeImage(4000, 100);
+    EXPECT_EQ(zooms.face(), "Fit · 20 %");
+    EXPECT_EQ(zooms.currentText(), "25%");
+    document->setZoom(0.3f);
+    EXPECT_EQ(zooms.face(), "30 %");
+    document->setZoom(0.5f);
+    EXPECT_EQ(zooms.face(), "50%");
+    document->fitPicture();
+    window.canvas()->stepZoom(1);
+    EXPECT_EQ(zooms.face(), "25%") << "the next item, and no longer fitted";
+    document->setRoom({400, 300});
+    EXPECT_EQ(zooms.face(), "25%");
+    document->setZoom(0.01f);
+    window.canvas()->stepZoom(-1);
+    EXPECT_EQ(document->view().zoom(), 0.01f) << "out is never in";
+}
+
+TEST_F(MainWindowControls, WhatIsPastedComesIntoView)
+{
+    window.resize(500, 400);
+    window.show();
+    makeImage(3000, 2000);
+    window.canvas()->zoom(100);
+    Pasteboard::general().clear();
+    performNumbers("newImageForMeWithSize:", {60, 40});
+    perform("copy:");
+    makeImage(3000, 2000);
+    window.canvas()->zoom(100);
+    auto& view = find<ScrollView>("mScrollView");
+    view.placeDocumentPoint({2000, 1500}, {0, 0});
+    ASSERT_GT(view.documentVisibleRect().left(), 1000);
+    perform("paste:");
+    EXPECT_TRUE(view.documentVisibleRect().contains(QRect(0, 0, 60, 40)));
+    edit([](Edit& e) { e.reveal(makeRect(2500, 100, 50, 1900)); });
+    EXPECT_TRUE(view.documentVisibleRect().contains(QRect(2500, 100, 50, 50))) << "its near corner, it is too tall";
+}
+
+TEST_F(MainWindowControls, TheTwoLastColoursAreSwapped)
+{
+    auto& well = find<ColorWell>("mColorWell");
+    well.chooseColor({1, 0, 0, 1});
+    well.chooseColor({0, 0, 1, 1});
+    emit well.colorChosen({0, 0.5f, 1, 1}, true); // the hand goes on
+    document->swapPaintColors();
+    EXPECT_EQ(paint().color(), (Color{1, 0, 0, 1}));
+    document->swapPaintColors();
+    EXPECT_EQ(paint().color(), (Color{0, 0.5f, 1, 1}));
+}
+
+TEST_F(MainWindowControls, TheBrushGrowsAndShrinksByATenthAndAtLeastAPixel)
+{
+    struct Case {
+        float from;
+        int step;
+        float to;
+    };
+    for (const Case& c : std::initializer_list<Case>{
+             {20, 1, 22}, {20, -1, 18}, {3, 1, 4}, {2, -1, 1}, {1, -1, 1}, {200, 1, 220}, {1990, 1, 2000}}) {
+        document->setBrushSize(c.from);
+        document->stepBrushSize(c.step);
+        EXPECT_EQ(paint().size(), c.to) << c.from;
+    }
 }
 
 TEST_F(MainWindowControls, StatusAndTitleAreTheDocuments)

@@ -9,6 +9,7 @@
 #include "desktop/Pasteboard.h"
 #include "desktop/Settings.h"
 #include "desktop/Sounds.h"
+#include "support/TemporaryFolder.h"
 #include <QApplication>
 #include <QClipboard>
 #include <QImage>
@@ -16,10 +17,12 @@
 #include <QMimeData>
 #include <QTest>
 #include <QUrl>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <thread>
 
 using namespace zp;
+using namespace zp::test;
 
 TEST(DesktopPaths, KeepTheirBytesThroughAddresses)
 {
@@ -213,4 +216,29 @@ TEST(Pasteboard, TakesWhatOtherProgramsOffer)
     EXPECT_EQ(Pasteboard::general().imageData().size(), 5u);
     QApplication::clipboard()->setText("only text");
     EXPECT_FALSE(Pasteboard::general().hasImageData());
+}
+
+TEST(Pasteboard, TakesTheFirstPictureAmongFilesThatAFileManagerCopied)
+{
+    const TemporaryFolder folder;
+    const auto path = [&folder](const char* name) { return (folder.path() / name).string(); };
+    QImage image(6, 3, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    ASSERT_TRUE(image.save(QString::fromStdString(path("picture")), "PNG"));
+    std::ofstream(path("words.png")) << "no picture";
+    const auto copyFiles = [&](const std::vector<const char*>& names) {
+        auto* data = new QMimeData;
+        QList<QUrl> urls;
+        for (const char* name : names) urls << urlFromPath(path(name));
+        data->setUrls(urls);
+        QApplication::clipboard()->setMimeData(data);
+    };
+    Pasteboard& board = Pasteboard::general();
+    copyFiles({"words.png", "picture"});
+    EXPECT_TRUE(board.hasImageData());
+    const auto bytes = board.imageData();
+    EXPECT_EQ(QImage::fromData(bytes.data(), int(bytes.size())).size(), QSize(6, 3));
+    copyFiles({"words.png", "missing.png"});
+    EXPECT_FALSE(board.hasImageData());
+    EXPECT_TRUE(board.imageData().empty());
 }

@@ -72,6 +72,54 @@ TEST(View, StepsReachEveryLevelBothWays)
     }
 }
 
+TEST(View, ADocumentBeginsFittedOnlyWhenItIsLargerThanTheRoom)
+{
+    struct Case {
+        Size room, picture;
+        bool retina;
+        Fit fit;
+        float zoom;
+    };
+    for (const Case& c : std::initializer_list<Case>{
+             {{800.5f, 600.5f}, {400, 300}, false, Fit::No, 1},
+             {{800.5f, 600.5f}, {800, 600}, false, Fit::No, 1},
+             {{800.5f, 600.5f}, {1600, 300}, false, Fit::Shrink, 0.5f},
+             {{800.5f, 600.5f}, {800, 2400}, false, Fit::Shrink, 0.25f},
+             {{800.5f, 600.5f}, {1600, 1200}, true, Fit::No, 1}, // two pixels on each screen point
+             {{800.5f, 600.5f}, {3200, 300}, true, Fit::Shrink, 0.5f},
+             {{0, 0}, {9000, 9000}, false, Fit::No, 3}}) { // nobody looks
+        View view;
+        view.setZoom(3);
+        view.setRetina(c.retina);
+        view.setRoom(c.room);
+        view.begin(c.picture);
+        EXPECT_EQ(view.fit(), c.fit) << c.picture.width;
+        EXPECT_FLOAT_EQ(view.zoom(), c.zoom) << c.picture.width;
+    }
+}
+
+TEST(View, AFitFollowsTheRoomUntilAZoomIsChosen)
+{
+    const Size picture{1000, 500};
+    View view;
+    view.setRoom({500.5f, 500.5f});
+    view.begin(picture);
+    view.setRoom({250.5f, 500.5f});
+    EXPECT_TRUE(view.refit(picture));
+    EXPECT_FLOAT_EQ(view.zoom(), 0.25f);
+    EXPECT_FALSE(view.refit(picture)) << "nothing new";
+    view.setRoom({4000.5f, 4000.5f});
+    view.refit(picture);
+    EXPECT_EQ(view.zoom(), 1) << "nobody asked for more than its own pixels";
+    view.setFit(Fit::Whole);
+    view.refit(picture);
+    EXPECT_FLOAT_EQ(view.zoom(), 4);
+    view.setZoom(2);
+    view.setRoom({100, 100});
+    EXPECT_FALSE(view.refit(picture));
+    EXPECT_EQ(view.zoom(), 2);
+}
+
 TEST(View, RetinaModeDoesNotMoveTheLevels)
 {
     View view;
