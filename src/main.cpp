@@ -92,6 +92,7 @@ static int run(int argc, char** argv)
         m.setRestartHint(QSessionManager::RestartNever);
         controller.endBySignal();
     });
+    controller.rememberChoices(!scripted);
     controller.applicationWillFinishLaunching();
     controller.window().show();
     std::unique_ptr<ScriptDriver> driver;

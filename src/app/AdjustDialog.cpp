@@ -2,11 +2,14 @@
 /// Controller of the adjust dialog.
 #include "app/AdjustDialog.h"
 #include "app/PairedControls.h"
+#include "desktop/NeutralSlider.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
 #include "ui_Adjust.h"
 #include <QDialog>
 #include <array>
+#include <cmath>
+#include <numbers>
 
 using namespace zp;
 
@@ -19,6 +22,8 @@ public:
     AdjustDialog(Document& document, QWidget* parent) : QDialog(parent), mDocument(document)
     {
         mUi.setupUi(this);
+        showDegrees(-180); // the widest: the dialog keeps its size while the hue turns
+        mUi.mAdjust_HueField->setMinimumWidth(mUi.mAdjust_HueField->sizeHint().width());
         mPairs = {{{mUi.mAdjust_HueField, mUi.mAdjust_HueSlider},
                    {mUi.mAdjust_SaturationField, mUi.mAdjust_SaturationSlider},
                    {mUi.mAdjust_BrightnessField, mUi.mAdjust_BrightnessSlider},
@@ -28,6 +33,9 @@ public:
             connect(pair.field, &QSpinBox::valueChanged, this, [this, pair] { adjustSet(tagOf(pair.field)); });
             connect(pair.slider, &QSlider::valueChanged, this, [this, pair] { adjustSet(tagOf(pair.slider)); });
         }
+        const std::array<int, 5> neutral = neutralValues();
+        for (std::size_t i = 0; i < mPairs.size(); ++i)
+            static_cast<NeutralSlider*>(mPairs[i].slider)->setNeutral(neutral[i]);
         connect(mUi.mAdjust_ResetButton, &QPushButton::clicked, this, [this] { adjustReset(); });
         connect(mUi.mAdjust_ApplyButton, &QPushButton::clicked, this, &QDialog::accept);
         connect(mUi.mAdjust_CancelButton, &QPushButton::clicked, this, &QDialog::reject);
@@ -44,9 +52,7 @@ public:
 private:
     void adjustReset()
     {
-        constexpr _ZPFilters neutral;
-        const std::array<int, 5> values{neutral.hue, neutral.saturation, neutral.brightness, neutral.contrast,
-                                        neutral.sharpness};
+        const std::array<int, 5> values = neutralValues();
         for (std::size_t i = 0; i < mPairs.size(); ++i) mPairs[i].show(values[i]);
         send();
     }
@@ -55,8 +61,17 @@ private:
         for (const PairedControls& pair : mPairs) pair.synchronise(tag);
         send();
     }
+    void showDegrees(long degrees) { mUi.mAdjust_HueField->setSuffix(tr(" · %1°").arg(degrees)); }
+    /// What leaves the picture as it is.
+    static std::array<int, 5> neutralValues()
+    {
+        constexpr _ZPFilters neutral;
+        return {neutral.hue, neutral.saturation, neutral.brightness, neutral.contrast, neutral.sharpness};
+    }
     void send()
     {
+        // The field counts hundredths of a radian; beside it stands what people know.
+        showDegrees(std::lround(mUi.mAdjust_HueField->value() / 100.0 * 180 / std::numbers::pi));
         Arguments settings;
         for (const PairedControls& pair : mPairs) settings.numbers.push_back(pair.field->value());
         mDocument.perform("adjust_set:", settings);

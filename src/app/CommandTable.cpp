@@ -85,6 +85,20 @@ constexpr Command item(const char* menu, const char* title, const char* shortcut
     return command;
 }
 
+/// The same row, to be found at the end of another menu as well.
+constexpr Command alsoIn(const char* menu, Command command)
+{
+    command.alsoIn = menu;
+    return command;
+}
+
+/// The same row, and in the menu over the picture.
+constexpr Command onPicture(Command command)
+{
+    command.onPicture = true;
+    return command;
+}
+
 constexpr Command line(const char* menu) { return {.action = kSeparator, .menu = menu}; }
 
 /// A row that a script reaches by "send".
@@ -117,11 +131,11 @@ constexpr Command makesNew = {.action = "newImageWithSize:",
 
 // clang-format off: a table is read by its rows
 constexpr Command kCommands[] = {
-    item("Zelpane", "About Zelpane", "", "Version and licence", shell("about:")),
+    alsoIn("Help", item("Zelpane", "About Zelpane", "", "Version and licence", shell("about:"))),
     line("Zelpane"),
-    item("Zelpane", "Preferences…", "Ctrl+,", "Units, keys and other settings", shell("prefs:")),
+    alsoIn("Edit", item("Zelpane", "Preferences…", "Ctrl+,", "Units, keys and other settings", shell("prefs:"))),
     line("Zelpane"),
-    item("Zelpane", "Quit Zelpane", "Ctrl+Q", "Ends the program", shell("terminate:")),
+    alsoIn("File", item("Zelpane", "Quit Zelpane", "Ctrl+Q", "Ends the program", shell("terminate:"))),
 
     item("File", "New…", "Ctrl+N", "Makes a blank image", shell("newDocument:")),
     item("File", "Open…", "Ctrl+O", "Opens an image file", shell("openDocument:")),
@@ -139,38 +153,39 @@ constexpr Command kCommands[] = {
     item("File", "Open with Preview", "", "Shows the file in the desktop's image viewer",
          shell("openWithPreview:", File)),
     item("File", "Page Setup…", "Ctrl+Shift+P", "Paper size and orientation", shell("runPageLayout:")),
+    item("File", "Print…", "Ctrl+P", "Prints the image on the paper of Page Setup", shell("print:", PictureThere)),
 
     item("Edit", "Undo", "Ctrl+Z", "Takes the last change back", stepsTo("undo:", UndoStep, undo)),
     item("Edit", "Redo", "Ctrl+Shift+Z Ctrl+Y", "Brings the change back that was undone",
          stepsTo("redo:", RedoStep, redo)),
     line("Edit"),
-    item("Edit", "Cut", "Ctrl+X", "Moves the selected pixels to the clipboard",
-         paints("cut:", "Cut", Selected, kKeep, cut)),
-    item("Edit", "Copy", "Ctrl+C", "Copies the selected pixels, or the whole image, to the clipboard",
-         reads("copy:", PictureThere, copy)),
-    item("Edit", "Paste", "Ctrl+V", "Places the clipboard's image as a floating selection",
-         selects("paste:", ClipboardPicture, paste)),
-    item("Edit", "Paste Into", "Ctrl+Shift+V", "Places the clipboard's image inside the selection",
-         selects("pasteInto:", ClipboardPicture | Selected, pasteInto)),
-    item("Edit", "Delete", "Del", "Makes the selected pixels transparent",
-         paints("delete:", "Delete", Selected, kKeep, deleteSelection)),
+    onPicture(item("Edit", "Cut", "Ctrl+X", "Moves the selected pixels to the clipboard",
+                   paints("cut:", "Cut", Selected, kKeep, cut))),
+    onPicture(item("Edit", "Copy", "Ctrl+C", "Copies the selected pixels, or the whole image, to the clipboard",
+                   reads("copy:", PictureThere, copy))),
+    onPicture(item("Edit", "Paste", "Ctrl+V", "Places the clipboard's image as a floating selection",
+                   selects("paste:", ClipboardPicture, paste))),
+    onPicture(item("Edit", "Paste Into", "Ctrl+Shift+V", "Places the clipboard's image inside the selection",
+                   selects("pasteInto:", ClipboardPicture | Selected, pasteInto))),
+    onPicture(item("Edit", "Delete", "Del", "Makes the selected pixels transparent",
+                   paints("delete:", "Delete", Selected, kKeep, deleteSelection))),
     line("Edit"),
-    item("Edit", "Fill", "Ctrl+F", "Fills the selection with the paint colour",
-         paints("fill:", "Fill", Selected, kSettle, fill)),
-    item("Edit", "Stroke", "Ctrl+Shift+F", "Draws the selection's outline in the paint colour",
-         paints("stroke:", "Stroke", Selected, kSettle, stroke)),
+    onPicture(item("Edit", "Fill", "Ctrl+F", "Fills the selection with the paint colour",
+                   paints("fill:", "Fill", Selected, kSettle, fill))),
+    onPicture(item("Edit", "Stroke", "Ctrl+Shift+F", "Draws the selection's outline in the paint colour",
+                   paints("stroke:", "Stroke", Selected, kSettle, stroke))),
     item("Edit", "Smart Fill…", "Ctrl+Alt+F", "Fills the selection from its surroundings",
          settlesAndSelects("smartFill:", smartFill)),
     line("Edit"),
-    item("Edit", "Transform…", "Ctrl+T", "Scales and rotates the selected pixels",
-         shell("transform:", PictureThere | Selected)),
-    item("Edit", "Adjust…", "Ctrl+U", "Hue, saturation, brightness, contrast and sharpness of the selection",
-         shell("adjust:", PictureThere | Selected)),
+    onPicture(item("Edit", "Transform…", "Ctrl+T", "Scales and rotates the selected pixels",
+                   shell("transform:", PictureThere | Selected))),
+    onPicture(item("Edit", "Adjust…", "Ctrl+U", "Hue, saturation, brightness, contrast and sharpness of the selection",
+                   shell("adjust:", PictureThere | Selected))),
 
     item("Image", "Resize…", "Ctrl+Alt+I", "Changes the size of the image",
          shell("resize:", PictureThere | EditorWindow)),
-    item("Image", "Crop to Selection", "Ctrl+Shift+X", "Cuts the image to the selection's box",
-         replaces("cropToSelection:", "Crop", Selected, cropToSelection)),
+    onPicture(item("Image", "Crop to Selection", "Ctrl+Shift+X", "Cuts the image to the selection's box",
+                   replaces("cropToSelection:", "Crop", Selected, cropToSelection))),
     line("Image"),
     item("Image", "Rotate Clockwise", "Ctrl+]", "Turns the image by 90° to the right",
          replaces("rotateCW:", "Rotate Clockwise", Nothing, rotateCW)),
@@ -184,16 +199,19 @@ constexpr Command kCommands[] = {
     item("Image", "2x Retina Display Mode", "", "One image pixel on one pixel of a double-density screen",
          shell("retina:")),
 
-    item("Selection", "Select All", "Ctrl+A", "Selects the whole image", selects("selectAll:", Nothing, selectAll)),
-    item("Selection", "Select None", "Ctrl+D", "Drops the selection",
-         selects("selectNone:", Selected, selectNoneWithSound)),
-    item("Selection", "Select Inverse", "Ctrl+Shift+I", "Selects what is not selected",
-         settlesAndSelects("selectInverse:", selectInverse)),
+    onPicture(item("Selection", "Select All", "Ctrl+A", "Selects the whole image",
+                   selects("selectAll:", Nothing, selectAll))),
+    onPicture(item("Selection", "Select None", "Ctrl+D", "Drops the selection",
+                   selects("selectNone:", Selected, selectNoneWithSound))),
+    onPicture(item("Selection", "Select Inverse", "Ctrl+Shift+I", "Selects what is not selected",
+                   settlesAndSelects("selectInverse:", selectInverse))),
+    item("Selection", "Position and Size…", "Ctrl+Shift+T", "A rectangle by number, and what new marquees keep to",
+         shell("selectByNumber:", PictureThere)),
     item("Selection", "Reselect", "Ctrl+Shift+R", "Brings the last dropped selection back",
          selects("reselect:", DroppedSelection, reselect)),
     line("Selection"),
-    item("Selection", "Float Selection", "Ctrl+L", "Lifts the selected pixels, or puts them back (Return)",
-         anchorsOrFloats),
+    onPicture(item("Selection", "Float Selection", "Ctrl+L", "Lifts the selected pixels, or puts them back (Return)",
+                   anchorsOrFloats)),
     line("Selection"),
     item("Selection", "Save Selection…", "", "Keeps the outline under a name (key s: the default name)",
          shell("saveSelection:", PictureThere | Selected)),
@@ -204,6 +222,13 @@ constexpr Command kCommands[] = {
     item("View", "Actual Size", "Ctrl+1", "One image pixel on one pixel of the screen", looks("actualSize:")),
     item("View", "Fit to Window", "Ctrl+0", "The whole image in the window, whatever becomes of the window",
          looks("fitToWindow:", PictureThere)),
+    line("View"),
+    item("View", "Transparency as Chequerboard", "", "Transparent parts show a chequerboard instead of grey",
+         looks("chequerboard:")),
+    item("View", "Pixel Grid", "", "Lines between the pixels, from 800 % on", looks("pixelGrid:")),
+    item("View", "Keyboard Pointer", "",
+         "A crosshair that the numeric pad or Ctrl+arrows move; Ctrl+Space presses the button and lets it go",
+         looks("keyboardPointer:")),
     line("View"),
     item("View", "Full Screen", "F11", "The window on the whole screen, and back", looks("fullScreen:")),
 
@@ -223,6 +248,9 @@ constexpr Command kCommands[] = {
          shell("imageProcessor:")),
 
     item("Help", "Zelpane Help", "F1", "Where to find the User's Guide", shell("help:")),
+    item("Help", "User's Guide", "", "Opens the guide in the browser", shell("usersGuide:")),
+    item("Help", "Keyboard Shortcuts", "Ctrl+F1", "All commands and tools with their keys, which can be changed there",
+         shell("keyboardShortcuts:")),
 
     // What scripts reach by name, and the program by itself.
     sent("number number", makesNew),
@@ -239,6 +267,7 @@ constexpr Command kCommands[] = {
     plain("makeBGBlack", "", kPaint, makeBGBlack),
     plain("magentaClear", "", kPaint, magentaClear),
     plain("makeSelection", "", kPaint, makeSelection),
+    plain("selectRectangle:", "number number number number", kSelect, selectRectangle),
     plain("inverseMask", "", kSelect, inverseMask),
     plain("clearSelectionMask", "", kSelect, clearSelectionMask),
     plain("clearSelectionMaskINVERT", "", kSelect, clearSelectionMaskINVERT),

@@ -2,12 +2,20 @@
 /// The menu bar, made from the command table.
 #include "app/MainMenu.h"
 #include "app/CommandTable.h"
+#include "desktop/Settings.h"
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
 
 using namespace zp;
+
+namespace
+{
+
+const QString kKeySettings = "shortcuts/";
+
+} // namespace
 
 MainMenu::MainMenu(QMenuBar* bar, Validator validate, Performer prepare, Performer perform)
     : QObject(bar), mValidate(std::move(validate)), mPrepare(std::move(prepare)), mPerform(std::move(perform))
@@ -16,9 +24,9 @@ MainMenu::MainMenu(QMenuBar* bar, Validator validate, Performer prepare, Perform
         if (!row.menu) continue;
         QMenu*& menu = mMenus[row.menu];
         if (!menu) {
-            menu = bar->addMenu(tr(row.menu));
+            menu = bar->addMenu('&' + tr(row.menu)); // their first letters are all different
             menu->setToolTipsVisible(true);
-            connect(menu, &QMenu::aboutToShow, this, &MainMenu::validate);
+            connect(menu, &QMenu::aboutToShow, this, [this] { this->validate(); });
             // Shortcuts of a closed menu must not depend on how things were when it was last open.
             connect(menu, &QMenu::aboutToHide, this, [this] {
                 QTimer::singleShot(0, this, [this] {
@@ -45,9 +53,10 @@ void MainMenu::addRow(QMenu& menu, const Command& row)
     item->setProperty("action", action);
     item->setProperty("menu", row.menu);
     item->setToolTip(tr(row.tip));
-    QList<QKeySequence> shortcuts;
-    for (const QString& keys : QString(row.shortcut).split(' ', Qt::SkipEmptyParts)) shortcuts << QKeySequence(keys);
-    item->setShortcuts(shortcuts);
+    item->setProperty("tip", tr(row.tip));
+    item->setStatusTip(tr(row.tip));
+    item->setProperty("keys", QString(row.shortcut));
+    applyKeys(item);
     if (action == "terminate:") item->setMenuRole(QAction::QuitRole);
     mItems.insert(action, item);
     mOrder.append(item);
@@ -61,15 +70,23 @@ QAction* MainMenu::itemOfKeys(const QKeySequence& keys) const
     return nullptr;
 }
 
-QString MainMenu::menuTitleOf(QAction* item) const { return item->property("menu").toString(); }
+QString MainMenu::menuTitleOf(const QAction* item) const { return item->property("menu").toString(); }
+
+void MainMenu::validate(QAction* item)
+{
+    QString title;
+    const QString action = item->property("action").toString();
+    item->setEnabled(mValidate(action, &title));
+    if (!title.isEmpty()) item->setText(title);
+    const QString why = item->isEnabled() || !mWhyNot ? QString() : mWhyNot(action);
+    const QString tip = item->property("tip").toString();
+    item->setStatusTip(why.isEmpty() ? tip : why);
+    item->setToolTip(why.isEmpty() ? tip : tip + "\n" + why);
+}
 
 void MainMenu::validate()
 {
-    for (QAction* item : mOrder) {
-        QString title;
-        item->setEnabled(mValidate(item->property("action").toString(), &title));
-        if (!title.isEmpty()) item->setText(title);
-    }
+    for (QAction* item : mOrder) validate(item);
     for (auto state = mStates.cbegin(); state != mStates.cend(); ++state)
         item(state.key())->setChecked(state.value()());
 }
@@ -97,6 +114,88 @@ QString MainMenu::choose(const QString& action)
     if (!mValidate(action, nullptr)) return "disabled";
     mPerform(action);
     return {};
+}
+
+// ---- keys -----------------------------------------------------------------------------------------------------------
+
+void MainMenu::applyKeys(QAction* item)
+{
+    QString keys = item->property("keys").toString();
+    const QVariant changed = settings().value(kKeySettings + item->property("action").toString());
+    if (changed.isValid()) keys = changed.toString();
+    QList<QKeySequence> shortcuts;
+    for (const QString& chord : keys.split(' ', Qt::SkipEmptyParts))
+        shortcuts << QKeySequence(chord, QKeySequence::PortableText);
+    item->setShortcuts(shortcuts);
+}
+
+void MainMenu::setKeys(const QString& action, const QList<QKeySequence>& keys)
+{
+    QAction* item = mItems.value(action);
+    if (!item) return;
+    QStringList words;
+    for (const QKeySequence& chord : keys) words << chord.toString(QKeySequence::PortableText);
+    settings().setValue(kKeySettings + action, words.join(' '));
+    applyKeys(item);
+}
+
+void MainMenu::giveKeysBack(const QString& action)
+{
+    QAction* item = mItems.value(action);
+    if (!item) return;
+    QStringList free;
+    for (const QString& chord : item->property("keys").toString().split(' ', Qt::SkipEmptyParts)) {
+        const QAction* owner = itemOfKeys(QKeySequence(chord));
+        const bool given =
+            owner && owner != item && !settings().value(kKeySettings + owner->property("action").toString()).isValid();
+        if (!owner || owner == item || given) free << chord;
+    }
+    settings().remove(kKeySettings + action);
+    if (free.join(' ') != item->property("keys").toString()) settings().setValue(kKeySettings + action, free.join(' '));
+    applyKeys(item);
+}
+
+void MainMenu::giveAllKeysBack()
+{
+    for (QAction* item : mOrder) settings().remove(kKeySettings + item->property("action").toString());
+    for (QAction* item : mOrder) applyKeys(item);
+}
+
+// ---- other menus ----------------------------------------------------------------------------------------------------
+
+void MainMenu::addElsewhere()
+{
+    for (const Command& row : commandTable()) {
+        QMenu* menu = row.alsoIn ? mMenus.value(row.alsoIn) : nullptr;
+        if (!menu) continue;
+        menu->addSeparator();
+        menu->addAction(mItems.value(row.action));
+    }
+}
+
+QMenu* MainMenu::makePictureMenu(QWidget* parent)
+{
+    validate();
+    auto* menu = new QMenu(parent);
+    menu->setObjectName("PictureMenu");
+    menu->setToolTipsVisible(true);
+    const char* last = nullptr;
+    bool line = false;
+    for (const Command& row : commandTable()) {
+        // A line where the menus have one, or where another menu's rows begin; none before the first command.
+        line |= std::string_view(row.action) == kSeparator || (last && row.menu && std::string_view(last) != row.menu);
+        last = row.menu;
+        if (!row.onPicture) continue;
+        if (line && !menu->isEmpty()) menu->addSeparator();
+        line = false;
+        menu->addAction(mItems.value(row.action));
+    }
+    connect(menu, &QMenu::aboutToHide, this, [this] {
+        QTimer::singleShot(0, this, [this] {
+            for (QAction* item : mOrder) item->setEnabled(true);
+        });
+    });
+    return menu;
 }
 
 void cleanUpEditMenu(QMenu* menu)

@@ -32,20 +32,35 @@ public:
     QAction* itemOfKeys(const QKeySequence& keys) const;
     const QList<QAction*>& items() const { return mOrder; }
     QMenu* menu(const QString& title) const { return mMenus.value(title); }
-    QString menuTitleOf(QAction* item) const;
+    QString menuTitleOf(const QAction* item) const;
     /// Enabled states and titles as they are now.
     void validate();
     /// Chooses the item if it is enabled. @return an error in a word or two, empty when chosen
     QString choose(const QString& action);
     /// Gives an item a check mark that says what @p isOn answers whenever the menus are validated.
     void setState(const QString& action, std::function<bool()> isOn);
+    /// Why the item cannot be chosen now, in a sentence; empty when it can.
+    using Reason = std::function<QString(const QString& action)>;
+    void setReason(Reason why) { mWhyNot = std::move(why); }
+    /// Other keys than the table's, kept in the settings.
+    void setKeys(const QString& action, const QList<QKeySequence>& keys);
+    /// The table's keys again. What another item has taken of them stays there.
+    void giveKeysBack(const QString& action);
+    void giveAllKeysBack();
+    /// Adds the items that also stand in other menus than their own, at the ends of these.
+    void addElsewhere();
+    /// The commands of the table that belong over the picture, validated. The caller shows and deletes it.
+    QMenu* makePictureMenu(QWidget* parent);
     QMenu* recentMenu() const { return mRecent; }
 
 private:
+    void validate(QAction* item);
     void addRow(QMenu& menu, const zp::Command& row);
     void choose(QAction* item);
+    void applyKeys(QAction* item);
     Validator mValidate;
     Performer mPrepare, mPerform;
+    Reason mWhyNot;
     QHash<QString, QAction*> mItems;
     QHash<QString, QMenu*> mMenus;
     QHash<QString, std::function<bool()>> mStates;

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Wires the main window's controls to the canvas.
 #include "app/MainWindow.h"
+#include "app/AccessibleWidgets.h"
+#include "app/EmptyView.h"
 #include "app/Icons.h"
+#include "app/SelectionChip.h"
+#include "app/StatusLine.h"
 #include "base/Folders.h"
+#include "canvas/HandlesOverlay.h"
 #include "canvas/ToolTable.h"
 #include "canvas/ZPCanvas.h"
 #include "codecs/ImageImporter.h"
@@ -16,12 +21,14 @@
 #include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QFile>
-#include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 #include <QToolButton>
 #include <QUrl>
 
@@ -33,40 +40,67 @@ namespace
 constexpr const char* kZoomTitles[] = {"6.25%", "12.5%", "25%", "50%", "100%", "200%", "400%", "800%", "1600%"};
 static_assert(std::size(kZoomTitles) == kZoomLevels.size());
 
-/// A zoom as people say it.
-QString percent(float zoom)
-{
-    const double value = double(zoom) * 100;
-    return QString("%1 %").arg(value, 0, 'g', value >= 1000 ? 4 : 3);
-}
-
 QString tool(const char* text) { return QCoreApplication::translate("Tools", text); }
 
 } // namespace
 
 MainWindow::MainWindow(Document& document)
-    : mUi(std::make_unique<Ui::Main>()), mDocument(document), mCanvas(new ZPCanvas(document))
+    : mUi((installAccessibleWidgets(), std::make_unique<Ui::Main>())),
+      mDocument(document),
+      mCanvas(new ZPCanvas(document))
 {
     mUi->setupUi(this);
+    for (const auto& [bar, name] :
+         {std::pair<QWidget*, QString>(mUi->optionsBar, tr("Tool options")), {mUi->toolStrip, tr("Tools")}}) {
+        makeAccessibleToolBar(*bar);
+        bar->setAccessibleName(name);
+    }
     mUi->mScrollView->setWidget(mCanvas);
+    new HandlesOverlay(*mCanvas, mUi->mScrollView->viewport());
     mUi->mScrollView->viewport()->setCursor(Qt::CrossCursor);
+    mEmpty = new EmptyView(mDocument, mUi->mScrollView->viewport());
+    connect(mEmpty, &EmptyView::commandChosen, this, [this](const QString& action) {
+        if (performAction) performAction(action);
+    });
+    connect(mEmpty, &EmptyView::fileChosen, this, [this](const std::string& path) {
+        if (openDroppedFile) openDroppedFile(path);
+    });
     setUpTools();
     setUpToolOptions();
     setUpZoom();
     setUpSwitches();
-    setUpStatusLine();
-    mUi->optionsBar->setMinimumHeight(mUi->mZoomPopUp->sizeHint().height() + 13);
+    mChip = new SelectionChip(mUi->optionsBar);
+    mUi->options->insertWidget(mUi->options->indexOf(mUi->switches) + 1, mChip);
+    connect(mChip, &SelectionChip::chosen, this, [this](const QString& action) {
+        giveFocusBack();
+        if (performAction) performAction(action);
+    });
+    mStatus = new StatusLine(*statusBar(), mDocument);
+    // One height for every tool: the picture must not jump when the brush's tips come.
+    mUi->mBrushPopUp->setMaximumHeight(mUi->mZoomPopUp->sizeHint().height());
+    mUi->optionsBar->setFixedHeight(mUi->mZoomPopUp->sizeHint().height() + 13);
+    auto* menuKey = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    connect(menuKey, &QShortcut::activated, this,
+            [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
 
     connect(&mDocument, &Document::toolChosen, this, &MainWindow::showTool);
     connect(&mDocument, &Document::paintChanged, this, &MainWindow::showPaint);
     connect(&mDocument, &Document::zoomChanged, this, &MainWindow::showZoom);
     connect(&mDocument, &Document::changed, this, &MainWindow::showStatus);
-    connect(&mDocument, &Document::pointerMoved, this, &MainWindow::showPointer);
+    connect(&mDocument, &Document::pointerMoved, mStatus, &StatusLine::showPointer);
     connect(&mDocument, &Document::busyChanged, mUi->mBusyIndicator, &QWidget::setVisible);
     showTool();
     showPaint();
     showZoom();
     showStatus();
+    // Tool, colour, size, its options, zoom, picture.
+    QWidget* last = nullptr;
+    for (QWidget* next : std::initializer_list<QWidget*>{
+             mUi->mToolPopUp, mUi->mColorWell, mUi->mSizeSlider, mUi->mSizeField, mUi->mBrushPopUp,
+             mUi->mToleranceSlider, mUi->mToleranceField, mUi->switches, mChip, mUi->mZoomPopUp, mCanvas}) {
+        if (last) setTabOrder(last, next);
+        last = next;
+    }
     resize(1180, 780);
     mCanvas->setFocus(); // single keys are commands of the canvas
 }
@@ -82,11 +116,13 @@ void MainWindow::setUpTools()
         mUi->mToolPopUp->setItemData(int(row.tool), QString("%1 (%2)").arg(tip, key), Qt::ToolTipRole);
         auto* button = new QToolButton(mUi->toolStrip);
         button->setCheckable(true);
+        button->setAutoExclusive(true); // one of several, a screen reader says
         button->setAutoRaise(true);
         button->setIconSize({22, 22});
         button->setFocusPolicy(Qt::TabFocus);
         button->setToolTip(QString("<b>%1</b> (%2)<br>%3").arg(title, key, tip));
         button->setAccessibleName(title);
+        button->setAccessibleDescription(QString("%1 (%2)").arg(tip, key)); // the tool tip's markup is for the eye
         group->addButton(button, int(row.tool));
         mUi->toolColumn->addWidget(button);
         mToolButtons.push_back(button);
@@ -141,7 +177,7 @@ void MainWindow::setUpZoom()
         mCanvas->zoom(double(kZoomLevels[std::size_t(index)]) * 100);
         giveFocusBack();
     });
-    mUi->mZoomPopUp->setWidestFace(tr("Fit · %1").arg(percent(0.0888f)));
+    mUi->mZoomPopUp->setWidestFace(tr("Fit · %1").arg(zoomInWords(0.0888f)));
     const auto inPicture = [this](QPointF p) {
         const double z = mDocument.view().effectiveZoom();
         return Point{float(p.x() / z), float(p.y() / z)};
@@ -193,23 +229,6 @@ void MainWindow::setUpSwitches()
         });
         connect(button, &QToolButton::clicked, this, &MainWindow::giveFocusBack);
     }
-}
-
-void MainWindow::setUpStatusLine()
-{
-    const auto label = [this](const char* tip, const char* widest, int stretch) {
-        auto* l = new QLabel(this);
-        l->setToolTip(tr(tip));
-        l->setMinimumWidth(l->fontMetrics().horizontalAdvance(widest));
-        l->setContentsMargins(6, 0, 6, 0);
-        statusBar()->addWidget(l, stretch);
-        return l;
-    };
-    mInfoField = label("Box of the selection", "{{00000, 00000}, {00000, 00000}}", 1);
-    mInfoField->setObjectName("mInfoField");
-    mPointerLabel = label("Position and colour under the pointer", "00000, 00000   #00000000", 0);
-    mPointerLabel->setObjectName("mPointerField");
-    mImageLabel = label("Size of the image and zoom", "00000 × 00000 · 1600 %", 0);
 }
 
 void MainWindow::setToolImages()
@@ -273,49 +292,34 @@ void MainWindow::showZoom()
     mUi->mZoomPopUp->setCurrentIndex(view.nearestLevel());
     const bool isLevel = kZoomLevels[std::size_t(view.nearestLevel())] == view.zoom();
     if (view.fit() != Fit::No)
-        mUi->mZoomPopUp->setFace(tr("Fit · %1").arg(percent(view.zoom())));
+        mUi->mZoomPopUp->setFace(tr("Fit · %1").arg(zoomInWords(view.zoom())));
     else
-        mUi->mZoomPopUp->setFace(isLevel ? QString() : percent(view.zoom()));
+        mUi->mZoomPopUp->setFace(isLevel ? QString() : zoomInWords(view.zoom()));
 }
 
 void MainWindow::giveFocusBack() { mCanvas->setFocus(); }
 
-void MainWindow::showPointer()
-{
-    const Point p = mDocument.view().pointer();
-    const int x = int(std::floor(p.x)), y = int(std::floor(p.y));
-    QString text = QString("%1, %2").arg(x).arg(y);
-    const ConstBitmapView pixels = mDocument.picture().pixels();
-    if (pixels.box().contains(x, y)) {
-        const std::uint8_t* pixel = pixels.pixel(x, y);
-        const int alpha = pixel[0];
-        const auto plain = [alpha](int c) { return alpha ? std::min(255, (c * 255 + alpha / 2) / alpha) : 0; };
-        text += QString("   #%1%2%3")
-                    .arg(plain(pixel[1]), 2, 16, QChar('0'))
-                    .arg(plain(pixel[2]), 2, 16, QChar('0'))
-                    .arg(plain(pixel[3]), 2, 16, QChar('0'));
-        if (alpha < 255) text += QString(" %1 %").arg(qRound(alpha / 2.55));
-    }
-    mPointerLabel->setText(text);
-}
-
 void MainWindow::showStatus()
 {
-    mInfoField->setText(QString::fromStdString(mDocument.infoText()));
-    showPointer();
+    mStatus->show();
+    announce(*mCanvas);
+    mChip->show(mDocument);
     const Picture& picture = mDocument.picture();
     if (!picture.isLoaded()) {
-        mImageLabel->clear();
         setWindowTitle("Zelpane");
         return;
     }
-    mImageLabel->setText(QString("%1 × %2 · %3 %")
-                             .arg(picture.width())
-                             .arg(picture.height())
-                             .arg(double(mDocument.view().zoom()) * 100, 0, 'g', 4));
     const std::string name = displayName(lastPathComponent(picture.path()));
     setWindowTitle(name.empty() ? tr("Untitled — Zelpane") : QString("%1 — Zelpane").arg(QString::fromStdString(name)));
 }
+
+void MainWindow::chooseBrush(int shape, int tolerance)
+{
+    if (shape >= 0 && shape < mUi->mBrushPopUp->count()) mUi->mBrushPopUp->setCurrentIndex(shape);
+    if (tolerance >= 0) mUi->mToleranceSlider->setValue(tolerance);
+}
+
+void MainWindow::refreshInvitation() { mEmpty->refresh(); }
 
 void MainWindow::toggleFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
 
@@ -326,17 +330,29 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+    if (!event->mimeData()->hasUrls()) return;
+    event->acceptProposedAction();
+    mEmpty->setHovered(true);
 }
+
+void MainWindow::dragLeaveEvent(QDragLeaveEvent*) { mEmpty->setHovered(false); }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
+    mEmpty->setHovered(false);
     for (const QUrl& url : event->mimeData()->urls())
         if (url.isLocalFile() && openDroppedFile) {
             event->acceptProposedAction();
             openDroppedFile(QFile::encodeName(url.toLocalFile()).toStdString());
             return;
         }
+}
+
+bool MainWindow::event(QEvent* event)
+{
+    if (event->type() != QEvent::StatusTip) return QMainWindow::event(event);
+    mStatus->setPassingHint(static_cast<QStatusTipEvent*>(event)->tip());
+    return true;
 }
 
 void MainWindow::changeEvent(QEvent* event)

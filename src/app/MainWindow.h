@@ -7,9 +7,11 @@
 #include <string>
 #include <vector>
 
-class QLabel;
+class EmptyView;
 class QToolButton;
 class ScrollView;
+class SelectionChip;
+class StatusLine;
 class ZPCanvas;
 namespace zp
 {
@@ -29,38 +31,44 @@ public:
     explicit MainWindow(zp::Document& document);
     ~MainWindow() override;
     ZPCanvas* canvas() const { return mCanvas; }
+    const StatusLine& statusLine() const { return *mStatus; }
     /// Sets every item of the tool pop-up and of the strip to the image named like it.
     void setToolImages();
     void toggleFullScreen();
+    /// The empty window looks again which files it can offer.
+    void refreshInvitation();
+    /// Shape of the brush tip and tolerance, as choosing them does; a negative tolerance leaves it.
+    void chooseBrush(int shape, int tolerance);
 
     std::function<bool()> mayClose; ///< asked before the window closes
     std::function<void(const std::string&)> openDroppedFile;
+    std::function<void(const QString&)> performAction; ///< a menu command, by its action
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void setUpTools();
     void setUpToolOptions();
     void setUpZoom();
     void setUpSwitches();
-    void setUpStatusLine();
     void showTool();   ///< the chosen tool and the options that its row puts on show
     void showPaint();  ///< colour and size
     void showZoom();   ///< the level nearest to the zoom, and on the closed pop-up the zoom itself
     void showStatus(); ///< status line and title, all of it from the document
-    void showPointer();
     void giveFocusBack();
 
     std::unique_ptr<Ui::Main> mUi;
     zp::Document& mDocument;
     ZPCanvas* mCanvas;
-    QLabel* mInfoField;
-    QLabel* mPointerLabel;
-    QLabel* mImageLabel;
+    SelectionChip* mChip;
+    EmptyView* mEmpty;
+    StatusLine* mStatus;
     std::vector<QToolButton*> mToolButtons;
     struct Switch {
         QToolButton* button;

@@ -2,6 +2,8 @@
 /// Controllers of the new-image, resize and save-name dialogs.
 #include "app/SizeDialogs.h"
 #include "app/SizeArithmetic.h"
+#include "app/StatusLine.h"
+#include "app/ZPPrefs.h"
 #include "base/Folders.h"
 #include "codecs/FileNames.h"
 #include "codecs/ImageImporter.h"
@@ -47,8 +49,10 @@ public:
 class ResizeDialog : public QDialog
 {
 public:
-    ResizeDialog(QWidget* parent, Size original) : QDialog(parent), mOriginal(original)
+    ResizeDialog(QWidget* parent, const Document& document) : QDialog(parent), mOriginal(document.picture().size())
     {
+        if (const auto bitmap = document.picture().bitmap())
+            mXDpi = bitmap->properties.xDpi, mYDpi = bitmap->properties.yDpi;
         ui.setupUi(this);
         for (QLineEdit* field : {ui.mResize_Width_P, ui.mResize_Height_P}) {
             auto* number = new QDoubleValidator(field);
@@ -58,9 +62,15 @@ public:
         }
         for (QSpinBox* field : {ui.mResize_Width, ui.mResize_Height})
             connect(field, &QSpinBox::valueChanged, this, [this, field] { resizeSet(field->property("tag").toInt()); });
+        const auto follow = [this] {
+            ui.mResize_Place->setEnabled(!ui.mResize_ScaleImage->isChecked());
+            ui.mResize_SharpPixels->setEnabled(ui.mResize_ScaleImage->isChecked());
+        };
+        connect(ui.mResize_ScaleImage, &QCheckBox::toggled, this, follow);
+        follow();
         connect(ui.mResize_OKButton, &QPushButton::clicked, this, &QDialog::accept);
         connect(ui.mResize_CancelButton, &QPushButton::clicked, this, &QDialog::reject);
-        show(ResizeFields{int(original.width), int(original.height), 100, 100}, 0);
+        show(ResizeFields{int(mOriginal.width), int(mOriginal.height), 100, 100}, 0);
     }
 
     Ui::Resize ui;
@@ -83,8 +93,12 @@ private:
         if (changed != int(ResizeTag::HeightPercent)) ui.mResize_Height_P->setText(percentText(f.heightPercent));
         ui.mResize_FileSize->setText(
             QString::fromStdString(fileSizeEstimate(ui.mResize_Width->value(), ui.mResize_Height->value())));
+        ui.mResize_InUnit->setText(
+            extentInWords({float(ui.mResize_Width->value()), float(ui.mResize_Height->value())}, mXDpi, mYDpi));
+        ui.mResize_InUnit->setVisible(ZPPrefs::unit() != ZPPrefs::Pixels);
     }
     Size mOriginal;
+    double mXDpi = 0, mYDpi = 0;
 };
 
 class NameDialog : public QDialog
@@ -145,14 +159,16 @@ void runNewDialog(Document& document, QWidget* parent, const std::function<void(
 
 void runResizeDialog(Document& document, QWidget* parent)
 {
-    ResizeDialog dialog(parent, document.picture().size());
+    ResizeDialog dialog(parent, document);
     dialog.ui.mResize_Width->selectAll();
     centerWindow(&dialog, parent);
     if (dialog.exec() != QDialog::Accepted) return;
-    document.perform("setImageSize:scale:",
-                     {{double(dialog.ui.mResize_Width->value()), double(dialog.ui.mResize_Height->value()),
-                       dialog.ui.mResize_ScaleImage->isChecked() ? 1.0 : 0.0},
-                      {}});
+    document.perform(
+        "setImageSize:scale:",
+        {{double(dialog.ui.mResize_Width->value()), double(dialog.ui.mResize_Height->value()),
+          dialog.ui.mResize_ScaleImage->isChecked() ? 1.0 : 0.0, double(dialog.ui.mResize_Place->currentIndex()),
+          dialog.ui.mResize_SharpPixels->isChecked() ? 1.0 : 0.0},
+         {}});
 }
 
 void runNameDialog(Document& document, QWidget* parent, const std::function<void()>& afterSaving)

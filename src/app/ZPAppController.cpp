@@ -5,7 +5,11 @@
 #include "app/CommandTable.h"
 #include "app/MainMenu.h"
 #include "app/MainWindow.h"
+#include "app/PicturePrinting.h"
+#include "app/RecentFiles.h"
 #include "app/SavedSelectionDialogs.h"
+#include "app/SelectionByNumber.h"
+#include "app/ShortcutsWindow.h"
 #include "app/SizeDialogs.h"
 #include "app/TransformDialog.h"
 #include "app/ZPAboutBox.h"
@@ -30,6 +34,7 @@
 #include "windows/ZPTextEditor.h"
 #include <QAction>
 #include <QApplication>
+#include <QColor>
 #include <QDesktopServices>
 #include <QFile>
 #include <QMenu>
@@ -40,12 +45,20 @@ using namespace zp;
 namespace
 {
 
-constexpr int kRecentFiles = 10;
 const char* const kPreferencesFile = "com.orvanta.Zelpane.plist";
 const char* const kRetinaFile = "2xRetina.txt";
 
 /// The launch begins with an empty history.
 constexpr Command kBegin{.action = "launch", .effect = Effect::Replace};
+
+QString colorText(Color c) { return QColor::fromRgbF(c.red, c.green, c.blue, c.alpha).name(QColor::HexArgb); }
+
+std::optional<Color> colorOf(const QString& text)
+{
+    const QColor c(text);
+    if (!c.isValid()) return std::nullopt;
+    return Color{float(c.redF()), float(c.greenF()), float(c.blueF()), float(c.alphaF())};
+}
 
 QString toText(const std::string& path) { return QString::fromStdString(displayName(path)); }
 
@@ -67,6 +80,10 @@ ZPAppController::ZPAppController()
     if (retina) mDocument->setRetina(true);
     mMenu->setState("fitToWindow:", [this] { return mDocument->view().fit() != Fit::No; });
     mMenu->setState("fullScreen:", [this] { return mWindow->isFullScreen(); });
+    mMenu->setState("chequerboard:", [this] { return mDocument->view().isChequered(); });
+    mMenu->setState("pixelGrid:", [this] { return mDocument->view().hasGrid(); });
+    mMenu->setState("keyboardPointer:", [this] { return mCanvas->hasKeyboardPointer(); });
+    mMenu->setReason([this](const QString& action) { return whyNot(action); });
     // Windows stand above the canvas: it reaches the text editor through these.
     setTextToolHooks({[](int size) { ZPTextEditor::sharedInstance()->setFontSize(size); },
                       [] { ZPTextEditor::sharedInstance()->showWindow(); },
@@ -75,6 +92,9 @@ ZPAppController::ZPAppController()
                       [] { return ZPTextEditor::sharedInstance()->isValid(); }});
     ZPSmartFill::registerCommand();
     ZPPrefs::applyStored();
+    mWindow->performAction = [this](const QString& action) { mMenu->choose(action); };
+    connect(mCanvas, &ZPCanvas::menuRequested, this, &ZPAppController::showPictureMenu);
+    setFrameAutosaveName(mWindow.get(), "Main");
     mWindow->mayClose = [this] {
         if (!mTerminated) terminate();
         return mTerminated;
@@ -105,6 +125,7 @@ void ZPAppController::applicationDidFinishLaunching(bool startChoice)
     ColorWell::setPanelShowsAlpha(true);
     mWindow->setToolImages();
     cleanUpEditMenu(mMenu->menu("Edit"));
+    mMenu->addElsewhere();
     // What a crashed program left in the folder is moved aside first, so that it can still be offered below. A document
     // opened by this launch has its folder already, and maybe its first snapshot.
     if (!mLaunchFromDocument) mDocument->perform(kBegin, [](Edit& edit) { edit.history().reset(); });
@@ -113,7 +134,9 @@ void ZPAppController::applicationDidFinishLaunching(bool startChoice)
     migratePreferences();
     if (!fileExists(libraryFolder())) createFolder(libraryFolder());
     placeSampleImage();
+    mWindow->refreshInvitation();
     centerWindow(mWindow.get());
+    if (mRemembers) bringBackChoices();
     const bool recovered = offerRecovery();
     if (startChoice && !recovered && !mLaunchFromDocument && !(currentKeyModifiers() & kShiftKey)) {
         switch (runAlert(tr("What would you like to do? Create a new image or open an existing image."), "",
@@ -180,8 +203,39 @@ void ZPAppController::endBySignal()
     QCoreApplication::exit(0); // of every loop, a dialog's as well
 }
 
+void ZPAppController::remember()
+{
+    Settings& kept = settings();
+    const Color color = mDocument->paint().color();
+    kept.setValue("last/tool", int(mDocument->gesture().tool()));
+    kept.setValue("last/size", double(mDocument->paint().size()));
+    kept.setValue("last/brush", mDocument->paint().brushShape());
+    kept.setValue("last/tolerance", mDocument->paint().toleranceSetting());
+    kept.setValue("last/color", colorText(color));
+    kept.setValue("last/otherColor", colorText(mDocument->paint().otherColor()));
+    kept.setValue("last/chequered", mDocument->view().isChequered());
+    kept.setValue("last/grid", mDocument->view().hasGrid());
+    kept.setValue("last/docks", mWindow->saveState());
+}
+
+void ZPAppController::bringBackChoices()
+{
+    const Settings& kept = settings();
+    mWindow->restoreState(kept.value("last/docks").toByteArray());
+    if (const std::optional<Color> other = colorOf(kept.value("last/otherColor").toString()))
+        mDocument->setPaintColor(*other);
+    if (const std::optional<Color> color = colorOf(kept.value("last/color").toString()))
+        mDocument->setPaintColor(*color);
+    mDocument->setChequered(kept.value("last/chequered").toBool());
+    mDocument->setGrid(kept.value("last/grid").toBool());
+    if (kept.value("last/size").isValid()) mDocument->setBrushSize(kept.value("last/size").toFloat());
+    mWindow->chooseBrush(kept.value("last/brush").toInt(), kept.value("last/tolerance", -1).toInt());
+    mCanvas->setTool(kept.value("last/tool").toInt());
+}
+
 void ZPAppController::applicationWillTerminate()
 {
+    if (mRemembers) remember();
     if (mKeepsWork) {
         mDocument->endGesture();
         mDocument->waitForWorkers();
@@ -208,23 +262,11 @@ void ZPAppController::openPath(const std::string& path)
     if (mDocument->picture().isLoaded()) noteRecentFile(path);
 }
 
-void ZPAppController::noteRecentFile(const std::string& path)
-{
-    QStringList recent = settings().value("recentFiles").toStringList();
-    // Kept as percent-encoded bytes, so that names that are not UTF-8 survive.
-    const QString entry = QString::fromLatin1(QByteArray::fromStdString(path).toPercentEncoding("/"));
-    recent.removeAll(entry);
-    recent.prepend(entry);
-    while (recent.size() > kRecentFiles) recent.removeLast();
-    settings().setValue("recentFiles", recent);
-}
-
 void ZPAppController::fillRecentMenu()
 {
     QMenu* menu = mMenu->recentMenu();
     menu->clear();
-    for (const QString& entry : settings().value("recentFiles").toStringList()) {
-        const std::string path = QByteArray::fromPercentEncoding(entry.toLatin1()).toStdString();
+    for (const std::string& path : recentFiles()) {
         // Names are shown as they are: an ampersand marks no key, and markup is text.
         QAction* item =
             menu->addAction(toText(lastPathComponent(path)).replace("&", "&&"), this, [this, path] { openPath(path); });
@@ -232,6 +274,13 @@ void ZPAppController::fillRecentMenu()
         item->setEnabled(fileExists(path));
     }
     if (menu->isEmpty()) menu->addAction(tr("No recent images"))->setEnabled(false);
+    menu->addSeparator();
+    menu->addAction(tr("Clear"), this,
+                    [this] {
+                        clearRecentFiles();
+                        mWindow->refreshInvitation();
+                    })
+        ->setEnabled(!recentFiles().empty());
 }
 
 void ZPAppController::openDocument()
@@ -260,12 +309,35 @@ void ZPAppController::quickSave()
 }
 
 void ZPAppController::about() { ZPAboutBox::show(); }
-void ZPAppController::prefs() { ZPPrefs::sharedPrefs()->showWindow(); }
+void ZPAppController::prefs()
+{
+    connect(ZPPrefs::sharedPrefs(), &ZPPrefs::shortcutsWanted, this, &ZPAppController::keyboardShortcuts,
+            Qt::UniqueConnection);
+    ZPPrefs::sharedPrefs()->showWindow();
+}
 
 void ZPAppController::help()
 {
     runAlert(tr("Read the User's Guide"), tr("You can find the User's Guide in the same folder as this application."),
              {tr("OK")});
+}
+
+void ZPAppController::usersGuide()
+{
+    const std::string guide = pathByAppending(shippedResourcesFolder(), "../guide/user-guide.html");
+    if (!fileExists(guide) || !QDesktopServices::openUrl(urlFromPath(guide))) help();
+}
+
+void ZPAppController::keyboardShortcuts()
+{
+    if (!mShortcuts) mShortcuts = std::make_unique<ShortcutsWindow>(*mMenu);
+    mShortcuts->showWindow();
+}
+
+void ZPAppController::showPictureMenu(QPoint position)
+{
+    std::unique_ptr<QMenu> menu(mMenu->makePictureMenu(mWindow.get()));
+    menu->exec(position);
 }
 
 void ZPAppController::imageEditor()
@@ -319,6 +391,30 @@ bool ZPAppController::validateMenuItem(const QString& action, QString* title)
     return mDocument->allows(*command);
 }
 
+QString ZPAppController::whyNot(const QString& action)
+{
+    struct Reason {
+        unsigned need;
+        const char* sentence;
+    };
+    static constexpr Reason kReasons[] = {
+        {needs::Picture, QT_TR_NOOP("Needs an image: open one or make a new one.")},
+        {needs::Selection, QT_TR_NOOP("Needs a selection.")},
+        {needs::ClipboardPicture, QT_TR_NOOP("Needs an image on the clipboard.")},
+        {needs::File, QT_TR_NOOP("Needs an image that has a file: save it first.")},
+        {needs::UndoStep, QT_TR_NOOP("There is nothing to undo.")},
+        {needs::RedoStep, QT_TR_NOOP("There is nothing to redo.")},
+        {needs::DroppedSelection, QT_TR_NOOP("No selection was dropped yet.")},
+    };
+    const Command* command = mDocument->menuCommand(action.toStdString());
+    if (!command) return {};
+    for (const Reason& reason : kReasons)
+        if (command->needs & reason.need && !mDocument->allows({.action = "", .needs = reason.need}))
+            return tr(reason.sentence);
+    if (command->needs & needs::EditorWindow && !mWindow->isVisible()) return tr("Needs the main window.");
+    return {};
+}
+
 void ZPAppController::prepare(const QString& action)
 {
     const Command* command = mDocument->menuCommand(action.toStdString());
@@ -356,9 +452,13 @@ void ZPAppController::buildShell()
     on("showWindows:", &ZPAppController::showWindows);
     on("imageProcessor:", &ZPAppController::imageProcessor);
     on("help:", &ZPAppController::help);
+    on("usersGuide:", &ZPAppController::usersGuide);
+    on("keyboardShortcuts:", &ZPAppController::keyboardShortcuts);
+    mShell["print:"] = [this] { printPicture(*mDocument); };
     mShell["saveAsTIFF:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::TIFF); };
     mShell["saveAsJPEG:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::JPEG); };
     mShell["saveAsPNG:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::PNG); };
+    mShell["selectByNumber:"] = [this] { runSelectionByNumber(*mDocument, mWindow.get()); };
     mShell["resize:"] = [this] { runResizeDialog(*mDocument, mWindow.get()); };
     mShell["transform:"] = [this] { runTransformDialog(*mDocument, mWindow.get()); };
     mShell["adjust:"] = [this] { runAdjustDialog(*mDocument, mWindow.get()); };
@@ -369,6 +469,9 @@ void ZPAppController::buildShell()
     mShell["actualSize:"] = [this] { mCanvas->zoom(100); };
     mShell["fitToWindow:"] = [this] { mDocument->fitPicture(); };
     mShell["fullScreen:"] = [this] { mWindow->toggleFullScreen(); };
+    mShell["chequerboard:"] = [this] { mDocument->setChequered(!mDocument->view().isChequered()); };
+    mShell["pixelGrid:"] = [this] { mDocument->setGrid(!mDocument->view().hasGrid()); };
+    mShell["keyboardPointer:"] = [this] { mCanvas->setKeyboardPointer(!mCanvas->hasKeyboardPointer()); };
     mShell["largerBrush:"] = [this] { mDocument->stepBrushSize(1); };
     mShell["smallerBrush:"] = [this] { mDocument->stepBrushSize(-1); };
     mShell["swapColours:"] = [this] { mDocument->swapPaintColors(); };

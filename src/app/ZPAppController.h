@@ -2,6 +2,7 @@
 /// The application's delegate: start-up, quitting, the menu commands and the dialogs they open.
 #pragma once
 #include <QObject>
+#include <QPoint>
 #include <QStringList>
 #include <functional>
 #include <map>
@@ -10,6 +11,7 @@
 
 class MainMenu;
 class MainWindow;
+class ShortcutsWindow;
 class QAction;
 class ZPCanvas;
 namespace zp
@@ -39,6 +41,11 @@ public:
     void endBySignal();
 
     bool validateMenuItem(const QString& action, QString* title);
+    /// Why it cannot be chosen, in a sentence; empty when it can or nothing is known.
+    QString whyNot(const QString& action);
+    /// The next start begins with the tool, colours and docks that this one ends with. Off for scripts, which begin
+    /// alike everywhere.
+    void rememberChoices(bool on) { mRemembers = on; }
     /// An open gesture ends before a command is validated.
     void prepare(const QString& action);
     /// Carries out the command of a menu item.
@@ -59,6 +66,8 @@ public:
     void about();
     void prefs();
     void help();
+    void usersGuide();
+    void keyboardShortcuts();
     void imageEditor();
     void fileManager();
     void showWindows();
@@ -74,8 +83,10 @@ private:
     void buildShell();
     void bringWindowToFront();
     void openPath(const std::string& path);
-    void noteRecentFile(const std::string& path);
     void fillRecentMenu();
+    void showPictureMenu(QPoint position);
+    void remember();
+    void bringBackChoices();
     bool offerRecovery(); ///< after a crash; whether a picture was brought back
     void migratePreferences();
     void placeSampleImage();
@@ -85,5 +96,6 @@ private:
     MainMenu* mMenu = nullptr;
     ZPCanvas* mCanvas = nullptr;
     std::map<QString, std::function<void()>> mShell; ///< commands that the application carries out itself
-    bool mTerminated = false, mKeepsWork = false;
+    std::unique_ptr<ShortcutsWindow> mShortcuts;
+    bool mTerminated = false, mKeepsWork = false, mRemembers = false;
 };

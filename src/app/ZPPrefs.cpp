@@ -88,6 +88,9 @@ ZPPrefs::ZPPrefs() : mUi(std::make_unique<Ui::Prefs>())
             settings().setValue(kPageSetting, page);
         mUi->mPageField->setText(projectPage());
     });
+    connect(mUi->mKeepWindowsCheck, &QCheckBox::toggled, this, [](bool on) { setWindowsKept(on); });
+    connect(mUi->mShortcutsButton, &QPushButton::clicked, this, &ZPPrefs::shortcutsWanted);
+    connect(mUi->mCloseButton, &QPushButton::clicked, this, &QWidget::close);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
     if (!setFrameAutosaveName(this, "Prefs")) centerWindow(this);
 }
@@ -125,7 +128,8 @@ void ZPPrefs::showStored()
     choose(mUi->mOptionKeyPopUp, keys[0]);
     choose(mUi->mControlKeyPopUp, keys[1]);
     choose(mUi->mCommandKeyPopUp, keys[2]);
-    const QSignalBlocker quiet(mUi->mSoundsCheck);
+    const QSignalBlocker quiet(mUi->mSoundsCheck), quietWindows(mUi->mKeepWindowsCheck);
+    mUi->mKeepWindowsCheck->setChecked(windowsAreKept());
     mUi->mSoundsCheck->setChecked(settings().value(kSoundsSetting, true).toBool());
     mUi->mPageField->setText(projectPage());
 }

@@ -31,6 +31,7 @@ public:
 
 signals:
     void unitChanged();
+    void shortcutsWanted();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

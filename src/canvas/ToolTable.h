@@ -3,7 +3,7 @@
 #pragma once
 #include "base/BitmapView.h"
 #include "document/Tool.h"
-#include <QtCore/qnamespace.h>
+#include <QString>
 #include <span>
 
 namespace zp
@@ -32,10 +32,12 @@ enum Bits : unsigned {
 
 struct ToolRow {
     Tool tool;
-    const char* title; ///< also the name of its icon; to be translated
+    const char* title; ///< also the name of its icon, which its cursor shows too; to be translated
     const char* tip;   ///< one sentence
     char key;          ///< that chooses it on the canvas
-    Qt::CursorShape cursor;
+    /// What it does with which key held, {Shift}, {Option}, {Control} and {Command} standing for the keys that have
+    /// these roles now.
+    const char* hint;
     unsigned options = options::Nothing;
     ToolActions actions;
     /// What the open gesture would leave if the button were let go now, drawn into a part of the picture whose corner
@@ -48,5 +50,7 @@ struct ToolRow {
 /// In the order of the tool numbers.
 std::span<const ToolRow> toolTable();
 const ToolRow& rowOf(Tool tool);
+/// The tool's hint for the person, with the keys that are in force.
+QString hintOf(const ToolRow& row);
 
 } // namespace zp

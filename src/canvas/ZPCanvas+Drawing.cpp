@@ -2,6 +2,7 @@
 /// What the canvas shows: the image, the stroke being drawn, the floating selection, the marching ants. Drawing looks
 /// at the document and changes nothing of it.
 #include "base/Log.h"
+#include "canvas/Backdrop.h"
 #include "canvas/DrawingState.h"
 #include "canvas/ToolTable.h"
 #include "canvas/ZPCanvas.h"
@@ -23,6 +24,8 @@ namespace
 
 /// What a line of ants may touch beside the outline itself, in device pixels.
 constexpr int kOutlineMargin = 3;
+/// The ants around what floats are so much longer than around what is only selected, and march so much faster.
+constexpr double kFloatingAnts = 2;
 
 /// Image coordinates to the canvas's device pixels.
 AffineTransform toDevicePixels(double deviceScale)
@@ -141,6 +144,7 @@ PixelBox ZPCanvas::overlayBox() const
 {
     const Picture& picture = mDocument.picture();
     const Selection& selection = mDocument.selection();
+    if (mDocument.view().isChequered()) return picture.box();
     PixelBox box;
     if (row().preview && mDocument.gesture().actions()) box = row().previewBox(mDocument);
     if (!selection.isNil() && selection.floating())
@@ -166,6 +170,7 @@ bool ZPCanvas::composeOverlays(PixelBox box)
         floating->logDrawing(mDocument.selection().isTransforming() ? " 2" : " 1");
         drawFloatingPiece(mDocument, copy, box.x0, box.y0);
     }
+    if (mDocument.view().isChequered()) layChequerboardUnder(copy, box.x0, box.y0, mDocument.view().effectiveZoom());
     return true;
 }
 
@@ -230,9 +235,12 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
     if (mDocument.gesture().pencilPath() && (tool == Tool::Pencil || tool == Tool::Eraser))
         logLine(tool == Tool::Pencil ? "drawInRect tool 4" : "drawInRect tool 5");
 
+    if (mDocument.view().hasGrid() && mDocument.view().effectiveZoom() >= kGridZoom) drawPixelGrid(target, deviceScale);
     drawOutlines(target, deviceScale);
     painter.drawImage(deviceRect.topLeft(), buffer, QRect(0, 0, mine.width(), mine.height()));
 }
+
+double ZPCanvas::pixelsPerPoint(double deviceScale) const { return deviceScale / mDocument.view().effectiveZoom(); }
 
 void ZPCanvas::drawOutlines(const ScreenTarget& target, double deviceScale)
 {
@@ -240,12 +248,23 @@ void ZPCanvas::drawOutlines(const ScreenTarget& target, double deviceScale)
     const AffineTransform toDevice = toDevicePixels(deviceScale);
     const Selection& selection = mDocument.selection();
     if (const BezierPath* outline = selection.outline()) {
-        const double pixelsPerPoint = deviceScale / mDocument.view().effectiveZoom();
-        DashStyle ants{5 * pixelsPerPoint, double(selection.phase()) * pixelsPerPoint, lineWidth};
+        const double point = pixelsPerPoint(deviceScale);
+        const double length = point * (selection.floating() ? kFloatingAnts : 1);
+        DashStyle ants{5 * length, double(selection.phase()) * length, lineWidth};
         drawAnts(target, mDrawing->selectionOutline, *outline, toDevice, ants);
         if (selection.parked()) {
             ants.phase = 0;
             drawAnts(target, mDrawing->auxOutline, *selection.parked(), toDevice, ants);
+        }
+    }
+    if (mKeyboardPointer) {
+        // A crosshair with its middle free.
+        const Point at = mDocument.view().pointer();
+        const double near = 3 * pixelsPerPoint(deviceScale), far = 12 * pixelsPerPoint(deviceScale);
+        const double x = at.x * deviceScale, y = at.y * deviceScale;
+        for (const auto& [dx, dy] : {std::pair(1, 0), {-1, 0}, {0, 1}, {0, -1}}) {
+            const DevicePoint arm[] = {{x + dx * near, y + dy * near}, {x + dx * far, y + dy * far}};
+            drawDashedLine(target, arm, 0, {2, 0, lineWidth});
         }
     }
     if (row().outline && mDocument.view().pointerInside()) {

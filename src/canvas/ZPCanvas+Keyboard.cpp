@@ -71,6 +71,8 @@ void ZPCanvas::keyDown(char32_t character)
 void ZPCanvas::keyPressEvent(QKeyEvent* event)
 {
     event->accept(); // a key that means nothing here means nothing at all
+    if (mKeyboardPointer && keyboardPointerKey(event)) return;
+    if (isModifier(event->key())) mCursorTimer.start(0);
     if (isModifier(event->key())) return mDocument.followPointer(); // the marquee may become a square or an oval
     switch (event->key()) {
     case Qt::Key_Up:
@@ -95,7 +97,10 @@ void ZPCanvas::keyPressEvent(QKeyEvent* event)
 
 void ZPCanvas::keyReleaseEvent(QKeyEvent* event)
 {
-    if (isModifier(event->key())) mDocument.followPointer();
+    if (isModifier(event->key())) {
+        mCursorTimer.start(0);
+        mDocument.followPointer();
+    }
     QWidget::keyReleaseEvent(event);
 }
 

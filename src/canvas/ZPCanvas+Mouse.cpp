@@ -4,6 +4,7 @@
 #include "canvas/ZPCanvas.h"
 #include "document/Document.h"
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QCursor>
 #include <QMouseEvent>
 #include <QScrollArea>
@@ -72,6 +73,12 @@ void ZPCanvas::mouseReleaseEvent(QMouseEvent* event)
     mDocument.setPointer(imagePoint(event->position()), mDocument.view().pointerInside());
     if (std::exchange(mButtonDown, false) || mDocument.gesture().isMouseDown())
         mDocument.release(mDocument.view().pointer());
+}
+
+void ZPCanvas::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+    if (!mButtonDown && !mDocument.gesture().isMouseDown()) emit menuRequested(event->globalPos());
 }
 
 void ZPCanvas::leaveEvent(QEvent* event)

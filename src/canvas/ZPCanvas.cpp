@@ -3,6 +3,7 @@
 #include "canvas/ZPCanvas.h"
 #include "base/Log.h"
 #include "base/NotificationCenter.h"
+#include "canvas/Cursors.h"
 #include "canvas/DrawingState.h"
 #include "canvas/ToolTable.h"
 #include "desktop/ScrollView.h"
@@ -32,6 +33,12 @@ ZPCanvas::ZPCanvas(Document& document, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
     setCursor(Qt::CrossCursor);
+    mCursorTimer.setSingleShot(true);
+    connect(&mCursorTimer, &QTimer::timeout, this, &ZPCanvas::showCursor);
+    const auto cursorMayChange = [this] { mCursorTimer.start(0); };
+    connect(&mDocument, &Document::pointerMoved, this, cursorMayChange);
+    connect(&mDocument, &Document::toolChosen, this, cursorMayChange);
+    connect(&mDocument, &Document::changed, this, cursorMayChange);
     connect(&mDocument, &Document::touched, this, &ZPCanvas::setNeedsDisplayInRect);
     connect(&mDocument, &Document::antsMoved, this, &ZPCanvas::antsNeedDisplay);
     connect(&mDocument, &Document::revealed, this, &ZPCanvas::reveal);
@@ -39,7 +46,10 @@ ZPCanvas::ZPCanvas(Document& document, QWidget* parent)
     connect(&mDocument, &Document::zoomChanged, this, &ZPCanvas::updateViewGeometry);
     connect(&mDocument, &Document::pointerMoved, this, &ZPCanvas::ringNeedsDisplay);
     connect(&mDocument, &Document::paintChanged, this, &ZPCanvas::ringNeedsDisplay);
-    connect(&mDocument, &Document::toolChosen, this, [this] { setNeedsDisplay(); });
+    connect(&mDocument, &Document::toolChosen, this, [this] {
+        ringNeedsDisplay(); // the new tool may have one where the pointer rests
+        setNeedsDisplay();
+    });
     connect(&mRestTimer, &QTimer::timeout, this, &ZPCanvas::repeatDrag);
     NotificationCenter::defaultCenter().addObserver(this, "TextEditorNotif",
                                                     [this](const Notification&) { textEditorNotif(mDocument); });
@@ -51,6 +61,12 @@ ZPCanvas::~ZPCanvas() { NotificationCenter::defaultCenter().removeObserver(this)
 Rect ZPCanvas::bounds() const { return mDocument.picture().bounds(); }
 
 const ToolRow& ZPCanvas::row() const { return rowOf(mDocument.gesture().tool()); }
+
+void ZPCanvas::showCursor()
+{
+    const QCursor wanted = cursorAt(mDocument, mDocument.view().pointer(), devicePixelRatioF());
+    if (wanted != cursor()) setCursor(wanted);
+}
 
 void ZPCanvas::showEvent(QShowEvent* event)
 {

@@ -32,6 +32,7 @@ public:
     /// The mouse's position in image coordinates, exactly and whatever the zoom, for the next event only: what a script
     /// says arrives as it was said.
     void setExactPointer(zp::Point point) { mExactPointer = point; }
+    bool awaitsExactPointer() const { return mExactPointer.has_value(); }
 
     // ---- looking (ZPCanvas+Drawing.cpp) ----------------------------------------------------------------------------
     void setNeedsDisplay() { setNeedsDisplayInRect(bounds().inset(-4)); }
@@ -63,6 +64,16 @@ public:
     void keyDown(char32_t character);
     void setTool(int index);
 
+    // ---- the pointer moved by keys (ZPCanvas+KeyboardPointer.cpp)
+    // -----------------------------------------------------
+    bool hasKeyboardPointer() const { return mKeyboardPointer; }
+    /// A crosshair that keys move, press and release, so that every tool works without a mouse.
+    void setKeyboardPointer(bool on);
+
+signals:
+    /// The right button or the menu key: the commands for what is here, at a point of the screen.
+    void menuRequested(QPoint globalPosition);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void paintRegion(QPainter& painter, const QRegion& region);
@@ -74,6 +85,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     struct DrawingState;
@@ -82,21 +94,28 @@ private:
     void antsNeedDisplay();    ///< dirties what the marching ants cover
     void ringNeedsDisplay();   ///< and what the outline of the tool covers, before and now
     zp::Point imagePoint(QPointF position);
+    void showCursor();
     void autoscroll(zp::Point point); ///< scrolls the point into view
     void repeatDrag();
     void repeatWhileResting(QPointF pointer);
     void escape();
+    bool keyboardPointerKey(QKeyEvent* event); ///< whether it was one
+    void moveKeyboardPointer(double dx, double dy, bool goesOn);
+    void pressKeyboardPointer();
 
     zp::PixelBox overlayBox() const; ///< image pixels that the stroke being drawn and the floating image may cover
     bool composeOverlays(zp::PixelBox box); ///< the picture's part with those drawn over it, into the scratch bitmap
     void drawOverlays(const zp::ScreenTarget& target, double deviceScale);
+    double pixelsPerPoint(double deviceScale) const; ///< device pixels to a screen point
     void drawOutlines(const zp::ScreenTarget& target, double deviceScale);
     const zp::ToolRow& row() const;
 
     zp::Document& mDocument;
     std::unique_ptr<DrawingState> mDrawing;
     std::optional<zp::Point> mExactPointer;
+    bool mKeyboardPointer = false;
     bool mButtonDown = false; ///< the platform said the button is down, whatever the document made of it
+    QTimer mCursorTimer;      ///< gathers what may change the cursor until the events are through
     QTimer mRestTimer;        ///< runs while a drag that scrolls the view rests beyond its edge
     QPointF mRestingPointer;  ///< where on the screen that is
 };

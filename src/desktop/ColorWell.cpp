@@ -6,13 +6,32 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
+#include <vector>
 
 namespace
 {
 
 bool panelShowsAlpha = false;
+/// As many as the panel has places for.
+constexpr std::size_t kRecentColors = 16;
 /// Milliseconds between looks whether a hand has let go.
 constexpr int kHandInterval = 30;
+
+/// The newest first, none twice. Fed by every choice, in whatever well.
+std::vector<QColor>& recentColors()
+{
+    static std::vector<QColor> colors;
+    return colors;
+}
+
+void noteRecent(const QColor& color, bool insteadOfNewest)
+{
+    std::vector<QColor>& colors = recentColors();
+    if (insteadOfNewest && !colors.empty()) colors.erase(colors.begin());
+    std::erase(colors, color);
+    colors.insert(colors.begin(), color);
+    if (colors.size() > kRecentColors) colors.pop_back();
+}
 
 QColor toQt(zp::Color c) { return QColor::fromRgbF(c.red, c.green, c.blue, c.alpha); }
 
@@ -44,6 +63,7 @@ void ColorWell::chooseColor(zp::Color color) { choose(color, false); }
 
 void ColorWell::choose(zp::Color color, bool goesOn)
 {
+    noteRecent(toQt(color), goesOn);
     setColor(color);
     emit colorChosen(color, goesOn);
 }
@@ -67,6 +87,9 @@ void ColorWell::openPanel()
         if (QGuiApplication::mouseButtons() != Qt::NoButton) mHandWatch.start();
         choose({float(c.redF()), float(c.greenF()), float(c.blueF()), float(c.alphaF())}, goesOn);
     });
+    // The colours chosen last stand where the panel keeps a person's own.
+    for (int i = 0; i < int(recentColors().size()) && i < QColorDialog::customCount(); ++i)
+        QColorDialog::setCustomColor(i, recentColors()[std::size_t(i)]);
     panel->show();
     panel->raise();
     panel->activateWindow();
@@ -98,7 +121,7 @@ void ColorWell::paintEvent(QPaintEvent*)
         painter.fillRect(rect(), color);
     }
     painter.restore();
-    const QColor edge = hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid);
+    const QColor edge = hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::PlaceholderText);
     painter.setPen(QPen(edge, hasFocus() ? 2 : 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(outline);

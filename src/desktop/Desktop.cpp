@@ -16,6 +16,10 @@ namespace zp
 namespace
 {
 
+constexpr const char* kKeptSetting = "windows/kept";
+/// On a window whose frame is kept already.
+constexpr const char* kKeptProperty = "frameIsKept";
+
 /// Saves the window's frame each time it goes out of sight, the end of the program included.
 class FrameKeeper : public QObject
 {
@@ -60,7 +64,21 @@ bool setFrameAutosaveName(QWidget* window, const QString& name)
         restored = false;
     }
     new FrameKeeper(window, key);
+    window->setProperty(kKeptProperty, restored || window->property(kKeptProperty).toBool());
     return restored;
+}
+
+bool windowsAreKept() { return settings().value(kKeptSetting, false).toBool(); }
+
+void setWindowsKept(bool on) { settings().setValue(kKeptSetting, on); }
+
+bool placeWhereKept(QWidget* window)
+{
+    if (!windowsAreKept() || window->objectName().isEmpty()) return false;
+    if (window->isVisible()) return true; // it stands where it stands
+    if (window->property(kKeptProperty).toBool()) return true;
+    window->setProperty(kKeptProperty, true);
+    return setFrameAutosaveName(window, window->objectName());
 }
 
 QString textFromPath(const std::string& path) { return QString::fromStdString(displayName(path)); }

@@ -16,6 +16,12 @@ namespace zp
 /// Restores the frame that was saved under @p name, and saves it from now on whenever the window is hidden. A frame
 /// that lies on no screen is not restored. @return whether a frame was restored
 bool setFrameAutosaveName(QWidget* window, const QString& name);
+/// Whether windows come back where a person put them instead of being centred; the setting "windows/kept".
+bool windowsAreKept();
+void setWindowsKept(bool on);
+/// When windows are kept: brings the window's last frame back, known by its object name, and keeps it from now on.
+/// @return whether it stands where it was put
+bool placeWhereKept(QWidget* window);
 
 /// A path for Qt and for people; bytes that are not UTF-8 are shown as replacements, so it may not lead back.
 QString textFromPath(const std::string& path);

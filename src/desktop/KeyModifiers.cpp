@@ -125,6 +125,8 @@ void setScriptedKeyModifiers(std::optional<std::uint32_t> bits)
     currentKeyModifiers();
 }
 
+std::optional<std::uint32_t> scriptedKeyModifiers() { return scripted; }
+
 void setSwitchedKeyModifiers(std::uint32_t bits)
 {
     switched = bits;
@@ -150,6 +152,17 @@ void setKeyRoles(const char* option, const char* control, const char* command)
         if (keyNamed(names[i]) != Qt::NoModifier) settings().setValue(kRoles[i].setting, QString::fromLatin1(names[i]));
     readRoles();
     currentKeyModifiers();
+}
+
+QString keyNameOf(std::uint32_t bit)
+{
+    if (!rolesRead) readRoles();
+    for (std::size_t i = 0; i < kRoles.size(); ++i)
+        if (kRoles[i].bit == bit)
+            return roleKeys[i] == Qt::AltModifier       ? QCoreApplication::translate("Keys", "Alt")
+                   : roleKeys[i] == Qt::ControlModifier ? QCoreApplication::translate("Keys", "Ctrl")
+                                                        : QCoreApplication::translate("Keys", "Super");
+    return QCoreApplication::translate("Keys", "Shift");
 }
 
 void installKeyModifierWatch()

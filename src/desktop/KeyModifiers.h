@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The modifier keys held at this moment, read from the keyboard's state and never from an event.
 #pragma once
+#include <QString>
 #include <cstdint>
 #include <optional>
 
@@ -19,6 +20,8 @@ std::uint32_t currentKeyModifiers();
 
 /// Exactly these keys are held from now on, whatever the keyboard says; nothing: the keyboard again. Main thread.
 void setScriptedKeyModifiers(std::optional<std::uint32_t> bits);
+/// What a script or a program holds instead of the keyboard; nothing: the keyboard is asked.
+std::optional<std::uint32_t> scriptedKeyModifiers();
 /// Bits that are held by switches on screen, or-ed to the keyboard's. Main thread.
 void setSwitchedKeyModifiers(std::uint32_t bits);
 std::uint32_t switchedKeyModifiers();
@@ -26,6 +29,8 @@ std::uint32_t switchedKeyModifiers();
 std::uint32_t keyModifiersFromQt(int qtModifiers);
 /// Which key plays which role: each of "alt", "ctrl", "meta", stored in the preferences. Main thread.
 void setKeyRoles(const char* option, const char* control, const char* command);
+/// The keyboard's name of the key that has this role now: "Shift", "Alt", "Ctrl", "Super". Main thread.
+QString keyNameOf(std::uint32_t bit);
 /// Starts watching the application's events, so that other threads see changes at once. Main thread, once.
 void installKeyModifierWatch();
 

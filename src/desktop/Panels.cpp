@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Alerts in a window of our own, so that a driver can read and answer them like a person.
 #include "desktop/Panels.h"
+#include "desktop/Desktop.h"
 #include "desktop/PanelsState.h"
 #include <QApplication>
 #include <QDialog>
@@ -10,8 +11,10 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPageSetupDialog>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QScreen>
@@ -212,19 +215,57 @@ bool modalWindowIsUp() { return QApplication::activeModalWidget() != nullptr; }
 SilencedPanels::SilencedPanels() { ++silencers; }
 SilencedPanels::~SilencedPanels() { --silencers; }
 
+namespace
+{
+
+/// The one that page layout and printing share: what was set is there the next time.
+QPrinter& sharedPrinter()
+{
+    static auto* const printer = new QPrinter(QPrinter::HighResolution);
+    return *printer;
+}
+
+} // namespace
+
 void runPageLayout()
 {
-    if (panelsAutomated()) return;                 // nobody could close it
-    static QPrinter* const printer = new QPrinter; // the shared one: what was set is there the next time
-    QPageSetupDialog dialog(printer, windowInFront());
+    if (panelsAutomated()) return; // nobody could close it
+    QPageSetupDialog dialog(&sharedPrinter(), windowInFront());
     dialog.setObjectName("PageLayout");
     dialog.exec();
+}
+
+bool runPrintPanel(const QString& title, const std::function<void(QPainter&, const QRectF&, double)>& draw)
+{
+    QPrinter& printer = sharedPrinter();
+    printer.setDocName(title);
+    if (panelsAutomated()) {
+        const std::optional<std::string> file = nextPanelChoice();
+        if (!file) return false;
+        printer.setOutputFileName(textFromPath(*file));
+    } else {
+        QPrintDialog dialog(&printer, windowInFront());
+        dialog.setObjectName("Print");
+        dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+        if (dialog.exec() != QDialog::Accepted) return false;
+    }
+    QPainter painter;
+    if (!painter.begin(&printer)) {
+        runAlert(QCoreApplication::translate("Panels", "The image could not be printed."),
+                 QCoreApplication::translate("Panels", "The printer did not take it."),
+                 {QCoreApplication::translate("Panels", "OK")});
+        return false;
+    }
+    const QRectF page = printer.pageRect(QPrinter::DevicePixel);
+    draw(painter, QRectF(QPointF(0, 0), page.size()), printer.resolution());
+    return painter.end();
 }
 
 void centerWindow(QWidget* window, const QWidget* over)
 {
     if (!window) return;
     window->ensurePolished();
+    if (window->isMaximized() || window->isFullScreen() || placeWhereKept(window)) return;
     if (!window->testAttribute(Qt::WA_WState_Created) && !window->testAttribute(Qt::WA_Resized)) window->adjustSize();
     const QWidget* main = over ? over->window() : nullptr;
     if (!main) {

@@ -6,10 +6,13 @@
 #pragma once
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+class QPainter;
+class QRectF;
 class QWidget;
 
 namespace zp
@@ -55,6 +58,10 @@ std::optional<std::string> runSavePanel(PanelRequest request);
 std::optional<std::string> runFolderPanel(PanelRequest request);
 /// The page layout panel; nothing uses its result.
 void runPageLayout();
+/// Asks for a printer and lets @p draw fill one page, whose printable part and resolution it is given; the paper is
+/// that of the page layout panel. A queued answer is the PDF file that is made instead.
+/// @return whether something was printed
+bool runPrintPanel(const QString& title, const std::function<void(QPainter&, const QRectF& page, double dpi)>& draw);
 
 /// Automation: answers of the coming file panels, in order; nothing = cancelled. Once automation is on (any call of
 /// these), a panel with nothing queued is cancelled.

@@ -76,6 +76,8 @@ QWidget* parentForPanel()
 
 bool panelsAutomated() { return automated; }
 
+std::optional<std::string> nextPanelChoice() { return nextChoice(); }
+
 std::optional<std::string> runOpenPanel(PanelRequest request)
 {
     request.kind = "open";

@@ -7,9 +7,12 @@
 #include "desktop/Desktop.h"
 #include <QBuffer>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
+#include <QTemporaryDir>
+#include <QUrl>
 #include <array>
 
 namespace zp
@@ -32,6 +35,7 @@ constexpr std::array kAccepted{kTIFF,
                                "image/webp",
                                "image/jpeg",
                                "image/jpg"};
+constexpr const char* kUriList = "text/uri-list";
 constexpr const char* kQtImage = "application/x-qt-image";
 
 /// One copied picture. Most copies are pasted here again, so PNG is made only when somebody asks for it.
@@ -73,9 +77,48 @@ std::optional<std::string> copiedPictureFile(const QMimeData* data)
     return std::nullopt;
 }
 
+/// A picture on its way to another program. Most drags end where nobody wants it, so nothing is made before it is asked
+/// for.
+class DraggedPicture : public QMimeData
+{
+public:
+    explicit DraggedPicture(std::shared_ptr<const BitmapRep> picture) : mPicture(std::move(picture)) {}
+    QStringList formats() const override { return {kPNG, kUriList}; }
+    bool hasFormat(const QString& type) const override { return type == kPNG || type == kUriList; }
+
+protected:
+    QVariant retrieveData(const QString& type, QMetaType) const override
+    {
+        if (type != kPNG && type != kUriList) return {};
+        if (mPNG.isEmpty()) {
+            const auto png = encodePNG(mPicture->view(), mPicture->properties);
+            mPNG = QByteArray(reinterpret_cast<const char*>(png.data()), qsizetype(png.size()));
+        }
+        if (type == kPNG) return mPNG;
+        // The file stays as long as the program: who took the address may read it later.
+        static QTemporaryDir folder;
+        const std::string path =
+            pathByAppending(pathFromText(folder.path()),
+                            QCoreApplication::translate("Clipboard", "Selection %1.png").arg(++mCount).toStdString());
+        if (mFile.empty() && writeFileSafely(path, mPNG.constData(), std::size_t(mPNG.size()))) mFile = path;
+        return mFile.empty() ? QByteArray() : urlFromPath(mFile).toEncoded() + "\r\n";
+    }
+
+private:
+    std::shared_ptr<const BitmapRep> mPicture;
+    mutable QByteArray mPNG;
+    mutable std::string mFile;
+    static inline int mCount = 0;
+};
+
 const QMimeData* clipboardData() { return QGuiApplication::clipboard()->mimeData(); }
 
 } // namespace
+
+std::unique_ptr<QMimeData> dataForDrag(std::shared_ptr<const BitmapRep> picture)
+{
+    return std::make_unique<DraggedPicture>(std::move(picture));
+}
 
 Pasteboard& Pasteboard::general()
 {

@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The general pasteboard: TIFF data, and what other desktop programs offer in its stead.
 #pragma once
+#include "base/BitmapRep.h"
 #include <QStringList>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
+class QMimeData;
+
 namespace zp
 {
+
+/// What a drag out of the program carries: the picture as PNG and as a file that is made when somebody asks for it.
+std::unique_ptr<QMimeData> dataForDrag(std::shared_ptr<const BitmapRep> picture);
 
 /// Main thread only.
 class Pasteboard

@@ -66,6 +66,8 @@ struct Command {
     const char* title = "";
     const char* shortcut = ""; ///< several are separated by blanks
     const char* tip = "";
+    const char* alsoIn = nullptr; ///< another menu where people look for it
+    bool onPicture = false;       ///< in the menu that the right button opens over the picture
     /// For scripts, several separated by blanks: "path"; "number"; "word", a pixel that may be written 0x…; "pixel" and
     /// "nearest", two numbers that must name a place inside the picture when they are cut or rounded.
     const char* parameters = nullptr; ///< null: scripts reach it through its menu item only

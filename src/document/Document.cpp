@@ -94,6 +94,18 @@ void Document::setRetina(bool on)
     emit changed();
 }
 
+void Document::setChequered(bool on)
+{
+    mView.setChequered(on);
+    emit touched(mPicture.bounds());
+}
+
+void Document::setGrid(bool on)
+{
+    mView.setGrid(on);
+    emit touched(mPicture.bounds());
+}
+
 void Document::setPointer(Point point, bool inside)
 {
     mView.setPointer(point);

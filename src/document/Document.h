@@ -86,6 +86,8 @@ public:
     void chooseTool(Tool tool);
     /// The marquee and the open edge of a polygon as pointer and keys have them now.
     void followPointer();
+    /// What the next marquees keep to. Ignored when a side is not above zero.
+    void setMarqueeRule(const MarqueeRule& rule);
     /// The outline of the marquee, from where the button was pressed to where the pointer is.
     void shapeMarquee();
 
@@ -97,6 +99,8 @@ public:
     /// The window has that much room for the picture, in screen points.
     void setRoom(Size room);
     void setRetina(bool on);
+    void setChequered(bool on);
+    void setGrid(bool on);
     void setOnScreen(bool on) { mView.setOnScreen(on); }
     void setPointer(Point point, bool inside);
     /// Another choice of colour, after which the one before can be swapped in.

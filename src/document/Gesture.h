@@ -14,6 +14,12 @@
 namespace zp
 {
 
+/// What a marquee keeps to while it is dragged.
+struct MarqueeRule {
+    enum Kind { Free, Ratio, FixedSize } kind = Free;
+    float width = 1, height = 1; ///< of the ratio, or in pixels; above zero
+};
+
 /// A gesture is open from an accepted press to its release, or until a command ends it or Escape takes it back. Points
 /// are image coordinates, y downwards. Main thread.
 class Gesture
@@ -39,10 +45,14 @@ public:
     bool isReferenceClick() const { return mReferenceClick; }
     bool hasStamped() const { return mStamped; }
     const BrushStroke& stroke() const { return *mStroke; }
+    const MarqueeRule& marqueeRule() const { return mMarqueeRule; }
+    Point gripPoint() const { return mGripPoint; }
+    const _ZPTransform& gripRecord() const { return mGripRecord; }
 
     // ---- transitions ---------------------------------------------------------------------------------------------
 
     void chooseTool(Tool tool) { mTool = tool; }
+    void setMarqueeRule(const MarqueeRule& rule) { mMarqueeRule = rule; }
     /// @param before  the selection, to be brought back when the gesture is taken back
     void begin(const ToolActions* actions, Point point, std::shared_ptr<Selection::Memento> before);
     /// The points and the polygon as before the press.
@@ -56,6 +66,8 @@ public:
     void setPress(Point point) { mPt1 = point; }
     void setBoth(Point point) { mPt1 = mPt2 = point; }
     void startMoving(Point point) { mPt1 = point, mMove = true; }
+    /// A handle of what floats was taken there, when its record was that.
+    void setGrip(Point point, const _ZPTransform& record) { mGripPoint = point, mGripRecord = record; }
     void noteLiftedHole() { mLiftedHole = true; }
     void openPolygon(bool open) { mPolygonLasso = open; }
     void startPencil(float width, Point point);
@@ -74,11 +86,13 @@ public:
 
 private:
     Tool mTool = Tool::Rectangle;
+    MarqueeRule mMarqueeRule;
     std::uint8_t mIsMouseDown = 0;
     const ToolActions* mActions = nullptr;
     const char* mStepName = nullptr;
     Point mPt1, mPt2, mPreviousPt2, mLastPoint;
-    Point mCloneStampRefPt;
+    Point mCloneStampRefPt, mGripPoint;
+    _ZPTransform mGripRecord;
     struct Points {
         Point pt1, pt2, reference;
         bool polygon = false;

@@ -5,6 +5,7 @@
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include <cmath>
 #include <new>
 #include <system_error>
 
@@ -171,13 +172,28 @@ void Document::followPointer()
     }
 }
 
+void Document::setMarqueeRule(const MarqueeRule& rule)
+{
+    if (rule.width > 0 && rule.height > 0 && std::isfinite(rule.width) && std::isfinite(rule.height))
+        mGesture.setMarqueeRule(rule);
+}
+
 void Document::shapeMarquee()
 {
     if (mGesture.isMoving()) return;
     const Point from = mGesture.pt1(), to = mGesture.pt2();
     Rect marquee = rectFromCorners(from, to);
     const std::uint32_t keys = currentKeyModifiers();
-    if (keys & kCommandKey) {
+    if (const MarqueeRule& rule = mGesture.marqueeRule(); rule.kind != MarqueeRule::Free) {
+        // From the press towards the pointer; of a ratio the smallest that reaches the pointer in one direction and
+        // beyond it in the other.
+        const float unit = rule.kind == MarqueeRule::FixedSize
+                               ? 1
+                               : std::max(std::abs(to.x - from.x) / rule.width, std::abs(to.y - from.y) / rule.height);
+        const float width = rule.width * unit, height = rule.height * unit;
+        marquee =
+            makeRect(to.x < from.x ? from.x - width : from.x, to.y < from.y ? from.y - height : from.y, width, height);
+    } else if (keys & kCommandKey) {
         // A square of the smaller extent, growing from the press towards the pointer.
         const float side = float(std::min(std::abs(int(to.x - from.x)), std::abs(int(to.y - from.y))));
         marquee = makeRect(to.x > from.x ? from.x : from.x - side, to.y > from.y ? from.y : from.y - side, side, side);

@@ -337,6 +337,7 @@ void Selection::bringBack(const Memento& memento)
     mFloating = memento.floating;
     if (mFloating && !memento.floatingChanged) mFloating->markUnchanged();
     mTransformRecord = memento.record;
+    mTransformMode = -1; // a handle that was held is let go
     outlineChanged();
     memento.marched ? marchAnts() : restAnts();
 }

@@ -116,6 +116,7 @@ public:
     /// New scale and rotation about the record's position, outline included.
     void transform(float scale, float rotate);
     void setTransforming(bool on) { mTransform = on; }
+    void setTransformMode(int handle) { mTransformMode = handle; } ///< the one that is dragged; -1 for none
     /// Draws the floating piece into @p pixels, clipped as the screen shows it; then nothing floats, the outline stays.
     void anchor(BitmapView pixels, float opacity);
     /// Nothing floats any more; the outline stays.

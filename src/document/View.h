@@ -40,6 +40,13 @@ public:
     /// Whether anybody sees the picture: a program that plays a script may have no window on screen.
     bool isOnScreen() const { return mOnScreen; }
 
+    /// Transparent parts show a chequerboard instead of grey.
+    bool isChequered() const { return mChequered; }
+    /// Lines between the pixels, from a zoom on at which they are large.
+    bool hasGrid() const { return mGrid; }
+
+    void setChequered(bool on) { mChequered = on; }
+    void setGrid(bool on) { mGrid = on; }
     void setZoom(float factor) { mZoom = factor, mFit = Fit::No; }
     void setFit(Fit fit) { mFit = fit; }
     void setRoom(Size room) { mRoom = room; }
@@ -62,7 +69,7 @@ private:
     Size mRoom;
     bool m2xRetina = false;
     Point mPointer;
-    bool mPointerInside = false, mOnScreen = false;
+    bool mPointerInside = false, mOnScreen = false, mChequered = false, mGrid = false;
     const char* mInfoWithoutSelection = "";
 };
 

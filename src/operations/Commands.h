@@ -26,7 +26,7 @@ Operation saveImageToPath;
 Operation quickSave;
 
 // ---- selection (ZPCanvas+Selection, +SavedSelections) ----
-Operation selectAll, selectNone, selectNoneWithSound, selectInverse, reselect;
+Operation selectRectangle, selectAll, selectNone, selectNoneWithSound, selectInverse, reselect;
 /// x, y: the outline and what floats by a step.
 Operation nudge;
 /// Return, while a polygon is drawn: it is closed, and joined with a parked outline.

@@ -32,6 +32,9 @@ std::optional<std::string> askWhereToSave(const Document& document, SaveFormat f
 /// The picture with the floating piece in its place; the picture itself when nothing floats. Null without a picture.
 /// @throws std::bad_alloc
 std::shared_ptr<const BitmapRep> pictureAsShown(const Document& document);
+/// What Copy would hand over: the selected pixels, or the whole picture without a selection; nothing is lifted for it.
+/// Null when there is nothing.
+std::shared_ptr<const BitmapRep> selectedPicture(const Document& document);
 /// Draws the floating piece into @p pixels, whose corner is the picture's pixel (x, y), as anchoring would.
 void drawFloatingPiece(const Document& document, BitmapView pixels, int x, int y);
 

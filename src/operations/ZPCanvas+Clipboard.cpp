@@ -3,7 +3,9 @@
 #include "codecs/ImageEncoder.h"
 #include "codecs/ImageImporter.h"
 #include "desktop/Pasteboard.h"
+#include "document/Document.h"
 #include "operations/Commands.h"
+#include "operations/Files.h"
 #include "operations/SelectedPixels.h"
 #include "selection/FloatingImage.h"
 #include <QCoreApplication>
@@ -104,6 +106,19 @@ void operations::deleteSelection(Edit& edit, const Arguments&)
     selection.letGo();
     if (!pieceOfItsOwn) clearInsideSelection(edit);
     edit.redraw();
+}
+
+std::shared_ptr<const BitmapRep> selectedPicture(const Document& document)
+{
+    const Selection& selection = document.selection();
+    const Picture& picture = document.picture();
+    if (selection.isNil()) return picture.bitmap();
+    const Rect box = selection.bounds();
+    if (const Floating* floating = selection.floating())
+        return copyOfFloating(floating->image(), selection.record(), *selection.outline(), box,
+                              document.paint().opacity());
+    const std::shared_ptr<Image> lifted = picture.bitmap() ? liftFloatingImage(picture.pixels(), box) : nullptr;
+    return lifted ? copyOfFloating(*lifted, floatingRecord(box), *selection.outline(), box, 1) : nullptr;
 }
 
 void clearInsideSelection(Edit& edit)

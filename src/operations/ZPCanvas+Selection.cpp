@@ -14,6 +14,16 @@ void operations::selectAll(Edit& edit, const Arguments&)
     edit.redraw();
 }
 
+void operations::selectRectangle(Edit& edit, const Arguments& arguments)
+{
+    const Rect box = makeRect(arguments.number(0), arguments.number(1), arguments.number(2), arguments.number(3));
+    if (!edit.picture().bitmap() || !(box.size.width > 0) || !(box.size.height > 0)) return edit.refuse();
+    edit.selection().select(BezierPath::withRect(box));
+    edit.gesture().openPolygon(false);
+    edit.redraw();
+    edit.reveal(box);
+}
+
 void operations::selectNone(Edit& edit, const Arguments&)
 {
     edit.selection().drop();

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// What a screen reader is told of widgets that the toolkit does not know: the picture and the two tool bars.
+#pragma once
+
+class MainWindow;
+class QWidget;
+
+/// Once, before the first window: the picture is a graphic with a value, tool bars are tool bars.
+void installAccessibleWidgets();
+/// The widget is a tool bar for screen readers.
+void makeAccessibleToolBar(QWidget& bar);
+/// The picture's value, its selection or what was said last is another now. Costs nothing when nobody listens.
+void announce(QWidget& canvas);

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The line below the picture, in words for people: selection, hint or message, pointer, picture and zoom.
+#pragma once
+#include "base/Geometry.h"
+#include <QObject>
+
+class ElidedLabel;
+class QLabel;
+class QStatusBar;
+namespace zp
+{
+class Document;
+}
+
+/// "10, 20 · 300 × 200 px" of a box of @p pixels in the unit that the preferences say, by a resolution.
+QString sizeInWords(zp::Rect pixels, double xDpi, double yDpi);
+/// "300 × 200 px", the same of a size alone.
+QString extentInWords(zp::Size pixels, double xDpi, double yDpi);
+/// A zoom factor: "17.6 %".
+QString zoomInWords(float zoom);
+
+/// All that it shows is computed from the document. Main thread.
+class StatusLine : public QObject
+{
+    Q_OBJECT
+
+public:
+    StatusLine(QStatusBar& bar, zp::Document& document);
+    void show();
+    void showPointer();
+    /// What the pointer rests on explains itself; empty: the tool's hint again.
+    void setPassingHint(const QString& text);
+    /// Empty without a selection.
+    QString selectionInWords() const;
+    /// What can be done now and with which keys.
+    QString hint() const;
+
+private:
+    void showMiddle();
+
+    zp::Document& mDocument;
+    QLabel *mInfoField, *mSelectionField, *mSwatch, *mPointerField, *mImageField;
+    ElidedLabel* mMiddle;
+    QString mPassingHint;
+};

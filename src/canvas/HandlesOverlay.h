@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The handles of what floats, over the whole view: they may lie beside the picture.
+#pragma once
+#include "base/Geometry.h"
+#include <QRegion>
+#include <QWidget>
+
+class QMouseEvent;
+class ZPCanvas;
+
+/// Lies over the view's contents and lets every event through but those on a handle, which become the handle's
+/// gesture. What a script presses passes the handles by: where they lie hangs on the zoom. Main thread.
+class HandlesOverlay : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @param viewport  the canvas's parent, whose child this becomes
+    HandlesOverlay(ZPCanvas& canvas, QWidget* viewport);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void follow(); ///< the handles are elsewhere now, or gone
+    bool handleMouse(QObject* watched, QMouseEvent* event);
+    bool isShown() const;
+    QPointF inView(zp::Point imagePoint) const;
+    zp::Point inImage(QPointF viewPoint) const;
+
+    ZPCanvas& mCanvas;
+    QWidget* mViewport;
+    QRegion mDrawn; ///< what the handles cover
+    bool mHeld = false;
+};

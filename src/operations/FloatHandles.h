@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Scaling and turning the floating piece by hand: where its handles lie, and what dragging one does.
+#pragma once
+#include "document/Tool.h"
+#include <optional>
+
+namespace zp
+{
+
+class Document;
+class Selection;
+
+/// The corners in the order of the piece's own box, and the one that turns it, above its upper edge.
+enum class FloatHandle : std::int32_t { None = -1, TopLeft, TopRight, BottomRight, BottomLeft, Turn };
+inline constexpr int kFloatHandles = 5;
+
+/// Screen points: the side of a handle, and what lies between it and the piece.
+inline constexpr float kHandleSide = 9, kHandleGap = 3;
+
+/// Whether the piece can be taken by its handles: something floats, and the tool moves it.
+/// @param tool  of the tool that is chosen
+bool showsFloatHandles(const Document& document, const ToolActions& tool);
+/// The middle of a handle in image coordinates. The handles lie wholly outside the piece's outline, so that a press
+/// inside always moves it, and keep their size on screen. Something must float.
+Point floatHandleCenter(const Selection& selection, float zoom, FloatHandle handle);
+/// The handle at that image point; None between them and when nothing floats.
+FloatHandle floatHandleAt(const Selection& selection, float zoom, Point point);
+/// The gesture of the handle at its press: what the Transform dialog does by number, about the piece's centre, within
+/// the dialog's limits. Shift keeps angles to whole steps of 15 degrees. Leaves no step: nothing is painted.
+const ToolActions& floatHandleActions();
+
+} // namespace zp

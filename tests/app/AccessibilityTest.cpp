@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// What a screen reader finds in the main window.
+#include "app/MainWindow.h"
+#include "canvas/ToolTable.h"
+#include "support/DocumentFixture.h"
+#include <QAbstractButton>
+#include <QAccessible>
+
+using namespace zp;
+using namespace zp::test;
+
+namespace
+{
+
+class Accessibility : public DocumentTest
+{
+protected:
+    static QAccessibleInterface& interface(QWidget* widget) { return *QAccessible::queryAccessibleInterface(widget); }
+
+    MainWindow window{*document};
+};
+
+TEST_F(Accessibility, ThePictureIsAGraphicWithAValue)
+{
+    QAccessibleInterface& picture = interface(window.canvas());
+    EXPECT_EQ(picture.role(), QAccessible::Graphic);
+    EXPECT_FALSE(picture.text(QAccessible::Name).isEmpty());
+    EXPECT_EQ(picture.text(QAccessible::Value), "No picture");
+    makeImage(40, 30);
+    EXPECT_EQ(picture.text(QAccessible::Value), "40 by 30 pixels, zoom 100 %, Rectangle Selection");
+    perform("selectAll:");
+    window.canvas()->setTool(int(Tool::Brush));
+    EXPECT_EQ(picture.text(QAccessible::Value), "40 by 30 pixels, zoom 100 %, Brush, selected: 0, 0 · 40 × 30 px");
+    EXPECT_FALSE(picture.text(QAccessible::Description).isEmpty());
+}
+
+TEST_F(Accessibility, ToolsAreRadioButtonsOfAToolBarInPlainText)
+{
+    auto* strip = window.findChild<QWidget*>("toolStrip");
+    EXPECT_EQ(interface(strip).role(), QAccessible::ToolBar);
+    EXPECT_EQ(interface(strip).text(QAccessible::Name), "Tools");
+    const auto buttons = strip->findChildren<QAbstractButton*>();
+    ASSERT_EQ(buttons.size(), kToolCount);
+    for (QAbstractButton* button : buttons) {
+        EXPECT_EQ(interface(button).role(), QAccessible::RadioButton);
+        EXPECT_FALSE(interface(button).text(QAccessible::Name).isEmpty());
+        EXPECT_FALSE(interface(button).text(QAccessible::Description).contains('<'));
+    }
+}
+
+TEST_F(Accessibility, EverythingThatTakesTheFocusHasAName)
+{
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (widget->window() != &window) continue; // a pop-up's own list
+        if (!(widget->focusPolicy() & Qt::TabFocus) || widget->objectName().startsWith("qt_")) continue;
+        EXPECT_FALSE(interface(widget).text(QAccessible::Name).isEmpty())
+            << widget->metaObject()->className() << " " << widget->objectName().toStdString();
+    }
+}
+
+TEST_F(Accessibility, TabGoesFromToolToPicture)
+{
+    const QStringList wanted{"mToolPopUp", "mColorWell", "mSizeSlider", "mSizeField", "mZoomPopUp", "mCanvas"};
+    QStringList met;
+    QWidget* start = window.findChild<QWidget*>("mToolPopUp");
+    QWidget* widget = start;
+    do {
+        if (wanted.contains(widget->objectName())) met << widget->objectName();
+        widget = widget->nextInFocusChain();
+    } while (widget != start);
+    EXPECT_EQ(met, wanted);
+}
+
+} // namespace

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The status line speaks a person's words, and of the keys that are in force.
+#include "app/StatusLine.h"
+#include "app/MainWindow.h"
+#include "app/SelectionChip.h"
+#include "app/ZPAppController.h"
+#include "app/ZPPrefs.h"
+#include "canvas/ToolTable.h"
+#include "desktop/Settings.h"
+#include "support/DocumentFixture.h"
+#include <QLabel>
+#include <QStatusTipEvent>
+#include <QToolButton>
+
+using namespace zp;
+using namespace zp::test;
+
+namespace
+{
+
+class StatusLineTest : public DocumentTest
+{
+protected:
+    ~StatusLineTest() override
+    {
+        settings().remove("unit");
+        setKeyRoles("alt", "ctrl", "meta");
+    }
+    QString text(const char* field) { return window.findChild<QLabel*>(field)->text(); }
+    void select(Rect box)
+    {
+        edit([box](Edit& e) { e.selection().select(BezierPath::withRect(box)); });
+    }
+
+    MainWindow window{*document};
+};
+
+TEST_F(StatusLineTest, TheSelectionIsSaidInPixelsAndItsFieldKeepsItsText)
+{
+    makeImage(400, 300);
+    EXPECT_EQ(text("mSelectionField"), "");
+    select(makeRect(10, 20, 300, 200));
+    EXPECT_EQ(text("mSelectionField"), "10, 20 · 300 × 200 px");
+    EXPECT_EQ(text("mInfoField"), "{{10, 20}, {300, 200}}");
+    select(makeRect(-50, 20, 500, 900));
+    EXPECT_EQ(text("mSelectionField"), "0, 20 · 400 × 280 px") << "only pixels of the picture are selected";
+    perform("selectAll:");
+    EXPECT_EQ(text("mSelectionField"), "0, 0 · 400 × 300 px");
+    perform("selectNone:");
+    EXPECT_EQ(text("mSelectionField"), "");
+}
+
+TEST_F(StatusLineTest, WhatFloatsTellsItsScaleAndTurn)
+{
+    makeImage(400, 300);
+    select(makeRect(100, 100, 40, 40));
+    perform("floatSelection");
+    performNumbers("transform_set:", {1.5, 0});
+    EXPECT_EQ(text("mSelectionField"), "90, 90 · 60 × 60 px · 150 %");
+    performNumbers("transform_set:", {1, 90});
+    EXPECT_EQ(text("mSelectionField"), "100, 100 · 40 × 40 px · 90°");
+}
+
+TEST_F(StatusLineTest, TheUnitOfThePreferencesIsUsed)
+{
+    struct Case {
+        const char* unit;
+        double dpi;
+        const char* words;
+    };
+    for (const Case& c : {Case{"pixels", 300, "300, 600 · 150 × 75 px"},
+                          {"inches", 300, "1.00, 2.00 · 0.50 × 0.25 in"},
+                          {"centimeters", 300, "2.54, 5.08 · 1.27 × 0.64 cm"},
+                          {"points", 0, "300.00, 600.00 · 150.00 × 75.00 pt"}}) {
+        settings().setValue("unit", c.unit);
+        EXPECT_EQ(sizeInWords(makeRect(300, 600, 150, 75), c.dpi, c.dpi), c.words);
+    }
+}
+
+TEST_F(StatusLineTest, PointerAndPictureAreSaid)
+{
+    makeImage(40, 30);
+    edit([](Edit& e) { e.writeAll().row(7)[5] = kRedWord; });
+    document->setPointer({5.5f, 7.2f}, true);
+    EXPECT_EQ(text("mPointerField"), "5, 7   #ff0000");
+    EXPECT_FALSE(window.findChild<QLabel*>("mSwatch")->pixmap().isNull());
+    document->setPointer({1, 1}, true);
+    EXPECT_EQ(text("mPointerField"), "1, 1   #000000 0 %");
+    document->setPointer({-3, 99}, true);
+    EXPECT_EQ(text("mPointerField"), "-3, 99");
+    document->setZoom(0.176f);
+    EXPECT_EQ(text("mImageField"), "40 × 30 · 17.6 %");
+}
+
+TEST_F(StatusLineTest, HintsNameTheKeysThatAreInForce)
+{
+    EXPECT_TRUE(window.statusLine().hint().startsWith("Open an image"));
+    makeImage(40, 30);
+    EXPECT_TRUE(window.statusLine().hint().contains("Shift adds, Alt subtracts · Super: square, Ctrl: oval"))
+        << window.statusLine().hint().toStdString();
+    setKeyRoles("meta", "ctrl", "alt");
+    EXPECT_TRUE(window.statusLine().hint().contains("Super subtracts · Alt: square"));
+    for (const ToolRow& row : toolTable()) {
+        canvas->setTool(int(row.tool));
+        EXPECT_FALSE(window.statusLine().hint().isEmpty()) << row.title;
+        EXPECT_FALSE(window.statusLine().hint().contains('{')) << row.title;
+    }
+}
+
+TEST_F(StatusLineTest, WhatThePointerRestsOnExplainsItself)
+{
+    makeImage(40, 30);
+    const QString hint = text("mMessageField");
+    QStatusTipEvent rests("Needs a selection.");
+    QApplication::sendEvent(&window, &rests);
+    EXPECT_EQ(text("mMessageField"), "Needs a selection.");
+    QStatusTipEvent leaves("");
+    QApplication::sendEvent(&window, &leaves);
+    EXPECT_EQ(text("mMessageField"), hint);
+}
+
+TEST_F(StatusLineTest, TheChipSaysWhatFloatsAndWhatToDo)
+{
+    makeImage(400, 300);
+    auto& chip = *window.findChild<SelectionChip*>();
+    QStringList asked;
+    window.performAction = [&asked](const QString& action) { asked << action; };
+    const auto buttons = [&chip] {
+        QStringList titles;
+        for (const QToolButton* b : chip.findChildren<QToolButton*>())
+            if (!b->isHidden()) titles << b->text();
+        return titles;
+    };
+    EXPECT_TRUE(chip.isHidden());
+    select(makeRect(10, 10, 50, 50));
+    EXPECT_TRUE(chip.isHidden());
+    perform("floatSelection");
+    EXPECT_FALSE(chip.isHidden());
+    EXPECT_EQ(buttons(), (QStringList{"Anchor ⏎", "Drop Esc"}));
+    chip.findChild<QToolButton*>("mChip_selectNone")->click();
+    EXPECT_EQ(asked, QStringList{"selectNone:"});
+    perform("anchorSelection");
+    EXPECT_TRUE(chip.isHidden());
+    canvas->setTool(int(Tool::Text));
+    select(makeRect(10, 10, 50, 50));
+    EXPECT_EQ(buttons(), (QStringList{"Fill", "Stroke", "Float"}));
+}
+
+TEST_F(StatusLineTest, TheOptionsBarHasOneHeightForEveryTool)
+{
+    window.setToolImages();
+    window.show();
+    std::set<int> heights;
+    for (const ToolRow& row : toolTable()) {
+        canvas->setTool(int(row.tool));
+        QApplication::processEvents();
+        heights.insert(window.findChild<QWidget*>("optionsBar")->height());
+    }
+    EXPECT_EQ(heights.size(), 1u);
+}
+
+} // namespace
