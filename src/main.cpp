@@ -93,7 +93,7 @@ static int run(int argc, char** argv)
         controller.endBySignal();
     });
     controller.rememberChoices(!scripted);
-    controller.applicationWillFinishLaunching();
+    controller.applicationWillFinishLaunching(!scripted || line.offerRecovery);
     controller.window().show();
     std::unique_ptr<ScriptDriver> driver;
     if (scripted) driver = std::make_unique<ScriptDriver>(controller, line.script);

@@ -21,7 +21,7 @@ _zelpane() {
         return
         ;;
     esac
-    local options='--new --open --image-processor --script --show --offscreen --no-start-choice --help --version'
+    local options='--new --open --image-processor --script --show --offscreen --no-start-choice --offer-recovery --help --version'
     [ "$cword" -eq 1 ] && options+=' --batch'
     if [ "${words[1]}" = --batch ] && [ "$cword" -gt 1 ]; then
         options='--tiff --jpeg --fit --watermark --at --place --opacity --jobs --shard --keep-damaged --skip-existing --dry-run --help'

@@ -11,6 +11,7 @@ complete -c zelpane -n 'not __zelpane_batch' -l image-processor -d 'Begin with t
 complete -c zelpane -n 'not __zelpane_batch' -l script -r -F -d 'Play automation commands'
 complete -c zelpane -n 'not __zelpane_batch' -l show -d 'Show the windows of a script'
 complete -c zelpane -n 'not __zelpane_batch' -l offscreen -d 'Need no display'
+complete -c zelpane -n 'not __zelpane_batch' -l offer-recovery -d 'Ask about work that a crash left'
 complete -c zelpane -n 'not __zelpane_batch' -l no-start-choice -d 'Do not ask at the start'
 complete -c zelpane -n 'not __zelpane_batch' -l version -d 'Print the version'
 complete -c zelpane -s h -l help -d 'Print a summary of the options'

@@ -14,7 +14,7 @@ namespace
 {
 
 const char* const kHelp = R"(Usage: zelpane [OPTION…] [FILE…]
-       zelpane --script FILE [--show | --offscreen] [--no-start-choice] [IMAGE]
+       zelpane --script FILE [--show | --offscreen] [--no-start-choice] [--offer-recovery] [IMAGE]
        zelpane --batch SRC DST [OPTION…]     (zelpane --batch --help says more)
 
 A bitmap image editor.
@@ -26,6 +26,7 @@ A bitmap image editor.
   --show              with --script: the windows are on screen
   --offscreen         needs no display
   --no-start-choice   do not ask for a new or an existing image at the start
+  --offer-recovery    ask about work that a crash left also when a script is played
   --help              this text
   --version           the version, the libraries and the vector instructions in use
 )";
@@ -82,6 +83,8 @@ CommandLine parseCommandLine(int argc, char** argv)
             line.show = true;
         } else if (word == "--no-start-choice") {
             line.startChoice = false;
+        } else if (word == "--offer-recovery") {
+            line.offerRecovery = true;
         } else {
             line.error = "unknown option " + word;
             return line;

@@ -11,7 +11,7 @@ struct CommandLine {
     std::vector<std::string> files; ///< to open, absolute
     std::string request;            ///< "--new", "--open" or "--image-processor": what to begin with; empty: nothing
     std::string script;             ///< file of automation commands, "-" for standard input; empty: none
-    bool offscreen = false, show = false, startChoice = true;
+    bool offscreen = false, show = false, startChoice = true, offerRecovery = false;
     std::string answer; ///< text to print and end with (help, version)
     std::string error;  ///< why the command line makes no sense
 };

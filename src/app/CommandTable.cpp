@@ -15,7 +15,7 @@ using namespace operations;
 constexpr unsigned Nothing = needs::Nothing, PictureThere = needs::Picture, Selected = needs::Selection,
                    ClipboardPicture = needs::ClipboardPicture, File = needs::File, UndoStep = needs::UndoStep,
                    RedoStep = needs::RedoStep, DroppedSelection = needs::DroppedSelection,
-                   EditorWindow = needs::EditorWindow;
+                   EditorWindow = needs::EditorWindow, ShelvedPicture = needs::ShelvedPicture;
 
 /// Opens a window, or is carried out by the application itself.
 constexpr Command shell(const char* action, unsigned needed = Nothing, Effect effect = Effect::Window)
@@ -140,6 +140,8 @@ constexpr Command kCommands[] = {
     item("File", "New…", "Ctrl+N", "Makes a blank image", shell("newDocument:")),
     item("File", "Open…", "Ctrl+O", "Opens an image file", shell("openDocument:")),
     item("File", "Open Recent", "", "", shell(kRecentMenu)),
+    item("File", "Previous Picture", "Ctrl+Tab", "Shows the image again that was open before this one",
+         stepsTo("previousPicture:", ShelvedPicture, previousPicture)),
     line("File"),
     item("File", "Save", "Ctrl+S", "Writes the image into its file", reads("save:", File, saveImage)),
     item("File", "Save as TIFF…", "Ctrl+Shift+S", "Writes a TIFF file; transparency is kept",
@@ -230,6 +232,7 @@ constexpr Command kCommands[] = {
          "A crosshair that the numeric pad or Ctrl+arrows move; Ctrl+Space presses the button and lets it go",
          looks("keyboardPointer:")),
     line("View"),
+    item("View", "History", "Ctrl+Shift+Y", "The steps of the image, to go back to", looks("history:")),
     item("View", "Full Screen", "F11", "The window on the whole screen, and back", looks("fullScreen:")),
 
     item("Tools", "Larger Brush", "]", "The size of brush, pencil, eraser, text and strokes: a tenth more",
@@ -279,6 +282,7 @@ constexpr Command kCommands[] = {
     plain("transform_set:", "number number", kSelect, transform_set),
     plain("adjust_set:", "number number number number number", kSelect, adjust_set),
     plain("restoreSnapshot:", "number", kReplace, restoreSnapshot),
+    plain("goToStep", nullptr, kReplace, goToStep),
     plain("takeSnapshot", "", kSelect, takeSnapshot),
     plain("dontTakeSnapshot", "", kSelect, dontTakeSnapshot),
     plain("takeSnapshotAgain", "", kSelect, takeSnapshotAgain),

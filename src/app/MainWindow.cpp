@@ -16,6 +16,7 @@
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
 #include "ui_Main.h"
+#include "windows/HistoryPanel.h"
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -88,7 +89,8 @@ MainWindow::MainWindow(Document& document)
     connect(&mDocument, &Document::zoomChanged, this, &MainWindow::showZoom);
     connect(&mDocument, &Document::changed, this, &MainWindow::showStatus);
     connect(&mDocument, &Document::pointerMoved, mStatus, &StatusLine::showPointer);
-    connect(&mDocument, &Document::busyChanged, mUi->mBusyIndicator, &QWidget::setVisible);
+    connect(&mDocument, &Document::stepsChanged, mUi->mBusyIndicator,
+            [this] { mUi->mBusyIndicator->setVisible(mDocument.history().isBusy()); });
     showTool();
     showPaint();
     showZoom();
@@ -102,10 +104,26 @@ MainWindow::MainWindow(Document& document)
         last = next;
     }
     resize(1180, 780);
+    setUpHistory();
     mCanvas->setFocus(); // single keys are commands of the canvas
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::setUpHistory()
+{
+    mHistoryPanel = new HistoryPanel(mDocument, this);
+    addDockWidget(Qt::RightDockWidgetArea, mHistoryPanel);
+    mHistoryPanel->hide();
+}
+
+void MainWindow::showHistory(bool on)
+{
+    mHistoryPanel->setVisible(on);
+    giveFocusBack();
+}
+
+bool MainWindow::historyIsShown() const { return !mHistoryPanel->isHidden(); }
 
 void MainWindow::setUpTools()
 {

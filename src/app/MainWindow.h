@@ -8,6 +8,7 @@
 #include <vector>
 
 class EmptyView;
+class HistoryPanel;
 class QToolButton;
 class ScrollView;
 class SelectionChip;
@@ -39,6 +40,9 @@ public:
     void refreshInvitation();
     /// Shape of the brush tip and tolerance, as choosing them does; a negative tolerance leaves it.
     void chooseBrush(int shape, int tolerance);
+    /// The dock with the steps.
+    void showHistory(bool on);
+    bool historyIsShown() const;
 
     std::function<bool()> mayClose; ///< asked before the window closes
     std::function<void(const std::string&)> openDroppedFile;
@@ -53,6 +57,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void setUpHistory();
     void setUpTools();
     void setUpToolOptions();
     void setUpZoom();
@@ -69,6 +74,7 @@ private:
     SelectionChip* mChip;
     EmptyView* mEmpty;
     StatusLine* mStatus;
+    HistoryPanel* mHistoryPanel;
     std::vector<QToolButton*> mToolButtons;
     struct Switch {
         QToolButton* button;

@@ -79,6 +79,7 @@ ZPAppController::ZPAppController()
     mMenu->item("retina:")->setChecked(retina);
     if (retina) mDocument->setRetina(true);
     mMenu->setState("fitToWindow:", [this] { return mDocument->view().fit() != Fit::No; });
+    mMenu->setState("history:", [this] { return mWindow->historyIsShown(); });
     mMenu->setState("fullScreen:", [this] { return mWindow->isFullScreen(); });
     mMenu->setState("chequerboard:", [this] { return mDocument->view().isChequered(); });
     mMenu->setState("pixelGrid:", [this] { return mDocument->view().hasGrid(); });
@@ -106,7 +107,12 @@ ZPAppController::ZPAppController()
 
 ZPAppController::~ZPAppController() { NotificationCenter::defaultCenter().removeObserver(this); }
 
-void ZPAppController::applicationWillFinishLaunching() { mLaunchFromDocument = false; }
+void ZPAppController::applicationWillFinishLaunching(bool offersRecovery)
+{
+    mLaunchFromDocument = false;
+    mOffersRecovery = offersRecovery;
+    SnapshotStore::shared().leaveLeftWorkAlone(!offersRecovery);
+}
 
 bool ZPAppController::application(const std::string& openFile)
 {
@@ -137,7 +143,7 @@ void ZPAppController::applicationDidFinishLaunching(bool startChoice)
     mWindow->refreshInvitation();
     centerWindow(mWindow.get());
     if (mRemembers) bringBackChoices();
-    const bool recovered = offerRecovery();
+    const bool recovered = mOffersRecovery && offerRecovery();
     if (startChoice && !recovered && !mLaunchFromDocument && !(currentKeyModifiers() & kShiftKey)) {
         switch (runAlert(tr("What would you like to do? Create a new image or open an existing image."), "",
                          {tr("New…"), tr("Open…"), tr("Cancel")})) {
@@ -183,7 +189,9 @@ void ZPAppController::placeSampleImage()
 
 bool ZPAppController::applicationShouldTerminate()
 {
-    return runAlert(tr("Do you really want to quit?"), tr("Make sure that the image is saved to disk."),
+    const QString names = neverSaved();
+    return runAlert(tr("Do you really want to quit?"),
+                    tr("Make sure that the image is saved to disk.") + (names.isEmpty() ? names : "\n\n" + names),
                     {tr("Quit"), tr("Cancel")}) == 0;
 }
 
@@ -381,12 +389,25 @@ void ZPAppController::toggleRetina()
 
 // ---- commands -------------------------------------------------------------------------------------------------------
 
+QString ZPAppController::titleWithStep(const QString& verb, std::int32_t number, bool possible) const
+{
+    const std::vector<History::Step>& steps = mDocument->history().steps();
+    const auto step =
+        std::find_if(steps.begin(), steps.end(), [number](const History::Step& each) { return each.number == number; });
+    if (!possible || step == steps.end() || step->name.empty()) return verb;
+    return tr("%1 %2", "verb and name of a step: Undo Fill")
+        .arg(verb, QCoreApplication::translate("Steps", step->name.c_str()));
+}
+
 bool ZPAppController::validateMenuItem(const QString& action, QString* title)
 {
     const Command* command = mDocument->menuCommand(action.toStdString());
     if (!command) return false;
     if (title && action == "anchorSelection:")
         *title = mDocument->selection().floating() ? tr("Anchor Selection") : tr("Float Selection");
+    const History& history = mDocument->history();
+    if (title && action == "undo:") *title = titleWithStep(tr("Undo"), history.position(), history.canUndo());
+    if (title && action == "redo:") *title = titleWithStep(tr("Redo"), history.position() + 1, history.canRedo());
     if (command->needs & needs::EditorWindow && !mWindow->isVisible()) return false;
     return mDocument->allows(*command);
 }
@@ -405,6 +426,7 @@ QString ZPAppController::whyNot(const QString& action)
         {needs::UndoStep, QT_TR_NOOP("There is nothing to undo.")},
         {needs::RedoStep, QT_TR_NOOP("There is nothing to redo.")},
         {needs::DroppedSelection, QT_TR_NOOP("No selection was dropped yet.")},
+        {needs::ShelvedPicture, QT_TR_NOOP("No image was open before this one.")},
     };
     const Command* command = mDocument->menuCommand(action.toStdString());
     if (!command) return {};
@@ -447,6 +469,7 @@ void ZPAppController::buildShell()
     on("runPageLayout:", &ZPAppController::runPageLayout);
     on("openWithPreview:", &ZPAppController::openWithPreview);
     on("retina:", &ZPAppController::toggleRetina);
+    mShell["history:"] = [this] { mWindow->showHistory(!mWindow->historyIsShown()); };
     on("imageEditor:", &ZPAppController::imageEditor);
     on("fileManager:", &ZPAppController::fileManager);
     on("showWindows:", &ZPAppController::showWindows);

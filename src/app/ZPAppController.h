@@ -28,7 +28,9 @@ public:
     ZPAppController();
     ~ZPAppController() override;
 
-    void applicationWillFinishLaunching();
+    /// @param offersRecovery  whether the launch asks about work that another run left; where it does not, such work is
+    ///                        not touched
+    void applicationWillFinishLaunching(bool offersRecovery = true);
     /// A file to open, asked for from outside; also called at launch, before applicationDidFinishLaunching. It waits
     /// while a dialog or an alert is up or a button is held. @return whether it was opened at once
     bool application(const std::string& openFile);
@@ -77,7 +79,7 @@ public:
     void toggleRetina();
 
     std::int32_t mWidthC = 0, mHeightC = 0;
-    bool mLaunchFromDocument = false;
+    bool mLaunchFromDocument = false, mOffersRecovery = true;
 
 private:
     void buildShell();
@@ -88,6 +90,10 @@ private:
     void remember();
     void bringBackChoices();
     bool offerRecovery(); ///< after a crash; whether a picture was brought back
+    /// A sentence about the pictures before the current one; empty when all are as they were opened or saved.
+    QString neverSaved() const;
+    /// "Undo Fill".
+    QString titleWithStep(const QString& verb, std::int32_t number, bool possible) const;
     void migratePreferences();
     void placeSampleImage();
 

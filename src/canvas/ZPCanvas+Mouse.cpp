@@ -98,7 +98,7 @@ void ZPCanvas::autoscroll(Point point)
 {
     const ToolActions* actions = mDocument.gesture().actions();
     QScrollArea* const view = enclosingView(*this);
-    if (!view || !actions || !actions->scrolls || mDocument.history().isWriting()) return;
+    if (!view || !actions || !actions->scrolls) return;
     const double zoom = mDocument.view().effectiveZoom();
     const auto follow = [zoom](QScrollBar* bar, float position, int extent, int visible) {
         const int at = std::clamp(int(std::floor(position * zoom)), 0, std::max(0, extent - 1));
@@ -124,7 +124,6 @@ void ZPCanvas::repeatDrag()
     const bool held = mButtonDown && QGuiApplication::mouseButtons() & Qt::LeftButton;
     if (!held || !actions || !actions->scrolls || !isVisible() || QApplication::activeModalWidget())
         return mRestTimer.stop();
-    if (mDocument.history().isWriting()) return;
     const QPoint before = pos();
     mDocument.setPointer(imagePoint(mapFromGlobal(mRestingPointer)), mDocument.view().pointerInside());
     autoscroll(mDocument.view().pointer());

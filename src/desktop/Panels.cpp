@@ -37,7 +37,7 @@ int silencers = 0;
 int cancelIndex(const QStringList& buttons)
 {
     if (buttons.size() == 1) return 0;
-    for (const char* title : {"Cancel", "No"})
+    for (const char* title : {"Cancel", "No", "Later"})
         if (const int i = int(buttons.indexOf(QString::fromLatin1(title))); i >= 0) return i;
     return -1;
 }
@@ -162,7 +162,7 @@ private:
 
     AlertState mState;
     QList<QPushButton*> mButtons;
-    int mAnswer = 0, mCancel = -1;
+    int mAnswer = kNoAnswer, mCancel = -1;
 };
 
 /// Those on screen, the front one last.
@@ -188,7 +188,7 @@ int runAlert(const QString& title, const QString& message, const QStringList& bu
     const QPointer<Alert> alert = new Alert(title, message, buttons, windowInFront());
     alerts().push_back(alert);
     alert->exec();
-    if (!alert) return std::max(cancelIndex(buttons), 0); // its window went away under it
+    if (!alert) return kNoAnswer; // its window went away under it
     const int answer = alert->answer();
     alerts().removeAll(alert);
     delete alert;

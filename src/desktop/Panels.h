@@ -18,10 +18,13 @@ class QWidget;
 namespace zp
 {
 
-/// Shows a window-modal alert over the active window and waits. Escape is the button titled "Cancel" or "No", or the
-/// only button. While Panels are silenced (a batch run) nothing is shown and the default button is the answer.
+/// What runAlert() gives when the alert went away without a button: the program ends, a script is over.
+inline constexpr int kNoAnswer = -1;
+
+/// Shows a window-modal alert over the active window and waits. Escape is the button titled "Cancel", "No" or "Later",
+/// or the only button. While Panels are silenced (a batch run) nothing is shown and the default button is the answer.
 /// @param buttons titles, the default first, one to three
-/// @return the index of the button pressed
+/// @return the index of the button pressed, or kNoAnswer
 int runAlert(const QString& title, const QString& message, const QStringList& buttons);
 
 struct AlertState {

@@ -131,13 +131,6 @@ void BrushStroke::join()
     mDrawFinishedFlag = 1;
 }
 
-PixelBox BrushStroke::takeBack(BitmapView pixels)
-{
-    const PixelBox changed = mJournal.restore(pixels);
-    forgetBefore();
-    return changed;
-}
-
 void BrushStroke::pollThread()
 {
     PointerFeed& feed = *mPointerFeed;
@@ -168,6 +161,12 @@ void BrushStroke::pollThread()
     mPointNews.notify();
 }
 
+void BrushStroke::announce(PixelBox box, BitmapView pixels)
+{
+    if (mStrokeStart.beforeWrite) mStrokeStart.beforeWrite(box);
+    if (!mJournal.keep(pixels, box)) throw std::bad_alloc();
+}
+
 void BrushStroke::stamp(const BrushStamp& stamp, BitmapView pixels, PixelPoint corner, BitmapView scratch)
 {
     const PixelBox box =
@@ -175,11 +174,11 @@ void BrushStroke::stamp(const BrushStamp& stamp, BitmapView pixels, PixelPoint c
     if (box.isEmpty()) return;
     mStamped = true;
     if (mStrokeStart.clip.isEmpty()) {
-        if (!mJournal.keep(pixels, box)) throw std::bad_alloc();
+        announce(box, pixels);
         return stamp.drawAt(pixels, corner.x, corner.y);
     }
     if (!maskReaches(mStrokeStart.clip, box)) return;
-    if (!mJournal.keep(pixels, box)) throw std::bad_alloc();
+    announce(box, pixels);
     // Stamped beside the picture, and mixed in as far as the selection lets it through.
     scratch.width = box.width(), scratch.height = box.height();
     for (int y = 0; y < scratch.height; ++y)
@@ -253,7 +252,7 @@ void BrushStroke::drawPoints()
         if (keys & kControlKey) {
             // A trace of what is refreshed, to be seen in the picture.
             const std::lock_guard lock(*mStrokeStart.pixelLock);
-            mJournal.keep(pixels, pixelBoxOf(segment.inset(-1), pixels.width, pixels.height));
+            announce(pixelBoxOf(segment.inset(-1), pixels.width, pixels.height), pixels);
             BitmapContext context(pixels);
             context.setColor({0, 0, 1, 1});
             context.frameRect(segment);

@@ -43,6 +43,7 @@ public:
     struct Start {
         std::shared_ptr<BitmapRep> bitmap;
         std::mutex* pixelLock = nullptr;
+        std::function<void(PixelBox)> beforeWrite; ///< drawing thread: pixels there are about to change
         std::shared_ptr<const BrushTip> tip;
         float size = 0;
         Color color;
@@ -81,8 +82,8 @@ public:
     void close();              ///< the button went up
     /// Waits until all points are painted, and lets go of the picture. Nothing when no stroke is open.
     void join();
-    /// After join(): the pixels become what they were. @return the box that changed
-    PixelBox takeBack(BitmapView pixels);
+    /// What the stroke has written, and how it was before; after join().
+    const TileJournal& before() const { return mJournal; }
     /// After join(): what was there before is not needed any more.
     void forgetBefore() { mJournal = {}; }
 
@@ -90,6 +91,7 @@ private:
     void pollThread(); ///< body of the capture thread
     void drawThread(); ///< body of the drawing thread
     void drawPoints();
+    void announce(PixelBox box, BitmapView pixels);
     void stamp(const BrushStamp& stamp, BitmapView pixels, PixelPoint corner, BitmapView scratch);
 
     const std::uint32_t mCapacity;

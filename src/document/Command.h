@@ -25,6 +25,7 @@ enum Bits : unsigned {
     RedoStep = 32,
     DroppedSelection = 64,
     EditorWindow = 128, ///< the main window is there to be worked in
+    ShelvedPicture = 256,
 };
 }
 

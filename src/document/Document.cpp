@@ -28,7 +28,7 @@ Document::Document(std::span<const Command> commands, std::uint32_t strokeCapaci
       }),
       mGesture(std::make_unique<BrushStroke>(
           strokeCapacity, [this](Rect rect) { touchedByWorker(rect); }, [this] { strokeEnded(); })),
-      mHistory([this](bool busy) { emit busyChanged(busy); }),
+      mHistory([this] { emit stepsChanged(); }, [this](const QString& trouble) { emit troubled(trouble); }),
       mPaintedWake([this] {
           Rect rect;
           {
@@ -197,7 +197,8 @@ void Document::strokeEnded()
     BrushStroke& stroke = mGesture.stroke();
     stroke.join();
     if (stroke.hasFailed()) {
-        stroke.takeBack(mPicture.writablePixels());
+        bringBack(stroke.before());
+        stroke.forgetBefore();
         // Said when whatever ended the stroke is done: the gate may be about to open.
         QTimer::singleShot(0, this, [] { runAlert(tr("There is not enough memory."), {}, {tr("OK")}); });
         if (mGesture.actions()) mGesture.refuse();
@@ -206,6 +207,7 @@ void Document::strokeEnded()
         return;
     }
     const bool clippedAway = stroke.wasClippedAway();
+    stroke.before().forEach([this](PixelBox box) { mHistory.noteChanged(box); });
     stroke.forgetBefore();
     if (mGesture.actions())
         mGesture.refuse(); // no points are left to store: the stroke is over before the button is up

@@ -16,7 +16,7 @@
 namespace zp
 {
 
-/// Five values with one owner each, and what paints. Anybody may look at them; whoever wants to change one is a
+/// Six values with one owner each, and what paints. Anybody may look at them; whoever wants to change one is a
 /// command, a gesture or a late result, and gets an Edit from the gate:
 ///
 /// - an open gesture is ended as its release would end it, and a brush stroke painted to its end;
@@ -42,6 +42,13 @@ public:
     const Paint& paint() const { return mPaint; }
     const History& history() const { return mHistory; }
     const View& view() const { return mView; }
+    const Shelf& shelf() const { return mShelf; }
+    /// The picture is not the one that was opened or saved, or something floats over it that changes it.
+    bool isModified() const
+    {
+        return mPicture.bitmap() &&
+               (mHistory.isModified() || (mSelection.floating() && mSelection.floating()->isChanged()));
+    }
     const UnusedFields& unusedFields() const { return mUnused; }
     /// The text of the selection's field: its box, or what the last event leaves there without a selection.
     std::string infoText() const;
@@ -117,7 +124,7 @@ public:
     // ---- workers ---------------------------------------------------------------------------------------------------
 
     /// A stroke is painted or a step is being written.
-    bool anyWorkerRunning() const { return !mGesture.stroke().isDrawn() || mHistory.isWriting(); }
+    bool anyWorkerRunning() const { return !mGesture.stroke().isDrawn() || mHistory.isBusy(); }
     bool firstStepPending() const { return mHistory.firstStepPending(); }
     /// Blocks until no thread works on the pixels.
     void waitForWorkers();
@@ -136,14 +143,17 @@ signals:
     void pointerMoved();
     void paintChanged(); ///< colour or size
     void toolChosen();
-    void busyChanged(bool busy); ///< a step is being written, or no longer
-    void changed();              ///< whatever the window says of the document may be another now
+    void stepsChanged();                    ///< another step, another position, or a step was written
+    void troubled(const QString& sentence); ///< what the person has to know although no command failed
+    void changed();                         ///< whatever the window says of the document may be another now
 
 private:
     friend class Edit;
     bool strokeIsOpen() const { return mGesture.stroke().isOpen(); }
     void finishStroke();
     void strokeEnded();
+    /// The tiles that were painted on since the press are as they were.
+    void bringBack(const TileJournal& before);
     Outcome passGate(const Command& command, const std::function<void(Edit&)>& body);
     void closeEdit(Edit& edit, const char* stepName, StepRule rule);
     void sayAfterwards(Edit& edit);
@@ -160,6 +170,7 @@ private:
     Paint mPaint;
     History mHistory;
     View mView;
+    Shelf mShelf;
     UnusedFields mUnused;
     std::string mLastFileError;
     bool mGateOpen = false;

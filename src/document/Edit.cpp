@@ -14,21 +14,29 @@ Edit::Edit(Document& document)
       mGesture(document.mGesture),
       mPaint(document.mPaint),
       mHistory(document.mHistory),
-      mView(document.mView)
+      mView(document.mView),
+      mShelf(document.mShelf)
 {
 }
 
 BitmapView Edit::write(PixelBox box)
 {
-    mWrote = true;
-    redraw(box.rect().inset(-1));
+    const BitmapView pixels = mayWrite(box);
+    wrote(box);
+    return pixels;
+}
+
+BitmapView Edit::mayWrite(PixelBox box)
+{
+    mHistory.beforeWrite(box);
     return mPicture.writablePixels();
 }
 
-BitmapView Edit::writeAll()
+void Edit::wrote(PixelBox box)
 {
-    redraw();
-    return write(mPicture.box());
+    mWrote = true;
+    mHistory.noteChanged(box);
+    redraw(box.rect().inset(-1));
 }
 
 bool Edit::keepBefore(PixelBox box)
@@ -41,6 +49,7 @@ bool Edit::keepBefore(PixelBox box)
 void Edit::replacePicture(std::shared_ptr<BitmapRep> rep, const Replacement& how)
 {
     mPicture.replace(std::move(rep), how);
+    mHistory.pictureReplaced(mPicture.width(), mPicture.height());
     mSelection.pictureReplaced(mPicture.width(), mPicture.height());
     mWrote = true;
     mReplaced = true;
@@ -56,8 +65,8 @@ Settled Edit::settleFloat()
     const Floating* floating = mSelection.floating();
     const Rect box = mSelection.bounds();
     const bool writes = floating && floating->isChanged();
-    const Settled settled = mSelection.settle(mPicture.writablePixels(), mPaint.opacity());
-    if (writes) write(pixelBoxOf(box.inset(-1), mPicture.width(), mPicture.height()));
+    const PixelBox pixels = pixelBoxOf(box.inset(-1), mPicture.width(), mPicture.height());
+    const Settled settled = mSelection.settle(writes ? write(pixels) : mPicture.writablePixels(), mPaint.opacity());
     if (settled != Settled::Nothing) redraw();
     return settled;
 }

@@ -7,6 +7,7 @@
 #include "document/Paint.h"
 #include "document/Picture.h"
 #include "document/Selection.h"
+#include "document/Shelf.h"
 #include "document/View.h"
 #include <functional>
 #include <vector>
@@ -30,11 +31,15 @@ public:
     Paint& paint() { return mPaint; }
     History& history() { return mHistory; }
     View& view() { return mView; }
+    Shelf& shelf() { return mShelf; }
     Document& document() { return mDocument; }
 
     /// The picture's bytes, of which those of @p box are about to be written. Empty without a picture.
     BitmapView write(PixelBox box);
-    BitmapView writeAll();
+    BitmapView writeAll() { return write(mPicture.box()); }
+    /// The same in two halves, for work that knows only afterwards what it wrote inside @p box.
+    BitmapView mayWrite(PixelBox box);
+    void wrote(PixelBox box);
     /// Before a gesture writes pixels of @p box: Escape will bring them back. @return false without memory for it
     bool keepBefore(PixelBox box);
     /// Another bitmap becomes the picture; nothing is selected any more.
@@ -72,6 +77,7 @@ private:
     Paint& mPaint;
     History& mHistory;
     View& mView;
+    Shelf& mShelf;
     Rect mDirty, mRevealed;
     bool mRedrawAll = false, mWrote = false, mReplaced = false, mRefused = false;
     bool mStepWanted = false, mStepDecided = false;

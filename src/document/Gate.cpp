@@ -39,6 +39,7 @@ bool Document::allows(const Command& command)
     }
     if (wanted & needs::UndoStep && !mHistory.canUndo()) return false;
     if (wanted & needs::RedoStep && !mHistory.canRedo()) return false;
+    if (wanted & needs::ShelvedPicture && mShelf.isEmpty()) return false;
     if (wanted & needs::DroppedSelection && !mSelection.canReselect()) return false;
     return true;
 }
@@ -74,11 +75,8 @@ Outcome Document::passGate(const Command& command, const std::function<void(Edit
 {
     if (command.effect >= Effect::Read) finishStroke();
     const bool settles = command.onFloat == OnFloat::Settle && mSelection.floating();
-    if (command.effect >= Effect::Paint || settles) {
-        // The picture as it was opened is a step of its own, however soon it is changed.
-        mHistory.recordPending();
-        mHistory.waitForWriter();
-    }
+    // The picture as it was opened is a step of its own, however soon it is changed.
+    if (command.effect >= Effect::Paint || settles) mHistory.recordPending();
     Edit edit(*this);
     Outcome outcome;
     mGateOpen = true;
@@ -107,10 +105,8 @@ Outcome Document::passGate(const Command& command, const std::function<void(Edit
 void Document::rollBack(Edit& edit)
 {
     // The last step holds the picture as it was when the command began.
-    if (mHistory.position() < 0) return;
-    mHistory.restore(mHistory.position(), mPicture, [&edit](int width, int height) {
-        edit.replacePicture(BitmapRep::create(width, height), kInternalPicture);
-    });
+    mHistory.takeBack(
+        mPicture, [&edit](std::shared_ptr<BitmapRep> rep) { edit.replacePicture(std::move(rep), kInternalPicture); });
     edit.redraw();
 }
 

@@ -54,15 +54,14 @@ void Document::handle(const char* stepName, const std::function<void(Edit&)>& bo
 void Document::press(const ToolActions* actions, Point point)
 {
     if (mGateOpen) return;
-    const bool strokeOpen = strokeIsOpen();
+    const bool refused = strokeIsOpen() && actions && actions->refusesOpenStroke;
     // The brush and the lasso wait for the last stroke by refusing; any other tool would work on pixels still being
     // painted, so what is left of the stroke is finished first.
-    if (strokeOpen && !(actions && actions->refusesOpenStroke)) finishStroke();
-    if (mHistory.isWriting()) return beep();
+    if (strokeIsOpen() && !refused) finishStroke();
     if (mGesture.actions()) endGesture(); // whose release was lost
     const std::uint32_t keys = currentKeyModifiers();
     const bool paints = actions && actions->paints && !(keys & actions->readsWithKey);
-    if (paints) mHistory.recordPending(), mHistory.waitForWriter();
+    if (paints) mHistory.recordPending();
     mColorBefore = mPaint.color();
     handle(actions ? actions->name : nullptr, [&](Edit& edit) {
         const bool changesSelection = actions && (actions->combines || actions->moves || mSelection.floating());
@@ -70,7 +69,7 @@ void Document::press(const ToolActions* actions, Point point)
         mSelection.restAnts();
         mView.setInfoWithoutSelection("?");
         if (!actions) return beep();
-        if (strokeOpen || (paints && !mSelection.reaches(mPicture.bounds()))) {
+        if (refused || (paints && !mSelection.reaches(mPicture.bounds()))) {
             mGesture.refuse();
             return beep();
         }
@@ -92,7 +91,6 @@ void Document::drag(Point point)
 {
     if (mGateOpen) return;
     samplePointer(point);
-    if (mHistory.isWriting()) return beep();
     handle(mGesture.stepName(), [&](Edit& edit) {
         mGesture.moveTo(point);
         mView.setInfoWithoutSelection("?");
@@ -104,7 +102,6 @@ void Document::release(Point point)
 {
     if (mGateOpen) return;
     samplePointer(point);
-    if (mHistory.isWriting()) return beep();
     releaseOpenGesture(point);
     runRequests();
 }
@@ -131,11 +128,17 @@ void Document::releaseOpenGesture(Point point)
 void Document::endGesture()
 {
     if (mGateOpen) return;
-    if (mGesture.actions()) {
-        mHistory.waitForWriter();
-        releaseOpenGesture(mGesture.lastPoint());
-    }
+    if (mGesture.actions()) releaseOpenGesture(mGesture.lastPoint());
     finishStroke();
+}
+
+void Document::bringBack(const TileJournal& before)
+{
+    before.forEach([this](PixelBox box) {
+        mHistory.beforeWrite(box);
+        mHistory.noteChanged(box);
+    });
+    if (mPicture.bitmap()) before.restore(mPicture.writablePixels());
 }
 
 bool Document::cancelGesture()
@@ -144,11 +147,9 @@ bool Document::cancelGesture()
     BrushStroke& stroke = mGesture.stroke();
     stroke.close();
     stroke.join();
-    mHistory.waitForWriter();
-    if (mPicture.bitmap()) {
-        stroke.takeBack(mPicture.writablePixels());
-        mGesture.journal().restore(mPicture.writablePixels());
-    }
+    bringBack(stroke.before());
+    stroke.forgetBefore();
+    bringBack(mGesture.journal());
     if (mGesture.before()) mSelection.bringBack(*mGesture.before());
     mGesture.takeBack();
     mOwesStep = false;

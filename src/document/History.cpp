@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Steps written on a thread of their own and read back by number.
+/// Steps handed to a thread that writes them, and brought back by number.
 #include "document/History.h"
 #include "base/Log.h"
 #include "base/WorkPool.h"
 #include "desktop/SystemProbes.h"
 #include "undo/AlphaRLE.h"
 #include "undo/AlphaRows.h"
-#include "undo/SnapshotJPEG.h"
 #include "undo/SnapshotNumbers.h"
-#include <new>
-#include <span>
-#include <system_error>
+#include <QCoreApplication>
+#include <algorithm>
+#include <chrono>
+#include <unistd.h>
 
 namespace zp
 {
@@ -19,67 +19,47 @@ namespace
 {
 
 using Clock = std::chrono::steady_clock;
-using Half = SnapshotStore::Half;
 
 constexpr int kFirstSnapshotDelay = 300; ///< milliseconds after an open, so that the picture is on screen first
 constexpr int kRowsAWorker = 256;        ///< rows from which another core is worth waking
 
 double secondsSince(Clock::time_point start) { return std::chrono::duration<double>(Clock::now() - start).count(); }
 
+std::int64_t now()
+{
+    return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::system_clock::now().time_since_epoch())
+        .count();
+}
+
+QString tr(const char* text) { return QCoreApplication::translate("History", text); }
+
+/// The colour file is lossy: beside an edge of transparency it may bring back more colour than the alpha allows, which
+/// every blend after it would carry on beyond white.
+void limitToAlpha(BitmapView pixels)
+{
+    parallelBands(pixels.height, kRowsAWorker, [&pixels](int first, int last) {
+        for (int y = first; y < last; ++y) limitColourToAlpha(pixels.row(y), pixels.width);
+    });
+}
+
+SnapshotStore& store() { return SnapshotStore::shared(); }
+
+std::shared_ptr<ExactSteps> exactStepsInFolder()
+{
+    auto exact = std::make_shared<ExactSteps>();
+    const int folder = store().duplicateHandle();
+    exact->reset(folder);
+    if (folder >= 0) ::close(folder);
+    return exact;
+}
+
 } // namespace
 
-/// One step being written, from the first file to the last; on the writer's thread it touches no widget.
-class History::Writing
-{
-public:
-    Writing(History& history, Request request) : mHistory(history), mRequest(std::move(request))
-    {
-        if (!SnapshotStore::shared().begin(mRequest.number)) logLine("takeSnapshot: there is no undo folder");
-    }
-    ~Writing()
-    {
-        SnapshotStore& store = SnapshotStore::shared();
-        if (store.commit(mRequest.number) && mRequest.bitmap)
-            store.record({mRequest.imagePath, mRequest.bitmap->pixelsWide(), mRequest.bitmap->pixelsHigh(),
-                          mRequest.number, mRequest.number});
-        mRequest.bitmap.reset();
-        mHistory.mUndoThreadRunning.store(false, std::memory_order_release);
-        mHistory.mWritten.wake();
-    }
-    Writing(const Writing&) = delete;
-    Writing& operator=(const Writing&) = delete;
-
-    Clock::time_point start() const { return mRequest.start; }
-    /// The colours as if alpha were 255 everywhere. The alpha bytes are not touched: the screen may be drawn meanwhile.
-    void writeColour() { write(Half::Colour, mHistory.mSnapshotEncoder->encode(pixels())); }
-    void writeAlpha()
-    try {
-        write(Half::Alpha, encodeAlphaRLE(pixels()));
-    } catch (const std::bad_alloc&) {
-        logLine("takeSnapshot: not enough memory");
-    }
-
-private:
-    ConstBitmapView pixels() const { return mRequest.bitmap ? mRequest.bitmap->view() : ConstBitmapView{}; }
-    void write(Half half, std::span<const std::uint8_t> bytes)
-    {
-        std::string error;
-        if (bytes.empty() && half == Half::Colour)
-            error = "the picture could not be encoded";
-        else if (SnapshotStore::shared().stage(mRequest.number, half, bytes, error))
-            return;
-        logLine("takeSnapshot: %s was not written: %s", SnapshotStore::fileName(mRequest.number, half).c_str(),
-                error.c_str());
-    }
-
-    History& mHistory;
-    Request mRequest;
-};
-
-History::History(std::function<void(bool)> busyChanged)
-    : mSnapshotEncoder(std::make_unique<SnapshotEncoder>()),
-      mBusyChanged(std::move(busyChanged)),
-      mWritten([this] { sayWritten(); })
+History::History(std::function<void()> changed, std::function<void(const QString&)> trouble)
+    : mChangedSignal(std::move(changed)),
+      mTrouble(std::move(trouble)),
+      mWritten([this] { takeResults(); }),
+      mWriter(store(), [this] { mWritten.wake(); })
 {
     mFirstSnapshotTimer.setSingleShot(true);
     QObject::connect(&mFirstSnapshotTimer, &QTimer::timeout, &mFirstSnapshotTimer, [this] {
@@ -88,13 +68,38 @@ History::History(std::function<void(bool)> busyChanged)
     });
 }
 
-History::~History() { waitForWriter(); }
+History::~History() = default;
 
-void History::sayWritten()
+// ---- what has changed -----------------------------------------------------------------------------------------------
+
+void History::noteChanged(PixelBox box)
 {
-    // Another step may have been started since; it will say itself when it is done.
-    if (!isWriting()) mBusyChanged(false);
+    mChanged.add(box);
+    mStale.add(box);
+    mLoose = true;
 }
+
+void History::pictureReplaced(int width, int height)
+{
+    const TileGrid grid{width, height};
+    if (mChanged.grid() != grid) {
+        mBase.reset();
+        mWriterKnows = false;
+        mChanged = TileSet(grid);
+        mStale = TileSet(grid);
+    }
+    mChanged.addAll();
+    mStale.addAll();
+    mLoose = true;
+}
+
+void History::lostTrack()
+{
+    mBase.reset();
+    mWriterKnows = false;
+}
+
+// ---- writing --------------------------------------------------------------------------------------------------------
 
 void History::reset()
 {
@@ -102,37 +107,71 @@ void History::reset()
     // A step that was to be the first of the picture before this one has lost its picture.
     mFirstSnapshotTimer.stop();
     mFirstSnapshot = nullptr;
-    if (!SnapshotStore::shared().reset()) logLine("takeSnapshot: there is no undo folder");
+    if (!store().reset()) logLine("takeSnapshot: there is no undo folder");
+    mExact = exactStepsInFolder();
     SnapshotNumbers(mUndoIndex, mUndoRedoIndex).reset();
     mSteps.clear();
+    lostTrack();
+    mSaved = 0;
+    mLoose = false;
+    mChangedSignal();
 }
 
 void History::waitForWriter()
 {
-    if (mSnapshotWorker.joinable()) mSnapshotWorker.join();
+    mWriter.wait();
+    takeResults();
+}
+
+StepJob History::makeJob(const Picture& picture, std::int32_t number, const StepNote& note)
+{
+    StepJob job;
+    job.number = number;
+    job.exact = mExact;
+    job.alphaFirst = !isLeopardExactly();
+    job.note = note;
+    job.position = {picture.path(), picture.width(), picture.height(), number, number, note.time, number != mSaved};
+    if (!picture.bitmap()) return job;
+    const TileGrid grid{picture.width(), picture.height()};
+    if (mChanged.grid() != grid) pictureReplaced(grid.width, grid.height);
+    job.changed = mChanged;
+    job.parent = mBase;
+    if (!mBase) job.changed.addAll();
+    TileSet tiles = mWriterKnows ? mStale : job.changed;
+    tiles.add(job.changed);
+    if (!mWriterKnows) tiles.addAll();
+    job.capture = std::make_shared<PixelCapture>(picture.bitmap(), tiles.wholeRows(), job.changed);
+    return job;
 }
 
 void History::record(const Picture& picture, const char* name)
 {
-    if (mDontTakeSnapshot || isWriting()) return;
-    waitForWriter();
-    const bool leopard = isLeopardExactly();
-    // The numbers move and the flag is set before the writer exists: nothing can slip in between.
+    if (mDontTakeSnapshot) return;
+    // Until the writer has what it needs to tell old pixels from new ones, nobody may write any.
     mUndoThreadRunning.store(true, std::memory_order_release);
-    SnapshotNumbers numbers(mUndoIndex, mUndoRedoIndex);
-    const Request request{numbers.advance(), picture.bitmap(), picture.path(), Clock::now()};
-    std::erase_if(mSteps, [&request](const Step& step) { return step.number >= request.number; });
-    mSteps.push_back({request.number, name ? name : "", std::chrono::system_clock::now()});
-    mBusyChanged(true);
-    const auto write = [this, leopard, request] {
-        leopard ? takeSnapshotThreadLeopard(request) : takeSnapshotThread(request);
-    };
-    try {
-        mSnapshotWorker = std::thread(write);
-    } catch (const std::system_error& error) {
-        logLine("takeSnapshot: no thread to write it on (%s)", error.what());
-        write();
-    }
+    const std::int32_t number = SnapshotNumbers(mUndoIndex, mUndoRedoIndex).advance();
+    if (mSaved >= number && number > 0) mSaved = kNeverSaved; // that step is gone
+    const StepNote note{name ? name : "", now()};
+    std::erase_if(mSteps, [number](const Step& step) { return step.number >= number; });
+    mSteps.push_back({number, note.name, note.time});
+    mWriter.add(makeJob(picture, number, note));
+    mBase.reset();
+    if (picture.bitmap()) mBase = number;
+    mChanged.clear();
+    mStale.clear();
+    mWriterKnows = true;
+    mLoose = false;
+    mUndoThreadRunning.store(false, std::memory_order_release);
+    mChangedSignal();
+}
+
+void History::recordOwed(const Picture& picture, const char* name)
+{
+    recordPending();
+    if (!owesStep() || !picture.bitmap()) return;
+    const bool suppressed = std::exchange(mDontTakeSnapshot, false);
+    record(picture, name);
+    mDontTakeSnapshot = suppressed;
 }
 
 void History::recordSoon(const Picture& picture, const char* name)
@@ -148,82 +187,262 @@ void History::recordPending()
     if (const auto record = std::exchange(mFirstSnapshot, nullptr)) record();
 }
 
-void History::takeSnapshotThreadLeopard(Request request)
+void History::takeResults()
 {
-    Writing writing(*this, std::move(request));
-    writing.writeColour();
-    logLine("takeSnapshot: JPG: %f", secondsSince(writing.start()));
+    const std::vector<WrittenStep> results = mWriter.takeWritten();
+    if (results.empty()) return;
+    for (const WrittenStep& result : results) {
+        if (!result.exact && mBase == result.number) mBase.reset();
+        if (!result.pair) mWriterKnows = false;
+        const QString why = QString::fromStdString(result.error);
+        if (!result.pair && result.exact)
+            say(tr("Undo steps cannot be written to the disk (%1). They are kept in memory until the program ends.")
+                    .arg(why));
+        else if (!result.pair)
+            say(tr("The last change could not be kept as a step of its own (%1).").arg(why));
+        else if (store().place() == SnapshotStore::Place::Runtime)
+            say(tr("There is no place for undo steps among the temporary files. A private folder of this session "
+                   "serves instead."));
+        else
+            mSaid.clear();
+    }
+    mChangedSignal();
+}
+
+void History::say(const QString& trouble)
+{
+    if (trouble == mSaid) return;
+    mSaid = trouble;
+    mTrouble(trouble);
+}
+
+// ---- bringing back --------------------------------------------------------------------------------------------------
+
+History::Kept History::kept(std::int32_t number) const
+{
+    if (mExact->isExact(number)) return Kept::Exact;
+    if (store().has(number)) return Kept::Approximately;
+    return mWriter.isIdle() ? Kept::Nowhere : Kept::BeingWritten;
+}
+
+bool History::keepsPresent(const Picture& picture)
+{
+    const auto isKept = [this] { return mExact->isThere(mUndoRedoIndex) || store().has(mUndoRedoIndex); };
+    if (!picture.bitmap() || isKept()) return true;
+    // Its writing failed: perhaps there is room by now, on the disk or in memory.
+    const auto step =
+        std::find_if(mSteps.begin(), mSteps.end(), [this](const Step& each) { return each.number == mUndoRedoIndex; });
+    if (step == mSteps.end()) return true; // there was none to begin with
+    lostTrack();
+    mWriter.add(makeJob(picture, mUndoRedoIndex, {step->name, step->time}));
+    mBase = mUndoRedoIndex;
+    mChanged.clear();
+    mStale.clear();
+    mWriterKnows = true;
+    waitForWriter();
+    if (isKept()) return true;
+    say(tr("Nothing was undone: what is on screen could be kept neither on the disk nor in memory."));
+    return false;
+}
+
+bool History::undo(Picture& picture, const Resize& resize)
+{
+    waitForWriter();
+    const std::int32_t from = mUndoRedoIndex;
+    if (!SnapshotNumbers(mUndoIndex, mUndoRedoIndex).undo()) return false;
+    mUndoRedoIndex = from;
+    if (!keepsPresent(picture)) return false;
+    for (std::int32_t number = from - 1; number >= 0; --number)
+        if (goTo(number, picture, resize)) return true;
+    return false;
+}
+
+bool History::redo(Picture& picture, const Resize& resize)
+{
+    waitForWriter();
+    const std::int32_t from = mUndoRedoIndex;
+    if (!SnapshotNumbers(mUndoIndex, mUndoRedoIndex).redo()) return false;
+    mUndoRedoIndex = from;
+    for (std::int32_t number = from + 1; number <= mUndoIndex; ++number)
+        if (goTo(number, picture, resize)) return true;
+    return false;
+}
+
+bool History::goTo(std::int32_t number, Picture& picture, const Resize& resize)
+{
+    waitForWriter();
+    if (number < 0 || number > mUndoIndex || (number < mUndoRedoIndex && !keepsPresent(picture))) return false;
+    if (!restore(number, picture, resize)) return false;
+    mUndoRedoIndex = number;
+    mLoose = false;
+    mChangedSignal();
+    return true;
+}
+
+bool History::takeBack(Picture& picture, const Resize& resize)
+{
+    waitForWriter();
+    return mUndoRedoIndex >= 0 && restore(mUndoRedoIndex, picture, resize);
+}
+
+bool History::restore(std::int32_t number, Picture& picture, const Resize& resize)
+try {
     const auto start = Clock::now();
-    writing.writeAlpha();
-    logLine("takeSnapshot: RLE: %f", secondsSince(start));
+    const bool exact = restoreExact(number, picture, resize);
+    if (!exact && !restoreWholePair(number, picture, resize)) return false;
+    picture.restored();
+    logLine("restoreSnapshot: %s: %f", exact ? "exact" : "JPG+RLE", secondsSince(start));
+    return true;
+} catch (const std::bad_alloc&) {
+    say(tr("There is not enough memory."));
+    return false;
 }
 
-void History::takeSnapshotThread(Request request)
+bool History::restoreExact(std::int32_t number, Picture& picture, const Resize& resize)
 {
-    Writing writing(*this, std::move(request));
-    writing.writeAlpha();
-    writing.writeColour();
-    logLine("takeSnapshot: JPEG+RLE: %f", secondsSince(writing.start()));
+    const auto grid = mExact->gridOf(number);
+    if (!grid) return false;
+    const bool sameSize = mChanged.grid() == *grid && picture.width() == grid->width &&
+                          picture.height() == grid->height && picture.bitmap();
+    if (sameSize && mBase && mExact->shareTiles(*mBase, number)) {
+        const auto written = mExact->restore(number, mBase, mChanged, picture.writablePixels());
+        if (!written) return false;
+        mStale.add(*written);
+    } else {
+        const auto pixels = BitmapRep::createUninitialized(grid->width, grid->height);
+        if (!pixels) throw std::bad_alloc();
+        if (!mExact->restore(number, std::nullopt, {}, pixels->view())) return false;
+        put(pixels, picture, resize);
+    }
+    mBase = number;
+    mChanged.clear();
+    return true;
 }
 
-std::optional<std::int32_t> History::stepBack() { return SnapshotNumbers(mUndoIndex, mUndoRedoIndex).undo(); }
+bool History::restoreWholePair(std::int32_t number, Picture& picture, const Resize& resize)
+{
+    const auto colour = store().read(number, StepHalf::Colour), alpha = store().read(number, StepHalf::Alpha);
+    const auto size = colour && alpha ? inspectSnapshotJPEG(*colour) : std::nullopt;
+    if (!size) return false;
+    const auto pixels = BitmapRep::createUninitialized(size->width, size->height);
+    if (!pixels) throw std::bad_alloc();
+    if (!decodeSnapshotJPEG(*colour, pixels->view())) return false;
+    decodeAlphaRLE(*alpha, pixels->view());
+    limitToAlpha(pixels->view());
+    put(pixels, picture, resize);
+    lostTrack();
+    return true;
+}
 
-std::optional<std::int32_t> History::stepOn() { return SnapshotNumbers(mUndoIndex, mUndoRedoIndex).redo(); }
+void History::put(std::shared_ptr<BitmapRep> pixels, Picture& picture, const Resize& resize)
+{
+    const int width = pixels->pixelsWide(), height = pixels->pixelsHigh();
+    if (picture.width() == width && picture.height() == height)
+        copyPixels(std::as_const(*pixels).view(), picture.writablePixels());
+    else
+        resize(std::move(pixels));
+    pictureReplaced(width, height);
+}
 
-void History::restore(std::int32_t number, Picture& picture, const std::function<void(int width, int height)>& resize)
+void History::restorePair(std::int32_t number, Picture& picture, const Resize& resize)
 {
     waitForWriter();
     auto start = Clock::now();
+    if (store().damaged(number, StepHalf::Colour) || store().damaged(number, StepHalf::Alpha)) {
+        logLine("restoreSnapshot: step %d is damaged", int(number));
+        return;
+    }
+    const auto colour = store().read(number, StepHalf::Colour);
+    const auto size = colour ? inspectSnapshotJPEG(*colour) : std::nullopt;
     bool decoded = false;
-    const auto file = SnapshotStore::shared().read(number, Half::Colour);
-    if (const auto size = file ? inspectSnapshotJPEG(*file) : std::nullopt) {
-        if (picture.width() != size->width || picture.height() != size->height) resize(size->width, size->height);
-        decoded = picture.bitmap() && decodeSnapshotJPEG(*file, picture.writablePixels());
-        if (picture.bitmap() && !decoded)
-            logLine("restoreSnapshot: %s cannot be decoded", SnapshotStore::fileName(number, Half::Colour).c_str());
+    if (size) {
+        const auto pixels = BitmapRep::createUninitialized(size->width, size->height);
+        decoded = pixels && decodeSnapshotJPEG(*colour, pixels->view());
+        if (decoded) put(pixels, picture, resize);
     }
     logLine("restoreSnapshot: JPG: %f", secondsSince(start));
 
     start = Clock::now();
-    const auto alpha = SnapshotStore::shared().read(number, Half::Alpha);
-    if (alpha && picture.bitmap()) {
-        const BitmapView pixels = picture.writablePixels();
-        decodeAlphaRLE(*alpha, pixels);
-        // The colour file is lossy: beside an edge of transparency it may bring back more colour than the alpha allows,
-        // which every blend after it would carry on beyond white.
-        const auto limitRows = [&pixels](int first, int last) {
-            for (int y = first; y < last; ++y) limitColourToAlpha(pixels.row(y), pixels.width);
-        };
-        if (decoded) parallelBands(pixels.height, kRowsAWorker, limitRows);
+    const auto alpha = store().read(number, StepHalf::Alpha);
+    if (alpha && picture.bitmap() && (decoded || !colour)) {
+        decodeAlphaRLE(*alpha, picture.writablePixels());
+        if (decoded) limitToAlpha(picture.writablePixels());
     }
+    lostTrack();
     picture.restored();
-    mBusyChanged(false);
     logLine("restoreSnapshot: RLE: %f", secondsSince(start));
+}
+
+void History::noteSaved(const Picture& picture)
+{
+    mSaved = std::max(mUndoRedoIndex, 0);
+    mLoose = false;
+    waitForWriter();
+    notePosition(picture);
 }
 
 void History::notePosition(const Picture& picture)
 {
-    if (picture.bitmap())
-        SnapshotStore::shared().record({picture.path(), picture.width(), picture.height(), mUndoRedoIndex, mUndoIndex});
+    if (picture.bitmap() && mUndoRedoIndex >= 0)
+        store().record(
+            {picture.path(), picture.width(), picture.height(), mUndoRedoIndex, mUndoIndex, now(), isModified()});
 }
 
-bool History::adopt(const RecoverableWork& work)
+// ---- other pictures -------------------------------------------------------------------------------------------------
+
+History::Aside History::putAside()
 {
     waitForWriter();
-    if (!SnapshotStore::shared().adoptRecoverable()) return false;
-    mFirstSnapshotTimer.stop();
-    mFirstSnapshot = nullptr;
-    mUndoIndex = work.newest;
-    mUndoRedoIndex = work.number;
-    mSteps.clear();
-    for (std::int32_t number = 0; number <= work.newest; ++number) mSteps.push_back({number, "", {}});
+    Aside aside{store().putAside(), mUndoIndex, mUndoRedoIndex, mSaved, std::exchange(mSteps, {}), mExact};
+    reset();
+    return aside;
+}
+
+bool History::bringBack(Aside aside)
+{
+    reset();
+    if (aside.folder && !store().bringBack(*aside.folder)) return false;
+    mExact = aside.exact;
+    mSteps = std::move(aside.steps);
+    mUndoIndex = aside.newest;
+    mUndoRedoIndex = aside.position;
+    mSaved = aside.saved;
+    mChangedSignal();
+    return true;
+}
+
+History::Aside History::readAside(int folder, const RecoverableWork& work)
+{
+    Aside aside{folder, work.newest, work.number, work.changed ? kNeverSaved : work.number, {}, exactStepsInFolder()};
+    const int handle = store().duplicateHandleOf(folder);
+    aside.exact->adopt(handle, work.newest);
+    for (std::int32_t number = 0; number <= work.newest; ++number) {
+        const auto note = readStepNote(handle, number);
+        if (note || hasPair(handle, number))
+            aside.steps.push_back({number, note ? note->name : std::string(), note ? note->time : 0});
+    }
+    if (handle >= 0) ::close(handle);
+    return aside;
+}
+
+void History::drop(const Aside& aside)
+{
+    if (aside.folder) store().dropAside(*aside.folder);
+}
+
+bool History::isThere(const Aside& aside)
+{
+    if (!aside.folder) return true; // in memory
+    const int handle = store().duplicateHandleOf(*aside.folder);
+    if (handle < 0) return false;
+    ::close(handle);
     return true;
 }
 
 void History::close()
 {
     waitForWriter();
-    SnapshotStore::shared().remove();
+    store().remove();
 }
 
 } // namespace zp

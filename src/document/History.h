@@ -4,35 +4,46 @@
 #include "desktop/MainThreadWake.h"
 #include "document/Picture.h"
 #include "undo/SnapshotStore.h"
+#include "undo/SnapshotWriter.h"
+#include <QString>
 #include <QTimer>
+#include <algorithm>
 #include <atomic>
-#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace zp
 {
 
-class SnapshotEncoder;
-
-/// Steps are numbered from 0; -1 is none. Each is a pair of files that a thread of its own writes; while it reads the
-/// pixels, nobody may write them. Main thread, except where noted.
+/// Steps are numbered from 0; -1 is none. Each is a pair of files and, beside it, its very pixels as far as there is
+/// room; a thread of its own writes them while the picture is changed again. Whoever changes pixels announces it.
+/// Main thread, except where noted.
 class History
 {
 public:
     struct Step {
         std::int32_t number = 0;
-        std::string name; ///< the command's, untranslated
-        std::chrono::system_clock::time_point time;
+        std::string name;      ///< the command's, untranslated
+        std::int64_t time = 0; ///< milliseconds since 1970
     };
+    enum class Kept { BeingWritten, Exact, Approximately, Nowhere };
+    /// The steps of a picture that is not the current one.
+    struct Aside {
+        std::optional<int> folder; ///< the store's number; none when they were never on the disk
+        std::int32_t newest = -1, position = -1, saved = 0;
+        std::vector<Step> steps;
+        std::shared_ptr<ExactSteps> exact;
+    };
+    /// Makes the picture one of that size; its pixels need not be set.
+    using Resize = std::function<void(std::shared_ptr<BitmapRep> rep)>;
 
-    /// @param busyChanged  main thread: a step is being written, or no longer
-    explicit History(std::function<void(bool busy)> busyChanged);
+    /// @param changed  main thread: a step is being written or no longer, or the list of steps is another
+    /// @param trouble  main thread: what the person has to know about the keeping of steps, said once until it is over
+    History(std::function<void()> changed, std::function<void(const QString&)> trouble);
     ~History();
     History(const History&) = delete;
     History& operator=(const History&) = delete;
@@ -41,13 +52,21 @@ public:
     std::int32_t position() const { return mUndoRedoIndex; }
     bool canUndo() const { return mUndoRedoIndex > 0; }
     bool canRedo() const { return mUndoRedoIndex < mUndoIndex; }
-    /// The pixels are being read: the mouse is refused. Any thread.
+    /// The mouse is refused. Any thread.
     bool isWriting() const { return mUndoThreadRunning.load(std::memory_order_acquire); }
+    /// Files of steps are still to be written.
+    bool isBusy() const { return !mWriter.isIdle(); }
     bool isSuppressed() const { return mDontTakeSnapshot; }
     /// An opened picture waits for its first step.
     bool firstStepPending() const { return mFirstSnapshotTimer.isActive(); }
     /// Oldest first, as far as they are known.
     const std::vector<Step>& steps() const { return mSteps; }
+    /// How a step can be brought back. Cost: looks at the disk.
+    Kept kept(std::int32_t number) const;
+    /// Pixels were changed since the last step.
+    bool owesStep() const { return !mBase || !mChanged.isEmpty(); }
+    /// The picture is not the one that was opened or saved.
+    bool isModified() const { return mLoose || std::max(mUndoRedoIndex, 0) != mSaved; }
 
     // ---- transitions ---------------------------------------------------------------------------------------------
 
@@ -55,50 +74,79 @@ public:
     void reset();
     /// Requests are ignored from now on, or no longer.
     void suppress(bool on) { mDontTakeSnapshot = on; }
-    /// Asks for a step of the picture as it is now. Ignored while suppressed or while another is being written.
+    /// Pixels of @p box are about to be written. Any thread; a thread other than the main one has to say so with
+    /// noteChanged() in the end.
+    void beforeWrite(PixelBox box) { mWriter.beforeWrite(box); }
+    void noteChanged(PixelBox box);
+    /// The picture is another bitmap.
+    void pictureReplaced(int width, int height);
+    /// Asks for a step of the picture as it is now. Ignored while suppressed.
     void record(const Picture& picture, const char* name);
+    /// The same also while suppressed, and only if pixels were changed since the last step.
+    void recordOwed(const Picture& picture, const char* name);
     /// The same, 0.3 s from now, so that an opened picture is on screen first.
     void recordSoon(const Picture& picture, const char* name);
     /// What recordSoon() asked for is recorded now, if it has not been.
     void recordPending();
-    /// Blocks until no thread reads the pixels.
+    /// Blocks until all steps are written.
     void waitForWriter();
-    /// One step back or on. @return the number to restore; nothing at the end, where a beep is due
-    std::optional<std::int32_t> stepBack();
-    std::optional<std::int32_t> stepOn();
-    /// Puts a step's pixels into the picture; @p resize is called first when the step has another size, and makes the
-    /// picture that large. A step that cannot be read changes nothing.
-    void restore(std::int32_t number, Picture& picture, const std::function<void(int width, int height)>& resize);
-    /// After a step back or on: a crash shall bring back what was on screen.
+    /// One step back, or the nearest before it that can be restored, is in the picture's pixels. @return false at the
+    /// end, where a beep is due, and where what is on screen could not be kept
+    bool undo(Picture& picture, const Resize& resize);
+    /// One step on, or the nearest behind it.
+    bool redo(Picture& picture, const Resize& resize);
+    /// To step @p number, to it alone.
+    bool goTo(std::int32_t number, Picture& picture, const Resize& resize);
+    /// What the pair of a step holds is in the picture's pixels. A half that is not there is left out; a damaged one
+    /// keeps the other from being used, too.
+    void restorePair(std::int32_t number, Picture& picture, const Resize& resize);
+    /// The pixels are those of the last step again. @return false when that could not be done
+    bool takeBack(Picture& picture, const Resize& resize);
+    /// The picture, as it is, is safe in a file.
+    void noteSaved(const Picture& picture);
+    /// A crash shall bring back what is on screen now.
     void notePosition(const Picture& picture);
-    /// The steps of a program that crashed become these. @return false when they are gone
-    bool adopt(const RecoverableWork& work);
+    /// The steps make room for those of another picture. The picture's last step must hold what is on screen.
+    Aside putAside();
+    /// Those of @p aside are the current ones again; there must be none. @return false when they are gone
+    bool bringBack(Aside aside);
+    /// As much of @p aside's as can be known of steps that another run of the program wrote.
+    static Aside readAside(int folder, const RecoverableWork& work);
+    static void drop(const Aside& aside);
+    static bool isThere(const Aside& aside);
     /// The program quits: the folder goes.
     void close();
 
 private:
-    /// Handed to the writer when it starts: all it may look at while the main thread goes on.
-    struct Request {
-        std::int32_t number = -1;
-        std::shared_ptr<const BitmapRep> bitmap;
-        std::string imagePath;
-        std::chrono::steady_clock::time_point start;
-    };
-    class Writing;
-    void takeSnapshotThreadLeopard(Request request);
-    void takeSnapshotThread(Request request);
-    void sayWritten();
+    StepJob makeJob(const Picture& picture, std::int32_t number, const StepNote& note);
+    void takeResults();
+    bool keepsPresent(const Picture& picture);
+    bool restore(std::int32_t number, Picture& picture, const Resize& resize);
+    bool restoreExact(std::int32_t number, Picture& picture, const Resize& resize);
+    bool restoreWholePair(std::int32_t number, Picture& picture, const Resize& resize);
+    void put(std::shared_ptr<BitmapRep> pixels, Picture& picture, const Resize& resize);
+    void lostTrack();
+    void say(const QString& trouble);
 
     std::int32_t mUndoIndex = -1, mUndoRedoIndex = -1;
     std::atomic<bool> mUndoThreadRunning{false};
     bool mDontTakeSnapshot = false;
     std::vector<Step> mSteps;
-    std::unique_ptr<SnapshotEncoder> mSnapshotEncoder; ///< keeps the last snapshot's strips
-    std::thread mSnapshotWorker;
+    std::shared_ptr<ExactSteps> mExact = std::make_shared<ExactSteps>();
+    std::optional<std::int32_t> mBase; ///< the step that the pixels are, but for the tiles in mChanged
+    static constexpr std::int32_t kNeverSaved = -1;
+    std::int32_t mSaved = 0; ///< the step that is in a file; an opened picture's is its first
+    bool mLoose = false;     ///< changed since that step or the last
+    TileSet mChanged;
+    TileSet mStale;            ///< tiles that are not as the writer saw them last
+    bool mWriterKnows = false; ///< the writer remembers all other tiles
     QTimer mFirstSnapshotTimer;
     std::function<void()> mFirstSnapshot;
-    std::function<void(bool)> mBusyChanged;
-    MainThreadWake mWritten; ///< the writer's last word
+    std::function<void()> mChangedSignal;
+    std::function<void(const QString&)> mTrouble;
+    QString mSaid; ///< the trouble that was told and is not over
+    MainThreadWake mWritten;
+    SnapshotWriter mWriter; ///< after all that it calls
 };
 
 } // namespace zp

@@ -75,6 +75,8 @@ Operation rotateCW, rotateCCW, flipH, flipV;
 // ---- steps (ZPCanvas+Snapshots) ----
 Operation undo, redo;
 /// Number: what the step's files hold.
+Operation goToStep;
+Operation previousPicture;
 Operation restoreSnapshot;
 Operation takeSnapshot, dontTakeSnapshot, takeSnapshotAgain;
 /// Path: the alpha plane as a run-length file.

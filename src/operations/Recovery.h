@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Bringing back what a program that ended without quitting was working on.
-///
-/// The launch sequence: `if (auto work = zp::findRecoverableWork())` offer it; on yes recover() it (and no new history
-/// afterwards: the steps come back with the picture), on no discardRecoverableWork(). Asking may come before or after
-/// the history's first reset, which moves a crashed program's folder aside before it empties anything.
+/// Pictures that make room for another one and come back, also after a crash.
 #pragma once
 #include "document/Command.h"
-#include "undo/SnapshotStore.h"
+#include "undo/LeftWork.h"
 
 namespace zp
 {
 
 class Document;
+class Edit;
 
-/// Makes @p work the document's picture: its pixels, its path and both numbers, with the steps as they were, so that
-/// undo and redo go on from there. Refused when the steps are gone meanwhile: the document is as it was. Main thread.
-Outcome recover(Document& document, const RecoverableWork& work);
+/// The picture there is, with its steps, makes room for another: it can be brought back until the program quits.
+/// Nothing for the empty picture. The caller replaces the bitmap afterwards.
+void shelvePicture(Edit& edit);
+/// Makes what another run of the program left the document's picture: its pixels, its path and both numbers, with the
+/// steps as they were, so that undo and redo go on from there. Refused when the steps are gone meanwhile: the document
+/// is as it was. Main thread.
+Outcome recover(Document& document, const LeftPicture& left);
 
 } // namespace zp

@@ -75,7 +75,10 @@ int getc(Edit& edit, bool reset)
 void putc(Edit& edit, int value)
 {
     if (value == AlphaCursor::kPutReset) return gWriteCursor.reset(edit.picture().writableBitmap());
-    if (const auto held = gWriteCursor.picture.lock()) gWriteCursor.cursor.put(value);
+    const auto held = gWriteCursor.picture.lock();
+    if (!held) return;
+    edit.writeAll();
+    gWriteCursor.cursor.put(value);
 }
 
 void operations::writeAlphaRLEToFile(Edit& edit, const Arguments& to)

@@ -38,6 +38,7 @@ void tool::pressBrush(Edit& edit, Point point)
     BrushStroke::Start start;
     start.bitmap = bitmap;
     start.pixelLock = &edit.picture().pixelLock();
+    start.beforeWrite = [&history = edit.history()](PixelBox box) { history.beforeWrite(box); };
     start.tip = std::make_shared<const BrushTip>(brushShape(paint.brushShape()), paint.size(), paint.color());
     start.size = paint.size();
     start.color = paint.color();

@@ -29,10 +29,10 @@ void fillFrom(Edit& edit, Point point, ConstMaskView walls)
     const std::uint32_t target = edit.picture().pixels().row(seed->y)[seed->x];
     // On purpose before the tolerance is refreshed: what counts as "has this colour already" is the last fill's.
     if (wordsMatch(fillWord, target, paint.tolerance())) return beep();
-    const BitmapView pixels = edit.picture().writablePixels();
+    const BitmapView pixels = edit.mayWrite(edit.picture().box());
     const ColumnFillResult filled =
         floodFill(pixels, walls, *seed, fillWord, paint.refreshTolerance(), sharedFillStack(), sharedTileRegion());
-    if (!filled.painted.isEmpty()) edit.write(filled.painted);
+    if (!filled.painted.isEmpty()) edit.wrote(filled.painted);
 }
 
 /// Where the two older fills begin. They look for the colour that is there and write the paint colour.

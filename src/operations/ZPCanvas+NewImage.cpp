@@ -8,6 +8,7 @@
 #include "document/Document.h"
 #include "operations/Commands.h"
 #include "operations/Files.h"
+#include "operations/Recovery.h"
 #include <QCoreApplication>
 #include <cmath>
 #include <new>
@@ -48,34 +49,37 @@ std::shared_ptr<BitmapRep> blankBitmap(Size size)
     return rep;
 }
 
-/// A picture, or none, takes the place of the one there was; its steps begin anew.
-void install(Edit& edit, std::shared_ptr<BitmapRep> rep, const Replacement& how)
+/// A picture, or none, takes the place of the one there was, which is kept; its steps begin anew.
+void install(Edit& edit, std::shared_ptr<BitmapRep> rep, const std::string& path, const Replacement& how)
 {
+    shelvePicture(edit);
+    edit.shelf().opened();
     edit.replacePicture(std::move(rep), how);
+    edit.picture().setPath(path);
     edit.gesture().openPolygon(false);
     edit.history().reset();
+}
+
+void installBlank(Edit& edit, Size size, const std::string& path)
+{
+    if (refusesSize(edit, size)) return;
+    auto rep = blankBitmap(size);
+    if (rep) markAsEdited(rep->properties);
+    install(edit, std::move(rep), path, kBlankPicture);
+    edit.wantStep(true);
 }
 
 } // namespace
 
 void operations::newImageWithSize(Edit& edit, const Arguments& arguments)
 {
-    const Size size{arguments.number(0), arguments.number(1)};
-    if (refusesSize(edit, size)) return;
-    auto rep = blankBitmap(size);
-    if (rep) markAsEdited(rep->properties);
-    install(edit, std::move(rep), kBlankPicture);
-    edit.wantStep(true);
+    installBlank(edit, {arguments.number(0), arguments.number(1)}, std::string(edit.picture().path()));
 }
 
 Outcome newPicture(Document& document, Size size)
 {
-    return document.perform(*document.operation("newImageWithSize:"), [size](Edit& edit) {
-        const std::string before = edit.picture().path();
-        edit.picture().setPath({}); // before the first step is recorded, which notes it
-        operations::newImageWithSize(edit, {{size.width, size.height}, {}});
-        if (edit.refused()) edit.picture().setPath(before);
-    });
+    return document.perform(*document.operation("newImageWithSize:"),
+                            [size](Edit& edit) { installBlank(edit, size, {}); });
 }
 
 void operations::newImageForMeWithSize(Edit& edit, const Arguments& arguments)
@@ -89,8 +93,10 @@ void operations::newImageForMeWithSize(Edit& edit, const Arguments& arguments)
 
 void operations::setImagePath(Edit& edit, const Arguments& arguments)
 {
-    edit.picture().setPath(arguments.path);
-    if (arguments.path.empty()) return edit.wantStep(false);
+    if (arguments.path.empty()) {
+        edit.picture().setPath({});
+        return edit.wantStep(false);
+    }
     installOpened(edit, arguments.path, importImageFile(pathWithTildeExpanded(arguments.path)));
 }
 
@@ -104,8 +110,7 @@ void installOpened(Edit& edit, const std::string& path, ImportedImage imported)
             logLine("opened with losses: %s", warning.c_str());
         markAsEdited(imported.bitmap->properties);
     }
-    edit.picture().setPath(path);
-    install(edit, std::move(imported.bitmap), kOpenedPicture);
+    install(edit, std::move(imported.bitmap), path, kOpenedPicture);
     edit.wantStep(false);
     if (opened)
         edit.history().recordSoon(edit.picture(), QT_TRANSLATE_NOOP("Steps", "Open"));

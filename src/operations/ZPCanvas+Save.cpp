@@ -65,6 +65,7 @@ bool save(Edit& edit, const std::string& path, SaveFormat format)
     document.setLastFileError(shown ? write(*shown, path, format) : "There is no image to save.");
     if (document.lastFileError().empty()) {
         logLosses(*shown);
+        edit.history().noteSaved(edit.picture());
         return true;
     }
     logLine("could not save %s: %s", path.c_str(), document.lastFileError().c_str());

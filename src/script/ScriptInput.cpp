@@ -143,6 +143,13 @@ void ScriptDriver::addInputCommands()
         mDocument.perform(*operation, argumentsOf(*operation, Words(w.begin() + 2, w.end())));
         return QJsonObject{};
     });
+    addWork("history-go", [this](const Words& w) {
+        bool isNumber = w.size() == 2;
+        const int number = isNumber ? text(w[1]).toInt(&isNumber) : 0;
+        if (!isNumber) throw Failure{"history-go N"};
+        if (!mDocument.perform("goToStep", {{double(number)}, {}})) throw Failure{"there is no such step"};
+        return QJsonObject{};
+    });
     mCommands["wait"] = [this](const Words& w) {
         const double seconds = w.size() > 1 ? text(w[1]).toDouble() : 60;
         auto quiet = std::make_shared<int>(0);

@@ -137,6 +137,12 @@ void ScriptDriver::addLookCommands()
         if (!mDocument.picture().box().contains(x, y)) throw Failure{"outside the image"};
         return PixelPoint{x, y};
     };
+    addImmediate("history", [this](const Words&) {
+        QJsonArray steps;
+        for (const History::Step& step : mDocument.history().steps())
+            steps.append(QJsonObject{{"name", QString::fromStdString(step.name)}, {"number", step.number}});
+        return QJsonObject{{"steps", steps}, {"current", mDocument.history().position()}};
+    });
     addImmediate("image", [this](const Words&) {
         const Picture& picture = mDocument.picture();
         return QJsonObject{{"loaded", picture.isLoaded()},

@@ -16,6 +16,8 @@ namespace
 
 /// Alpha bytes gathered at a time: half a first-level cache, and a multiple of the block.
 constexpr int kPiece = 16384;
+/// Bytes that a pair and its largest count stand for.
+constexpr int kWholeRun = 257;
 /// Pixels from which a second core is worth waking.
 constexpr std::int64_t kWorthSharing = 1 << 20;
 
@@ -102,6 +104,75 @@ private:
     int mColumn = 0, mRow = 0;
 };
 
+/// Keeps of a plane every few bytes only.
+class PlaneSampler
+{
+public:
+    PlaneSampler(int width, int height, int step, std::vector<std::uint8_t>& out)
+        : mWidth(width), mHeight(height), mStep(step), mOut(out)
+    {
+    }
+    bool full() const { return mNext >= std::int64_t{mWidth} * mHeight; }
+    std::int64_t written() const { return mAt; }
+    void fill(std::uint8_t value, std::int64_t count)
+    {
+        take(count, [value](std::int64_t) { return value; });
+    }
+    void copy(const std::uint8_t* bytes, std::int64_t count)
+    {
+        take(count, [bytes](std::int64_t i) { return bytes[i]; });
+    }
+
+private:
+    template <class F>
+    void take(std::int64_t count, F&& valueAt)
+    {
+        for (; mNext < mAt + count && !full(); advance()) mOut.push_back(valueAt(mNext - mAt));
+        mAt += count;
+    }
+    void advance()
+    {
+        mColumn += mStep;
+        if (mColumn >= mWidth) {
+            mColumn = 0;
+            mRow += mStep;
+        }
+        mNext = mRow < mHeight ? std::int64_t{mRow} * mWidth + mColumn : std::int64_t{mWidth} * mHeight;
+    }
+    int mWidth, mHeight, mStep, mColumn = 0, mRow = 0;
+    std::int64_t mAt = 0, mNext = 0; ///< the plane's byte that comes next in the file; the one to be kept next
+    std::vector<std::uint8_t>& mOut;
+};
+
+/// Hands @p file to @p plane in literals and runs.
+template <class Plane>
+void unpack(std::span<const std::uint8_t> file, Plane& plane)
+{
+    const std::uint8_t* from = file.data();
+    const std::uint8_t* const end = from + file.size();
+    while (from != end && !plane.full()) {
+        // A count was just read, or this is the start: the first literal pairs with nothing before it.
+        const std::size_t left = std::size_t(end - from);
+        const std::size_t literals = 1 + firstPair(from + 1, left - 1);
+        if (literals == left) {
+            plane.copy(from, std::int64_t(literals));
+            break;
+        }
+        // The pair's two bytes and their copies are one run; neighbouring runs of the same value (an opaque plane is
+        // nothing else) are joined, so that they are filled along whole rows.
+        const std::uint8_t value = from[literals];
+        plane.copy(from, std::int64_t(literals) - 1);
+        from += literals + 1;
+        // At the end of the file its end mark is taken for a count, and its low 8 bits are 255.
+        std::int64_t run = 2 + (from != end ? *from++ : 255);
+        while (end - from >= 3 && from[0] == value && from[1] == value) {
+            run += 2 + from[2];
+            from += 3;
+        }
+        plane.fill(value, run);
+    }
+}
+
 } // namespace
 
 void AlphaRLEEncoder::append(const std::uint8_t* bytes, std::size_t count)
@@ -159,9 +230,16 @@ void AlphaRLEEncoder::finish()
 
 void AlphaRLEEncoder::appendRun(std::uint8_t byte, std::int64_t count)
 {
-    std::array<std::uint8_t, kPiece> bytes;
-    bytes.fill(byte);
-    for (; count > 0; count -= kPiece) append(bytes.data(), std::size_t(std::min<std::int64_t>(count, kPiece)));
+    // What came before has an end within two counts; then whole ones follow one another.
+    for (; count > 0 && (mRun != kNone || mPrevious != kNone); --count) append(&byte, 1);
+    constexpr std::int64_t kTogether = 64;
+    std::array<std::uint8_t, 3 * kTogether> groups;
+    for (std::size_t i = 0; i < groups.size(); ++i) groups[i] = i % 3 == 2 ? 255 : byte;
+    for (std::int64_t whole = count / kWholeRun; whole > 0; whole -= kTogether)
+        mOut.insert(mOut.end(), groups.data(), groups.data() + 3 * std::min(whole, kTogether));
+    std::array<std::uint8_t, kWholeRun> rest;
+    rest.fill(byte);
+    append(rest.data(), std::size_t(count % kWholeRun));
 }
 
 void AlphaRLEEncoder::append(const AlphaRLEEncoder& next)
@@ -173,91 +251,88 @@ void AlphaRLEEncoder::append(const AlphaRLEEncoder& next)
     mCopies = next.mCopies;
 }
 
-namespace
+bool AlphaBands::start(int width, int height, int rowsABand)
 {
+    if (width == mWidth && height == mHeight && rowsABand == mRowsABand && !mBands.empty()) return true;
+    mWidth = width, mHeight = height, mRowsABand = rowsABand;
+    mBands = std::vector<Band>(std::size_t((height + rowsABand - 1) / rowsABand));
+    return false;
+}
 
-/// Rows of the plane encoded by themselves: first the copies of the byte before them, then all from the first that
-/// differs. An opaque band is nothing but copies.
-struct Band {
-    std::uint8_t before = 0;
-    std::int64_t copies = 0;
-    std::vector<std::uint8_t> bytes;
-    AlphaRLEEncoder encoder{bytes};
-
-    Band() = default;
-    Band(const Band&) = delete;
-    Band& operator=(const Band&) = delete;
-
-    void encode(ConstBitmapView pixels, int first, int last)
-    {
-        bool copying = first > 0;
-        if (copying) before = pixels.pixel(pixels.width - 1, first - 1)[0];
-        alignas(64) std::array<std::uint8_t, kPiece> piece;
-        for (int y = first; y < last; ++y)
-            for (int x = 0; x < pixels.width; x += kPiece) {
-                const auto count = std::size_t(std::min(kPiece, pixels.width - x));
-                gatherAlpha(pixels.row(y) + x, piece.data(), int(count));
-                const std::size_t same = copying ? runLength(piece.data(), count, before) : 0;
-                copies += std::int64_t(same);
-                copying = copying && same == count;
-                if (same < count) encoder.append(piece.data() + same, count - same);
-            }
-    }
-};
-
-} // namespace
-
-std::vector<std::uint8_t> encodeAlphaRLE(ConstBitmapView pixels)
+void AlphaBands::forget()
 {
-    std::vector<std::uint8_t> file;
-    if (pixels.isEmpty()) return file;
-    const std::int64_t count = std::int64_t{pixels.width} * pixels.height;
-    const int bands = count < kWorthSharing ? 1 : std::min(pixels.height, 2 * workerCount());
-    std::vector<Band> parts(static_cast<std::size_t>(bands));
-    parallelFor(bands, [&](int i) {
-        const auto row = [&](int band) { return int(std::int64_t{pixels.height} * band / bands); };
-        parts[std::size_t(i)].encode(pixels, row(i), row(i + 1));
-    });
+    mBands.clear();
+    mWidth = mHeight = 0;
+}
+
+void AlphaBands::encode(ConstBitmapView rows, int first)
+{
+    Band& band = mBands[std::size_t(first / mRowsABand)];
+    band.bytes.clear();
+    band.encoder.restart();
+    band.copies = 0;
+    band.value = rows.pixel(0, 0)[0];
+    bool copying = true;
+    alignas(64) std::array<std::uint8_t, kPiece> piece;
+    for (int y = 0; y < rows.height; ++y)
+        for (int x = 0; x < rows.width; x += kPiece) {
+            const auto count = std::size_t(std::min(kPiece, rows.width - x));
+            gatherAlpha(rows.row(y) + x, piece.data(), int(count));
+            const std::size_t same = copying ? runLength(piece.data(), count, band.value) : 0;
+            band.copies += std::int64_t(same);
+            copying = copying && same == count;
+            if (same < count) band.encoder.append(piece.data() + same, count - same);
+        }
+}
+
+std::vector<std::uint8_t> AlphaBands::finish() const
+{
     std::size_t size = 1024;
-    for (const Band& part : parts) size += part.bytes.size() + std::size_t(part.copies / 257 * 3);
+    for (const Band& band : mBands) size += band.bytes.size() + std::size_t(band.copies / kWholeRun * 3);
+    std::vector<std::uint8_t> file;
     file.reserve(size);
     AlphaRLEEncoder whole(file);
-    for (const Band& part : parts) {
-        whole.appendRun(part.before, part.copies);
-        if (!part.bytes.empty()) whole.append(part.encoder);
+    for (const Band& band : mBands) {
+        whole.appendRun(band.value, band.copies);
+        if (!band.bytes.empty()) whole.append(band.encoder);
     }
     whole.finish();
     return file;
+}
+
+std::vector<std::uint8_t> encodeAlphaRLE(ConstBitmapView pixels)
+{
+    if (pixels.isEmpty()) return {};
+    const std::int64_t count = std::int64_t{pixels.width} * pixels.height;
+    const int bands = count < kWorthSharing ? 1 : std::min(pixels.height, 2 * workerCount());
+    const int rowsABand = (pixels.height + bands - 1) / bands;
+    AlphaBands rows;
+    rows.start(pixels.width, pixels.height, rowsABand);
+    parallelFor((pixels.height + rowsABand - 1) / rowsABand, [&](int band) {
+        const int first = band * rowsABand;
+        rows.encode(pixels.part({0, first, pixels.width, std::min(first + rowsABand, pixels.height)}), first);
+    });
+    return rows.finish();
 }
 
 std::int64_t decodeAlphaRLE(std::span<const std::uint8_t> file, BitmapView pixels)
 {
     if (pixels.isEmpty()) return 0;
     PlaneWriter plane(pixels);
-    const std::uint8_t* from = file.data();
-    const std::uint8_t* const end = from + file.size();
-    while (from != end && !plane.full()) {
-        // A count was just read, or this is the start: the first literal pairs with nothing before it.
-        const std::size_t left = std::size_t(end - from);
-        const std::size_t literals = 1 + firstPair(from + 1, left - 1);
-        if (literals == left) {
-            plane.copy(from, std::int64_t(literals));
-            break;
-        }
-        // The pair's two bytes and their copies are one run; neighbouring runs of the same value (an opaque plane is
-        // nothing else) are joined, so that they are filled along whole rows.
-        const std::uint8_t value = from[literals];
-        plane.copy(from, std::int64_t(literals) - 1);
-        from += literals + 1;
-        // At the end of the file its end mark is taken for a count, and its low 8 bits are 255.
-        std::int64_t run = 2 + (from != end ? *from++ : 255);
-        while (end - from >= 3 && from[0] == value && from[1] == value) {
-            run += 2 + from[2];
-            from += 3;
-        }
-        plane.fill(value, run);
-    }
+    unpack(file, plane);
     return plane.written();
+}
+
+std::vector<std::uint8_t> sampleAlphaRLE(std::span<const std::uint8_t> file, int width, int height, int step)
+{
+    std::vector<std::uint8_t> samples;
+    if (width <= 0 || height <= 0 || step <= 0) return samples;
+    const auto count = [step](int length) { return std::size_t((length + step - 1) / step); };
+    samples.reserve(count(width) * count(height));
+    PlaneSampler plane(width, height, step, samples);
+    unpack(file, plane);
+    samples.resize(count(width) * count(height), 255);
+    return samples;
 }
 
 std::uint8_t* AlphaCursor::next()

@@ -29,6 +29,8 @@ public:
     void append(const AlphaRLEEncoder& next);
     /// Writes the count that is still open, if any. Call once, after the last piece.
     void finish();
+    /// As if nothing had come before; the output is left to its owner.
+    void restart() { mPrevious = mRun = kNone, mCopies = 0; }
 
 private:
     static constexpr int kNone = -1;
@@ -39,6 +41,38 @@ private:
     int mCopies = 0;
 };
 
+/// The alpha plane's file made of rows that are encoded by themselves, in any order, and remembered: what did not
+/// change is not looked at again. One thread, but for encode().
+class AlphaBands
+{
+public:
+    /// @return whether rows of a plane of that size are remembered; else all of them have to be encoded before finish()
+    bool start(int width, int height, int rowsABand);
+    void forget();
+    /// Encodes the band that begins at row @p first; different ones from several threads. @throws std::bad_alloc
+    /// @param rows  all of the band's
+    void encode(ConstBitmapView rows, int first);
+    /// The whole file; nothing for a plane without pixels. Time: that of copying what is not a run.
+    /// @throws std::bad_alloc
+    std::vector<std::uint8_t> finish() const;
+
+private:
+    /// First the copies of the byte it begins with, then all from the first that differs: so a band's bytes depend on
+    /// nothing before it, and an opaque one has none.
+    struct Band {
+        std::uint8_t value = 0;
+        std::int64_t copies = 0;
+        std::vector<std::uint8_t> bytes;
+        AlphaRLEEncoder encoder{bytes};
+
+        Band() = default;
+        Band(const Band&) = delete;
+        Band& operator=(const Band&) = delete;
+    };
+    int mWidth = 0, mHeight = 0, mRowsABand = 1;
+    std::vector<Band> mBands;
+};
+
 /// The whole alpha plane of @p pixels as the file's bytes; nothing for an empty view.
 /// One linear pass over the pixels, on all cores. Any thread that may read them. Throws std::bad_alloc.
 std::vector<std::uint8_t> encodeAlphaRLE(ConstBitmapView pixels);
@@ -47,6 +81,10 @@ std::vector<std::uint8_t> encodeAlphaRLE(ConstBitmapView pixels);
 /// dropped; a file that ends early leaves the rest of the plane as it was; one that ends right behind a pair stands for
 /// 255 further copies. @return how many alpha bytes were written One linear pass. Any thread that owns the pixels.
 std::int64_t decodeAlphaRLE(std::span<const std::uint8_t> file, BitmapView pixels);
+
+/// Every @p step th byte of every @p step th row of the alpha plane in a file, as decodeAlphaRLE() would write it into
+/// an opaque picture of that size, row by row. Costs the file's length, not the picture's. Throws std::bad_alloc.
+std::vector<std::uint8_t> sampleAlphaRLE(std::span<const std::uint8_t> file, int width, int height, int step);
 
 /// Walks the alpha bytes of a picture one at a time in raster order: the read cursor and the write cursor are two of
 /// these. Positions itself before the first pixel; a default one, and one over an empty view, stands at the end.

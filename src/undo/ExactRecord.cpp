@@ -115,7 +115,7 @@ private:
     {
         mRecord.inMemory = true;
         mRecord.memory.resize(mEnd);
-        if (!readAll(mFile, mRecord.memory.data(), mEnd, 0)) mRecord.tiles.clear(); // then the step is not exact
+        mRecord.isWhole = readAll(mFile, mRecord.memory.data(), mEnd, 0);
     }
     void close()
     {
@@ -140,13 +140,13 @@ const ExactTile* ExactRecord::find(int tile) const
     return found != tiles.end() && found->tile == tile ? &*found : nullptr;
 }
 
-ExactRecord writeExactRecord(int folder, std::int32_t number, std::int32_t parent, PixelCapture& capture)
+ExactRecord writeExactRecord(int folder, std::int32_t number, std::int32_t parent, PixelCapture& capture,
+                             const std::vector<int>& tiles, const KnownTile& before)
 {
     ExactRecord record;
     record.number = number;
     record.parent = parent;
     record.grid = capture.tiles().grid();
-    const std::vector<int> tiles = capture.tiles().list();
     RecordWriter writer(folder, record);
     struct Slot {
         TileCodec codec;
@@ -158,13 +158,16 @@ ExactRecord writeExactRecord(int folder, std::int32_t number, std::int32_t paren
         const int count = int(std::min(slots.size(), tiles.size() - first));
         parallelFor(count, [&](int i) {
             Slot& slot = slots[std::size_t(i)];
-            capture.read(tiles[first + std::size_t(i)], [&slot](ConstBitmapView pixels) {
+            const int tile = tiles[first + std::size_t(i)];
+            capture.read(tile, [&](ConstBitmapView pixels) {
                 slot.pixels = fingerprint(pixels);
-                slot.packed = slot.codec.pack(pixels);
+                slot.packed = {};
+                if (before(tile) != slot.pixels) slot.packed = slot.codec.pack(pixels);
             });
         });
         for (int i = 0; i < count; ++i)
-            writer.append(tiles[first + std::size_t(i)], slots[std::size_t(i)].pixels, slots[std::size_t(i)].packed);
+            if (const Slot& slot = slots[std::size_t(i)]; !slot.packed.empty())
+                writer.append(tiles[first + std::size_t(i)], slot.pixels, slot.packed);
     }
     writer.finish();
     return record;

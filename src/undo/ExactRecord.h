@@ -5,6 +5,7 @@
 #include "undo/PixelCapture.h"
 #include "undo/TileGrid.h"
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -30,14 +31,20 @@ struct ExactRecord {
     std::uint64_t bytes = 0;          ///< what it takes on the disk or in memory
     std::vector<std::uint8_t> memory; ///< the packed tiles when there is no file
     bool inMemory = false;
+    bool isWhole = true; ///< nothing was lost between disk and memory
 
     static std::string fileName(std::int32_t number);
     const ExactTile* find(int tile) const;
 };
 
-/// Packs what @p capture holds and writes the record into the open folder @p folder. When the disk fails, the record is
-/// kept in memory. Runs on the calling thread and the pool. @throws std::bad_alloc
-ExactRecord writeExactRecord(int folder, std::int32_t number, std::int32_t parent, PixelCapture& capture);
+/// What a tile held in the step before; nothing when that is not known.
+using KnownTile = std::function<std::optional<Fingerprint>(int tile)>;
+
+/// Packs @p tiles of @p capture but for those that hold what they held before, and writes the record into the open
+/// folder @p folder. When the disk fails, the record is kept in memory. Runs on the calling thread and the pool.
+/// @throws std::bad_alloc
+ExactRecord writeExactRecord(int folder, std::int32_t number, std::int32_t parent, PixelCapture& capture,
+                             const std::vector<int>& tiles, const KnownTile& before);
 
 /// Reads the table of a record; nothing when there is none or it is not whole.
 std::optional<ExactRecord> readExactRecord(int folder, std::int32_t number);

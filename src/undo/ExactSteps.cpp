@@ -50,20 +50,22 @@ const ExactSteps::Run* ExactSteps::runOf(std::int32_t number) const
     return nullptr;
 }
 
-std::optional<std::int32_t> ExactSteps::parentFor(std::int32_t number, TileGrid grid) const
-{
-    const std::lock_guard lock(mExactMutex);
-    auto after = mRecords.upper_bound(number);
-    if (after == mRecords.begin()) return std::nullopt;
-    const std::int32_t newest = std::prev(after)->first;
-    const Run* run = runOf(newest);
-    return run && run->grid == grid ? std::optional(newest) : std::nullopt;
-}
-
 bool ExactSteps::isExact(std::int32_t number) const
 {
     const std::lock_guard lock(mExactMutex);
     return mRecords.contains(number);
+}
+
+bool ExactSteps::isThere(std::int32_t number) const
+{
+    const std::lock_guard lock(mExactMutex);
+    if (!mRecords.contains(number)) return false;
+    const Run* const run = runOf(number);
+    const auto end = mRecords.upper_bound(number);
+    return std::all_of(mRecords.lower_bound(run ? run->first : number), end, [this](const auto& entry) {
+        return entry.second.inMemory ||
+               faccessat(mExactFolder, ExactRecord::fileName(entry.first).c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+    });
 }
 
 std::optional<TileGrid> ExactSteps::gridOf(std::int32_t number) const
@@ -105,18 +107,30 @@ void ExactSteps::enter(ExactRecord record)
     mRecords[number] = std::move(record);
 }
 
-void ExactSteps::write(std::int32_t number, std::optional<std::int32_t> parent, PixelCapture& capture)
+bool ExactSteps::write(std::int32_t number, std::optional<std::int32_t> parent, PixelCapture& capture,
+                       const TileSet& tiles)
 {
     int folder = -1;
+    std::vector<std::optional<Fingerprint>> before(std::size_t(tiles.grid().count()));
     {
         const std::lock_guard lock(mExactMutex);
         folder = mExactFolder;
+        if (parent) {
+            const Run* const run = runOf(*parent);
+            if (mRecords.empty() || mRecords.rbegin()->first != *parent || !run || run->grid != tiles.grid())
+                return false;
+            for (const int tile : tiles.list())
+                if (const PackedTile packed = find(*run, tile, *parent); packed.tile)
+                    before[std::size_t(tile)] = packed.tile->pixels;
+        }
     }
-    ExactRecord record = writeExactRecord(folder, number, parent.value_or(-1), capture);
-    if (int(record.tiles.size()) != capture.tiles().count()) return; // lost between disk and memory: not exact
+    ExactRecord record = writeExactRecord(folder, number, parent.value_or(-1), capture, tiles.list(),
+                                          [&before](int tile) { return before[std::size_t(tile)]; });
+    if (!record.isWhole) return false;
     const std::lock_guard lock(mExactMutex);
     enter(std::move(record));
     makeRoom();
+    return mRecords.contains(number);
 }
 
 void ExactSteps::forget(std::int32_t number, bool removeFile)
@@ -214,8 +228,8 @@ void ExactSteps::makeRoom()
 
 // ---- reading --------------------------------------------------------------------------------------------------------
 
-std::optional<PixelBox> ExactSteps::restore(std::int32_t to, std::optional<std::int32_t> from, const TileSet& touched,
-                                            BitmapView pixels) const
+std::optional<TileSet> ExactSteps::restore(std::int32_t to, std::optional<std::int32_t> from, const TileSet& touched,
+                                           BitmapView pixels) const
 {
     const std::lock_guard lock(mExactMutex);
     if (!mRecords.contains(to)) return std::nullopt;
@@ -266,23 +280,26 @@ std::optional<PixelBox> ExactSteps::restore(std::int32_t to, std::optional<std::
         }
     });
     if (!whole) return std::nullopt;
-    PixelBox changed;
-    for (const Job& job : jobs) {
-        changed = changed.united(job.box);
+    for (const Job& job : jobs)
         if (job.pixels)
             copyPixels({job.pixels.get(), job.box.width(), job.box.height(), std::ptrdiff_t{4} * job.box.width()},
                        pixels.part(job.box));
-    }
-    return changed;
+    return wanted;
 }
 
-void ExactSteps::adopt(std::int32_t newest)
+bool ExactSteps::shareTiles(std::int32_t a, std::int32_t b) const
+{
+    const std::lock_guard lock(mExactMutex);
+    return mRecords.contains(a) && mRecords.contains(b) && runOf(a) == runOf(b);
+}
+
+void ExactSteps::adopt(int folder, std::int32_t newest)
 {
     const std::lock_guard lock(mExactMutex);
     mRecords.clear();
     mRuns.clear();
     for (std::int32_t number = 0; number <= newest; ++number) {
-        std::optional<ExactRecord> record = readExactRecord(mExactFolder, number);
+        std::optional<ExactRecord> record = readExactRecord(folder, number);
         if (!record) continue;
         const bool follows = record->parent >= 0 && mRecords.contains(record->parent) &&
                              mRecords.rbegin()->first == record->parent && mRuns.back().grid == record->grid;

@@ -22,23 +22,29 @@ public:
     void reset(int folder);
     ~ExactSteps();
 
-    /// The step whose pixels a new record's other tiles would be: the newest exact one up to @p number with that size.
-    std::optional<std::int32_t> parentFor(std::int32_t number, TileGrid grid) const;
-    /// Records step @p number from @p capture, which holds the tiles that are not those of @p parent, all without one.
-    /// Runs on the calling thread and the pool. @throws std::bad_alloc
-    void write(std::int32_t number, std::optional<std::int32_t> parent, PixelCapture& capture);
+    /// Records step @p number: @p tiles are those that may differ from step @p parent, the last exact one before it;
+    /// all without one. Those of a picture of another size cannot have a parent.
+    /// Runs on the calling thread and the pool. @return whether the step is exact now. @throws std::bad_alloc
+    bool write(std::int32_t number, std::optional<std::int32_t> parent, PixelCapture& capture, const TileSet& tiles);
     /// Steps above @p number are gone.
     void dropAbove(std::int32_t number);
     bool isExact(std::int32_t number) const;
+    /// Whether the files that it needs are still there, too. Cost: a look at the disk for each step since the last that
+    /// stands by itself.
+    bool isThere(std::int32_t number) const;
     std::optional<TileGrid> gridOf(std::int32_t number) const;
     /// Brings @p pixels, which hold step @p from but for the tiles in @p touched, to step @p to. Without @p from, or
     /// from a picture of another size, all tiles are written.
-    /// @return the box that changed; nothing when a tile of it is damaged or missing: the pixels are as they were, but
-    /// without @p from they may have been written. @throws std::bad_alloc
-    std::optional<PixelBox> restore(std::int32_t to, std::optional<std::int32_t> from, const TileSet& touched,
-                                    BitmapView pixels) const;
-    /// After a crash: the records that lie in the folder, up to @p newest.
-    void adopt(std::int32_t newest);
+    /// @return the tiles that were written; nothing when one of them is damaged or missing: the pixels are as they
+    /// were, but without @p from they may have been written. @throws std::bad_alloc
+    std::optional<TileSet> restore(std::int32_t to, std::optional<std::int32_t> from, const TileSet& touched,
+                                   BitmapView pixels) const;
+    /// Whether restore() goes from one to the other by the tiles that differ, the picture untouched until all are
+    /// whole.
+    bool shareTiles(std::int32_t a, std::int32_t b) const;
+    /// Takes in the records that another run left in the open folder @p folder, up to @p newest. To be restored they
+    /// have to lie in the folder given to reset().
+    void adopt(int folder, std::int32_t newest);
     /// The most that the records may take on the disk, in bytes; by default 4 GB or a tenth of what is free.
     void setLimit(std::optional<std::uint64_t> bytes) { mLimit = bytes; }
     std::uint64_t bytesOnDisk() const;

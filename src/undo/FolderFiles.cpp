@@ -19,7 +19,9 @@ constexpr int kOpenFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 /// Deeper nesting is nobody's honest undo folder; it stays.
 constexpr int kMaxDepth = 64;
 
-void removeContentsTo(int handle, int depth)
+/// Calls f(name) for every entry.
+template <class F>
+void forEachName(int handle, F&& f)
 {
     // The list is read through a handle of its own: closedir() takes it with it.
     const int list = openat(handle, ".", kOpenFolder);
@@ -28,17 +30,22 @@ void removeContentsTo(int handle, int depth)
         if (list >= 0) ::close(list);
         return;
     }
-    while (const dirent* entry = readdir(entries)) {
-        const char* const name = entry->d_name;
-        if (std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0) continue;
-        if (unlinkat(handle, name, 0) == 0 || depth >= kMaxDepth) continue;
+    while (const dirent* entry = readdir(entries))
+        if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0) f(entry->d_name);
+    closedir(entries);
+}
+
+void removeContentsTo(int handle, int depth, const std::function<bool(const std::string&)>& kept)
+{
+    forEachName(handle, [&](const char* name) {
+        if (kept && kept(name)) return;
+        if (unlinkat(handle, name, 0) == 0 || depth >= kMaxDepth) return;
         const int inner = openat(handle, name, kOpenFolder);
-        if (inner < 0) continue;
-        removeContentsTo(inner, depth + 1);
+        if (inner < 0) return;
+        removeContentsTo(inner, depth + 1, {});
         ::close(inner);
         unlinkat(handle, name, AT_REMOVEDIR);
-    }
-    closedir(entries);
+    });
 }
 
 } // namespace
@@ -89,7 +96,25 @@ int openPrivate(int parent, const std::string& name)
     return -1;
 }
 
-void removeContents(int handle) { removeContentsTo(handle, 0); }
+int openInner(int parent, const std::string& name)
+{
+    if (mkdirat(parent, name.c_str(), 0700) != 0 && errno != EEXIST) return -1;
+    return openExistingInner(parent, name);
+}
+
+int openExistingInner(int parent, const std::string& name) { return openat(parent, name.c_str(), kOpenFolder); }
+
+std::vector<std::string> names(int handle)
+{
+    std::vector<std::string> all;
+    forEachName(handle, [&all](const char* name) { all.emplace_back(name); });
+    return all;
+}
+
+void removeContents(int handle, const std::function<bool(const std::string&)>& kept)
+{
+    removeContentsTo(handle, 0, kept);
+}
 
 void removeWithContents(int parent, const std::string& name)
 {
@@ -104,9 +129,11 @@ void removeWithContents(int parent, const std::string& name)
 bool writeFile(int handle, const std::string& name, std::span<const std::uint8_t> bytes, std::string& error)
 {
     const auto failed = [&](int file) {
-        error = std::strerror(errno);
+        const int why = errno;
+        error = std::strerror(why);
         if (file >= 0) ::close(file);
         unlinkat(handle, name.c_str(), 0);
+        errno = why;
         return false;
     };
     // Whatever stands in the way goes first: then the file is new, and nobody else's.
@@ -121,6 +148,16 @@ bool writeFile(int handle, const std::string& name, std::span<const std::uint8_t
     }
     if (::close(file) != 0) return failed(-1);
     return true;
+}
+
+bool replaceFile(int handle, const std::string& name, std::span<const std::uint8_t> bytes, std::string& error)
+{
+    const std::string beside = "." + name + ".part";
+    if (!writeFile(handle, beside, bytes, error)) return false;
+    if (renameat(handle, beside.c_str(), handle, name.c_str()) == 0) return true;
+    error = std::strerror(errno);
+    unlinkat(handle, beside.c_str(), 0);
+    return false;
 }
 
 std::optional<std::vector<std::uint8_t>> readFile(int handle, const std::string& name, std::uint64_t limit)

@@ -4,7 +4,6 @@
 #include "undo/SnapshotJPEG.h"
 #include "undo/SnapshotSeal.h"
 #include <algorithm>
-#include <atomic>
 #include <new>
 
 namespace zp
@@ -24,7 +23,7 @@ void SnapshotEncoder::forget()
     mCoder.reset();
 }
 
-void SnapshotEncoder::join()
+std::span<const std::uint8_t> SnapshotEncoder::finish()
 {
     const std::span<const std::uint8_t> header = mCoder->head();
     std::size_t size = header.size() + jpeg::kSealSize;
@@ -49,40 +48,48 @@ void SnapshotEncoder::join()
     }
     const std::uint8_t* const sealed = seal + jpeg::kSealSize;
     jpeg::writeSeal(seal, fingerprint(std::span(sealed, std::size_t(to - sealed))));
+    return mFile;
+}
+
+bool SnapshotEncoder::start(int width, int height)
+{
+    mStripsEncoded = 0;
+    if (mCoder && width == mCoder->format().width && height == mCoder->format().height) return true;
+    forget();
+    mCoder.emplace();
+    if (!mCoder->prepare({.width = width, .height = height, .quality = kSnapshotQuality, .stripRows = 1})) {
+        forget();
+        throw std::bad_alloc();
+    }
+    mStrips.resize(std::size_t(mCoder->format().strips()));
+    return false;
+}
+
+void SnapshotEncoder::encodeRows(ConstBitmapView rows, int first)
+{
+    for (int y = 0; y < rows.height; y += kStripRows) {
+        const ConstBitmapView part = rows.part({0, y, rows.width, std::min(y + kStripRows, rows.height)});
+        Strip& strip = mStrips[std::size_t((first + y) / kStripRows)];
+        const Fingerprint now = fingerprint(part);
+        if (strip.pixels == now) continue;
+        strip.pixels.reset(); // in case the encoding ends half-way
+        mCoder->encode(part, strip.bytes);
+        strip.pixels = now;
+        ++mStripsEncoded;
+    }
 }
 
 std::span<const std::uint8_t> SnapshotEncoder::encode(ConstBitmapView pixels)
 try {
     mStripsEncoded = 0;
     if (pixels.isEmpty()) return {};
-    if (!mCoder || pixels.width != mCoder->format().width || pixels.height != mCoder->format().height) {
-        forget();
-        mCoder.emplace();
-        if (!mCoder->prepare(
-                {.width = pixels.width, .height = pixels.height, .quality = kSnapshotQuality, .stripRows = 1})) {
-            forget();
-            return {};
-        }
-        mStrips.resize(std::size_t(mCoder->format().strips()));
-    }
-
-    const int strips = mCoder->format().strips();
-    const int groups = (strips + kGroup - 1) / kGroup;
-    std::atomic<int> encoded{0};
-    parallelFor(groups, [&](int group) {
-        for (int i = group * kGroup; i < std::min((group + 1) * kGroup, strips); ++i) {
-            const ConstBitmapView rows = pixels.part(mCoder->format().rowsOf(i));
-            Strip& strip = mStrips[std::size_t(i)];
-            const Fingerprint now = fingerprint(rows);
-            if (strip.pixels == now) continue;
-            mCoder->encode(rows, strip.bytes);
-            strip.pixels = now;
-            ++encoded;
-        }
+    start(pixels.width, pixels.height);
+    constexpr int kRows = kGroup * kStripRows;
+    parallelFor((pixels.height + kRows - 1) / kRows, [&](int group) {
+        const int first = group * kRows;
+        encodeRows(pixels.part({0, first, pixels.width, std::min(first + kRows, pixels.height)}), first);
     });
-    mStripsEncoded = encoded;
-    join();
-    return mFile;
+    return finish();
 } catch (const std::bad_alloc&) {
     forget();
     return {};

@@ -9,6 +9,7 @@
 #include "base/BitmapView.h"
 #include "codecs/JPEGStrips.h"
 #include "undo/Fingerprint.h"
+#include <atomic>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -31,9 +32,17 @@ public:
     /// @return the file's bytes, valid until the next call; empty for an empty view or when memory fails
     /// Time: one read of the pixels, and the encoding of what changed.
     std::span<const std::uint8_t> encode(ConstBitmapView pixels);
+    /// The same in pieces. @return whether the strips of a picture of that size are remembered; else all of them have
+    /// to come before finish(). @throws std::bad_alloc
+    bool start(int width, int height);
+    /// Looks at the strips that begin at row @p first; different ones from several threads. @throws std::bad_alloc
+    /// @param rows  whole strips, from the left to the right edge of the picture
+    void encodeRows(ConstBitmapView rows, int first);
+    /// The file's bytes, valid until the next call. @throws std::bad_alloc
+    std::span<const std::uint8_t> finish();
     /// Drops what is remembered, so that the next picture is encoded whole.
     void forget();
-    /// How many strips the last call had to encode.
+    /// How many strips have been encoded since the start.
     int stripsEncoded() const { return mStripsEncoded; }
 
 private:
@@ -41,12 +50,11 @@ private:
         std::optional<Fingerprint> pixels; ///< of the rows that bytes were made from
         std::vector<std::uint8_t> bytes;   ///< entropy-coded data without the restart marker behind it
     };
-    void join();
 
     std::optional<jpeg::StripEncoder> mCoder; ///< for pictures of the last one's size
     std::vector<Strip> mStrips;
     std::vector<std::uint8_t> mFile;
-    int mStripsEncoded = 0;
+    std::atomic<int> mStripsEncoded{0};
 };
 
 struct SnapshotJPEGSize {

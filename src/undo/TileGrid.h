@@ -55,6 +55,21 @@ public:
         mGrid.forEach(pixels, [this](int tile) { add(tile); });
     }
     void addAll() { add(PixelBox{0, 0, mGrid.width, mGrid.height}); }
+    void add(const TileSet& other)
+    {
+        for (int tile = 0; tile < int(other.mIn.size()); ++tile)
+            if (other.mIn[std::size_t(tile)]) add(tile);
+    }
+    /// The same tiles and all others of their rows.
+    TileSet wholeRows() const
+    {
+        TileSet rows(mGrid);
+        for (const int tile : list()) {
+            const PixelBox box = mGrid.box(tile);
+            if (!rows.contains(tile)) rows.add(PixelBox{0, box.y0, mGrid.width, box.y1});
+        }
+        return rows;
+    }
     void clear()
     {
         if (mCount) mIn.assign(mIn.size(), 0);

@@ -21,6 +21,12 @@ public:
     /// Whether every box that was announced is kept.
     bool isWhole() const { return mWhole; }
     bool isEmpty() const { return mTiles.empty(); }
+    /// Calls f(PixelBox) for every tile that is kept.
+    template <class F>
+    void forEach(F&& f) const
+    {
+        for (const Tile& tile : mTiles) f(tile.box);
+    }
     /// All kept tiles go back into the picture. @return the box they cover
     PixelBox restore(BitmapView pixels) const;
 

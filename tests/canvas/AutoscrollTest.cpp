@@ -236,23 +236,6 @@ TEST_F(Autoscroll, AQuestionStopsIt)
     expectRest();
 }
 
-TEST_F(Autoscroll, AStepBeingWrittenIsWaitedForInSilence)
-{
-    press(10, 10);
-    moveTo(219, 100);
-    ASSERT_TRUE(scrollsOnFrom(scrolledX()));
-    takeSounds();
-    int from = 0;
-    whileAStepIsWritten([&] {
-        from = scrolledX();
-        EXPECT_FALSE(isRepeating());
-        EXPECT_EQ(scrolledX(), from);
-    });
-    EXPECT_TRUE(takeSounds().empty());
-    EXPECT_TRUE(scrollsOnFrom(from));
-    release();
-}
-
 TEST_F(Autoscroll, AMovementThatTheProgramSentIsNotRepeated)
 {
     ToolTest::press(10, 10);

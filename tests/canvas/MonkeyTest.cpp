@@ -18,7 +18,7 @@ protected:
     /// Button up, accepted: one that comes while a step is written is refused. Then until all is at rest.
     void rest()
     {
-        while (history().isWriting()) QApplication::processEvents(QEventLoop::AllEvents, 1);
+        while (history().isBusy()) QApplication::processEvents(QEventLoop::AllEvents, 1);
         const Point at = document->view().pointer();
         if (gesture().isMouseDown()) release(at.x, at.y);
         settle();

@@ -29,36 +29,25 @@ TEST_F(GestureLife, UnknownToolBeepsAndDoesNothing)
     EXPECT_FALSE(outline());
 }
 
-TEST_F(GestureLife, NothingIsAcceptedWhileAStepIsWritten)
-{
-    choose(Tool::Rectangle);
-    press(10, 10);
-    whileAStepIsWritten([&] {
-        drag(30, 30);
-        release(40, 40);
-    });
-    EXPECT_EQ(takeSounds(), (Lines{"beep", "beep"}));
-    EXPECT_TRUE(gesture().isMouseDown()) << "an ignored release is no release";
-    EXPECT_FALSE(outline());
-    settle();
-    release(40, 40);
-    EXPECT_FALSE(gesture().isMouseDown());
-    whileAStepIsWritten([&] { press(10, 10); });
-    EXPECT_EQ(takeSounds(), Lines{"beep"});
-    EXPECT_FALSE(gesture().isMouseDown());
-    settle();
-    release(10, 10);
-}
-
-TEST_F(GestureLife, ATrailingDragOfARefusedPressPaintsNothing)
+TEST_F(GestureLife, StrokesAreTakenWhileStepsAreWritten)
 {
     red();
     choose(Tool::Pencil);
-    whileAStepIsWritten([&] { press(10, 10); });
+    for (int i = 0; i < 20; ++i) {
+        EXPECT_FALSE(history().isWriting()) << "the mouse is never refused";
+        press(5, float(5 + 4 * i));
+        drag(150, float(5 + 4 * i));
+        release(150, float(5 + 4 * i));
+    }
+    EXPECT_TRUE(takeSounds().empty());
+    EXPECT_EQ(history().position(), 20);
     settle();
-    drag(50, 50);
-    release(50, 50);
-    EXPECT_EQ(countPixels(kWhiteWord), 20'000u);
+    const auto after = countPixels(kWhiteWord);
+    for (int i = 19; i > 0; --i) {
+        perform("undo:");
+        EXPECT_EQ(history().position(), i);
+        EXPECT_GT(countPixels(kWhiteWord), after + std::size_t(19 - i) * 100) << "step " << i;
+    }
 }
 
 TEST_F(GestureLife, AToolChosenInMidDragEndsTheGesture)

@@ -46,10 +46,10 @@ TEST_F(Recovery, WhatACrashedProgramLeftComesBackWithItsHistory)
     ASSERT_EQ(waitpid(child, &status, 0), child);
 
     makeImage(10, 10); // a picture opened by the launch itself comes first
-    const auto work = findRecoverableWork();
-    ASSERT_TRUE(work);
-    EXPECT_EQ(work->imagePath, "/pictures/lost.png");
-    ASSERT_TRUE(recover(*document, *work));
+    const auto left = leftPictures();
+    ASSERT_EQ(left.size(), 1u);
+    EXPECT_EQ(left[0].work.imagePath, "/pictures/lost.png");
+    ASSERT_TRUE(recover(*document, left[0]));
     settle();
     EXPECT_EQ(picture().path(), "/pictures/lost.png");
     EXPECT_EQ(picture().size().width, 50);
@@ -59,8 +59,8 @@ TEST_F(Recovery, WhatACrashedProgramLeftComesBackWithItsHistory)
     expectPicture(101, 40);
     change(255, 200);
     expectNumbers(2, 2);
-    EXPECT_FALSE(findRecoverableWork());
-    EXPECT_FALSE(recover(*document, *work));
+    EXPECT_TRUE(leftPictures().empty());
+    EXPECT_FALSE(recover(*document, left[0]));
     expectPicture(255, 200);
 }
 

@@ -25,7 +25,7 @@ protected:
         run.play({"set mColorWell #ffffff", "menu selectAll:", "menu fill:", "wait",
                   "menu selectNone:", "set mColorWell #ff0000", "set mSizeField 10", "sounds"});
     }
-    void play(std::initializer_list<const char*> lines) { run.play(lines); }
+    void play(std::initializer_list<QString> lines) { run.play(lines); }
     QJsonValue state(const char* field) { return run.state()[field]; }
     int position() { return state("mUndoRedoIndex").toInt(); }
     bool floats() { return state("floating").toBool(); }
@@ -547,8 +547,10 @@ class GateLate : public Gate, public testing::WithParamInterface<Command>
 
 TEST_P(GateLate, ASmartFillOfAPictureThatIsGoneIsDroppedWithoutAStep)
 {
-    play({"send saveImageAsPNG: other.png"});
-    rectangle(20, 20, 60, 60);
+    // So large that the fill is still under way when the command comes, also on a busy machine.
+    run.newImage(500, 400);
+    play({"menu selectAll:", "menu fill:", "menu selectNone:", "send saveImageAsPNG: other.png"});
+    rectangle(20, 20, 460, 360);
     play({"menu smartFill:", "click run:"});
     run.must(GetParam().line);
     // The command's own step, if it leaves one; an opened picture's first comes by a timer.

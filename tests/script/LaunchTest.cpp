@@ -243,27 +243,97 @@ TEST(SizeDialogs, QuickSaveProposesTheNextName)
     s.must("click name_cancel:");
 }
 
+namespace
+{
+
+const QStringList kOffering{"--no-start-choice", "--offer-recovery"};
+
+/// A picture of that width, painted red in one step, of a program that is killed.
+void leaveWork(const QString& home, int width)
+{
+    Session s({"--no-start-choice"}, home);
+    s.newImage(width, 20);
+    s.play({"set mColorWell #ff0000", "menu selectAll:", "menu fill:", "wait"});
+    s.kill();
+}
+
+} // namespace
+
 TEST(Launch, AKilledProgramsPictureIsOfferedAgain)
 {
     QTemporaryDir home;
+    leaveWork(home.path(), 30);
     {
-        Session s({"--no-start-choice"}, home.path());
-        s.newImage(30, 20);
-        s.play({"set mColorWell #ff0000", "menu selectAll:", "menu fill:", "wait"});
-        s.kill();
-    }
-    {
-        Session again({"--no-start-choice"}, home.path());
+        Session again(kOffering, home.path());
         const QJsonObject alert = again.must("alert")["alert"].toObject();
-        EXPECT_EQ(alert["buttons"], (QJsonArray{"Recover", "Discard"}));
+        EXPECT_EQ(alert["title"], "Zelpane ended unexpectedly. Do you want to recover your last image?");
+        EXPECT_EQ(alert["buttons"], (QJsonArray{"Recover", "Discard", "Later"}));
         again.must("answer Recover");
         EXPECT_EQ(again.must("image")["width"], 30);
         EXPECT_EQ(again.state()["mUndoRedoIndex"], 1);
-        EXPECT_GT(again.pixel(5, 5)[1], 245);
+        EXPECT_EQ(again.pixel(5, 5), (std::vector<int>{255, 255, 0, 0})) << "the very pixels";
         again.must("menu undo:");
         EXPECT_EQ(again.pixel(5, 5)[0], 0) << "the whole history comes back";
         EXPECT_EQ(again.end(), 0);
     }
-    Session after({"--no-start-choice"}, home.path());
+    Session after(kOffering, home.path());
     EXPECT_TRUE(after.must("alert")["alert"].isNull()) << "a program that quit leaves nothing to recover";
+}
+
+TEST(Launch, LeftWorkIsTouchedByNothingButItsAnswer)
+{
+    QTemporaryDir home;
+    leaveWork(home.path(), 30);
+    { // A script that was not asked to.
+        Session script({"--no-start-choice"}, home.path());
+        EXPECT_TRUE(script.must("alert")["alert"].isNull());
+        script.newImage(8, 8);
+        EXPECT_EQ(script.end(), 0);
+    }
+    { // A question that nobody answers.
+        Session script(kOffering, home.path());
+        EXPECT_FALSE(script.must("alert")["alert"].isNull());
+        EXPECT_EQ(script.end(), 0);
+    }
+    for (const char* answer : {"answer Later", "key Escape"}) {
+        Session script(kOffering, home.path());
+        ASSERT_FALSE(script.must("alert")["alert"].isNull()) << answer;
+        script.must(answer);
+        EXPECT_TRUE(script.must("alert")["alert"].isNull()) << answer;
+        EXPECT_EQ(script.end(), 0);
+    }
+    { // Another crash.
+        Session script(kOffering, home.path());
+        script.must("answer Later");
+        script.newImage(50, 20);
+        script.must("wait");
+        script.kill();
+    }
+    {
+        Session script(kOffering, home.path());
+        EXPECT_TRUE(script.must("alert")["alert"].toObject()["message"].toString().contains("50 × 20"));
+        script.must("answer Discard");
+        EXPECT_TRUE(script.must("alert")["alert"].toObject()["message"].toString().contains("30 × 20"));
+        script.must("answer Recover");
+        EXPECT_EQ(script.must("image")["width"], 30);
+    }
+}
+
+TEST(Launch, RecoveredPicturesStandInTheOrderOfTheirTime)
+{
+    QTemporaryDir home;
+    leaveWork(home.path(), 30);
+    {
+        Session next({"--no-start-choice"}, home.path());
+        next.newImage(40, 20);
+        next.must("wait");
+        next.kill();
+    }
+    Session script(kOffering, home.path());
+    script.must("answer Recover");
+    script.must("answer Recover");
+    EXPECT_EQ(script.must("image")["width"], 40) << "the newest is on screen";
+    script.must("menu previousPicture:");
+    EXPECT_EQ(script.must("image")["width"], 30);
+    EXPECT_EQ(script.pixel(5, 5), (std::vector<int>{255, 255, 0, 0}));
 }

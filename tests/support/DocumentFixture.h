@@ -91,23 +91,6 @@ protected:
     }
     bool allows(const char* action) { return document->allows(*document->menuCommand(action)); }
     void hold(std::uint32_t keys) { setScriptedKeyModifiers(keys); }
-    /// Asks for a step and does @p body while that is being written: its writer begins when the body is through. An
-    /// open gesture stays open.
-    template <class F>
-    void whileAStepIsWritten(F&& body)
-    {
-        static constexpr Command kStep{.action = "step", .effect = Effect::View};
-        int begun = 0;
-        const auto connection = QObject::connect(document.get(), &Document::busyChanged, [&](bool busy) {
-            if (!busy || begun++ > 0) return;
-            EXPECT_TRUE(history().isWriting());
-            body();
-            EXPECT_TRUE(history().isWriting());
-        });
-        document->perform(kStep, [](Edit& e) { e.wantStep(true); });
-        QObject::disconnect(connection);
-        EXPECT_EQ(begun, 1);
-    }
 
     // ---- looking ---------------------------------------------------------------------------------------------------
     const Picture& picture() const { return document->picture(); }

@@ -77,9 +77,9 @@ public:
         EXPECT_FALSE(reply["ok"].toBool()) << line.toStdString();
         return reply["error"].toString();
     }
-    void play(std::initializer_list<const char*> lines)
+    void play(std::initializer_list<QString> lines)
     {
-        for (const char* line : lines) must(line);
+        for (const QString& line : lines) must(line);
     }
     void newImage(int width, int height)
     {

@@ -85,7 +85,7 @@ TEST(PixelCapture, ShowsThePixelsAsTheyWereThoughThePictureIsPaintedOn)
     const std::vector<std::uint32_t> before = words(std::as_const(*rep).view());
     TileSet tiles(TileGrid{700, 400});
     tiles.addAll();
-    PixelCapture capture(rep, tiles);
+    PixelCapture capture(rep, tiles, TileSet(tiles.grid()));
     std::vector<std::uint32_t> seen(before.size());
     std::thread painter([&] {
         std::mt19937 random(2);
@@ -123,13 +123,15 @@ protected:
     void record(int number)
     {
         const TileGrid grid{rep->pixelsWide(), rep->pixelsHigh()};
-        const auto parent = steps.parentFor(number - 1, grid);
-        if (!parent || touched.grid() != grid) {
+        std::optional<int> parent;
+        if (number > 0 && touched.grid() == grid && steps.isExact(number - 1)) parent = number - 1;
+        if (!parent) {
             touched = TileSet(grid);
             touched.addAll();
         }
-        PixelCapture capture(rep, touched);
-        steps.write(number, parent, capture);
+        PixelCapture capture(rep, touched, touched);
+        for (const int tile : touched.list()) capture.read(tile, [](ConstBitmapView) {}); // as the pair's writer does
+        steps.write(number, parent, capture, touched);
         touched = TileSet(grid);
         pictures.resize(std::size_t(number) + 1);
         pictures[std::size_t(number)] = words(std::as_const(*rep).view());
@@ -214,7 +216,7 @@ TEST_F(Exact, AnotherProgramFindsTheStepsInTheFolder)
     history(30);
     ExactSteps later;
     later.reset(handle);
-    later.adopt(29);
+    later.adopt(handle, 29);
     for (const int to : {29, 0, 12, 11, 25}) {
         const auto grid = later.gridOf(to);
         ASSERT_TRUE(grid) << to;
@@ -245,7 +247,7 @@ TEST_F(Exact, ARecordThatWasNotFinishedIsNone)
         const auto path = folder.path() / ExactRecord::fileName(number);
         std::filesystem::resize_file(path, std::filesystem::file_size(path) - 3);
     }
-    steps.adopt(5);
+    steps.adopt(handle, 5);
     EXPECT_TRUE(steps.isExact(1));
     for (const int number : {2, 3, 4, 5}) EXPECT_FALSE(steps.isExact(number)) << "stands on one that is gone";
 }

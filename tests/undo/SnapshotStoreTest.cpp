@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The undo folder: private, never through a link, whole pairs only, whatever fails; and what a crash leaves.
+/// The undo folder: private, never through a link, whole pairs only, whatever fails; and the pictures aside in it.
 #include "undo/SnapshotStore.h"
 #include "support/TemporaryFolder.h"
 #include "undo/AlphaRLE.h"
+#include "undo/LeftWork.h"
 #include "undo/SnapshotJPEG.h"
 #include "undo/TestPictures.h"
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <gtest/gtest.h>
 #include <set>
 #include <sys/resource.h>
@@ -61,22 +61,11 @@ protected:
         if (whole) store.record({path, 40, 30, number, number});
         return staged && whole;
     }
-    /// Runs @p work in a process of its own, which then dies without any good-bye.
-    static void inACrashingProgram(const std::function<void()>& work)
-    {
-        const pid_t child = fork();
-        if (child == 0) {
-            work();
-            raise(SIGKILL);
-        }
-        int status = 0;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
-    }
 
     const zp::test::TemporaryFolder own;
     const fs::path temporary = own.path();
     const zp::test::TemporaryVariable variable{"ZELPANE_TMP", temporary};
+    const zp::test::TemporaryVariable session{"XDG_RUNTIME_DIR", temporary / "none"};
     std::error_code ignored;
 };
 
@@ -172,7 +161,7 @@ TEST_F(SnapshotStoreTest, TwoRunningProgramsHaveFoldersOfTheirOwn)
     SnapshotStore first, second, third;
     ASSERT_TRUE(take(first, 0));
     ASSERT_TRUE(take(second, 0));
-    EXPECT_FALSE(second.recoverableWork()) << "a running program's work is not a crashed one's";
+    EXPECT_TRUE(leftPictures().empty()) << "a running program's work is not a crashed one's";
     ASSERT_TRUE(third.reset());
     EXPECT_EQ(first.folder(), folder());
     EXPECT_EQ(second.folder(), beside());
@@ -187,7 +176,11 @@ TEST_F(SnapshotStoreTest, TwoRunningProgramsHaveFoldersOfTheirOwn)
 TEST_F(SnapshotStoreTest, PairsComeBackByteForByte)
 {
     SnapshotStore store;
-    const Bytes alpha = {1, 2, 2, 0}, colour = {9, 8, 7};
+    Picture picture(40, 30);
+    paintPhoto(picture.view(), 3);
+    SnapshotEncoder encoder;
+    const auto file = encoder.encode(picture.view());
+    const Bytes alpha = {1, 2, 2, 0}, colour(file.begin(), file.end());
     std::string error;
     ASSERT_TRUE(store.begin(12));
     EXPECT_TRUE(store.stage(12, Half::Alpha, alpha, error));
@@ -195,7 +188,7 @@ TEST_F(SnapshotStoreTest, PairsComeBackByteForByte)
     EXPECT_EQ(names(), (std::set<std::string>{".C_12.jpg.part", ".C_12.rle.part"}))
         << "nothing in place before the end";
     EXPECT_TRUE(store.commit(12));
-    EXPECT_EQ(names(), (std::set<std::string>{"C_12.jpg", "C_12.rle"}));
+    EXPECT_EQ(names(), (std::set<std::string>{"C_12.jpg", "C_12.rle", ".C_12.step"}));
     EXPECT_EQ(store.read(12, Half::Alpha), alpha);
     EXPECT_EQ(store.read(12, Half::Colour), colour);
     EXPECT_FALSE(store.read(13, Half::Colour));
@@ -215,8 +208,8 @@ TEST_F(SnapshotStoreTest, ANewSnapshotRemovesTheNinetyNineAboveIt)
     }
     write(folder() / "C_50.rle", "alone: only a colour file is looked for");
     ASSERT_TRUE(take(store, 2));
-    EXPECT_EQ(names(), (std::set<std::string>{"C_1.jpg", "C_1.rle", "C_2.jpg", "C_2.rle", "C_50.rle", "C_102.jpg",
-                                              "C_102.rle", "C_300.jpg", "C_300.rle", ".recovery"}));
+    EXPECT_EQ(names(), (std::set<std::string>{"C_1.jpg", "C_1.rle", "C_2.jpg", "C_2.rle", ".C_2.step", "C_50.rle",
+                                              "C_102.jpg", "C_102.rle", "C_300.jpg", "C_300.rle", ".recovery"}));
     EXPECT_TRUE(store.begin(INT32_MAX));
 }
 
@@ -230,7 +223,7 @@ TEST_F(SnapshotStoreTest, AHalfThatFailsLeavesNothingOfTheNumber)
     store.begin(1);
     store.stage(1, Half::Alpha, Bytes{1}, error);
     EXPECT_FALSE(store.commit(1));
-    EXPECT_EQ(names(), (std::set<std::string>{"C_0.jpg", "C_0.rle", ".recovery"}));
+    EXPECT_EQ(names(), (std::set<std::string>{"C_0.jpg", "C_0.rle", ".C_0.step", ".recovery"}));
 }
 
 TEST_F(SnapshotStoreTest, ALimitOnFileSizesLosesOnlyTheSnapshot)
@@ -256,7 +249,7 @@ TEST_F(SnapshotStoreTest, ALimitOnFileSizesLosesOnlyTheSnapshot)
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-    EXPECT_EQ(names(), (std::set<std::string>{"C_0.jpg", "C_0.rle", ".recovery"}));
+    EXPECT_EQ(names(), (std::set<std::string>{"C_0.jpg", "C_0.rle", ".C_0.step", ".recovery"}));
 }
 
 TEST_F(SnapshotStoreTest, AFullDiskLosesOnlyTheSnapshot)
@@ -275,7 +268,8 @@ TEST_F(SnapshotStoreTest, AFullDiskLosesOnlyTheSnapshot)
         EXPECT_EQ(error, "No space left on device");
         EXPECT_FALSE(store.commit(1));
         EXPECT_TRUE(take(store, 1)) << "there is room again";
-        EXPECT_EQ(names(), (std::set<std::string>{"C_0.jpg", "C_0.rle", "C_1.jpg", "C_1.rle", ".recovery"}));
+        EXPECT_EQ(names(), (std::set<std::string>{"C_0.jpg", "C_0.rle", ".C_0.step", "C_1.jpg", "C_1.rle", ".C_1.step",
+                                                  ".recovery"}));
         store.remove();
     }
     EXPECT_EQ(std::system(("umount '" + temporary.string() + "'").c_str()), 0);
@@ -305,193 +299,71 @@ TEST_F(SnapshotStoreTest, WithoutAnyPlaceForAFolderNothingHappens)
     EXPECT_FALSE(store.begin(0));
     EXPECT_FALSE(take(store, 0));
     EXPECT_FALSE(store.read(0, Half::Colour));
-    EXPECT_FALSE(store.recoverableWork());
-    EXPECT_FALSE(store.adoptRecoverable());
+    EXPECT_TRUE(leftPictures().empty());
+    EXPECT_FALSE(store.putAside());
+    EXPECT_FALSE(store.bringBack(1));
     EXPECT_EQ(store.folder(), "");
     store.remove();
     EXPECT_EQ(text(temporary / "file"), "no folder");
 }
 
-TEST_F(SnapshotStoreTest, AfterAQuitThereIsNothingToRecover)
+TEST_F(SnapshotStoreTest, ADamagedHalfIsKnownAndNotRead)
 {
-    {
+    struct Damage {
+        const char* file;
+        Half half;
+    };
+    for (const Damage& damage : {Damage{"C_0.jpg", Half::Colour}, Damage{"C_0.rle", Half::Alpha}}) {
         SnapshotStore store;
         ASSERT_TRUE(take(store, 0));
+        EXPECT_FALSE(store.damaged(0, damage.half));
+        const fs::path path = folder() / damage.file;
+        std::string bytes = text(path);
+        bytes[bytes.size() / 2] = char(bytes[bytes.size() / 2] ^ 1);
+        write(path, bytes);
+        EXPECT_TRUE(store.damaged(0, damage.half)) << damage.file;
+        EXPECT_FALSE(store.read(0, damage.half)) << damage.file;
+        EXPECT_TRUE(store.has(0)) << "the names are there";
         store.remove();
     }
-    SnapshotStore next;
-    EXPECT_FALSE(next.recoverableWork());
-    next.reset();
-    EXPECT_FALSE(next.recoverableWork());
 }
 
-TEST_F(SnapshotStoreTest, ACrashedProgramsWorkIsFoundBeforeAndAfterTheFolderIsEmptied)
+TEST_F(SnapshotStoreTest, APictureAsideKeepsItsFilesOutOfTheList)
 {
-    inACrashingProgram([] {
-        SnapshotStore store;
-        for (int i = 0; i < 4; ++i) take(store, i, std::uint8_t(i), "/tmp/odd\nname");
-        store.record({"/tmp/odd\nname", 40, 30, 2, 3}); // one step undone
-    });
     SnapshotStore store;
-    const auto early = store.recoverableWork();
-    ASSERT_TRUE(early);
-    EXPECT_EQ(early->imagePath, "/tmp/odd\nname");
-    EXPECT_EQ(early->width, 40);
-    EXPECT_EQ(early->height, 30);
-    EXPECT_EQ(early->number, 2);
-    EXPECT_EQ(early->newest, 3);
-    EXPECT_TRUE(names().empty()) << "this program's own folder starts empty";
-    ASSERT_TRUE(take(store, 0, 77));
-    store.reset();
-    ASSERT_TRUE(store.recoverableWork());
-    ASSERT_TRUE(store.adoptRecoverable());
-    EXPECT_EQ(names(), (std::set<std::string>{"C_0.jpg", "C_0.rle", "C_1.jpg", "C_1.rle", "C_2.jpg", "C_2.rle",
-                                              "C_3.jpg", "C_3.rle", ".recovery"}));
-    EXPECT_FALSE(store.recoverableWork());
-    EXPECT_FALSE(store.adoptRecoverable());
-    EXPECT_TRUE(take(store, 3)) << "and it goes on from there";
-    SnapshotStore other;
-    EXPECT_TRUE(other.reset());
-    EXPECT_NE(other.folder(), store.folder()) << "the lock came with the folder";
-    other.remove();
+    ASSERT_TRUE(take(store, 0, 1));
+    ASSERT_TRUE(take(store, 1, 2));
+    const auto first = store.read(1, Half::Colour);
+    const auto aside = store.putAside();
+    ASSERT_TRUE(aside);
+    EXPECT_EQ(names(), (std::set<std::string>{".picture-" + std::to_string(*aside)}));
+    ASSERT_TRUE(store.reset());
+    ASSERT_TRUE(take(store, 0, 3));
+    const auto second = store.putAside();
+    ASSERT_TRUE(second);
+    EXPECT_NE(*second, *aside);
+    ASSERT_TRUE(store.bringBack(*aside));
+    EXPECT_EQ(store.read(1, Half::Colour), first);
+    EXPECT_EQ(names(), (std::set<std::string>{"C_0.jpg", "C_0.rle", ".C_0.step", "C_1.jpg", "C_1.rle", ".C_1.step",
+                                              ".recovery", ".picture-" + std::to_string(*second)}));
+    EXPECT_FALSE(store.bringBack(77));
+    store.dropAside(*second);
     store.remove();
     EXPECT_TRUE(names(temporary).empty());
 }
 
-TEST_F(SnapshotStoreTest, WorkThatWasDeclinedIsGone)
+TEST_F(SnapshotStoreTest, WithoutAPlaceAmongTheTemporaryFilesTheSessionsFolderServes)
 {
-    inACrashingProgram([] {
-        SnapshotStore store;
-        take(store, 0);
-    });
+    write(temporary / "file", "no folder");
+    fs::create_directory(temporary / "session");
+    const zp::test::TemporaryVariable none{"ZELPANE_TMP", temporary / "file"};
+    const zp::test::TemporaryVariable session{"XDG_RUNTIME_DIR", temporary / "session"};
     SnapshotStore store;
-    ASSERT_TRUE(store.recoverableWork());
-    store.discardRecoverable();
-    EXPECT_FALSE(store.recoverableWork());
+    ASSERT_TRUE(take(store, 0));
+    EXPECT_EQ(store.place(), SnapshotStore::Place::Runtime);
+    EXPECT_EQ(store.folder(), temporary / "session" / "zelpane" / "Zelpane Undo Support");
     store.remove();
-    EXPECT_TRUE(names(temporary).empty());
-}
-
-TEST_F(SnapshotStoreTest, ACrashAfterARecoveryKeepsTheWork)
-{
-    inACrashingProgram([] {
-        SnapshotStore store;
-        take(store, 0);
-        take(store, 1);
-    });
-    inACrashingProgram([] {
-        SnapshotStore store;
-        store.adoptRecoverable();
-    });
-    SnapshotStore store;
-    const auto work = store.recoverableWork();
-    ASSERT_TRUE(work);
-    EXPECT_EQ(work->number, 1);
-}
-
-TEST_F(SnapshotStoreTest, ACrashInsideASnapshotBringsBackTheLastWholeOne)
-{
-    // Killed after each step of writing number 2, which is written anew after an undo.
-    for (int step = 0; step < 5; ++step) {
-        inACrashingProgram([step] {
-            SnapshotStore store;
-            for (int i = 0; i < 4; ++i) take(store, i, std::uint8_t(i));
-            std::string error;
-            if (step >= 1) store.begin(2);
-            if (step >= 2) store.stage(2, Half::Alpha, Bytes{1, 2, 3}, error);
-            if (step >= 3) store.stage(2, Half::Colour, Bytes{4, 5, 6}, error);
-            // Between the two renames: the alpha file stands, the colour file does not.
-            if (step >= 4) rename((store.folder() + "/.C_2.rle.part").c_str(), (store.folder() + "/C_2.rle").c_str());
-        });
-        SnapshotStore store;
-        const auto work = store.recoverableWork();
-        ASSERT_TRUE(work) << "step " << step;
-        EXPECT_EQ(work->number, step == 0 ? 3 : 1) << "step " << step;
-        EXPECT_EQ(work->newest, step == 0 ? 3 : 1) << "step " << step;
-        store.discardRecoverable();
-        store.remove();
-    }
-}
-
-TEST_F(SnapshotStoreTest, KilledAtAnyMomentItLeavesAWholePairOfOneNumber)
-{
-    // Alpha and colour both say the number, so that halves of different snapshots would be seen.
-    const auto alphaOf = [](int number) { return std::uint8_t(number * 7); };
-    const auto greyOf = [](int number) { return number * 11 % 256; };
-    std::minstd_rand random(5);
-    for (int round = 0; round < 40; ++round) {
-        int whole[2]; // a byte comes through when the first snapshot stands, however slow the machine
-        ASSERT_EQ(pipe(whole), 0);
-        const pid_t child = fork();
-        if (child == 0) {
-            SnapshotStore store;
-            SnapshotEncoder encoder;
-            Picture picture(60, 50);
-            std::string error;
-            // Up and down the numbers, as after undos: most snapshots replace older ones.
-            for (int i = 0;; ++i) {
-                const int number = i % 20 < 12 ? i % 20 : i % 20 - 6;
-                for (int y = 0; y < 50; ++y)
-                    for (int x = 0; x < 60; ++x) {
-                        std::uint8_t* const p = picture.view().pixel(x, y);
-                        p[0] = alphaOf(number);
-                        p[1] = p[2] = p[3] = std::uint8_t(greyOf(number));
-                    }
-                store.begin(number);
-                store.stage(number, Half::Alpha, encodeAlphaRLE(picture.view()), error);
-                store.stage(number, Half::Colour, encoder.encode(picture.view()), error);
-                store.commit(number);
-                store.record({"", 60, 50, number, number});
-                if (i == 0 && ::write(whole[1], "x", 1) != 1) _exit(1);
-            }
-        }
-        char told;
-        ASSERT_EQ(::read(whole[0], &told, 1), 1);
-        close(whole[0]);
-        close(whole[1]);
-        usleep(useconds_t(500 + random() % 15000));
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        SnapshotStore store;
-        const auto work = store.recoverableWork();
-        ASSERT_TRUE(work) << "round " << round;
-        ASSERT_TRUE(store.adoptRecoverable());
-        for (int number = work->number; number <= work->newest; ++number) {
-            const auto colour = store.read(number, Half::Colour), alpha = store.read(number, Half::Alpha);
-            ASSERT_TRUE(colour && alpha);
-            Picture back(60, 50);
-            ASSERT_TRUE(decodeSnapshotJPEG(*colour, back.view()));
-            EXPECT_NEAR(back.view().pixel(30, 30)[1], greyOf(number), 3) << "round " << round;
-            ASSERT_EQ(decodeAlphaRLE(*alpha, back.view()), 60 * 50);
-            EXPECT_EQ(back.view().pixel(30, 30)[0], alphaOf(number)) << "round " << round;
-        }
-        store.remove();
-    }
-}
-
-TEST_F(SnapshotStoreTest, DamagedLeftoversAreNotOffered)
-{
-    const auto crashWith = [&](const std::string& record, bool colours) {
-        inACrashingProgram([&] {
-            SnapshotStore store;
-            take(store, 0);
-            if (!record.empty()) write(fs::path(store.folder()) / ".recovery", record);
-            if (!colours) fs::resize_file(fs::path(store.folder()) / "C_0.jpg", 500);
-        });
-        SnapshotStore store;
-        const bool offered = store.recoverableWork().has_value();
-        store.discardRecoverable();
-        store.remove();
-        return offered;
-    };
-    EXPECT_TRUE(crashWith("", true));
-    EXPECT_FALSE(crashWith("", false)) << "a colour file cut short";
-    EXPECT_FALSE(crashWith("nonsense", true));
-    EXPECT_FALSE(crashWith("Zelpane recovery 1\nsize 40 30\nnumber 0\nnewest 0\npath 9999\nshort\n", true));
-    EXPECT_FALSE(crashWith("Zelpane recovery 1\nsize 0 30\nnumber 0\nnewest 0\npath 0\n\n", true));
-    EXPECT_FALSE(crashWith("Zelpane recovery 1\nsize 40 30\nnumber -1\nnewest 0\npath 0\n\n", true));
-    EXPECT_TRUE(crashWith("Zelpane recovery 1\nsize 40 30\nnumber 7\nnewest 9\npath 0\n\n", true)) << "falls back to 0";
-    EXPECT_TRUE(names(temporary).empty());
+    EXPECT_TRUE(names(temporary / "session" / "zelpane").empty());
 }
 
 } // namespace
