@@ -260,6 +260,7 @@ constexpr Command kCommands[] = {
     plain("newImageForMeWithSize:", "number number", kReplace, newImageForMeWithSize),
     sent("number number number", replaces("setImageSize:scale:", "Resize", Nothing, setImageSize)),
     plain("setImagePath:", "path", kReplace, setImagePath),
+    plain("saveImageAsAsked", nullptr, kRead, saveImageAsAsked),
     plain("saveImageToPath:", "path", kRead, saveImageToPath),
     plain("saveImageAsTIFF:", "path", kRead, saveImageAsTIFF),
     plain("saveImageAsJPEG:", "path", kRead, saveImageAsJPEG),

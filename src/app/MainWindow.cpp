@@ -13,6 +13,7 @@
 #include "codecs/ImageImporter.h"
 #include "desktop/ColorWell.h"
 #include "desktop/KeyModifiers.h"
+#include "desktop/NoticeBar.h"
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
 #include "ui_Main.h"
@@ -83,6 +84,7 @@ MainWindow::MainWindow(Document& document)
     auto* menuKey = new QShortcut(QKeySequence(Qt::Key_F10), this);
     connect(menuKey, &QShortcut::activated, this,
             [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
+    setUpNotices();
 
     connect(&mDocument, &Document::toolChosen, this, &MainWindow::showTool);
     connect(&mDocument, &Document::paintChanged, this, &MainWindow::showPaint);
@@ -249,6 +251,28 @@ void MainWindow::setUpSwitches()
     }
 }
 
+void MainWindow::setUpNotices()
+{
+    mNoticeBar = new NoticeBar(mUi->mScrollView);
+    connect(&mDocument, &Document::noticed, this, &MainWindow::showNotice);
+    connect(mNoticeBar, &NoticeBar::closed, this, [this] {
+        mDocument.closeNotice();
+        giveFocusBack();
+    });
+    connect(mNoticeBar, &NoticeBar::chosen, this, [this] {
+        const QString action = mDocument.notices().front()->action;
+        mDocument.closeNotice();
+        giveFocusBack();
+        if (performAction) performAction(action);
+    });
+}
+
+void MainWindow::showNotice()
+{
+    const Notice* notice = mDocument.notices().front();
+    mNoticeBar->display(notice ? notice->text : QString(), notice ? notice->button : QString());
+}
+
 void MainWindow::setToolImages()
 {
     QApplication::setWindowIcon(applicationImage("zelpane", palette()));
@@ -325,10 +349,14 @@ void MainWindow::showStatus()
     const Picture& picture = mDocument.picture();
     if (!picture.isLoaded()) {
         setWindowTitle("Zelpane");
+        setWindowModified(false);
         return;
     }
-    const std::string name = displayName(lastPathComponent(picture.path()));
-    setWindowTitle(name.empty() ? tr("Untitled — Zelpane") : QString("%1 — Zelpane").arg(QString::fromStdString(name)));
+    // "[*]" is where the platform puts the mark; a name may hold those very characters.
+    const QString name =
+        QString::fromStdString(displayName(lastPathComponent(picture.path()))).replace("[*]", "[*][*]");
+    setWindowTitle(name.isEmpty() ? tr("Untitled[*] — Zelpane") : name + "[*] — Zelpane");
+    setWindowModified(mDocument.isModified());
 }
 
 void MainWindow::chooseBrush(int shape, int tolerance)

@@ -10,6 +10,7 @@
 class EmptyView;
 class HistoryPanel;
 class QToolButton;
+class NoticeBar;
 class ScrollView;
 class SelectionChip;
 class StatusLine;
@@ -62,10 +63,12 @@ private:
     void setUpToolOptions();
     void setUpZoom();
     void setUpSwitches();
+    void setUpNotices();
     void showTool();   ///< the chosen tool and the options that its row puts on show
     void showPaint();  ///< colour and size
     void showZoom();   ///< the level nearest to the zoom, and on the closed pop-up the zoom itself
     void showStatus(); ///< status line and title, all of it from the document
+    void showNotice();
     void giveFocusBack();
 
     std::unique_ptr<Ui::Main> mUi;
@@ -75,6 +78,7 @@ private:
     EmptyView* mEmpty;
     StatusLine* mStatus;
     HistoryPanel* mHistoryPanel;
+    NoticeBar* mNoticeBar;
     std::vector<QToolButton*> mToolButtons;
     struct Switch {
         QToolButton* button;

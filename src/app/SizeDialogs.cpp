@@ -35,7 +35,10 @@ public:
         ui.setupUi(this);
         for (QSpinBox* field : {ui.mNew_Width, ui.mNew_Height})
             connect(field, &QSpinBox::valueChanged, this, [this] { updateFileSize(); });
-        connect(ui.mNew_NewButton, &QPushButton::clicked, this, &QDialog::accept);
+        connect(ui.mNew_NewButton, &QPushButton::clicked, this, [this] {
+            // Refused, it stays open with its numbers.
+            if (make({float(ui.mNew_Width->value()), float(ui.mNew_Height->value())})) accept();
+        });
         connect(ui.mNew_CancelButton, &QPushButton::clicked, this, &QDialog::reject);
     }
     void updateFileSize()
@@ -44,6 +47,7 @@ public:
             QString::fromStdString(fileSizeEstimate(ui.mNew_Width->value(), ui.mNew_Height->value())));
     }
     Ui::New ui;
+    std::function<bool(Size)> make; ///< @return whether the picture was made
 };
 
 class ResizeDialog : public QDialog
@@ -114,20 +118,20 @@ public:
     {
         return pathByAppending(libraryFolder(), QFile::encodeName(ui.mName_Name_Field->text()).toStdString());
     }
+    /// What will be written.
+    std::string targetPath() const { return nameToWrite(typedPath(), SaveFormat::TIFF); }
     Ui::Name ui;
 
 private:
     void save()
     {
-        if (ui.mName_Name_Field->text().isEmpty()) {
+        const QString name = ui.mName_Name_Field->text();
+        // A name, not a way to another folder.
+        if (name.isEmpty() || name.contains('/') || name == "." || name == "..") {
             runAlert(tr("Please enter a proper file name."), tr("File extension must be .tiff."), {tr("OK")});
             return;
         }
-        // The name is tested as typed, not with the extension that it will get.
-        if (fileExists(typedPath()) &&
-            runAlert(tr("File already exists"), tr("Do you want to overwrite the existing file?"),
-                     {tr("Yes"), tr("No")}) != 0)
-            return;
+        if ((fileExists(typedPath()) || fileExists(targetPath())) && !askToOverwrite()) return;
         accept();
     }
 };
@@ -150,11 +154,12 @@ void runNewDialog(Document& document, QWidget* parent, const std::function<void(
     dialog.updateFileSize();
     dialog.ui.mNew_Width->selectAll();
     centerWindow(&dialog, parent);
-    if (dialog.exec() != QDialog::Accepted) return;
-    const Size size{float(dialog.ui.mNew_Width->value()), float(dialog.ui.mNew_Height->value())};
-    last = QSize(dialog.ui.mNew_Width->value(), dialog.ui.mNew_Height->value());
-    beforeActing();
-    newPicture(document, size);
+    dialog.make = [&](Size size) {
+        last = QSize(int(size.width), int(size.height));
+        beforeActing();
+        return bool(newPicture(document, size));
+    };
+    dialog.exec();
 }
 
 void runResizeDialog(Document& document, QWidget* parent)
@@ -179,5 +184,5 @@ void runNameDialog(Document& document, QWidget* parent, const std::function<void
     dialog.ui.mName_Name_Field->selectAll();
     centerWindow(&dialog, parent);
     if (dialog.exec() != QDialog::Accepted) return;
-    if (document.perform("quickSave:", {{}, pathWithExtension(dialog.typedPath(), "tiff")})) afterSaving();
+    if (document.perform("quickSave:", {{}, dialog.targetPath()})) afterSaving();
 }

@@ -146,7 +146,11 @@ QString StatusLine::hint() const
     return hintOf(row);
 }
 
-void StatusLine::showMiddle() { mMiddle->setText(!mPassingHint.isEmpty() ? mPassingHint : hint()); }
+void StatusLine::showMiddle()
+{
+    const QString& message = mDocument.message();
+    mMiddle->setText(!message.isEmpty() ? message : !mPassingHint.isEmpty() ? mPassingHint : hint());
+}
 
 QString StatusLine::selectionInWords() const
 {

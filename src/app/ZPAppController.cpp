@@ -100,6 +100,7 @@ ZPAppController::ZPAppController()
         if (!mTerminated) terminate();
         return mTerminated;
     };
+    mWindow->performAction = [this](const QString& action) { mMenu->choose(action); };
     mWindow->openDroppedFile = [this](const std::string& path) {
         mDocument->whenFree([this, path] { openPath(path); });
     };
@@ -137,6 +138,8 @@ void ZPAppController::applicationDidFinishLaunching(bool startChoice)
     if (!mLaunchFromDocument) mDocument->perform(kBegin, [](Edit& edit) { edit.history().reset(); });
     mWidthC = 0;
     mHeightC = 0;
+    restoreKeptAside();
+    for (const std::string& folder : foldersSavedTo()) removeLeftovers(folder);
     migratePreferences();
     if (!fileExists(libraryFolder())) createFolder(libraryFolder());
     placeSampleImage();
@@ -266,8 +269,7 @@ void ZPAppController::bringWindowToFront()
 void ZPAppController::openPath(const std::string& path)
 {
     bringWindowToFront();
-    mDocument->perform("setImagePath:", {{}, path});
-    if (mDocument->picture().isLoaded()) noteRecentFile(path);
+    if (openPicture(*mDocument, path)) noteRecentFile(path);
 }
 
 void ZPAppController::fillRecentMenu()

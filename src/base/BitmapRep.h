@@ -21,6 +21,8 @@ bool isSensibleImageSize(std::int64_t width, std::int64_t height);
 struct ImageProperties {
     std::vector<std::uint8_t> exif;       ///< a TIFF-structured EXIF block, without any container's prefix
     std::string xmp;                      ///< an XMP packet
+    std::vector<std::uint8_t> iptc;       ///< the picture's caption and the like, as records of that standard
+    std::vector<std::string> comments;    ///< the texts that a JPEG file holds beside its picture
     std::vector<std::uint8_t> iccProfile; ///< the colour profile of the pixels
     double xDpi = 0, yDpi = 0;            ///< resolution, 0 when unknown
     std::string userComment;              ///< EXIF UserComment as UTF-8; written over the block's own on saving

@@ -65,12 +65,31 @@ struct FileAttributes {
 /// Of the path itself; links are not followed. Nothing when there is none.
 std::optional<FileAttributes> fileAttributes(const std::string& path);
 
+/// What tells one state of a file from the next: another file in its place, or other bytes in it.
+struct FileStamp {
+    std::uint64_t device = 0, file = 0;  ///< which file it is, whatever its name
+    std::int64_t size = 0, modified = 0; ///< bytes; nanoseconds since 1970
+    bool isSameFile(const FileStamp& other) const { return device == other.device && file == other.file; }
+    bool operator==(const FileStamp&) const = default;
+};
+/// Of what the path leads to; nothing when there is none.
+std::optional<FileStamp> fileStamp(const std::string& path);
+
 /// The whole file, or nothing when it cannot be read or is larger than @p limit.
 std::optional<std::string> readWholeFile(const std::string& path, std::uint64_t limit = std::uint64_t{4} << 30);
 /// Writes beside the target and takes its place when complete (through a symbolic link, the link's target): a failure
-/// leaves what was there. An existing file's permissions are kept; a write-protected one is left alone; a device is
-/// written to. The bytes are on the disk when it returns. @param error why it failed, in plain words, if given
+/// leaves what was there. An existing file keeps its permissions, owner, extended attributes and access control list;
+/// where it would lose one of them, has other names (hard links), or its folder takes no new file, it is written in
+/// place, with its old bytes kept aside until the new ones are safe. A write-protected file is left alone; a device is
+/// written to. Bytes and name are on the disk when it returns. The first write into a folder removes what killed
+/// programs left there. @param error why it failed, in plain words, if given
 bool writeFileSafely(const std::string& path, const void* bytes, std::size_t count, std::string* error = nullptr);
+
+/// Removes the half-written files that killed programs of this machine left in a folder, and those of other machines
+/// that are a week old.
+void removeLeftovers(const std::string& folder);
+/// Files that a killed program was writing in place hold their old bytes again. To be called at start-up.
+void restoreKeptAside();
 
 /// The file a link points to, chains resolved; nothing when the path is no link or the chain is broken or endless.
 std::optional<std::string> resolveAlias(const std::string& path);

@@ -266,6 +266,15 @@ std::optional<FileAttributes> fileAttributes(const std::string& path)
                           S_ISLNK(info.st_mode)};
 }
 
+std::optional<FileStamp> fileStamp(const std::string& path)
+{
+    struct stat facts;
+    if (::stat(path.c_str(), &facts) != 0) return std::nullopt;
+    constexpr std::int64_t kNanoseconds = 1'000'000'000;
+    return FileStamp{facts.st_dev, facts.st_ino, facts.st_size,
+                     std::int64_t(facts.st_mtim.tv_sec) * kNanoseconds + facts.st_mtim.tv_nsec};
+}
+
 std::optional<std::string> readWholeFile(const std::string& path, std::uint64_t limit)
 {
     // Without O_NONBLOCK the mere opening of a pipe would wait for its writer.

@@ -1,23 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Writing a file so that no failure leaves half of it: a new file beside the old one, then a change of names.
+/// Writing a file so that no failure leaves half of it and nothing of the old one is lost: a new file beside the old
+/// one, then a change of names; where that would lose links, attributes or an owner, or is not allowed, in place.
 #include "base/Folders.h"
+#include "base/FoldersLinks.h"
+#include "base/KeptAside.h"
+#include <algorithm>
+#include <array>
 #include <atomic>
+#include <cctype>
 #include <cerrno>
+#include <charconv>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <mutex>
+#include <set>
 #include <string>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
+#include <vector>
 
 namespace zp
 {
 
 namespace
 {
-
-constexpr int kMostLinks = 40; // what the kernel allows in one look-up
 
 std::string sentenceFor(int code)
 {
@@ -55,34 +65,8 @@ std::string sentenceFor(int code)
     return std::string(::strerror_r(code, room, sizeof room)) + ".";
 }
 
-/// Follows the links of the last component; the file at the end need not exist. @return 0 or the error's number
-int finalTarget(std::string& path)
-{
-    for (int links = 0; links <= kMostLinks; ++links) {
-        std::string next(4096, '\0');
-        const ssize_t length = ::readlink(path.c_str(), next.data(), next.size());
-        if (length < 0) return 0; // no link, or nothing there: the writing itself will tell
-        if (std::size_t(length) == next.size()) return ENAMETOOLONG;
-        next.resize(std::size_t(length));
-        path = next.starts_with('/') ? next : pathByAppending(folderOfPath(path), next);
-    }
-    return ELOOP;
-}
-
-int writeAll(int fd, const char* bytes, std::size_t count)
-{
-    while (count > 0) {
-        const ssize_t n = ::write(fd, bytes, count < (std::size_t{1} << 30) ? count : (std::size_t{1} << 30));
-        if (n < 0 && errno == EINTR) continue;
-        if (n < 0) return errno;
-        bytes += n;
-        count -= std::size_t(n);
-    }
-    return 0;
-}
-
 /// Devices and pipes cannot be replaced by a file; they are written to.
-int writeInPlace(const std::string& path, const char* bytes, std::size_t count)
+int writeToDevice(const std::string& path, const char* bytes, std::size_t count)
 {
     const int fd = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) return errno;
@@ -90,12 +74,33 @@ int writeInPlace(const std::string& path, const char* bytes, std::size_t count)
     return ::close(fd) != 0 && failure == 0 ? errno : failure;
 }
 
+// ---- files beside the target ---------------------------------------------------------------------------------------
+
+constexpr const char *kPartPrefix = ".zelpane-", *kPartSuffix = ".part";
+/// After which what a program on another machine left in a shared folder is taken for forgotten.
+constexpr std::int64_t kForgotten = std::int64_t{7} * 24 * 3600;
+
+/// This machine's name as far as it can stand in a file name; several may share a folder.
+const std::string& machineName()
+{
+    static const std::string name = [] {
+        std::array<char, 65> room{};
+        ::gethostname(room.data(), room.size() - 1);
+        std::string plain(room.data());
+        std::erase_if(plain, [](unsigned char c) { return !std::isalnum(c); });
+        constexpr std::size_t kLongest = 32;
+        return plain.substr(0, kLongest);
+    }();
+    return name;
+}
+
 int createBeside(const std::string& folder, mode_t mode, std::string& name)
 {
     // Not made from the target's name, which may already be as long as names can be.
     static std::atomic<unsigned> counter{0};
     for (int attempt = 0; attempt < 100; ++attempt) {
-        const std::string own = ".zelpane-" + std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".part";
+        const std::string own = kPartPrefix + machineName() + "-" + std::to_string(::getpid()) + "-" +
+                                std::to_string(counter++) + kPartSuffix;
         name = folder.empty() ? own : pathByAppending(folder, own);
         const int fd = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
         if (fd >= 0 || errno != EEXIST) return fd;
@@ -103,32 +108,127 @@ int createBeside(const std::string& folder, mode_t mode, std::string& name)
     return -1;
 }
 
+/// Whether nobody writes that part any more.
+bool isLeftOver(const std::string& folder, const std::string& name)
+{
+    if (!name.starts_with(kPartPrefix) || !name.ends_with(kPartSuffix)) return false;
+    const std::string own = kPartPrefix + machineName() + "-";
+    pid_t process = 0;
+    if (name.starts_with(own) &&
+        std::from_chars(name.data() + own.size(), name.data() + name.size(), process).ec == std::errc())
+        return process > 0 && process != ::getpid() && ::kill(process, 0) != 0 && errno == ESRCH;
+    const std::optional<FileAttributes> part = fileAttributes(pathByAppending(folder, name));
+    return part && std::int64_t(::time(nullptr)) - part->modified > kForgotten;
+}
+
+/// Looks through a folder once in a process's life.
+void removeLeftoversOnce(const std::string& folder)
+{
+    static std::mutex lock;
+    static std::set<std::string> seen;
+    {
+        const std::lock_guard guard(lock);
+        if (!seen.insert(folder).second) return;
+    }
+    removeLeftovers(folder);
+}
+
+// ---- what a change of names would lose -----------------------------------------------------------------------------
+
+std::vector<std::string> namesOfAttributes(int fd)
+{
+    const ssize_t length = ::flistxattr(fd, nullptr, 0);
+    if (length <= 0) return {};
+    std::string list(std::size_t(length), '\0');
+    const ssize_t got = ::flistxattr(fd, list.data(), list.size());
+    std::vector<std::string> names;
+    for (std::size_t at = 0; got > 0 && at < std::size_t(got); at += names.back().size() + 1)
+        names.emplace_back(list.c_str() + at);
+    return names;
+}
+
+std::optional<std::string> attribute(int fd, const std::string& name)
+{
+    const ssize_t length = ::fgetxattr(fd, name.c_str(), nullptr, 0);
+    if (length < 0) return std::nullopt;
+    std::string value(std::size_t(length), '\0');
+    const ssize_t got = ::fgetxattr(fd, name.c_str(), value.data(), value.size());
+    if (got < 0) return std::nullopt;
+    value.resize(std::size_t(got));
+    return value;
+}
+
+/// Extended attributes, access control lists among them. @return false when one cannot be carried over
+bool carryAttributes(int from, int to)
+{
+    const std::vector<std::string> old = namesOfAttributes(from);
+    for (const std::string& name : old) {
+        const std::optional<std::string> value = attribute(from, name);
+        if (!value) return false;
+        if (attribute(to, name) == value) continue;
+        if (::fsetxattr(to, name.c_str(), value->data(), value->size(), 0) != 0) return false;
+    }
+    // What the folder gives to new files and the old one did not have.
+    for (const std::string& name : namesOfAttributes(to))
+        if (std::ranges::find(old, name) == old.end()) ::fremovexattr(to, name.c_str());
+    return true;
+}
+
+/// @return false when the new file would be poorer than the old one
+bool carryOver(const std::string& path, const struct stat& old, int fd)
+{
+    if ((old.st_uid != ::geteuid() || old.st_gid != ::getegid()) && ::fchown(fd, old.st_uid, old.st_gid) != 0)
+        return false;
+    if (::fchmod(fd, old.st_mode & 07777u) != 0) return false;
+    const int from = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (from < 0) return false;
+    const bool carried = carryAttributes(from, fd);
+    ::close(from);
+    return carried;
+}
+
+/// The change of names itself is on the disk.
+void syncFolder(const std::string& folder)
+{
+    const int fd = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return;
+    ::fsync(fd); // some file systems know no such thing, and none needs it for the file to be whole
+    ::close(fd);
+}
+
+bool isForbidden(int failure) { return failure == EACCES || failure == EPERM || failure == EROFS; }
+
 int replaceFile(const std::string& path, const char* bytes, std::size_t count)
 {
     struct stat old;
     const bool replaces = ::stat(path.c_str(), &old) == 0;
     if (replaces && S_ISDIR(old.st_mode)) return EISDIR;
-    if (replaces && !S_ISREG(old.st_mode)) return writeInPlace(path, bytes, count);
+    if (replaces && !S_ISREG(old.st_mode)) return writeToDevice(path, bytes, count);
     // A change of names asks only for the folder's permission; a write-protected file shall stay as it is all the same.
     if (replaces && ::access(path.c_str(), W_OK) != 0) return errno;
     if (path.empty() || path.back() == '/') return EISDIR;
 
+    const std::string folder = folderOfPath(path);
+    removeLeftoversOnce(folder);
+    if (replaces && old.st_nlink > 1) return overwriteInPlace(path, bytes, count);
     std::string name;
-    const int fd = createBeside(folderOfPath(path), 0666, name);
-    if (fd < 0) return errno;
-    int failure = 0;
-    if (replaces) {
-        if (old.st_uid != ::geteuid() || old.st_gid != ::getegid()) {
-            // Only the superuser can give the owner back; without that the file becomes the writer's.
-            if (::fchown(fd, old.st_uid, old.st_gid) != 0 && ::fchown(fd, uid_t(-1), old.st_gid) != 0) errno = 0;
-        }
-        if (::fchmod(fd, old.st_mode & 07777u) != 0) failure = errno;
+    const int fd = createBeside(folder, 0666, name);
+    if (fd < 0) {
+        const int failure = errno;
+        return replaces && isForbidden(failure) ? overwriteInPlace(path, bytes, count) : failure;
     }
-    if (failure == 0) failure = writeAll(fd, bytes, count);
-    if (failure == 0 && ::fsync(fd) != 0 && errno != EINVAL && errno != EROFS) failure = errno;
+    bool inPlace = replaces && !carryOver(path, old, fd);
+    int failure = inPlace ? 0 : writeAll(fd, bytes, count);
+    if (!inPlace && failure == 0 && ::fsync(fd) != 0 && errno != EINVAL && errno != EROFS) failure = errno;
     if (::close(fd) != 0 && failure == 0) failure = errno;
-    if (failure == 0 && ::rename(name.c_str(), path.c_str()) != 0) failure = errno;
-    if (failure != 0) ::unlink(name.c_str());
+    if (!inPlace && failure == 0 && ::rename(name.c_str(), path.c_str()) != 0) {
+        failure = errno;
+        // In a folder where everybody may write, only the owner may take a name over.
+        inPlace = replaces && isForbidden(failure);
+    }
+    if (inPlace || failure != 0) ::unlink(name.c_str());
+    if (inPlace) return overwriteInPlace(path, bytes, count);
+    if (failure == 0) syncFolder(folder);
     return failure;
 }
 
@@ -154,50 +254,10 @@ bool writeFileSafely(const std::string& path, const void* bytes, std::size_t cou
     return failure == 0;
 }
 
-std::optional<std::string> resolveAlias(const std::string& path)
+void removeLeftovers(const std::string& folder)
 {
-    std::string target = path;
-    char probe[1];
-    if (::readlink(path.c_str(), probe, sizeof probe) < 0) return std::nullopt;
-    if (finalTarget(target) != 0 || !fileExists(target)) return std::nullopt;
-    // The path people gave the link is kept; only detours in it are taken out, by asking the file system.
-    if (target.find("/../") != std::string::npos || target.find("/./") != std::string::npos ||
-        target.ends_with("/..")) {
-        if (char* real = ::realpath(target.c_str(), nullptr)) {
-            target = real;
-            ::free(real);
-        }
-    }
-    return target;
-}
-
-bool makeAlias(const std::string& target, const std::string& folder, const std::string& name)
-{
-    if (target.empty() || name.empty() || name.find('/') != std::string::npos || name == "." || name == "..")
-        return false;
-    std::string absolute = target;
-    if (!absolute.starts_with('/')) {
-        char* here = ::getcwd(nullptr, 0);
-        if (!here) return false;
-        absolute = pathByAppending(here, target);
-        ::free(here);
-    }
-    const std::string extension = pathExtension(name), dotted = extension.empty() ? "" : "." + extension;
-    const std::string stem = pathWithoutExtension(name);
-    constexpr std::size_t kLongestName = 255;
-    for (int number = 1; number < 100000; ++number) {
-        std::string tail = dotted;
-        if (number > 1) tail.insert(0, std::to_string(number)).insert(0, 1, ' ');
-        std::string first = stem;
-        while (first.size() > 1 && first.size() + tail.size() > kLongestName) {
-            // Whole characters only: the bytes that follow a first one go with it.
-            while (first.size() > 1 && (static_cast<unsigned char>(first.back()) & 0xC0u) == 0x80u) first.pop_back();
-            first.pop_back();
-        }
-        if (::symlink(absolute.c_str(), pathByAppending(folder, first + tail).c_str()) == 0) return true;
-        if (errno != EEXIST) return false;
-    }
-    return false;
+    for (const std::string& name : contentsOfFolder(folder.empty() ? "." : folder))
+        if (isLeftOver(folder, name)) ::unlink(pathByAppending(folder, name).c_str());
 }
 
 } // namespace zp

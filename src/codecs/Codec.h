@@ -28,6 +28,7 @@ struct Decoded {
     int orientation = 1;  ///< EXIF's 1 to 8
     bool damaged = false; ///< as in ImportedImage
     Reduction reduction;  ///< as the pixels stand in the file
+    PictureFacts facts{};
 
     static Decoded failure(std::string sentence)
     {
@@ -46,6 +47,10 @@ Decoded decodeTIFF(Bytes bytes, const ImportOptions& options);
 /// Whether a Photoshop file's pixels are numbers of a palette's 256 colours.
 bool isIndexedPSD(Bytes bytes);
 Decoded decodeIndexedPSD(Bytes bytes, const ImportOptions& options);
+
+/// Adds to @p facts what the file's structure says of pages, frames, layers, bits, inks and quality. Looks at heads and
+/// marks alone, never at pixels.
+void readFacts(Bytes bytes, Format format, PictureFacts& facts);
 
 /// Whether a picture of this size may be decoded from a file of @p fileBytes; fills @p error with a sentence when not.
 /// Asked before memory is taken: sizes out of bounds, more than the machine can hold, and files so small for their

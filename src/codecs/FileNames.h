@@ -22,8 +22,14 @@ enum class SaveFormat {
 SaveFormat saveFormatForPath(const std::string& path);
 /// "tiff", "jpg" or "png"; empty for what is not written.
 const char* extensionFor(SaveFormat format);
-/// Where an image of that format is written when asked for @p path: the extension is always replaced.
+/// Where an image of that format is written when a program asks for @p path: the extension is always replaced.
 std::string writtenPath(const std::string& path, SaveFormat format);
+/// The same when a person typed the name: the extension of any kind of picture, in whatever case, makes room for the
+/// format's; what follows another dot is part of the name ("Version 2.5" becomes "Version 2.5.tiff"). A result is its
+/// own result, and writtenPath() leaves it as it is.
+std::string nameToWrite(const std::string& typed, SaveFormat format);
+/// The format of "tiff", "jpg" or "png", the extensions that are written.
+SaveFormat formatOfExtension(const std::string& extension);
 
 /// What a save panel proposes.
 struct SaveProposal {

@@ -3,6 +3,7 @@
 #include "codecs/ImageImporter.h"
 #include "base/PixelMemory.h"
 #include "codecs/Codec.h"
+#include "codecs/FileWindow.h"
 #include "codecs/MagickReader.h"
 #include <cerrno>
 #include <cstring>
@@ -22,13 +23,13 @@ using codec::Decoded;
 using codec::Format;
 
 constexpr std::int64_t kMaxFileBytes = std::int64_t{4} << 30;
+/// Up to this a file is read as it is; of a larger one, what its picture needs.
+constexpr std::int64_t kReadWhole = std::int64_t{64} << 20;
+/// Enough to tell the kind of a file.
+constexpr std::size_t kHeadBytes = 72u << 10;
 
-Decoded decode(Bytes bytes, const ImportOptions& options)
+Decoded decodeAs(Format format, Bytes bytes, const ImportOptions& options)
 {
-    if (bytes.empty()) return Decoded::failure("The file is empty.");
-    std::size_t start = 0;
-    const Format format = codec::sniffFormat(bytes, &start);
-    bytes = bytes.subspan(start);
     switch (format) {
     case Format::Unknown:
         return Decoded::failure("It is not a picture of a kind that can be opened.");
@@ -44,6 +45,17 @@ Decoded decode(Bytes bytes, const ImportOptions& options)
     default:
         return codec::decodeByMagick(bytes, format, options);
     }
+}
+
+Decoded decode(Bytes bytes, const ImportOptions& options)
+{
+    if (bytes.empty()) return Decoded::failure("The file is empty.");
+    std::size_t start = 0;
+    const Format format = codec::sniffFormat(bytes, &start);
+    bytes = bytes.subspan(start);
+    Decoded decoded = decodeAs(format, bytes, options);
+    if (decoded.bitmap) codec::readFacts(bytes, format, decoded.facts);
+    return decoded;
 }
 
 /// A reduction whose picture is turned upright along with the pixels.
@@ -96,6 +108,26 @@ private:
     int mFd;
 };
 
+ImportedImage importLargeFile(const OpenFile& file, const std::string& path, std::uint64_t size,
+                              const ImportOptions& options)
+{
+    std::vector<std::uint8_t> head(kHeadBytes);
+    const ssize_t got = pread(file.fd(), head.data(), head.size(), 0);
+    if (got < 0) return {.error = sentenceFor(errno)};
+    head.resize(std::size_t(got));
+    std::size_t start = 0;
+    const Format format = codec::sniffFormat(head, &start);
+    if (format == Format::Unknown) return {.error = "It is not a picture of a kind that can be opened."};
+    const PixelDimensions dimensions = imageFileDimensions(path);
+    std::string error;
+    if (dimensions.width > 0 && !codec::checkSize(dimensions.width, dimensions.height, size, error))
+        return {.error = error};
+    codec::FileWindow window(file.fd(), size, codec::mostBytesFor(format, dimensions.width, dimensions.height));
+    if (!window.isOpen()) return {.error = "There is not enough memory to read the file."};
+    codec::takeNeededParts(window, format, start);
+    return importImage(window.bytes(), options);
+}
+
 } // namespace
 
 ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptions& options)
@@ -111,6 +143,8 @@ ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptio
         image.error = std::move(decoded.error);
         image.damaged = decoded.damaged;
         image.reduction = turnedUpright(decoded.reduction, decoded.orientation);
+        image.facts = decoded.facts;
+        image.facts.endedEarly = image.damaged;
     } catch (const std::bad_alloc&) {
         image = {.error = "There is not enough memory for this picture."};
     } catch (const std::exception& e) {
@@ -132,6 +166,7 @@ try {
     if (facts.st_size == 0) return {.error = "The file is empty."};
     if (facts.st_size > kMaxFileBytes) return {.error = "The file is larger than 4 GiB."};
 
+    if (facts.st_size > kReadWhole) return importLargeFile(file, path, std::uint64_t(facts.st_size), options);
     // Read, not mapped: a mapped file that shrinks meanwhile would take the program down.
     const auto wanted = std::size_t(facts.st_size);
     auto memory = allocatePixelsUninitialized(wanted);

@@ -3,6 +3,7 @@
 #pragma once
 #include "base/BitmapRep.h"
 #include "base/Reduction.h"
+#include "codecs/PictureFacts.h"
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -16,6 +17,7 @@ struct ImportedImage {
     std::string error{};                 ///< why, one sentence for people; empty on success
     bool damaged = false;  ///< the file ended too early or its pixels could be read in part only; the rest is empty
     Reduction reduction{}; ///< of a JPEG that was decoded smaller; divisor 1 for all others, its sizes then 0
+    PictureFacts facts{};  ///< what the file holds that the bitmap does not
 };
 
 struct ImportOptions {

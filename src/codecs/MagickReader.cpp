@@ -192,6 +192,8 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
     }
     ImageProperties& properties = bitmap->properties;
     if (result.damaged) properties.warnings.emplace_back("The picture's data is damaged; what could be read is shown.");
+    if (deep) result.facts.bits = 16;
+    result.facts.inks = inks;
     if (deep) properties.warnings.emplace_back("The picture had 16 bits a colour; it was reduced to 8.");
     result.orientation = format == Format::TGA ? orientationOfTGA(bytes) : orientationOf(image);
     if (options.properties) collectProperties(image, inks, properties);

@@ -53,11 +53,23 @@ struct PanelRequest {
     std::string directory; ///< where it opens; raw bytes of the file system
     std::string name;      ///< proposed file name (save)
     QStringList types;     ///< extensions without the dot; empty: all
+    /// Save: what is written has this extension, whatever is typed; "tiff", "jpg" or "png". Empty: the name as typed.
+    std::string extension;
+    /// Save: a quality from 1 to 100 to choose beside the name, as it stands at first; 0: none.
+    int quality = 0;
+};
+struct SaveAnswer {
+    std::string path; ///< the file that will be written, in the file system's own bytes
+    int quality = 0;  ///< as chosen
 };
 /// @return the chosen path in the file system's own bytes, or nothing when cancelled
 std::optional<std::string> runOpenPanel(PanelRequest request);
-/// The user may hide the extension; it is shown by default. Asks before an existing file is taken.
-std::optional<std::string> runSavePanel(PanelRequest request);
+/// The user may hide the extension; it is shown by default. Asks before an existing file is taken: the one whose name
+/// is answered, not only the one that was typed. A driver's answer counts as yes to the panel's own question when it
+/// is that very name.
+std::optional<SaveAnswer> runSavePanel(PanelRequest request);
+/// "File already exists": the one question about it, wherever a name is typed.
+bool askToOverwrite();
 std::optional<std::string> runFolderPanel(PanelRequest request);
 /// The page layout panel; nothing uses its result.
 void runPageLayout();

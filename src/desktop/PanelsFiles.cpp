@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Open, save and folder panels: the desktop's own for people, a queue of answers for scripts.
 #include "base/Folders.h"
+#include "codecs/FileNames.h"
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/PanelsState.h"
 #include "desktop/Settings.h"
 #include <QApplication>
 #include <QFileDialog>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSlider>
+#include <QSpinBox>
 #include <QUrl>
 #include <deque>
 
@@ -66,6 +73,82 @@ std::optional<std::string> run(QFileDialog& dialog, const PanelRequest& request)
     return path;
 }
 
+/// The name that will be written for a typed one.
+std::string requiredName(const std::string& typed, const PanelRequest& request)
+{
+    const SaveFormat format = formatOfExtension(request.extension);
+    return format == SaveFormat::None ? typed : nameToWrite(typed, format);
+}
+
+/// A save panel that turns the typed name into the one that will be written before it asks whether to overwrite.
+class SavePanel : public QFileDialog
+{
+public:
+    SavePanel(QWidget* parent, const PanelRequest& request) : QFileDialog(parent), mRequest(request)
+    {
+        if (request.quality > 0) addQuality(request.quality);
+    }
+    int quality() const { return mQuality ? mQuality->value() : 0; }
+
+    void accept() override
+    {
+        // The desktop's own panels have no such field: their answer is looked at when it is here.
+        auto* field = findChild<QLineEdit*>("fileNameEdit");
+        if (field && !field->text().isEmpty() && !QFileInfo(directory().filePath(field->text())).isDir())
+            field->setText(textFromPath(requiredName(pathFromText(field->text()), mRequest)));
+        QFileDialog::accept();
+    }
+
+private:
+    void addQuality(int value)
+    {
+        // The desktop's own panels cannot be given a row.
+        setOption(DontUseNativeDialog);
+        auto* grid = qobject_cast<QGridLayout*>(layout());
+        if (!grid) return;
+        mQuality = new QSpinBox(this);
+        mQuality->setObjectName("mJPEGQuality");
+        auto* slider = new QSlider(Qt::Horizontal, this);
+        slider->setRange(1, 100);
+        mQuality->setRange(1, 100);
+        mQuality->setAccessibleName(QCoreApplication::translate("Panels", "Quality"));
+        connect(slider, &QSlider::valueChanged, mQuality, &QSpinBox::setValue);
+        connect(mQuality, &QSpinBox::valueChanged, slider, &QSlider::setValue);
+        mQuality->setValue(value);
+        auto* row = new QHBoxLayout;
+        row->addWidget(slider, 1);
+        row->addWidget(mQuality);
+        const int line = grid->rowCount();
+        grid->addWidget(new QLabel(QCoreApplication::translate("Panels", "Quality:"), this), line, 0);
+        grid->addLayout(row, line, 1);
+    }
+
+    PanelRequest mRequest;
+    QSpinBox* mQuality = nullptr;
+};
+
+/// One round of the panel. @param typed  the name as it was answered, before it was made right
+std::optional<SaveAnswer> askForName(const PanelRequest& request, QWidget* parent, std::string& typed)
+{
+    if (automated) {
+        const std::optional<std::string> choice = nextChoice();
+        if (!choice) return std::nullopt;
+        typed = *choice;
+        return SaveAnswer{requiredName(typed, request), request.quality};
+    }
+    SavePanel dialog(parent, request);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    prepare(dialog, request);
+    if (const QStringList filters = nameFilters(request.types); !filters.isEmpty()) dialog.setNameFilters(filters);
+    if (!request.types.isEmpty()) dialog.setDefaultSuffix(request.types.constFirst());
+    if (!request.name.empty()) dialog.selectFile(textFromPath(request.name));
+    const std::optional<std::string> path = run(dialog, request);
+    if (!path) return std::nullopt;
+    typed = *path;
+    return SaveAnswer{requiredName(typed, request), dialog.quality()};
+}
+
 QWidget* parentForPanel()
 {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
@@ -90,19 +173,26 @@ std::optional<std::string> runOpenPanel(PanelRequest request)
     return run(dialog, request);
 }
 
-std::optional<std::string> runSavePanel(PanelRequest request)
+std::optional<SaveAnswer> runSavePanel(PanelRequest request)
 {
     request.kind = "save";
-    last = request;
-    if (automated) return nextChoice();
-    QFileDialog dialog(parentForPanel());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    prepare(dialog, request);
-    if (const QStringList filters = nameFilters(request.types); !filters.isEmpty()) dialog.setNameFilters(filters);
-    if (!request.types.isEmpty()) dialog.setDefaultSuffix(request.types.constFirst());
-    if (!request.name.empty()) dialog.selectFile(textFromPath(request.name));
-    return run(dialog, request);
+    QWidget* const parent = parentForPanel();
+    for (;;) {
+        last = request;
+        std::string typed;
+        const std::optional<SaveAnswer> answer = askForName(request, parent, typed);
+        if (!answer || answer->path == typed || !fileExists(answer->path) || askToOverwrite()) return answer;
+        request.directory = folderOfPath(answer->path);
+        request.name = lastPathComponent(answer->path);
+        request.quality = answer->quality;
+    }
+}
+
+bool askToOverwrite()
+{
+    return runAlert(QCoreApplication::translate("Panels", "File already exists"),
+                    QCoreApplication::translate("Panels", "Do you want to overwrite the existing file?"),
+                    {QCoreApplication::translate("Panels", "Yes"), QCoreApplication::translate("Panels", "No")}) == 0;
 }
 
 std::optional<std::string> runFolderPanel(PanelRequest request)

@@ -17,6 +17,8 @@ constexpr int kPoolPatience = 1500;
 constexpr int kRequestInterval = 30;
 /// What a step changes of the brush's size, and the sizes that the window's field offers.
 constexpr float kSizeStep = 0.1f, kSmallestSize = 1, kLargestSize = 2000;
+/// Milliseconds for which the status line says what a command did.
+constexpr int kMessagePatience = 8000;
 
 } // namespace
 
@@ -45,6 +47,8 @@ Document::Document(std::span<const Command> commands, std::uint32_t strokeCapaci
     connect(this, &Document::pictureReplaced, this, [this] { mPoolTimer.start(kPoolPatience); });
     connect(&mRequestTimer, &QTimer::timeout, this, &Document::runRequests);
     mRequestTimer.setInterval(kRequestInterval);
+    mMessageTimer.setSingleShot(true);
+    connect(&mMessageTimer, &QTimer::timeout, this, [this] { say({}); });
 }
 
 Document::~Document()
@@ -58,6 +62,35 @@ std::string Document::infoText() const
 {
     if (mSelection.isNil()) return mView.infoWithoutSelection();
     return stringFromRect(integralRect(mSelection.bounds()));
+}
+
+// ---- what the person is told ----------------------------------------------------------------------------------------
+
+void Document::notice(Notice notice)
+{
+    if (mNotices.add(std::move(notice))) emit noticed();
+}
+
+void Document::closeNotice()
+{
+    mNotices.closeFront();
+    emit noticed();
+}
+
+void Document::say(const QString& message)
+{
+    mMessage = message;
+    if (message.isEmpty())
+        mMessageTimer.stop();
+    else
+        mMessageTimer.start(kMessagePatience);
+    emit changed();
+}
+
+void Document::pictureIsAnother()
+{
+    mNotices.dropThoseOfPicture();
+    emit noticed();
 }
 
 // ---- looking and painting -------------------------------------------------------------------------------------------

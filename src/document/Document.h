@@ -5,9 +5,11 @@
 #include "desktop/MainThreadWake.h"
 #include "document/Command.h"
 #include "document/Edit.h"
+#include "document/Notices.h"
 #include "document/UnusedFields.h"
 #include <QObject>
 #include <QTimer>
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <mutex>
@@ -55,6 +57,20 @@ public:
     /// Why the last open or save failed, in a sentence; empty when it did not.
     const std::string& lastFileError() const { return mLastFileError; }
     void setLastFileError(std::string sentence) { mLastFileError = std::move(sentence); }
+
+    // ---- what the person is told and need not answer ---------------------------------------------------------------
+
+    const Notices& notices() const { return mNotices; }
+    /// A sentence for the bar over the picture; it waits while another is on show.
+    void notice(const QString& sentence) { notice(Notice{.text = sentence}); }
+    void notice(Notice notice);
+    void closeNotice();
+    /// The status line's passing text: what a command did.
+    const QString& message() const { return mMessage; }
+    /// Says it there for a while.
+    void say(const QString& message);
+    /// Another picture is about to be told of: what was said of the old one is over.
+    void pictureIsAnother();
 
     // ---- commands ------------------------------------------------------------------------------------------------
 
@@ -145,6 +161,7 @@ signals:
     void toolChosen();
     void stepsChanged();                    ///< another step, another position, or a step was written
     void troubled(const QString& sentence); ///< what the person has to know although no command failed
+    void noticed();                         ///< another notice is on show, or none
     void changed();                         ///< whatever the window says of the document may be another now
 
 private:
@@ -173,6 +190,9 @@ private:
     Shelf mShelf;
     UnusedFields mUnused;
     std::string mLastFileError;
+    Notices mNotices;
+    QString mMessage;
+    QTimer mMessageTimer;
     bool mGateOpen = false;
     bool mOwesStep = false; ///< a gesture wrote pixels and has not left its step yet
     bool mComputing = false;

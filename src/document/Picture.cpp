@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// One bitmap seen in three ways.
 #include "document/Picture.h"
-#include "base/Folders.h"
 
 namespace zp
 {
@@ -28,6 +27,13 @@ void Picture::replace(std::shared_ptr<BitmapRep> rep, const Replacement& how)
     if (how.makeGWorld && mBitmapRep) mGWorld = GWorld::over(*mBitmapRep);
     mImage = std::move(image);
     ++mPictureGeneration;
+}
+
+void Picture::noteWritten(const std::string& path)
+{
+    if (const auto stamp = fileStamp(path)) mFiles.stamps[path] = *stamp;
+    // What it held beside the picture is gone.
+    if (path == mFiles.opened) mFiles.facts = {};
 }
 
 bool Picture::forgetMissingFile()

@@ -2,9 +2,12 @@
 /// The picture that is being edited: its pixels, its file, and how often it became another one.
 #pragma once
 #include "base/BitmapRep.h"
+#include "base/Folders.h"
 #include "base/GWorld.h"
 #include "base/Image.h"
+#include "codecs/PictureFacts.h"
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -26,6 +29,19 @@ inline constexpr Replacement kInternalPicture{ImageCacheMode::Never, true, false
 /// An opened picture has no GWorld until it is rebuilt, and its image takes its size from the bitmap.
 inline constexpr Replacement kOpenedPicture{ImageCacheMode::Never, false, true, false, true};
 inline constexpr Replacement kRebuiltPicture{};
+
+/// The quality of JPEG files, unless another is chosen.
+inline constexpr int kJPEGQuality = 70;
+
+/// What is known of the files that the picture was read from or written to, so that saving overwrites nothing that the
+/// person does not know of.
+struct PictureFiles {
+    std::map<std::string, FileStamp> stamps;      ///< by path: their state when their content was the picture's
+    std::string opened;                           ///< the one it was read from
+    PictureFacts facts;                           ///< what that one holds beside the picture
+    bool lossAccepted = false;                    ///< it may be written over all the same
+    std::pair<std::string, int> jpegQuality = {}; ///< the path of a JPEG file whose quality was chosen, and that
+};
 
 /// One bitmap seen in three ways: as a representation, as an image to draw, as a graphics world over the same bytes.
 /// Main thread, but for pixelLock() and what it guards.
@@ -50,6 +66,12 @@ public:
     const std::optional<GWorld>& gworld() const { return mGWorld; }
     /// The file on disk, empty for a picture that was never saved.
     const std::string& path() const { return mImagePath; }
+    const PictureFiles& files() const { return mFiles; }
+    /// The quality for writing to @p path: as chosen when it was saved last, else 70.
+    int jpegQualityFor(const std::string& path) const
+    {
+        return mFiles.jpegQuality.first == path && !path.empty() ? mFiles.jpegQuality.second : kJPEGQuality;
+    }
     /// Rises when another bitmap takes the picture's place, when its pixels change places, and when a step of the
     /// history comes back: what was computed from an older generation is nobody's result any more.
     std::uint64_t generation() const { return mPictureGeneration; }
@@ -67,11 +89,17 @@ public:
     /// A step of the history is in the pixels.
     void restored() { ++mPictureGeneration; }
     void setPath(std::string path) { mImagePath = std::move(path); }
+    void setFiles(PictureFiles files) { mFiles = std::move(files); }
+    /// The file of that path holds the picture now.
+    void noteWritten(const std::string& path);
+    void acceptLoss() { mFiles.lossAccepted = true; }
+    void setJPEGQuality(const std::string& path, int quality) { mFiles.jpegQuality = {path, quality}; }
     /// A path whose file is gone is emptied. @return whether there is no file
     bool forgetMissingFile();
 
 private:
     std::string mImagePath;
+    PictureFiles mFiles;
     std::shared_ptr<Image> mImage; ///< never null
     std::shared_ptr<BitmapRep> mBitmapRep;
     std::uint8_t* mBitmap = nullptr;

@@ -18,7 +18,9 @@ Operation setImagePath;
 Operation setImageSize;
 /// The picture into its own file, by its extension.
 Operation saveImage;
-/// Path: into a file of that kind, which becomes the picture's.
+/// The same, whatever is there: the person was asked.
+Operation saveImageAsAsked;
+/// Path: into a file of that kind, which becomes the picture's. A number before it: the quality of a JPEG file.
 Operation saveImageAsTIFF, saveImageAsJPEG, saveImageAsPNG;
 /// Path: as TIFF, with the time it took in the log.
 Operation saveImageToPath;

@@ -2,9 +2,11 @@
 /// What opening and saving share: panels, the picture as the screen shows it, sentences.
 #pragma once
 #include "base/BitmapRep.h"
+#include "base/Folders.h"
 #include "base/Geometry.h"
 #include "codecs/FileNames.h"
 #include "codecs/ImageImporter.h"
+#include "desktop/Panels.h"
 #include "document/Command.h"
 #include <QString>
 #include <memory>
@@ -19,15 +21,38 @@ class Edit;
 
 /// A blank picture that has no file yet. Refused with a word when there is no memory for it or it would be too large.
 Outcome newPicture(Document& document, Size size);
-/// A decoded file, or what is known of its failure, becomes the picture; a failure is told and gives the empty picture.
-void installOpened(Edit& edit, const std::string& path, ImportedImage imported);
+/// A file read before anything of the document is touched.
+struct OpenedFile {
+    std::string path;
+    std::optional<FileStamp> stamp;
+    ImportedImage image;
+};
+OpenedFile readForOpening(const std::string& path);
+/// The file becomes the picture; one that could not be read is told of and gives the empty picture.
+void installOpened(Edit& edit, OpenedFile file);
+/// Reads the file and makes it the picture. When that fails, everything stays as it is, and the person is told.
+/// Runs events.
+Outcome openPicture(Document& document, const std::string& path);
+/// Says in the bar over the picture what its file holds that the picture does not, and which command saves it.
+void noticeWhatFileHolds(Document& document);
 /// "name: why", for an alert; the path goes into the log.
 QString whyNotOpened(const std::string& path, const std::string& error);
 
 /// Asks for a file and saves there. Runs events.
 Outcome saveThroughPanel(Document& document, SaveFormat format);
 /// The one save panel, with the name that the picture's file proposes. Runs events.
-std::optional<std::string> askWhereToSave(const Document& document, SaveFormat format);
+std::optional<SaveAnswer> askWhereToSave(const Document& document, SaveFormat format);
+enum class Permission { Save, SaveAs, Cancel };
+/// Whether writing @p path has to be asked about: another file than those the picture was read from or written to, one
+/// that was changed since, or one that holds more than the picture.
+bool mustAskToWrite(const Document& document, const std::string& path);
+/// Asks all that has to be asked. Runs events.
+Permission askToWrite(Document& document, const std::string& path);
+/// The same for a name that a panel has asked about itself: only what the panel cannot know.
+Permission askToTakeFromPanel(Document& document, const std::string& path);
+
+/// Where this person's pictures were saved lately; what a killed program left there can be removed.
+std::vector<std::string> foldersSavedTo();
 
 /// The picture with the floating piece in its place; the picture itself when nothing floats. Null without a picture.
 /// @throws std::bad_alloc

@@ -58,6 +58,8 @@ void install(Edit& edit, std::shared_ptr<BitmapRep> rep, const std::string& path
     edit.picture().setPath(path);
     edit.gesture().openPolygon(false);
     edit.history().reset();
+    edit.picture().setFiles({});
+    edit.document().pictureIsAnother();
 }
 
 void installBlank(Edit& edit, Size size, const std::string& path)
@@ -97,11 +99,20 @@ void operations::setImagePath(Edit& edit, const Arguments& arguments)
         edit.picture().setPath({});
         return edit.wantStep(false);
     }
-    installOpened(edit, arguments.path, importImageFile(pathWithTildeExpanded(arguments.path)));
+    installOpened(edit, readForOpening(arguments.path));
 }
 
-void installOpened(Edit& edit, const std::string& path, ImportedImage imported)
+OpenedFile readForOpening(const std::string& path)
 {
+    const std::string file = pathWithTildeExpanded(path);
+    // Before it is read: what somebody writes meanwhile is a change since.
+    const std::optional<FileStamp> stamp = fileStamp(file);
+    return {path, stamp, importImageFile(file)};
+}
+
+void installOpened(Edit& edit, OpenedFile file)
+{
+    auto& [path, stamp, imported] = file;
     Document& document = edit.document();
     document.setLastFileError(imported.error);
     const bool opened = imported.bitmap != nullptr;
@@ -112,9 +123,15 @@ void installOpened(Edit& edit, const std::string& path, ImportedImage imported)
     }
     install(edit, std::move(imported.bitmap), path, kOpenedPicture);
     edit.wantStep(false);
-    if (opened)
+    if (opened) {
+        PictureFiles files;
+        files.opened = path;
+        files.facts = imported.facts;
+        if (stamp) files.stamps[path] = *stamp;
+        edit.picture().setFiles(std::move(files));
         edit.history().recordSoon(edit.picture(), QT_TRANSLATE_NOOP("Steps", "Open"));
-    else
+        noticeWhatFileHolds(document);
+    } else
         edit.refuse(say("The file could not be opened."), whyNotOpened(path, document.lastFileError()));
 }
 

@@ -4,12 +4,14 @@
 #include "base/Log.h"
 #include "codecs/FileNames.h"
 #include "codecs/ImageEncoder.h"
+#include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "document/Document.h"
 #include "drawing/BitmapContext.h"
 #include "operations/Commands.h"
 #include "operations/Files.h"
 #include <QCoreApplication>
+#include <QSettings>
 #include <chrono>
 #include <new>
 
@@ -19,17 +21,16 @@ namespace zp
 namespace
 {
 
-constexpr double kJPEGFactor = 0.7;
-
 QString say(const char* text) { return QCoreApplication::translate("Files", text); }
 
-std::vector<std::uint8_t> encoded(const BitmapRep& rep, SaveFormat format)
+/// @param quality  of a JPEG file
+std::vector<std::uint8_t> encoded(const BitmapRep& rep, SaveFormat format, int quality)
 {
     switch (format) {
     case SaveFormat::TIFF:
         return encodeTIFF(rep.view(), rep.properties, {.lzw = true});
     case SaveFormat::JPEG:
-        return encodeJPEG(rep.view(), rep.properties, {.factor = kJPEGFactor, .fallbackBackground = kWhite});
+        return encodeJPEG(rep.view(), rep.properties, {.factor = quality / 100.0, .fallbackBackground = kWhite});
     case SaveFormat::PNG:
         return encodePNG(rep.view(), rep.properties);
     default:
@@ -37,12 +38,36 @@ std::vector<std::uint8_t> encoded(const BitmapRep& rep, SaveFormat format)
     }
 }
 
-/// Writes to exactly @p path. @return why it failed, empty when it did not
-std::string write(const BitmapRep& rep, const std::string& path, SaveFormat format)
+/// "JPEG 70": what is written, as the person is told.
+QString formatTitle(SaveFormat format, int quality)
 {
-    const std::vector<std::uint8_t> bytes = encoded(rep, format);
+    switch (format) {
+    case SaveFormat::TIFF:
+        return QStringLiteral("TIFF");
+    case SaveFormat::JPEG:
+        return QString("JPEG %1").arg(quality);
+    default:
+        return QStringLiteral("PNG");
+    }
+}
+
+/// In the units of the dialogs: 1024 bytes are a kilobyte, large files are in megabytes.
+QString sizeTitle(std::size_t bytes)
+{
+    constexpr double kKilo = 1024, kMostKilobytes = 2000;
+    const double kilobytes = double(bytes) / kKilo;
+    if (kilobytes < 1) return QString("%1 bytes").arg(bytes);
+    if (kilobytes <= kMostKilobytes) return QString("%1 KB").arg(qRound64(kilobytes));
+    return QString("%1 MB").arg(kilobytes / kKilo, 0, 'f', 1);
+}
+
+/// Writes to exactly @p path. @param size  of the file, in bytes. @return why it failed, empty when it did not
+std::string write(const BitmapRep& rep, const std::string& path, SaveFormat format, int quality, std::size_t& size)
+{
+    const std::vector<std::uint8_t> bytes = encoded(rep, format, quality);
     if (bytes.empty())
         return "There is not enough memory to encode the image, or it is too large for this kind of file.";
+    size = bytes.size();
     std::string error;
     if (writeFileSafely(path, bytes.data(), bytes.size(), &error)) return {};
     return error.empty() ? "The file could not be written." : error;
@@ -56,34 +81,66 @@ void logLosses(const BitmapRep& rep)
     if (!sentences.empty()) logLine("saved with losses: %s", sentences.c_str());
 }
 
+constexpr const char* kSavedFolders = "savedFolders";
+
+void rememberFolder(const std::string& folder)
+{
+    constexpr int kFolders = 20;
+    // Percent-encoded bytes: names that are not UTF-8 survive.
+    const QString entry = QString::fromLatin1(QByteArray::fromStdString(folder).toPercentEncoding("/"));
+    QStringList folders = settings().value(kSavedFolders).toStringList();
+    if (!folders.isEmpty() && folders.constFirst() == entry) return;
+    folders.removeAll(entry);
+    folders.prepend(entry);
+    while (folders.size() > kFolders) folders.removeLast();
+    settings().setValue(kSavedFolders, folders);
+}
+
 /// Saves to exactly @p path what the screen shows; a failure is told to the person and leaves image and files as they
 /// are.
-bool save(Edit& edit, const std::string& path, SaveFormat format)
+bool save(Edit& edit, const std::string& path, SaveFormat format, int quality)
 {
     Document& document = edit.document();
     const std::shared_ptr<const BitmapRep> shown = pictureAsShown(document);
-    document.setLastFileError(shown ? write(*shown, path, format) : "There is no image to save.");
+    const QString name = QString::fromStdString(displayName(lastPathComponent(path)));
+    rememberFolder(folderOfPath(path)); // before: it may be killed while it writes
+    std::size_t size = 0;
+    document.setLastFileError(shown ? write(*shown, path, format, quality, size) : "There is no image to save.");
     if (document.lastFileError().empty()) {
         logLosses(*shown);
+        edit.picture().noteWritten(path);
+        edit.picture().setJPEGQuality(path, quality);
         edit.history().noteSaved(edit.picture());
+        document.say(say("Saved %1 · %2 · %3").arg(name, formatTitle(format, quality), sizeTitle(size)));
         return true;
     }
     logLine("could not save %s: %s", path.c_str(), document.lastFileError().c_str());
-    edit.refuse(say("The file could not be saved."),
-                QString::fromStdString(displayName(lastPathComponent(path)) + ": " + document.lastFileError()));
+    const QString why = name + ": " + QString::fromStdString(document.lastFileError());
+    document.say(say("Not saved: %1").arg(why));
+    edit.refuse(say("The file could not be saved."), why);
     return false;
 }
 
 /// Makes @p path the image's file and saves there; when that fails the image keeps the file it had.
 /// @param exact  written to exactly that path, else with the format's extension
-void saveAs(Edit& edit, const std::string& path, SaveFormat format, bool exact = false)
+void saveAs(Edit& edit, const Arguments& to, SaveFormat format, bool exact = false)
 {
+    const std::string& path = to.path;
+    const int quality = to.numbers.empty() ? kJPEGQuality : int(to.numbers[0]);
     const std::string before = edit.picture().path();
     edit.picture().setPath(path);
-    if (!save(edit, exact ? path : writtenPath(path, format), format)) edit.picture().setPath(before);
+    if (!save(edit, exact ? path : writtenPath(path, format), format, quality)) edit.picture().setPath(before);
 }
 
 } // namespace
+
+std::vector<std::string> foldersSavedTo()
+{
+    std::vector<std::string> folders;
+    for (const QString& entry : settings().value(kSavedFolders).toStringList())
+        folders.push_back(QByteArray::fromPercentEncoding(entry.toLatin1()).toStdString());
+    return folders;
+}
 
 std::shared_ptr<const BitmapRep> pictureAsShown(const Document& document)
 {
@@ -120,61 +177,95 @@ void operations::saveImage(Edit& edit, const Arguments&)
     const SaveFormat format = saveFormatForPath(path);
     switch (format) {
     case SaveFormat::None:
-        return;
+        // Without a word that has to be answered: the bar over the picture has said it at opening.
+        return edit.document().say(say("Not saved: %1").arg(say("Save does not write files of this name.")));
     case SaveFormat::Photoshop:
         return edit.refuse(say("Cannot save PSD file (Photoshop file)"),
                            say("Choose 'File' > 'Save as TIFF…' or 'File' > 'Save as JPEG…' to save the image in "
                                "another image format."));
     default:
-        save(edit, writtenPath(path, format), format);
+        break;
     }
+    Document& document = edit.document();
+    const std::string target = writtenPath(path, format);
+    if (!mustAskToWrite(document, target)) {
+        save(edit, target, format, edit.picture().jpegQualityFor(target));
+        return;
+    }
+    edit.afterwards([&document, target, format] {
+        switch (askToWrite(document, target)) {
+        case Permission::Save:
+            document.perform("saveImageAsAsked");
+            break;
+        case Permission::SaveAs:
+            saveThroughPanel(document, format);
+            break;
+        case Permission::Cancel:
+            break;
+        }
+    });
 }
 
-void operations::saveImageAsTIFF(Edit& edit, const Arguments& to) { saveAs(edit, to.path, SaveFormat::TIFF); }
+void operations::saveImageAsAsked(Edit& edit, const Arguments&)
+{
+    const SaveFormat format = saveFormatForPath(edit.picture().path());
+    const std::string target = writtenPath(edit.picture().path(), format);
+    edit.picture().acceptLoss();
+    save(edit, target, format, edit.picture().jpegQualityFor(target));
+}
 
-void operations::saveImageAsJPEG(Edit& edit, const Arguments& to) { saveAs(edit, to.path, SaveFormat::JPEG); }
+void operations::saveImageAsTIFF(Edit& edit, const Arguments& to) { saveAs(edit, to, SaveFormat::TIFF); }
 
-void operations::saveImageAsPNG(Edit& edit, const Arguments& to) { saveAs(edit, to.path, SaveFormat::PNG); }
+void operations::saveImageAsJPEG(Edit& edit, const Arguments& to) { saveAs(edit, to, SaveFormat::JPEG); }
+
+void operations::saveImageAsPNG(Edit& edit, const Arguments& to) { saveAs(edit, to, SaveFormat::PNG); }
 
 void operations::saveImageToPath(Edit& edit, const Arguments& to)
 {
     if (to.path.empty()) {
         Document& document = edit.document();
         return edit.afterwards([&document] {
-            if (const auto path = askWhereToSave(document, SaveFormat::TIFF))
-                document.perform("saveImageToPath:", {{}, *path});
+            if (const auto answer = askWhereToSave(document, SaveFormat::TIFF))
+                document.perform("saveImageToPath:", {{}, answer->path});
         });
     }
     const auto start = std::chrono::steady_clock::now();
-    saveAs(edit, to.path, SaveFormat::TIFF);
+    saveAs(edit, to, SaveFormat::TIFF);
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
     logLine("elapsed time: %f", elapsed.count());
 }
 
-void operations::quickSave(Edit& edit, const Arguments& to) { saveAs(edit, to.path, SaveFormat::TIFF, true); }
+void operations::quickSave(Edit& edit, const Arguments& to) { saveAs(edit, to, SaveFormat::TIFF, true); }
 
-std::optional<std::string> askWhereToSave(const Document& document, SaveFormat format)
+std::optional<SaveAnswer> askWhereToSave(const Document& document, SaveFormat format)
 {
     const SaveProposal proposal = saveProposal(document.picture().path(), format, homeFolder());
     PanelRequest request;
     request.directory = proposal.folder;
     request.name = proposal.name;
-    request.types = {QString::fromLatin1(extensionFor(format))};
+    request.extension = extensionFor(format);
+    request.types = {QString::fromStdString(request.extension)};
+    if (format == SaveFormat::JPEG) request.quality = document.picture().jpegQualityFor(document.picture().path());
     return runSavePanel(std::move(request));
 }
 
 Outcome saveThroughPanel(Document& document, SaveFormat format)
 {
     document.endGesture();
-    const std::optional<std::string> path = askWhereToSave(document, format);
-    if (!path) return {Outcome::Refused, {}};
+    std::optional<SaveAnswer> answer;
+    for (Permission permission = Permission::SaveAs; permission != Permission::Save;) {
+        answer = permission == Permission::SaveAs ? askWhereToSave(document, format) : std::nullopt;
+        if (!answer) return {Outcome::Refused, {}};
+        permission = askToTakeFromPanel(document, answer->path);
+    }
+    const std::string& path = answer->path;
     switch (format) {
     case SaveFormat::JPEG:
-        return document.perform("saveImageAsJPEG:", {{}, *path});
+        return document.perform("saveImageAsJPEG:", {{double(answer->quality)}, path});
     case SaveFormat::PNG:
-        return document.perform("saveImageAsPNG:", {{}, *path});
+        return document.perform("saveImageAsPNG:", {{}, path});
     default:
-        return document.perform("saveImageAsTIFF:", {{}, *path});
+        return document.perform("saveImageAsTIFF:", {{}, path});
     }
 }
 

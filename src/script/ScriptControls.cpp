@@ -185,7 +185,7 @@ void ScriptDriver::addMenuCommands()
         QJsonArray windows;
         for (QWidget* window : windowsInFront())
             windows.append(QJsonObject{{"name", window->objectName()},
-                                       {"title", window->windowTitle()},
+                                       {"title", shownTitle(*window)},
                                        {"modal", window->isModal()},
                                        {"key", window->isActiveWindow()}});
         return QJsonObject{{"windows", windows}};

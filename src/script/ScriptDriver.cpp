@@ -38,6 +38,7 @@ ScriptDriver::ScriptDriver(ZPAppController& controller, std::string script)
     addMenuCommands();
     addInputCommands();
     addLookCommands();
+    addStatusCommands();
     setPanelsAutomated(true);
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window->isVisible()) mFront.emplace_back(window);

@@ -26,6 +26,9 @@ class Document;
 inline QString text(const std::string& bytes) { return QString::fromStdString(bytes); }
 } // namespace zp
 
+/// The window's title as the platform shows it, with the mark of a picture that is not saved.
+QString shownTitle(const QWidget& window);
+
 /// Commands go on inside a modal window's own loop: whatever may open one is started from a timer of its own, and
 /// answered when it has ended or when the window is up.
 class ScriptDriver : public QObject
@@ -72,6 +75,7 @@ private:
     void addMenuCommands();
     void addInputCommands();
     void addLookCommands();
+    void addStatusCommands();
     void addImmediate(const char* name, Command command);
     void addWork(const char* name, Command command);
 

@@ -259,7 +259,7 @@ std::string ZPImageProcessor::processEntry(const BatchSettings& settings, const 
     };
     perform("setImagePath:", [&](Edit& edit) {
         error = picture.read();
-        installOpened(edit, picture.path(), {.bitmap = picture.bitmap(), .error = error});
+        installOpened(edit, {picture.path(), fileStamp(picture.path()), {.bitmap = picture.bitmap(), .error = error}});
     });
     mCanvas->repaint();
     if (!error.empty()) return error;

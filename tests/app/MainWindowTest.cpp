@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The main window shows what the document has, and says to it what is chosen.
 #include "app/MainWindow.h"
+#include "base/Folders.h"
 #include "canvas/ToolTable.h"
 #include "desktop/ColorWell.h"
 #include "desktop/FacePopUp.h"
+#include "desktop/NoticeBar.h"
 #include "desktop/Pasteboard.h"
 #include "desktop/ScrollView.h"
 #include "support/DocumentFixture.h"
@@ -183,7 +185,7 @@ TEST_F(MainWindowControls, StatusAndTitleAreTheDocuments)
 {
     EXPECT_EQ(window.windowTitle(), "Zelpane");
     makeImage(40, 30);
-    EXPECT_EQ(window.windowTitle(), "Untitled — Zelpane");
+    EXPECT_EQ(window.windowTitle(), "Untitled[*] — Zelpane");
     EXPECT_EQ(info(), "");
     perform("selectAll:");
     EXPECT_EQ(info(), "{{0, 0}, {40, 30}}");
@@ -193,6 +195,57 @@ TEST_F(MainWindowControls, StatusAndTitleAreTheDocuments)
     EXPECT_EQ(info(), "");
     perform("undo:");
     EXPECT_EQ(info(), "");
+}
+
+TEST_F(MainWindowControls, TheTitleIsMarkedFromTheFirstChangeToTheSaving)
+{
+    EXPECT_FALSE(window.isWindowModified());
+    makeImage(40, 30);
+    EXPECT_FALSE(window.isWindowModified()) << "nothing would be lost yet";
+    perform("flipH:");
+    EXPECT_TRUE(window.isWindowModified());
+    perform("undo:");
+    EXPECT_FALSE(window.isWindowModified());
+    perform("redo:");
+    EXPECT_TRUE(window.isWindowModified());
+    const std::string file = temporaryFolder() + "/title.png";
+    performPath("saveImageAsPNG:", file);
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_EQ(window.windowTitle(), "title.png[*] — Zelpane");
+    settle();
+    perform("undo:");
+    EXPECT_TRUE(window.isWindowModified()) << "the file holds the later step";
+    removeItem(file);
+}
+
+TEST_F(MainWindowControls, NoticesAreShownOneAfterTheOther)
+{
+    auto& bar = *window.findChild<NoticeBar*>();
+    const auto shown = [&bar] { return !bar.isHidden() ? bar.text() : QString(); };
+    EXPECT_EQ(shown(), "");
+    document->notice("First.");
+    document->notice(Notice{.text = "Second.", .button = "Flip", .action = "flipH:", .ofPicture = true});
+    document->notice("First.");
+    EXPECT_EQ(shown(), "First.");
+    EXPECT_EQ(bar.buttons(), QStringList{"Close"});
+    EXPECT_FALSE(bar.press("Flip"));
+    EXPECT_TRUE(bar.press("Close"));
+    EXPECT_EQ(shown(), "Second.");
+    QString asked;
+    window.performAction = [&asked](const QString& action) { asked = action; };
+    EXPECT_TRUE(bar.press("Flip"));
+    EXPECT_EQ(asked, "flipH:");
+    EXPECT_EQ(shown(), "") << "a sentence is not said again while it waits";
+}
+
+TEST_F(MainWindowControls, AnotherPictureTakesItsNoticesAway)
+{
+    const auto& bar = *window.findChild<NoticeBar*>();
+    makeImage(10, 10);
+    document->notice(Notice{.text = "Of the file.", .ofPicture = true});
+    document->notice("Of the disk.");
+    makeImage(20, 20);
+    EXPECT_EQ(bar.text(), "Of the disk.");
 }
 
 } // namespace

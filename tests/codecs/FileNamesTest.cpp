@@ -40,6 +40,33 @@ INSTANTIATE_TEST_SUITE_P(
                     Kind{"/a/noextension", SaveFormat::None, ""}, Kind{"/a.jpg/noextension", SaveFormat::None, ""},
                     Kind{"/a/.png", SaveFormat::None, ""}, Kind{"", SaveFormat::None, ""}));
 
+struct Typed {
+    const char* name;
+    SaveFormat format;
+    const char* written;
+};
+class TypedNames : public testing::TestWithParam<Typed>
+{
+};
+TEST_P(TypedNames, GetTheExtensionOfWhatIsWritten)
+{
+    const auto& [name, format, written] = GetParam();
+    EXPECT_EQ(nameToWrite(name, format), written);
+    EXPECT_EQ(nameToWrite(written, format), written);
+    EXPECT_EQ(writtenPath(written, format), written) << "one name from the panel to the disk";
+}
+INSTANTIATE_TEST_SUITE_P(Names, TypedNames,
+                         testing::Values(Typed{"/a/photo.jpeg", SaveFormat::JPEG, "/a/photo.jpg"},
+                                         Typed{"/a/photo.JPG", SaveFormat::JPEG, "/a/photo.jpg"},
+                                         Typed{"/a/keep.tiff", SaveFormat::JPEG, "/a/keep.jpg"},
+                                         Typed{"/a/tree.psd", SaveFormat::PNG, "/a/tree.png"},
+                                         Typed{"/a/Version 2.5", SaveFormat::TIFF, "/a/Version 2.5.tiff"},
+                                         Typed{"/a/v1.2.png", SaveFormat::TIFF, "/a/v1.2.tiff"},
+                                         Typed{"/a/plain", SaveFormat::PNG, "/a/plain.png"},
+                                         Typed{"/a/dot.", SaveFormat::PNG, "/a/dot.png"},
+                                         Typed{"/a/.hidden", SaveFormat::JPEG, "/a/.hidden.jpg"},
+                                         Typed{"/a.tiff/b", SaveFormat::JPEG, "/a.tiff/b.jpg"}));
+
 TEST(SaveProposal, OfAnUnsavedImageIsInThePicturesFolder)
 {
     const SaveProposal tiff = saveProposal("", SaveFormat::TIFF, "/home/someone");
@@ -54,6 +81,7 @@ TEST(SaveProposal, OfASavedImageIsBesideItsFile)
     EXPECT_EQ(p.folder, "/pictures/2024");
     EXPECT_EQ(p.name, "tree.jpg");
     EXPECT_EQ(saveProposal("/p/tree", SaveFormat::TIFF, "/h").name, "tree.tiff");
+    EXPECT_EQ(saveProposal("/p/tree 2.5", SaveFormat::TIFF, "/h").name, "tree 2.5.tiff");
 }
 
 class QuickSave : public testing::Test

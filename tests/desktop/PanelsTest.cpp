@@ -6,7 +6,9 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -129,7 +131,7 @@ TEST(FilePanels, AreAnsweredFromTheQueueThenCancelled)
     EXPECT_EQ(lastPanel()->kind, "open");
     EXPECT_EQ(lastPanel()->types, (QStringList{"tiff", "jpg"}));
     request.name = "picture";
-    EXPECT_EQ(runSavePanel(request), std::nullopt);
+    EXPECT_FALSE(runSavePanel(request));
     EXPECT_EQ(lastPanel()->kind, "save");
     EXPECT_EQ(lastPanel()->name, "picture");
     EXPECT_EQ(runFolderPanel({}), "/tmp/out");
@@ -170,9 +172,103 @@ TEST(FilePanels, ForPeopleShowWhatWasAskedAndGiveTheirChoice)
         EXPECT_EQ(panel->findChild<QLineEdit*>("fileNameEdit")->text(), "new");
         panel->findChild<QDialogButtonBox*>()->buttons().constFirst()->click();
     });
-    EXPECT_EQ(runSavePanel(request), folder.filePath("new.tiff").toStdString());
+    std::optional<SaveAnswer> saved = runSavePanel(request);
+    ASSERT_TRUE(saved);
+    EXPECT_EQ(saved->path, folder.filePath("new.tiff").toStdString());
     QTimer::singleShot(0, qApp, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
     EXPECT_EQ(runFolderPanel({}), std::nullopt);
+}
+
+/// Types a name into the save panel and presses its button.
+void typeAndSave(const QString& name)
+{
+    auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(panel);
+    panel->findChild<QLineEdit*>("fileNameEdit")->setText(name);
+    panel->findChild<QDialogButtonBox*>()->buttons().constFirst()->click();
+}
+
+TEST(FilePanels, ForPeopleMakeTheNameThatWillBeWritten)
+{
+    setPanelsAutomated(false);
+    QTemporaryDir folder;
+    PanelRequest request;
+    request.directory = folder.path().toStdString();
+    request.types = {"jpg"};
+    request.extension = "jpg";
+    request.quality = 70;
+    for (const auto& [typed, written] : {std::pair{"photo.jpeg", "photo.jpg"},
+                                         {"keep.tiff", "keep.jpg"},
+                                         {"Version 2.5", "Version 2.5.jpg"},
+                                         {"plain", "plain.jpg"}}) {
+        QTimer::singleShot(0, qApp, [typed] {
+            auto* quality = QApplication::activeModalWidget()->findChild<QSpinBox*>("mJPEGQuality");
+            ASSERT_TRUE(quality);
+            EXPECT_EQ(quality->value(), 70);
+            quality->setValue(92);
+            typeAndSave(typed);
+        });
+        const std::optional<SaveAnswer> answer = runSavePanel(request);
+        ASSERT_TRUE(answer) << typed;
+        EXPECT_EQ(answer->path, folder.filePath(written).toStdString());
+        EXPECT_EQ(answer->quality, 92);
+    }
+}
+
+TEST(FilePanels, ForPeopleAskAboutTheNameThatWillBeWritten)
+{
+    setPanelsAutomated(false);
+    QTemporaryDir folder;
+    QFile there(folder.filePath("photo.jpg"));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    there.close();
+    PanelRequest request;
+    request.directory = folder.path().toStdString();
+    request.types = {"jpg"};
+    request.extension = "jpg";
+    QStringList asked;
+    QTimer::singleShot(0, qApp, [&asked] {
+        QTimer::singleShot(0, qApp, [&asked] {
+            auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(question) << "the panel's own question";
+            asked << question->text();
+            question->button(QMessageBox::Yes)->click();
+        });
+        typeAndSave("photo.jpeg"); // no such file: it is photo.jpg that will be written
+    });
+    const std::optional<SaveAnswer> answer = runSavePanel(request);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->path, folder.filePath("photo.jpg").toStdString());
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_TRUE(asked[0].contains("photo.jpg")) << asked[0].toStdString();
+}
+
+TEST(FilePanels, OfADriverAskAboutTheNameTheyMade)
+{
+    QTemporaryDir folder;
+    QFile there(folder.filePath("photo.jpg"));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    there.close();
+    setPanelsAutomated(true);
+    PanelRequest request;
+    request.extension = "jpg";
+    const auto answered = [&](const char* typed, const QString& word) {
+        queuePanelChoice(folder.filePath(typed).toStdString());
+        bool asked = false;
+        QTimer::singleShot(0, qApp, [&asked, word] {
+            if (!currentAlert()) return;
+            asked = currentAlert()->title == "File already exists";
+            answerAlert(word);
+        });
+        const bool given = runSavePanel(request).has_value();
+        QApplication::processEvents();
+        return std::pair{asked, given};
+    };
+    EXPECT_EQ(answered("photo.jpeg", "No"), (std::pair{true, false})) << "the panel comes again, with nothing queued";
+    EXPECT_EQ(answered("photo.jpeg", "Yes"), (std::pair{true, true}));
+    EXPECT_EQ(answered("photo.jpg", "No"), (std::pair{false, true})) << "that very name is yes to the panel's question";
+    EXPECT_EQ(answered("other.jpeg", "No"), (std::pair{false, true}));
+    setPanelsAutomated(false);
 }
 
 TEST(CenterWindow, StaysOnTheScreen)

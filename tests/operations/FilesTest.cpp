@@ -253,7 +253,7 @@ TEST_F(Files, TheSavePanelProposesAndItsChoiceIsKept)
     EXPECT_EQ(lastPanel()->directory, homeFolder() + "/Pictures");
     EXPECT_EQ(lastPanel()->name, "My Great Image.tiff");
     EXPECT_EQ(lastPanel()->types, QStringList{"tiff"});
-    EXPECT_EQ(picture().path(), at("chosen.png")); // as chosen; the file has the extension of what is in it
+    EXPECT_EQ(picture().path(), at("chosen.tiff")) << "what is written is what is stored";
     EXPECT_TRUE(fileExists(at("chosen.tiff")));
     EXPECT_FALSE(fileExists(at("chosen.png")));
 
@@ -261,8 +261,109 @@ TEST_F(Files, TheSavePanelProposesAndItsChoiceIsKept)
     saveThroughPanel(*document, SaveFormat::JPEG);
     EXPECT_EQ(lastPanel()->directory, mFolder);
     EXPECT_EQ(lastPanel()->name, "chosen.jpg");
-    EXPECT_EQ(picture().path(), at("chosen.png"));
+    EXPECT_EQ(lastPanel()->quality, 70);
+    EXPECT_EQ(picture().path(), at("chosen.tiff"));
     setPanelsAutomated(false);
+}
+
+// ---- what is asked before a file is written over --------------------------------------------------------------------
+
+class Overwriting : public Files
+{
+protected:
+    /// Performs @p command and answers its alerts. @return their titles
+    QStringList ask(const char* command, const QStringList& answers)
+    {
+        zp::test::AlertWatch watch;
+        watch.answers = answers;
+        perform(command);
+        QStringList titles;
+        for (const AlertState& alert : watch.seen) titles << alert.title;
+        return titles;
+    }
+};
+
+const QString kExists = "File already exists", kChanged = "The file was changed since it was opened.",
+              kMore = "The file holds more than the picture.";
+
+TEST_F(Overwriting, AnotherFileThanTheOpenedOneIsAskedAbout)
+{
+    open(copyOf("made/valid/base.jpg", "photo.JPG"));
+    ASSERT_TRUE(writeFileSafely(at("photo.jpg"), "mine", 4));
+    EXPECT_EQ(ask("save:", {"No"}), QStringList{kExists});
+    EXPECT_EQ(readWholeFile(at("photo.jpg")), "mine");
+    EXPECT_EQ(ask("save:", {"Yes"}), QStringList{kExists});
+    EXPECT_TRUE(importImageFile(at("photo.jpg")).bitmap);
+    EXPECT_EQ(picture().path(), at("photo.JPG"));
+    EXPECT_EQ(ask("save:", {}), QStringList()) << "it is the picture's own now";
+}
+
+TEST_F(Overwriting, AFileThatSomebodyChangedIsAskedAbout)
+{
+    const std::string path = copyOf("made/valid/base.png", "shared.png");
+    open(path);
+    EXPECT_EQ(ask("save:", {}), QStringList());
+    EXPECT_EQ(ask("save:", {}), QStringList()) << "saving is no change by somebody else";
+    ASSERT_TRUE(writeFileSafely(path, "theirs", 6));
+    EXPECT_EQ(ask("save:", {"No"}), QStringList{kChanged});
+    EXPECT_EQ(readWholeFile(path), "theirs");
+    EXPECT_EQ(ask("save:", {"Yes"}), QStringList{kChanged});
+    EXPECT_TRUE(importImageFile(path).bitmap);
+}
+
+TEST_F(Overwriting, OneFileUnderTwoNamesIsNoOther)
+{
+    const std::string path = copyOf("made/valid/base.jpg", "photo.JPG");
+    open(path);
+    ASSERT_EQ(::link(path.c_str(), at("photo.jpg").c_str()), 0);
+    EXPECT_EQ(ask("save:", {}), QStringList());
+}
+
+TEST_F(Overwriting, ThePanelsNameIsAskedAboutWhenItIsNotTheTypedOne)
+{
+    makeImage(8, 8);
+    setPanelsAutomated(true);
+    struct Case {
+        SaveFormat format;
+        const char *typed, *written;
+    };
+    for (const Case& c : {Case{SaveFormat::JPEG, "photo.jpeg", "photo.jpg"},
+                          {SaveFormat::JPEG, "keep.tiff", "keep.jpg"},
+                          {SaveFormat::TIFF, "Version 2.5", "Version 2.5.tiff"},
+                          {SaveFormat::PNG, "a.PNG", "a.png"}}) {
+        for (const bool exists : {false, true}) {
+            zp::test::AlertWatch watch;
+            watch.answers = {"Yes"};
+            queuePanelChoice(at(c.typed));
+            EXPECT_TRUE(saveThroughPanel(*document, c.format)) << c.typed;
+            EXPECT_EQ(watch.seen.size(), exists ? 1u : 0u) << c.typed;
+            EXPECT_EQ(picture().path(), at(c.written));
+            EXPECT_TRUE(fileExists(at(c.written)));
+            EXPECT_FALSE(fileExists(at(c.typed)));
+        }
+        zp::test::AlertWatch watch;
+        watch.answers = {"No"}; // and the panel comes again, with nothing queued
+        queuePanelChoice(at(c.typed));
+        EXPECT_FALSE(saveThroughPanel(*document, c.format));
+        queuePanelChoice(at(c.written));
+        EXPECT_TRUE(saveThroughPanel(*document, c.format)) << "the panel itself has asked";
+        EXPECT_EQ(watch.seen.size(), 1u);
+    }
+    setPanelsAutomated(false);
+}
+
+TEST_F(Overwriting, AChosenQualityIsThatFilesFromThenOn)
+{
+    open(copyOf("photos/tahoe-gps.jpg", "photo.jpg"));
+    settle();
+    const auto size = [this](const char* name) { return fileAttributes(at(name))->size; };
+    perform("saveImageAsJPEG:", {{95}, at("fine.jpg")});
+    const auto fine = size("fine.jpg");
+    performPath("saveImageAsJPEG:", at("plain.jpg"));
+    EXPECT_LT(size("plain.jpg") * 3, fine * 2);
+    perform("saveImageAsJPEG:", {{95}, at("fine.jpg")});
+    perform("save:");
+    EXPECT_EQ(size("fine.jpg"), fine);
 }
 
 TEST_F(Files, SavingToAPathLogsTheTime)

@@ -8,7 +8,8 @@
 namespace zp::test
 {
 
-/// Answers every alert that comes up while it lives with its first button, and remembers it.
+/// Answers every alert that comes up while it lives, with the next of its answers or else the first button, and
+/// remembers it.
 class AlertWatch
 {
 public:
@@ -17,12 +18,13 @@ public:
         QObject::connect(&mTimer, &QTimer::timeout, &mTimer, [this] {
             if (const auto alert = currentAlert()) {
                 seen.push_back(*alert);
-                answerAlert(alert->buttons[0]);
+                answerAlert(answers.isEmpty() ? alert->buttons[0] : answers.takeFirst());
             }
         });
         mTimer.start(5);
     }
     std::vector<AlertState> seen;
+    QStringList answers; ///< of the coming alerts, in their order
 
 private:
     QTimer mTimer;

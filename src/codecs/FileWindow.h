@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The parts of a large file that its picture needs, at their places, and no others in memory.
+#pragma once
+#include "codecs/Codec.h"
+
+namespace zp::codec
+{
+
+/// Stands for the whole file; what was not taken reads as zeros and costs nothing. Read, not mapped from the file: one
+/// that shrinks meanwhile would take the program down. One thread.
+class FileWindow
+{
+public:
+    /// @param budget  how many bytes may be taken in all
+    FileWindow(int fd, std::uint64_t size, std::uint64_t budget);
+    ~FileWindow();
+    FileWindow(const FileWindow&) = delete;
+    FileWindow& operator=(const FileWindow&) = delete;
+
+    bool isOpen() const { return mBytes != nullptr; }
+    Bytes bytes() const { return {mBytes, mSize}; }
+    /// Reads that part, as far as file and budget go.
+    void take(std::uint64_t offset, std::uint64_t count);
+    /// Something that was asked for was beyond the budget.
+    bool ranOut() const { return mRanOut; }
+    std::uint64_t taken() const { return mTaken; }
+
+private:
+    int mFd;
+    std::size_t mSize;
+    std::uint64_t mBudget, mTaken = 0;
+    std::uint8_t* mBytes = nullptr;
+    bool mRanOut = false;
+};
+
+/// Takes what the reader of that kind of file will look at for the first picture and its properties.
+/// @param start  where the picture's data begins
+void takeNeededParts(FileWindow& window, Format format, std::size_t start);
+
+/// The most bytes that a file of that kind can need for a picture of so many pixels and all that belongs to it.
+std::uint64_t mostBytesFor(Format format, std::int64_t width, std::int64_t height);
+
+} // namespace zp::codec
