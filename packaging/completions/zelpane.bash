@@ -13,6 +13,10 @@ _zelpane() {
         compopt -o nospace
         return
         ;;
+    --strip)
+        COMPREPLY=($(compgen -W 'private' -- "$cur"))
+        return
+        ;;
     --place)
         COMPREPLY=($(compgen -W 'lower-left lower-right upper-left upper-right centre' -- "$cur"))
         return
@@ -24,7 +28,7 @@ _zelpane() {
     local options='--new --open --image-processor --script --show --offscreen --no-start-choice --offer-recovery --help --version'
     [ "$cword" -eq 1 ] && options+=' --batch'
     if [ "${words[1]}" = --batch ] && [ "$cword" -gt 1 ]; then
-        options='--tiff --jpeg --fit --watermark --at --place --opacity --jobs --shard --keep-damaged --skip-existing --dry-run --help'
+        options='--tiff --jpeg --fit --watermark --at --place --opacity --strip --jobs --shard --keep-damaged --skip-existing --dry-run --help'
     fi
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W "$options" -- "$cur"))

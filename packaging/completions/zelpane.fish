@@ -23,6 +23,7 @@ complete -c zelpane -n __zelpane_batch -l watermark -r -F -d 'Lay an image over 
 complete -c zelpane -n __zelpane_batch -l at -x -d 'Lower left corner of the watermark, X,Y'
 complete -c zelpane -n __zelpane_batch -l place -x -a 'lower-left lower-right upper-left upper-right centre' -d 'Corner of the watermark in each image'
 complete -c zelpane -n __zelpane_batch -l keep-damaged -d 'Write what can be read of a damaged source'
+complete -c zelpane -n __zelpane_batch -l strip -x -a private -d 'Leave place, device and names out'
 complete -c zelpane -n __zelpane_batch -l opacity -x -d 'Opacity of the watermark in percent'
 complete -c zelpane -n __zelpane_batch -l jobs -x -d 'Images at a time'
 complete -c zelpane -n __zelpane_batch -l shard -x -a auto/ -d 'Only a share of the images, K/N or auto/N'

@@ -484,6 +484,7 @@ void ZPAppController::buildShell()
     mShell["saveAsJPEG:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::JPEG); };
     mShell["saveAsPNG:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::PNG); };
     mShell["selectByNumber:"] = [this] { runSelectionByNumber(*mDocument, mWindow.get()); };
+    mShell["saveWithoutPrivateData:"] = [this] { saveCopyWithoutPrivateData(*mDocument); };
     mShell["resize:"] = [this] { runResizeDialog(*mDocument, mWindow.get()); };
     mShell["transform:"] = [this] { runTransformDialog(*mDocument, mWindow.get()); };
     mShell["adjust:"] = [this] { runAdjustDialog(*mDocument, mWindow.get()); };

@@ -34,6 +34,7 @@ Converts every .tiff and .jpg image of the folder SRC into the folder DST.
                       or centre, in each image by its own size, N pixels away
                       from the edges of its corner (0)
   --opacity P         in percent (100)
+  --strip private     leave place, device and names out of what is written
   --jobs N            images at a time (as many as there are processors)
   --shard K/N         only every N-th image by name, beginning with the K-th;
                       sources of one result go together
@@ -120,6 +121,9 @@ std::string takeValue(BatchCommandLine& line, const std::string& option, const s
         const auto jobs = number(value);
         if (!jobs || *jobs < 1 || *jobs > 256) return wrong;
         s.jobs = *jobs;
+    } else if (option == "--strip") {
+        if (value != "private") return wrong;
+        s.stripPrivate = true;
     } else {
         std::string error;
         s.shard = parseShard(value, error);
@@ -130,7 +134,7 @@ std::string takeValue(BatchCommandLine& line, const std::string& option, const s
 
 bool hasValue(const std::string& option)
 {
-    for (const char* known : {"--fit", "--watermark", "--at", "--place", "--opacity", "--jobs", "--shard"})
+    for (const char* known : {"--fit", "--watermark", "--at", "--place", "--opacity", "--jobs", "--shard", "--strip"})
         if (option == known) return true;
     return false;
 }

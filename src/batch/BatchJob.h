@@ -24,6 +24,7 @@ struct BatchSettings {
     float watermarkAlpha = 1;
     bool tiff = false, jpeg = false;
     bool keepDamaged = false;    ///< results are written, and failures reported, of sources that can be read in part
+    bool stripPrivate = false;   ///< place, device and names are left out of the results
     bool skipExisting = false;   ///< images whose results are all there are passed over
     int jobs = 1;                ///< images at a time
     Shard shard;                 ///< of the source folder

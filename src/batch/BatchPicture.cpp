@@ -7,6 +7,7 @@
 #include "codecs/FileNames.h"
 #include "codecs/ImageEncoder.h"
 #include "codecs/ImageImporter.h"
+#include "codecs/PrivateData.h"
 #include "drawing/Resample.h"
 #include <utility>
 
@@ -87,6 +88,7 @@ std::string BatchPicture::read()
     mReduction = imported.reduction;
     mBitmap = std::move(imported.bitmap);
     mBitmap->properties.userComment = kEditedComment;
+    if (mSettings.stripPrivate) removePrivateData(mBitmap->properties);
     if (mSettings.fits() && mWidth == 0) fitsTo({float(mBitmap->pixelsWide()), float(mBitmap->pixelsHigh())});
     return {};
 }

@@ -2,6 +2,7 @@
 /// JPEG files straight into A, R, G, B rows.
 #include "base/FixedPoint.h"
 #include "codecs/Codec.h"
+#include "codecs/ColourProfiles.h"
 #include "codecs/JPEGBands.h"
 #include "codecs/JPEGPlanes.h"
 #include "codecs/LibJPEG.h"
@@ -9,6 +10,7 @@
 #include "codecs/PixelRows.h"
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 namespace zp::codec
 {
@@ -30,6 +32,7 @@ struct Session {
     jpeg_progress_mgr progress{};
     BitmapView out;
     std::vector<std::uint8_t> inkRow; ///< one row of a four-ink picture
+    std::optional<InkConverter> inks; ///< by its profile, when it has one
 
     ~Session() { jpeg_destroy_decompress(&info); } // harmless on one that was never created
 };
@@ -54,7 +57,8 @@ bool readHeader(Session& s, Bytes bytes, bool keepMarkers)
     s.info.progress = &s.progress;
     jpeg_mem_src(&s.info, bytes.data(), static_cast<unsigned long>(bytes.size()));
     jpeg_save_markers(&s.info, JPEG_APP0 + 1, 0xFFFF); // the orientation is in there, whatever was asked for
-    if (keepMarkers) jpeg_save_markers(&s.info, JPEG_APP0 + 2, 0xFFFF);
+    for (const int marker : {JPEG_APP0 + 2, JPEG_APP0 + 13, JPEG_COM})
+        if (keepMarkers) jpeg_save_markers(&s.info, marker, 0xFFFF);
     jpeg_read_header(&s.info, TRUE);
     return true;
 }
@@ -102,7 +106,10 @@ void readRows(Session& s)
         while (s.info.output_scanline < s.info.output_height) {
             const int y = int(s.info.output_scanline);
             jpeg_read_scanlines(&s.info, &row, 1);
-            inksToColours(row, out.rowData(y), out.width, s.info.saw_Adobe_marker);
+            if (s.inks && *s.inks)
+                s.inks->convert(row, out.rowData(y), out.width);
+            else
+                inksToColours(row, out.rowData(y), out.width, s.info.saw_Adobe_marker);
         }
         return;
     }
@@ -129,7 +136,7 @@ bool startsWith(const jpeg_marker_struct& marker, const char* prefix, std::size_
 }
 
 /// The profile's chunks put in order; nothing when one is missing.
-void collectProfile(const jpeg_decompress_struct& info, ImageProperties& properties)
+std::vector<std::uint8_t> profileOf(const jpeg_decompress_struct& info, bool& incomplete)
 {
     constexpr std::size_t kPrefix = 14; // "ICC_PROFILE", zero, number, count
     const jpeg_marker_struct* chunks[256] = {};
@@ -142,20 +149,32 @@ void collectProfile(const jpeg_decompress_struct& info, ImageProperties& propert
         chunks[number] = m;
         ++found;
     }
-    if (!found) return;
+    if (!found) return {};
     for (int i = 1; i <= count; ++i)
         if (!chunks[i]) {
-            properties.warnings.emplace_back("The colour profile is incomplete and was left out.");
-            return;
+            incomplete = true;
+            return {};
         }
     std::vector<std::uint8_t> profile;
     for (int i = 1; i <= count; ++i)
         profile.insert(profile.end(), chunks[i]->data + kPrefix, chunks[i]->data + chunks[i]->data_length);
+    return profile;
+}
+
+void collectProfile(const jpeg_decompress_struct& info, bool inksConverted, ImageProperties& properties)
+{
+    bool incomplete = false;
+    std::vector<std::uint8_t> profile = profileOf(info, incomplete);
+    if (incomplete) properties.warnings.emplace_back("The colour profile is incomplete and was left out.");
+    if (inksConverted) {
+        properties.iccProfile = sRGBProfile();
+        return;
+    }
     keepProfile(properties, std::move(profile), info.jpeg_color_space == JCS_GRAYSCALE ? "GRAY" : "RGB ",
                 info.out_color_space == JCS_CMYK ? "CMYK" : nullptr);
 }
 
-void collectProperties(const jpeg_decompress_struct& info, ImageProperties& properties)
+void collectProperties(const jpeg_decompress_struct& info, bool inksConverted, ImageProperties& properties)
 {
     if (info.saw_JFIF_marker && info.density_unit != 0 && info.X_density && info.Y_density) {
         const double perInch = info.density_unit == 2 ? 2.54 : 1;
@@ -170,7 +189,15 @@ void collectProperties(const jpeg_decompress_struct& info, ImageProperties& prop
         else if (properties.xmp.empty() && startsWith(*m, kXMP, sizeof kXMP))
             keepXMP(properties, {reinterpret_cast<const char*>(m->data) + sizeof kXMP, m->data_length - sizeof kXMP});
     }
-    collectProfile(info, properties);
+    static constexpr char kResources[] = "Photoshop 3.0";
+    constexpr std::size_t kMostComments = 100;
+    for (const jpeg_marker_struct* m = info.marker_list; m; m = m->next) {
+        if (m->marker == JPEG_APP0 + 13 && startsWith(*m, kResources, sizeof kResources))
+            keepIPTC(properties, iptcOfResources({m->data + sizeof kResources, m->data_length - sizeof kResources}));
+        if (m->marker == JPEG_COM && m->data_length > 0 && properties.comments.size() < kMostComments)
+            properties.comments.emplace_back(reinterpret_cast<const char*>(m->data), m->data_length);
+    }
+    collectProfile(info, inksConverted, properties);
 }
 
 int orientationOf(const jpeg_decompress_struct& info)
@@ -233,7 +260,11 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
 
     auto bitmap = BitmapRep::createUninitialized(int(s.info.output_width), int(s.info.output_height));
     if (!bitmap) return Decoded::failure("There is not enough memory for this picture.");
-    if (options.properties) collectProperties(s.info, bitmap->properties); // finishing forgets the markers
+    bool incomplete = false;
+    if (options.properties && s.info.out_color_space == JCS_CMYK)
+        s.inks.emplace(profileOf(s.info, incomplete), s.info.saw_Adobe_marker);
+    if (options.properties)
+        collectProperties(s.info, s.inks && *s.inks, bitmap->properties); // finishing forgets the markers
     s.out = bitmap->view();
     const int rows = decodePixels(s, bytes);
     if (rows == 0) return Decoded::failure(sentence(s));

@@ -64,6 +64,11 @@ public:
         const std::string packet = xmpForSaving(properties);
         add(1, withPrefix(kXMP, sizeof kXMP, {reinterpret_cast<const std::uint8_t*>(packet.data()), packet.size()}));
         addProfile(properties.iccProfile);
+        static constexpr char kResources[] = "Photoshop 3.0";
+        add(13, withPrefix(kResources, sizeof kResources, iptcAsResource(properties.iptc)));
+        for (const std::string& comment : properties.comments)
+            if (comment.size() <= kMaxMarkerBytes)
+                mSegments.emplace_back(JPEG_COM, std::vector<std::uint8_t>(comment.begin(), comment.end()));
     }
     std::vector<std::pair<int, Bytes>> views() const
     {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// PSD, GIF, BMP, WebP and the other kinds, by ImageMagick's readers, each called by name over bytes in memory.
 #include "codecs/MagickReader.h"
+#include "codecs/ColourProfiles.h"
 #include "codecs/MetadataBlocks.h"
 #include "codecs/PixelRows.h"
 #include <Magick++.h>
@@ -93,7 +94,8 @@ void collectProperties(Magick::Image& image, bool converted, ImageProperties& pr
     if (exif.size() > 8) keepExif(properties, exif);
     const auto xmp = profileOf(image, "xmp");
     if (!xmp.empty()) keepXMP(properties, {reinterpret_cast<const char*>(xmp.data()), xmp.size()});
-    keepProfile(properties, profileOf(image, "icc"), "RGB ", converted ? "CMYK" : nullptr);
+    const bool byProfile = converted && profileOf(image, "icc") == sRGBProfile();
+    keepProfile(properties, profileOf(image, "icc"), "RGB ", converted && !byProfile ? "CMYK" : nullptr);
 }
 
 int orientationOf(Magick::Image& image)
@@ -157,6 +159,10 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
     if (!image.isValid()) return Decoded::failure("The picture has no pixels.");
     const bool inks = image.colorSpace() == Magick::CMYKColorspace;
     const bool deep = image.depth() > 8 && format != Format::GIF;
+    if (inks && !profileOf(image, "icc").empty()) {
+        const ProfileBytes screen = sRGBProfile();
+        image.profile("icc", Magick::Blob(screen.data(), screen.size())); // over another profile: a conversion
+    }
     if (image.colorSpace() != Magick::sRGBColorspace && image.colorSpace() != Magick::GRAYColorspace)
         image.colorSpace(Magick::sRGBColorspace);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What of a file's EXIF, XMP and profile is kept, and what is put right before they are written again.
 #include "codecs/MetadataBlocks.h"
+#include "codecs/ColourProfiles.h"
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -212,11 +213,62 @@ void keepProfile(ImageProperties& properties, std::vector<std::uint8_t> profile,
         properties.iccProfile = std::move(profile);
         return;
     }
+    if (isFor("GRAY") && isFor(colourSpace) && !sourceSpace) {
+        if (properties.iccProfile = rgbProfileFromGrey(profile); !properties.iccProfile.empty()) return;
+    }
     // The canvas is RGB: a profile that describes grey or ink amounts would be wrong for what is written.
     if (isFor(colourSpace) || isFor(sourceSpace) || sourceSpace)
         warnOnce(properties, "The picture was converted to RGB; its colour profile was left out.");
     else
         warnOnce(properties, "The colour profile does not fit the picture and was left out.");
+}
+
+void keepIPTC(ImageProperties& properties, std::span<const std::uint8_t> records)
+{
+    constexpr std::uint8_t kMark = 0x1C; // every record begins with it
+    if (records.empty() || !properties.iptc.empty()) return;
+    if (records[0] != kMark || records.size() > kMaxBlockBytes) {
+        warnOnce(properties, "The IPTC data is damaged and was left out.");
+        return;
+    }
+    properties.iptc.assign(records.begin(), records.end());
+}
+
+namespace
+{
+/// An image resource as Photoshop files hold them, which JPEG files borrow for captions.
+constexpr char kResource[] = "8BIM";
+constexpr unsigned kIPTCResource = 0x0404;
+constexpr std::size_t kResourceHead = 12; // mark, number, an empty name, length
+} // namespace
+
+std::span<const std::uint8_t> iptcOfResources(std::span<const std::uint8_t> resources)
+{
+    while (resources.size() >= kResourceHead && std::memcmp(resources.data(), kResource, 4) == 0) {
+        const unsigned number = unsigned(resources[4]) << 8 | resources[5];
+        const std::size_t name = (std::size_t{resources[6]} + 2) & ~std::size_t{1}; // its length, itself, to even
+        if (resources.size() < 6 + name + 4) return {};
+        const std::uint8_t* p = resources.data() + 6 + name;
+        const std::size_t length = std::size_t{p[0]} << 24 | std::size_t{p[1]} << 16 | std::size_t{p[2]} << 8 | p[3];
+        const auto body = resources.subspan(6 + name + 4);
+        if (length > body.size()) return {};
+        if (number == kIPTCResource) return body.first(length);
+        resources = body.subspan(std::min(body.size(), (length + 1) & ~std::size_t{1}));
+    }
+    return {};
+}
+
+std::vector<std::uint8_t> iptcAsResource(std::span<const std::uint8_t> records)
+{
+    if (records.empty()) return {};
+    const auto size = std::uint32_t(records.size());
+    std::vector<std::uint8_t> out(kResource, kResource + 4);
+    for (const std::uint32_t byte :
+         {kIPTCResource >> 8, kIPTCResource & 255u, 0u, 0u, size >> 24, size >> 16, size >> 8, size})
+        out.push_back(std::uint8_t(byte));
+    out.insert(out.end(), records.begin(), records.end());
+    if (records.size() % 2 != 0) out.push_back(0);
+    return out;
 }
 
 ExifBlock exifForSaving(const ImageProperties& properties, int width, int height)

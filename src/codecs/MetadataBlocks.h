@@ -49,7 +49,7 @@ namespace tag
 inline constexpr std::uint16_t Orientation = 0x0112, XResolution = 0x011A, YResolution = 0x011B,
                                ResolutionUnit = 0x0128, ExifIFD = 0x8769, GPSIFD = 0x8825, InteropIFD = 0xA005,
                                UserComment = 0x9286, MakerNote = 0x927C, PixelXDimension = 0xA002,
-                               PixelYDimension = 0xA003, XMPPacket = 0x02BC, ICCProfile = 0x8773;
+                               PixelYDimension = 0xA003, XMPPacket = 0x02BC, IPTC = 0x83BB, ICCProfile = 0x8773;
 } // namespace tag
 enum ExifType : std::uint16_t { kByte = 1, kAscii = 2, kShort = 3, kLong = 4, kRational = 5, kUndefined = 7 };
 
@@ -72,6 +72,13 @@ void keepXMP(ImageProperties& properties, std::string packet);
 /// they were converted on reading, so that a profile for them says nothing about the picture any more
 void keepProfile(ImageProperties& properties, std::vector<std::uint8_t> profile, const char* colourSpace,
                  const char* sourceSpace = nullptr);
+
+/// Captions, as records of IPTC.
+void keepIPTC(ImageProperties& properties, std::span<const std::uint8_t> records);
+/// The records among image resources ("8BIM"), in which JPEG files carry them; empty when there are none.
+std::span<const std::uint8_t> iptcOfResources(std::span<const std::uint8_t> resources);
+/// The other way round; empty for none.
+std::vector<std::uint8_t> iptcAsResource(std::span<const std::uint8_t> records);
 
 /// The block for a file of this size: orientation upright, size right, no thumbnail, the user comment set, the
 /// resolution that of the properties. Empty when there is nothing to say.

@@ -80,6 +80,9 @@ Bytes* placeOf(const Chunk& chunk, PNGParts& parts)
     if (chunk.is("pHYs")) return &parts.density;
     if (chunk.is("eXIf")) return &parts.exif;
     if (chunk.is("iCCP")) return &parts.profile;
+    if (chunk.is("gAMA")) return &parts.gamma;
+    if (chunk.is("cHRM")) return &parts.primaries;
+    if (chunk.is("sRGB")) return &parts.standard;
     static constexpr char kXMP[] = "XML:com.adobe.xmp";
     const bool xmp =
         chunk.is("iTXt") && chunk.data.size() > sizeof kXMP && std::memcmp(chunk.data.data(), kXMP, sizeof kXMP) == 0;

@@ -25,8 +25,8 @@ struct PNGHeader {
 /// Spans into the file.
 struct PNGParts {
     PNGHeader header;
-    /// Data of PLTE, tRNS, pHYs, eXIf, iCCP and iTXt; empty when there is none that is sound.
-    Bytes palette, transparency, density, exif, profile, xmp;
+    /// Data of PLTE, tRNS, pHYs, eXIf, iCCP, iTXt, gAMA, cHRM and sRGB; empty when there is none that is sound.
+    Bytes palette, transparency, density, exif, profile, xmp, gamma, primaries, standard;
     std::vector<Bytes> pixels;  ///< data of every IDAT
     std::size_t pixelBytes = 0; ///< of all of them
     bool damaged = false;       ///< chunks are missing or cut off at the end, or one beside the pixels is corrupt

@@ -2,6 +2,7 @@
 /// PNG files straight into A, R, G, B rows: unpacked in one go into the end of the picture's own memory, from where the
 /// rows are unfiltered to their places.
 #include "codecs/Codec.h"
+#include "codecs/ColourProfiles.h"
 #include "codecs/MetadataBlocks.h"
 #include "codecs/PNGInflate.h"
 #include "codecs/PNGParts.h"
@@ -177,12 +178,29 @@ void keepXMPText(ImageProperties& properties, Bytes chunk)
     keepXMP(properties, {reinterpret_cast<const char*>(chunk.data()), chunk.size()});
 }
 
+/// What the file says of its colours where it has no profile; numbers are hundred-thousandths.
+PNGColours coloursOf(const PNGParts& parts)
+{
+    const auto number = [](Bytes chunk, std::size_t i) { return big32(chunk.data() + 4 * i) / 100'000.0; };
+    PNGColours colours;
+    if (!parts.standard.empty()) return colours; // sRGB, whatever else stands there for older programs
+    if (parts.gamma.size() == 4) colours.gamma = number(parts.gamma, 0);
+    if (parts.primaries.size() == 32) {
+        colours.hasPrimaries = true;
+        std::size_t i = 0;
+        for (auto* place : {&colours.white, &colours.red, &colours.green, &colours.blue})
+            for (double& value : *place) value = number(parts.primaries, i++);
+    }
+    return colours;
+}
+
 void collectProperties(const PNGParts& parts, ImageProperties& properties)
 {
     keepDensity(properties, parts.density);
     if (parts.exif.size() > 4) keepExif(properties, parts.exif);
     const unsigned type = parts.header.type;
     keepPackedProfile(properties, parts.profile, type == PNGHeader::Grey || type == PNGHeader::GreyAlpha);
+    if (parts.profile.empty()) properties.iccProfile = profileFromPNG(coloursOf(parts));
     keepXMPText(properties, parts.xmp);
 }
 

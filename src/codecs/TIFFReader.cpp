@@ -8,6 +8,7 @@
 #include "codecs/TIFFLZW.h"
 #include "codecs/TIFFSamples.h"
 #include "codecs/TIFFSource.h"
+#include "codecs/TIFFTags.h"
 #include <algorithm>
 #include <atomic>
 #include <cstring>
@@ -178,6 +179,19 @@ bool decodeByLibrary(TIFFSource& source, const TIFFLayout& layout, BitmapView ou
     return done;
 }
 
+/// By the profile of four inks that stand side by side; null when there is none, or another kind of samples.
+std::unique_ptr<InkConverter> inksOf(TIFFSource& source, const TIFFLayout& layout)
+{
+    const bool plain = layout.photometric == PHOTOMETRIC_SEPARATED && layout.inkSet == INKSET_CMYK &&
+                       layout.samples == 4 && layout.bits == 8 && layout.format == SAMPLEFORMAT_UINT &&
+                       !layout.separatePlanes;
+    std::uint32_t count = 0;
+    void* data = nullptr;
+    if (!plain || !TIFFGetField(source.handle(), TIFFTAG_ICCPROFILE, &count, &data) || !data) return nullptr;
+    auto inks = std::make_unique<InkConverter>(Bytes(static_cast<const std::uint8_t*>(data), count), false);
+    return *inks ? std::move(inks) : nullptr;
+}
+
 void collectProperties(TIFFSource& source, const TIFFLayout& layout, Bytes bytes, ImageProperties& properties)
 {
     TIFF* tiff = source.handle();
@@ -192,7 +206,9 @@ void collectProperties(TIFFSource& source, const TIFFLayout& layout, Bytes bytes
     }
     std::uint32_t count = 0;
     void* data = nullptr;
-    if (TIFFGetField(tiff, TIFFTAG_ICCPROFILE, &count, &data) && data) {
+    if (layout.inks) {
+        properties.iccProfile = sRGBProfile();
+    } else if (TIFFGetField(tiff, TIFFTAG_ICCPROFILE, &count, &data) && data) {
         const auto* p = static_cast<const std::uint8_t*>(data);
         const bool inks = layout.photometric == PHOTOMETRIC_SEPARATED, lab = layout.photometric == PHOTOMETRIC_CIELAB;
         keepProfile(properties, {p, p + count}, layout.isGrey() ? "GRAY" : "RGB ",
@@ -202,6 +218,11 @@ void collectProperties(TIFFSource& source, const TIFFLayout& layout, Bytes bytes
     }
     if (TIFFGetField(tiff, TIFFTAG_XMLPACKET, &count, &data) && data)
         keepXMP(properties, {static_cast<const char*>(data), count});
+    // A field of 32-bit numbers for the library, for no reason but habit: the bytes are as they stand.
+    const ByteReader file(bytes, !bytes.empty() && bytes[0] == 'M');
+    const TagList::Values iptc = TagList::firstOf(file).values(tag::IPTC);
+    if (iptc.count > 0 && iptc.at < bytes.size() && iptc.bytes() <= bytes.size() - iptc.at)
+        keepIPTC(properties, bytes.subspan(iptc.at, iptc.bytes()));
     keepExif(properties, bytes);
 }
 
@@ -220,6 +241,8 @@ Decoded decodeTIFF(Bytes bytes, const ImportOptions& options)
 
     auto bitmap = BitmapRep::createUninitialized(layout.width, layout.height);
     if (!bitmap) return Decoded::failure("There is not enough memory for this picture.");
+    const std::unique_ptr<InkConverter> inks = options.properties ? inksOf(source, layout) : nullptr;
+    layout.inks = inks.get();
     ImageProperties& properties = bitmap->properties;
     if (SampleConverter::handles(layout)) {
         const ChunkFaults faults = decodeChunks(bytes, layout, bitmap->view());

@@ -153,6 +153,7 @@ void SampleConverter::unpack(const std::uint8_t* samples, unsigned first, unsign
 void SampleConverter::convertRow(const std::uint8_t* samples, std::size_t planeBytes, std::uint8_t* argb, int count)
 {
     const TIFFLayout& l = mLayout;
+    if (l.inks) return l.inks->convert(samples, argb, count);
     if (isPlain()) {
         (l.samples == 4 ? rgbaToARGB : rgbToARGB)(samples, argb, std::size_t(count));
         finish(argb, count);

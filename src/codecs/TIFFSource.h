@@ -2,6 +2,7 @@
 /// A TIFF file in memory, and how its first picture is laid out.
 #pragma once
 #include "codecs/Codec.h"
+#include "codecs/ColourProfiles.h"
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>
@@ -107,6 +108,7 @@ struct TIFFLayout {
     int chunkWidth = 0, chunkHeight = 0; ///< of a tile, or of a strip of full width
     std::int64_t chunkRowBytes = 0;
     const std::uint16_t* palette[3] = {}; ///< owned by the handle it was read from
+    const InkConverter* inks = nullptr;   ///< of four inks of 8 bits side by side, by their profile; owned elsewhere
 
     /// @return whether there is a picture at all
     bool read(TIFF* tiff);

@@ -81,6 +81,7 @@ std::vector<std::uint8_t> writeTIFF(ConstBitmapView pixels, const ImagePropertie
     };
     blob(tag::ICCProfile, kUndefined, properties.iccProfile);
     blob(tag::XMPPacket, kByte, xmpForSaving(properties));
+    blob(tag::IPTC, kUndefined, properties.iptc);
 
     std::uint64_t total = 0;
     std::vector<std::uint32_t> counts, offsets;

@@ -24,6 +24,9 @@ Operation saveImageAsAsked;
 Operation saveImageAsTIFF, saveImageAsJPEG, saveImageAsPNG;
 /// Path: as TIFF, with the time it took in the log.
 Operation saveImageToPath;
+/// Path: a copy in the kind of file that its extension says, without place, device and names; the picture keeps its
+/// file. A number before it: the quality of a JPEG file.
+Operation saveWithoutPrivateData;
 /// Path: as TIFF into exactly that file.
 Operation quickSave;
 

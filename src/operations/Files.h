@@ -40,6 +40,8 @@ QString whyNotOpened(const std::string& path, const std::string& error);
 
 /// Asks for a file and saves there. Runs events.
 Outcome saveThroughPanel(Document& document, SaveFormat format);
+/// The same for a copy without place, device and names, in the kind of file that the picture's is. Runs events.
+Outcome saveCopyWithoutPrivateData(Document& document);
 /// The one save panel, with the name that the picture's file proposes. Runs events.
 std::optional<SaveAnswer> askWhereToSave(const Document& document, SaveFormat format);
 enum class Permission { Save, SaveAs, Cancel };

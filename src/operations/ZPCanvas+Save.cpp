@@ -4,6 +4,7 @@
 #include "base/Log.h"
 #include "codecs/FileNames.h"
 #include "codecs/ImageEncoder.h"
+#include "codecs/PrivateData.h"
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "document/Document.h"
@@ -24,15 +25,16 @@ namespace
 QString say(const char* text) { return QCoreApplication::translate("Files", text); }
 
 /// @param quality  of a JPEG file
-std::vector<std::uint8_t> encoded(const BitmapRep& rep, SaveFormat format, int quality)
+std::vector<std::uint8_t> encoded(ConstBitmapView pixels, const ImageProperties& properties, SaveFormat format,
+                                  int quality)
 {
     switch (format) {
     case SaveFormat::TIFF:
-        return encodeTIFF(rep.view(), rep.properties, {.lzw = true});
+        return encodeTIFF(pixels, properties, {.lzw = true});
     case SaveFormat::JPEG:
-        return encodeJPEG(rep.view(), rep.properties, {.factor = quality / 100.0, .fallbackBackground = kWhite});
+        return encodeJPEG(pixels, properties, {.factor = quality / 100.0, .fallbackBackground = kWhite});
     case SaveFormat::PNG:
-        return encodePNG(rep.view(), rep.properties);
+        return encodePNG(pixels, properties);
     default:
         return {};
     }
@@ -62,9 +64,10 @@ QString sizeTitle(std::size_t bytes)
 }
 
 /// Writes to exactly @p path. @param size  of the file, in bytes. @return why it failed, empty when it did not
-std::string write(const BitmapRep& rep, const std::string& path, SaveFormat format, int quality, std::size_t& size)
+std::string write(ConstBitmapView pixels, const ImageProperties& properties, const std::string& path, SaveFormat format,
+                  int quality, std::size_t& size)
 {
-    const std::vector<std::uint8_t> bytes = encoded(rep, format, quality);
+    const std::vector<std::uint8_t> bytes = encoded(pixels, properties, format, quality);
     if (bytes.empty())
         return "There is not enough memory to encode the image, or it is too large for this kind of file.";
     size = bytes.size();
@@ -74,10 +77,10 @@ std::string write(const BitmapRep& rep, const std::string& path, SaveFormat form
 }
 
 /// What the file that was opened held and the saved one does not.
-void logLosses(const BitmapRep& rep)
+void logLosses(const ImageProperties& properties)
 {
     std::string sentences;
-    for (const std::string& warning : rep.properties.warnings) sentences += (sentences.empty() ? "" : " ") + warning;
+    for (const std::string& warning : properties.warnings) sentences += (sentences.empty() ? "" : " ") + warning;
     if (!sentences.empty()) logLine("saved with losses: %s", sentences.c_str());
 }
 
@@ -96,21 +99,18 @@ void rememberFolder(const std::string& folder)
     settings().setValue(kSavedFolders, folders);
 }
 
-/// Saves to exactly @p path what the screen shows; a failure is told to the person and leaves image and files as they
-/// are.
-bool save(Edit& edit, const std::string& path, SaveFormat format, int quality)
+/// Writes to exactly @p path and says so; a failure is told to the person and leaves image and files as they are.
+bool writeAndTell(Edit& edit, const BitmapRep& shown, const ImageProperties& properties, const std::string& path,
+                  SaveFormat format, int quality)
 {
     Document& document = edit.document();
-    const std::shared_ptr<const BitmapRep> shown = pictureAsShown(document);
     const QString name = QString::fromStdString(displayName(lastPathComponent(path)));
     rememberFolder(folderOfPath(path)); // before: it may be killed while it writes
     std::size_t size = 0;
-    document.setLastFileError(shown ? write(*shown, path, format, quality, size) : "There is no image to save.");
+    document.setLastFileError(write(shown.view(), properties, path, format, quality, size));
     if (document.lastFileError().empty()) {
-        logLosses(*shown);
+        logLosses(properties);
         edit.picture().noteWritten(path);
-        edit.picture().setJPEGQuality(path, quality);
-        edit.history().noteSaved(edit.picture());
         document.say(say("Saved %1 · %2 · %3").arg(name, formatTitle(format, quality), sizeTitle(size)));
         return true;
     }
@@ -119,6 +119,21 @@ bool save(Edit& edit, const std::string& path, SaveFormat format, int quality)
     document.say(say("Not saved: %1").arg(why));
     edit.refuse(say("The file could not be saved."), why);
     return false;
+}
+
+/// Saves to exactly @p path what the screen shows.
+bool save(Edit& edit, const std::string& path, SaveFormat format, int quality)
+{
+    const std::shared_ptr<const BitmapRep> shown = pictureAsShown(edit.document());
+    if (!shown) {
+        edit.document().setLastFileError("There is no image to save.");
+        edit.refuse(say("The file could not be saved."), QString::fromStdString(edit.document().lastFileError()));
+        return false;
+    }
+    if (!writeAndTell(edit, *shown, shown->properties, path, format, quality)) return false;
+    edit.picture().setJPEGQuality(path, quality);
+    edit.history().noteSaved(edit.picture());
+    return true;
 }
 
 /// Makes @p path the image's file and saves there; when that fails the image keeps the file it had.
@@ -235,38 +250,16 @@ void operations::saveImageToPath(Edit& edit, const Arguments& to)
     logLine("elapsed time: %f", elapsed.count());
 }
 
+void operations::saveWithoutPrivateData(Edit& edit, const Arguments& to)
+{
+    const SaveFormat format = formatOfExtension(pathExtension(to.path));
+    const std::shared_ptr<const BitmapRep> shown = pictureAsShown(edit.document());
+    if (format == SaveFormat::None || !shown) return edit.refuse();
+    ImageProperties properties = shown->properties;
+    removePrivateData(properties);
+    writeAndTell(edit, *shown, properties, to.path, format, to.numbers.empty() ? kJPEGQuality : int(to.numbers[0]));
+}
+
 void operations::quickSave(Edit& edit, const Arguments& to) { saveAs(edit, to, SaveFormat::TIFF, true); }
-
-std::optional<SaveAnswer> askWhereToSave(const Document& document, SaveFormat format)
-{
-    const SaveProposal proposal = saveProposal(document.picture().path(), format, homeFolder());
-    PanelRequest request;
-    request.directory = proposal.folder;
-    request.name = proposal.name;
-    request.extension = extensionFor(format);
-    request.types = {QString::fromStdString(request.extension)};
-    if (format == SaveFormat::JPEG) request.quality = document.picture().jpegQualityFor(document.picture().path());
-    return runSavePanel(std::move(request));
-}
-
-Outcome saveThroughPanel(Document& document, SaveFormat format)
-{
-    document.endGesture();
-    std::optional<SaveAnswer> answer;
-    for (Permission permission = Permission::SaveAs; permission != Permission::Save;) {
-        answer = permission == Permission::SaveAs ? askWhereToSave(document, format) : std::nullopt;
-        if (!answer) return {Outcome::Refused, {}};
-        permission = askToTakeFromPanel(document, answer->path);
-    }
-    const std::string& path = answer->path;
-    switch (format) {
-    case SaveFormat::JPEG:
-        return document.perform("saveImageAsJPEG:", {{double(answer->quality)}, path});
-    case SaveFormat::PNG:
-        return document.perform("saveImageAsPNG:", {{}, path});
-    default:
-        return document.perform("saveImageAsTIFF:", {{}, path});
-    }
-}
 
 } // namespace zp

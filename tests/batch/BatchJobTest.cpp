@@ -181,6 +181,21 @@ TEST_F(Batch, ADamagedSourceThatIsToBeKeptIsWrittenAndIsAFailureAllTheSame)
     EXPECT_EQ(result("short.jpg")->pixelsWide(), 64);
 }
 
+TEST_F(Batch, PrivateDataIsLeftOutWhenThatIsAskedFor)
+{
+    add("photos/tahoe-gps.jpg", "lake.jpg");
+    for (const bool strip : {false, true}) {
+        std::vector<std::string> words{"zelpane", "--batch", source(), destination(), "--jpeg"};
+        if (strip) words.insert(words.end(), {"--strip", "private"});
+        std::vector<char*> argv;
+        for (std::string& word : words) argv.push_back(word.data());
+        EXPECT_EQ(runBatchCommandLine(int(argv.size()), argv.data()), 0);
+        const std::string file = readWholeFile(destination() + "/lake.jpg").value_or("");
+        EXPECT_EQ(file.find("T-Mobile") == std::string::npos, strip);
+        EXPECT_NE(file.find("2009:02:21"), std::string::npos);
+    }
+}
+
 TEST_F(Batch, AnEarlierSoundSourceStandsInForADamagedOne)
 {
     add("made/valid/base.jpg", "a.jpg");

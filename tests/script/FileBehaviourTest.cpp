@@ -191,4 +191,21 @@ TEST_F(FileSession, QuickSaveAsksAboutTheFileItWillWrite)
     run.play({"answer No", "click name_cancel:"});
 }
 
+TEST_F(FileSession, ACopyWithoutPrivateDataIsNotThePicturesFile)
+{
+    const QString path = put("photos/tahoe-gps.jpg", "lake.jpg");
+    run.must("open " + path);
+    run.must("wait");
+    run.must("choose " + run.file("copy.jpg"));
+    run.must("menu saveWithoutPrivateData:");
+    EXPECT_EQ(run.must("panel")["panel"].toObject()["name"], "lake (shared).jpg");
+    EXPECT_TRUE(message().startsWith("Saved copy.jpg · JPEG 70")) << message().toStdString();
+    EXPECT_EQ(picturePath(), path);
+    QFile copy(run.file("copy.jpg"));
+    ASSERT_TRUE(copy.open(QFile::ReadOnly));
+    const QByteArray bytes = copy.readAll();
+    EXPECT_FALSE(bytes.contains("T-Mobile"));
+    EXPECT_TRUE(bytes.contains("Edited by Zelpane"));
+}
+
 } // namespace
