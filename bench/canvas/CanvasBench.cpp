@@ -3,6 +3,7 @@
 /// floating selection.
 #include "app/CommandTable.h"
 #include "canvas/ZPCanvas.h"
+#include "codecs/ColourProfiles.h"
 #include "codecs/ImageEncoder.h"
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
@@ -74,6 +75,21 @@ void BM_RedrawView(benchmark::State& state)
     state.counters["pixels"] = double(visible.width()) * visible.height();
 }
 BENCHMARK(BM_RedrawView)->Arg(25)->Arg(100)->Arg(400)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+/// The same on a screen with a profile of its own, which every word goes through.
+void BM_RedrawViewThroughProfile(benchmark::State& state)
+{
+    ZPCanvas& canvas = *view().canvas;
+    canvas.setScreenProfile(codec::profileFromPNG({.gamma = 1 / 2.2,
+                                                   .hasPrimaries = true,
+                                                   .white = {0.3127, 0.3290},
+                                                   .red = {0.680, 0.320},
+                                                   .green = {0.265, 0.690},
+                                                   .blue = {0.150, 0.060}}));
+    BM_RedrawView(state);
+    canvas.setScreenProfile({});
+}
+BENCHMARK(BM_RedrawViewThroughProfile)->Arg(100)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void BM_AntsTick(benchmark::State& state)
 {

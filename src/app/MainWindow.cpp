@@ -14,6 +14,7 @@
 #include "desktop/ColorWell.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/NoticeBar.h"
+#include "desktop/ScreenProfile.h"
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
 #include "ui_Main.h"
@@ -159,6 +160,8 @@ void MainWindow::setUpTools()
 
 void MainWindow::setUpToolOptions()
 {
+    mUi->mColorWell->setLook([this](Color color) { return mCanvas->asShown(color); });
+    connect(&mDocument, &Document::pictureReplaced, mUi->mColorWell, qOverload<>(&QWidget::update));
     connect(mUi->mColorWell, &ColorWell::colorChosen, this, [this](Color c, bool goesOn) {
         if (goesOn)
             mDocument.movePaintColor(c);
@@ -404,6 +407,9 @@ bool MainWindow::event(QEvent* event)
 void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
+    // A profile is set up in another program: this window comes back to the front afterwards, or goes to another
+    // screen.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) mCanvas->setScreenProfile(screenProfile(*this));
     if (event->type() == QEvent::PaletteChange && !mToolButtons.empty() && !mToolButtons[0]->icon().isNull())
         setToolImages();
 }

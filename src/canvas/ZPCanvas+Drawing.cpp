@@ -225,6 +225,7 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
         renderToScreen(picture.pixels(), words, stride, box, deviceScale, outside);
         drawOverlays(target, deviceScale);
     }
+    showThroughProfile(target, deviceScale);
     if (tool == Tool::Brush && strokeOpen) {
         logLine("dirty rect: %s",
                 stringFromRect(makeRect(float(box.x0 / deviceScale), float(box.y0 / deviceScale),

@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The one document view: shows the document and turns the person's events into gestures and commands.
 #pragma once
+#include "base/Color.h"
 #include "base/Geometry.h"
 #include <QTimer>
 #include <QWidget>
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 class QPainter;
 namespace zp
 {
 class Document;
 class OutlineDrawing;
+class ScreenColours;
 struct ScreenTarget;
 struct ToolRow;
 } // namespace zp
@@ -42,6 +45,12 @@ public:
     /// The visible picture with its overlays into @p painter's device, whose canvas origin is at device pixel @p
     /// origin.
     void drawRect(QPainter& painter, const QRect& deviceRect, QPoint origin, double deviceScale);
+
+    // ---- colours (ZPCanvas+Colours.cpp) ----------------------------------------------------------------------------
+    /// The profile of the screen that shows the canvas; empty: sRGB.
+    void setScreenProfile(std::vector<std::uint8_t> profile);
+    /// A colour of the picture as it looks on that screen, in the screen's own numbers.
+    zp::Color asShown(zp::Color color);
 
     // ---- zoom (ZPCanvas.cpp) --------------------------------------------------------------------------------------
     /// As the zoom pop-up asks for it: @p percent as the title of its item says.
@@ -105,6 +114,8 @@ private:
 
     zp::PixelBox overlayBox() const; ///< image pixels that the stroke being drawn and the floating image may cover
     bool composeOverlays(zp::PixelBox box); ///< the picture's part with those drawn over it, into the scratch bitmap
+    const zp::ScreenColours* colours();     ///< null where the picture's are the screen's
+    void showThroughProfile(const zp::ScreenTarget& target, double deviceScale);
     void drawOverlays(const zp::ScreenTarget& target, double deviceScale);
     double pixelsPerPoint(double deviceScale) const; ///< device pixels to a screen point
     void drawOutlines(const zp::ScreenTarget& target, double deviceScale);

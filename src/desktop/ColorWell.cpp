@@ -59,6 +59,12 @@ void ColorWell::setColor(zp::Color color)
     update();
 }
 
+void ColorWell::setLook(std::function<zp::Color(zp::Color)> look)
+{
+    mLook = std::move(look);
+    update();
+}
+
 void ColorWell::chooseColor(zp::Color color) { choose(color, false); }
 
 void ColorWell::choose(zp::Color color, bool goesOn)
@@ -104,7 +110,7 @@ void ColorWell::paintEvent(QPaintEvent*)
     outline.addRoundedRect(frame, 4, 4);
     painter.save();
     painter.setClipPath(outline);
-    const QColor color = toQt(mColor);
+    const QColor color = toQt(mLook ? mLook(mColor) : mColor);
     if (mColor.alpha < 1) {
         constexpr int kCell = 6;
         for (int y = 0; y < height(); y += kCell)

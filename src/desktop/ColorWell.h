@@ -4,6 +4,7 @@
 #include "base/Color.h"
 #include <QAbstractButton>
 #include <QTimer>
+#include <functional>
 
 /// Transparent colours are shown over a chequerboard with the opaque colour in one corner.
 class ColorWell : public QAbstractButton
@@ -17,6 +18,8 @@ public:
     void setColor(zp::Color color);
     /// As a user's choice: shows it and emits colorChosen.
     void chooseColor(zp::Color color);
+    /// What a colour looks like where it will be painted; the numbers stay what they are.
+    void setLook(std::function<zp::Color(zp::Color)> look);
     QSize sizeHint() const override;
     /// Whether colour panels let the user set opacity; off until the application asks for it.
     static void setPanelShowsAlpha(bool on);
@@ -33,4 +36,5 @@ private:
     void choose(zp::Color color, bool goesOn);
     zp::Color mColor;
     QTimer mHandWatch; ///< runs from a change by a held button until that is let go
+    std::function<zp::Color(zp::Color)> mLook;
 };

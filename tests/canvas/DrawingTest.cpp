@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What the canvas shows: picture, grey behind it, zoom, marquee, ants, floating selection.
+#include "codecs/ColourProfiles.h"
 #include "support/ToolFixture.h"
 #include <QImage>
 #include <QPaintEvent>
@@ -36,6 +37,38 @@ TEST_F(Drawing, TransparentPixelsShowGrey)
     EXPECT_EQ(seen.pixel(1, 0), 0xFF0A141E);
     EXPECT_EQ(qRed(seen.pixel(2, 0)), 128 + 64);
     EXPECT_NEAR(qGreen(seen.pixel(2, 0)), 64, 1);
+}
+
+TEST_F(Drawing, APictureLooksAsItsProfileSays)
+{
+    // The same red in the primaries of wide screens and in those of ordinary ones.
+    const codec::ProfileBytes wide = codec::profileFromPNG({.gamma = 1 / 2.2,
+                                                            .hasPrimaries = true,
+                                                            .white = {0.3127, 0.3290},
+                                                            .red = {0.680, 0.320},
+                                                            .green = {0.265, 0.690},
+                                                            .blue = {0.150, 0.060}});
+    const std::uint32_t red = word(255, 187, 61, 52);
+    makeImage(8, 4);
+    fillImage(red);
+    const QRgb plain = shown().pixel(3, 2);
+    EXPECT_EQ(plain, qRgb(187, 61, 52)) << "without a profile the numbers are the screen's";
+    edit([&](Edit& e) { e.picture().writableBitmap()->properties.iccProfile = wide; });
+    perform("rotateCW:"); // another bitmap, the same profile
+    const QRgb seen = shown().pixel(3, 2);
+    EXPECT_NEAR(qRed(seen), 205, 3);
+    EXPECT_NEAR(qGreen(seen), 42, 4);
+    EXPECT_EQ(pixel(3, 2), red) << "the picture's own numbers stay";
+    const Color asShown = canvas->asShown({187 / 255.0f, 61 / 255.0f, 52 / 255.0f, 0.5f});
+    EXPECT_EQ(qRgb(int(std::lround(asShown.red * 255)), int(std::lround(asShown.green * 255)),
+                   int(std::lround(asShown.blue * 255))),
+              seen);
+    EXPECT_EQ(asShown.alpha, 0.5f);
+    // On a screen with those very primaries nothing has to be done.
+    canvas->setScreenProfile(wide);
+    EXPECT_EQ(shown().pixel(3, 2), plain);
+    canvas->setScreenProfile({});
+    EXPECT_EQ(shown().pixel(3, 2), seen);
 }
 
 TEST_F(Drawing, ZoomedInPixelsAreCrispSquares)
