@@ -165,8 +165,8 @@ void ZPAppController::applicationDidFinishLaunching(bool startChoice)
         const std::string* path = std::any_cast<std::string>(&n.object);
         if (!path) return;
         logLine("openFileNotif: %s", path->c_str());
-        bringWindowToFront();
-        openPath(*path);
+        // The library is not held up by a question in another window.
+        mDocument->whenFree([this, file = *path] { openPath(file); });
     });
     center.addObserver(this, "_giveMeCanvasNotif", [this](const Notification&) {
         NotificationCenter::defaultCenter().post("_canvasNotif", std::any(mCanvas));
