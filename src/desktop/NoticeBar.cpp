@@ -16,6 +16,7 @@ namespace
 constexpr int kGap = 10, kSpacing = 10; ///< to the view's edges; between the parts
 constexpr int kWidestText = 640;        ///< a longer sentence is broken: the eye finds back to its line
 constexpr int kNarrowestText = 120;
+constexpr int kButtonMargins = 28;
 constexpr double kRadius = 6;
 
 } // namespace
@@ -51,6 +52,7 @@ void NoticeBar::display(const QString& text, const QString& button)
     mText->setText(text);
     setAccessibleName(text);
     mButton->setText(QString(button).replace('&', "&&"));
+    mButton->setMinimumWidth(mButton->fontMetrics().horizontalAdvance(button) + kButtonMargins);
     mButton->setVisible(!button.isEmpty());
     setVisible(!text.isEmpty());
     if (text.isEmpty()) return;
@@ -89,7 +91,7 @@ void NoticeBar::place()
     const QRect view = mOver->viewport()->geometry();
     const QMargins margins = layout()->contentsMargins();
     int others = margins.left() + margins.right() + kSpacing + mCross->sizeHint().width();
-    if (!mButton->isHidden()) others += kSpacing + mButton->sizeHint().width();
+    if (!mButton->isHidden()) others += kSpacing + std::max(mButton->minimumWidth(), mButton->sizeHint().width());
     const int natural = mText->fontMetrics().size(0, mText->text()).width() + 2;
     const int room = std::max(kNarrowestText, std::min(kWidestText, view.width() - 2 * kGap - others));
     mText->setFixedWidth(std::min(natural, room));

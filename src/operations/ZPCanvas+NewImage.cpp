@@ -60,6 +60,7 @@ void install(Edit& edit, std::shared_ptr<BitmapRep> rep, const std::string& path
     edit.history().reset();
     edit.picture().setFiles({});
     edit.document().pictureIsAnother();
+    edit.document().say({});
 }
 
 void installBlank(Edit& edit, Size size, const std::string& path)

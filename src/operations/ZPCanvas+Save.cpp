@@ -144,7 +144,12 @@ void saveAs(Edit& edit, const Arguments& to, SaveFormat format, bool exact = fal
     const int quality = to.numbers.empty() ? kJPEGQuality : int(to.numbers[0]);
     const std::string before = edit.picture().path();
     edit.picture().setPath(path);
-    if (!save(edit, exact ? path : writtenPath(path, format), format, quality)) edit.picture().setPath(before);
+    if (!save(edit, exact ? path : writtenPath(path, format), format, quality))
+        edit.picture().setPath(before);
+    else if (path != before) { // what was said of the old file is over
+        edit.document().pictureIsAnother();
+        edit.document().noteSaved();
+    }
 }
 
 } // namespace
