@@ -130,6 +130,7 @@ void FileWindow::take(std::uint64_t offset, std::uint64_t count)
         count = mBudget - mTaken;
     }
     mTaken += count;
+    mEnd = std::max(mEnd, offset + count);
     while (count > 0) {
         const ssize_t got = ::pread(mFd, mBytes + offset, count, off_t(offset));
         if (got < 0 && errno == EINTR) continue;
@@ -149,6 +150,12 @@ void takeNeededParts(FileWindow& window, Format format, std::size_t start)
         return takeTIFF(window);
     case Format::PSD:
         return takePSD(window);
+    case Format::BMP: {
+        window.take(0, 6);
+        const std::uint32_t said = ByteReader(window.bytes(), false).u32(2); // its own length, if it is right
+        window.take(0, said > 6 ? said : window.bytes().size());
+        return;
+    }
     default:
         // One piece from the head on, as long as such a picture can be.
         window.take(start, window.bytes().size());

@@ -21,6 +21,8 @@ public:
     Bytes bytes() const { return {mBytes, mSize}; }
     /// Reads that part, as far as file and budget go.
     void take(std::uint64_t offset, std::uint64_t count);
+    /// Behind the last byte that was taken.
+    std::uint64_t end() const { return mEnd; }
     /// Something that was asked for was beyond the budget.
     bool ranOut() const { return mRanOut; }
     std::uint64_t taken() const { return mTaken; }
@@ -28,7 +30,7 @@ public:
 private:
     int mFd;
     std::size_t mSize;
-    std::uint64_t mBudget, mTaken = 0;
+    std::uint64_t mBudget, mTaken = 0, mEnd = 0;
     std::uint8_t* mBytes = nullptr;
     bool mRanOut = false;
 };

@@ -125,7 +125,7 @@ ImportedImage importLargeFile(const OpenFile& file, const std::string& path, std
     codec::FileWindow window(file.fd(), size, codec::mostBytesFor(format, dimensions.width, dimensions.height));
     if (!window.isOpen()) return {.error = "There is not enough memory to read the file."};
     codec::takeNeededParts(window, format, start);
-    return importImage(window.bytes(), options);
+    return importImage(window.bytes().first(window.end()), options);
 }
 
 } // namespace

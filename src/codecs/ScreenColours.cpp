@@ -14,6 +14,8 @@ namespace zp
 namespace
 {
 
+/// Of a curve that is a table and has to be turned round: even steps, so that it takes many to be fine near black.
+constexpr int kInverseSteps = 65'535;
 /// Nobody sees one step of 255.
 constexpr int kSame = 1;
 
@@ -89,16 +91,17 @@ std::unique_ptr<ColourTables> tablesBetween(const Profile& from, const Profile& 
             double sum = 0;
             for (std::size_t k = 0; k < 3; ++k) sum += back[3 * row + k] * (*in)[3 * k + column];
             if (!std::isfinite(sum)) return nullptr;
-            tables->matrix[3 * row + column] = float(sum * kLast);
+            tables->matrix[3 * row + column] = float(sum);
         }
     for (std::size_t c = 0; c < 3; ++c) {
         const auto* curve = static_cast<const cmsToneCurve*>(cmsReadTag(from.get(), kCurves[c]));
         for (std::size_t i = 0; i < 256; ++i) tables->light[c][i] = cmsEvalToneCurveFloat(curve, float(i) / 255);
-        cmsToneCurve* reversed = cmsReverseToneCurveEx(
-            ColourTables::kSteps, static_cast<const cmsToneCurve*>(cmsReadTag(to.get(), kCurves[c])));
+        cmsToneCurve* reversed =
+            cmsReverseToneCurveEx(kInverseSteps, static_cast<const cmsToneCurve*>(cmsReadTag(to.get(), kCurves[c])));
         if (!reversed) return nullptr;
         for (std::size_t i = 0; i <= kLast; ++i) {
-            const float value = cmsEvalToneCurveFloat(reversed, float(i) / kLast);
+            const float root = float(i) / kLast;
+            const float value = cmsEvalToneCurveFloat(reversed, root * root);
             tables->byte[c][i] = std::uint32_t(std::lround(std::clamp(value, 0.0f, 1.0f) * 255));
         }
         cmsFreeToneCurve(reversed);

@@ -27,12 +27,12 @@ void convertColours(const ColourTables& tables, std::uint32_t* words, int count)
         const auto r = hn::GatherIndex(df, tables.light[0].data(), hn::BitCast(di, red));
         const auto g = hn::GatherIndex(df, tables.light[1].data(), hn::BitCast(di, green));
         const auto b = hn::GatherIndex(df, tables.light[2].data(), hn::BitCast(di, blue));
-        const auto most = hn::Set(df, float(ColourTables::kSteps - 1)), none = hn::Zero(df);
+        const auto last = hn::Set(df, float(ColourTables::kSteps - 1)), none = hn::Zero(df), full = hn::Set(df, 1.0f);
         const auto other = [&](std::size_t i) ZP_LANES {
             const float* m = tables.matrix.data() + 3 * i;
             const auto sum =
                 hn::MulAdd(r, hn::Set(df, m[0]), hn::MulAdd(g, hn::Set(df, m[1]), hn::Mul(b, hn::Set(df, m[2]))));
-            const auto step = hn::NearestInt(hn::Min(hn::Max(sum, none), most));
+            const auto step = hn::NearestInt(hn::Mul(hn::Sqrt(hn::Min(hn::Max(sum, none), full)), last));
             return hn::GatherIndex(d, tables.byte[i].data(), step);
         };
         const auto colours = hn::Or(hn::Or(hn::ShiftLeft<16>(other(0)), hn::ShiftLeft<8>(other(1))), other(2));

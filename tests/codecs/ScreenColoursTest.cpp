@@ -56,7 +56,8 @@ TEST(ScreenColours, TablesSayWhatTheEngineSays)
                 float sum = 0;
                 for (std::size_t k = 0; k < 3; ++k)
                     sum += tables->light[k][word >> (16 - 8 * k) & 255] * tables->matrix[3 * c + k];
-                const auto step = std::size_t(std::lrint(std::clamp(sum, 0.0f, float(ColourTables::kSteps - 1))));
+                const auto step =
+                    std::size_t(std::lrint(std::sqrt(std::clamp(sum, 0.0f, 1.0f)) * (ColourTables::kSteps - 1)));
                 const int off = int(tables->byte[c][step]) - int(wanted >> (16 - 8 * c) & 255);
                 worst = std::max(worst, std::abs(off));
             }

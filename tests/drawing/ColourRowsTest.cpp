@@ -18,12 +18,12 @@ std::unique_ptr<ColourTables> makeTables()
 {
     auto tables = std::make_unique<ColourTables>();
     const float mixed[] = {1.22f, -0.2f, -0.02f, -0.04f, 1.05f, -0.01f, 0.3f, 0.2f, 0.5f};
-    for (std::size_t i = 0; i < 9; ++i) tables->matrix[i] = mixed[i] * (ColourTables::kSteps - 1);
+    for (std::size_t i = 0; i < 9; ++i) tables->matrix[i] = mixed[i];
     for (std::size_t c = 0; c < 3; ++c) {
         for (std::size_t i = 0; i < 256; ++i) tables->light[c][i] = std::pow(float(i) / 255, 2.0f + float(c) / 10);
         for (std::size_t i = 0; i < ColourTables::kSteps; ++i)
             tables->byte[c][i] =
-                std::uint32_t(std::lround(std::pow(double(i) / (ColourTables::kSteps - 1), 1 / 2.2) * 255));
+                std::uint32_t(std::lround(std::pow(double(i) / (ColourTables::kSteps - 1), 2 / 2.2) * 255));
     }
     return tables;
 }
@@ -33,7 +33,7 @@ std::uint32_t nearestByte(const ColourTables& t, std::size_t c, std::uint32_t wo
 {
     const float sum = t.light[0][word >> 16 & 255] * t.matrix[3 * c] +
                       t.light[1][word >> 8 & 255] * t.matrix[3 * c + 1] + t.light[2][word & 255] * t.matrix[3 * c + 2];
-    const int step = int(std::lrint(std::clamp(sum, 0.0f, float(ColourTables::kSteps - 1)))) + offset;
+    const int step = int(std::lrint(std::sqrt(std::clamp(sum, 0.0f, 1.0f)) * (ColourTables::kSteps - 1))) + offset;
     return t.byte[c][std::size_t(std::clamp(step, 0, ColourTables::kSteps - 1))];
 }
 
