@@ -449,7 +449,10 @@ TEST_F(Files, WhatAReducedPictureLosesIsSaidOnSaving)
 {
     const std::string path = copyOf("made/png/ramp16-fine.png", "deep.png");
     open(path);
+    zp::test::AlertWatch watch;
     perform("save:");
+    ASSERT_EQ(watch.seen.size(), 1u);
+    EXPECT_EQ(watch.seen[0].title, "The file holds more than the picture.");
     EXPECT_TRUE(logged("saved with losses: The picture had 16 bits"));
 }
 

@@ -22,6 +22,13 @@ protected:
         QFile::setPermissions(run.file(name), QFile::ReadOwner | QFile::WriteOwner);
         return run.file(name);
     }
+    /// All fields but where the ants are, who march on.
+    QJsonObject stillState()
+    {
+        QJsonObject state = run.state();
+        state.remove("mSelectionPhase");
+        return state;
+    }
     QString picturePath() { return run.must("image")["path"].toString(); }
     Session run;
 };
@@ -62,7 +69,7 @@ TEST_F(FileSession, AFileThatCannotBeOpenedLeavesEverythingAsItIs)
     run.must("open " + good);
     run.play({"wait", "menu flipH:", "wait", "menu flipV:", "wait", "menu undo:", "wait",
               "menu selectAll:", "write-bitmap before.pam"});
-    const QJsonObject before = run.state();
+    const QJsonObject before = stillState();
     QFile bad(run.file("bad.jpg"));
     ASSERT_TRUE(bad.open(QFile::WriteOnly));
     bad.write("no picture");
@@ -76,7 +83,7 @@ TEST_F(FileSession, AFileThatCannotBeOpenedLeavesEverythingAsItIs)
             EXPECT_TRUE(alert["message"].toString().startsWith(name));
             run.must("answer OK");
             run.must("wait");
-            EXPECT_EQ(run.state(), before) << name;
+            EXPECT_EQ(stillState(), before) << name;
             EXPECT_EQ(picturePath(), good);
             EXPECT_TRUE(message().startsWith(QString("Not opened: ") + name)) << message().toStdString();
         }
@@ -95,7 +102,7 @@ TEST_F(FileSession, TheOperationItselfGivesTheEmptyPicture)
     run.must("send setImagePath: missing.png");
     run.must("answer OK");
     EXPECT_FALSE(run.must("image")["loaded"].toBool());
-    EXPECT_EQ(picturePath(), "missing.png");
+    EXPECT_EQ(picturePath(), run.file("missing.png"));
 }
 
 TEST_F(FileSession, ARefusedNewPictureLeavesDialogAndPicture)
@@ -103,13 +110,13 @@ TEST_F(FileSession, ARefusedNewPictureLeavesDialogAndPicture)
     put("made/valid/base.png", "good.png");
     run.must("open " + run.file("good.png"));
     run.must("wait");
-    const QJsonObject before = run.state();
+    const QJsonObject before = stillState();
     run.play({"menu newDocument:", "set mNew_Width 40000", "set mNew_Height 30", "click new_new:"});
     EXPECT_FALSE(run.must("alert")["alert"].isNull());
     run.must("answer OK");
     EXPECT_EQ(run.must("windows")["windows"].toArray()[0].toObject()["name"], "New");
     EXPECT_EQ(run.must("get mNew_Width")["value"].toVariant().toInt(), 40000);
-    EXPECT_EQ(run.state(), before);
+    EXPECT_EQ(stillState(), before);
     EXPECT_EQ(picturePath(), run.file("good.png"));
     run.play({"set mNew_Width 40", "click new_new:", "wait"});
     EXPECT_EQ(run.must("image")["width"], 40);
