@@ -5,14 +5,13 @@
 #include "codecs/FileNames.h"
 #include "codecs/ImageEncoder.h"
 #include "codecs/PrivateData.h"
-#include "desktop/Desktop.h"
 #include "desktop/Panels.h"
+#include "desktop/Settings.h"
 #include "document/Document.h"
 #include "drawing/BitmapContext.h"
 #include "operations/Commands.h"
 #include "operations/Files.h"
 #include <QCoreApplication>
-#include <QSettings>
 #include <chrono>
 #include <new>
 
@@ -97,6 +96,7 @@ void rememberFolder(const std::string& folder)
     folders.prepend(entry);
     while (folders.size() > kFolders) folders.removeLast();
     settings().setValue(kSavedFolders, folders);
+    settings().save(); // it may be killed while it writes the picture
 }
 
 /// Writes to exactly @p path and says so; a failure is told to the person and leaves image and files as they are.
@@ -105,7 +105,7 @@ bool writeAndTell(Edit& edit, const BitmapRep& shown, const ImageProperties& pro
 {
     Document& document = edit.document();
     const QString name = QString::fromStdString(displayName(lastPathComponent(path)));
-    rememberFolder(folderOfPath(path)); // before: it may be killed while it writes
+    rememberFolder(folderOfPath(path));
     std::size_t size = 0;
     document.setLastFileError(write(shown.view(), properties, path, format, quality, size));
     if (document.lastFileError().empty()) {
