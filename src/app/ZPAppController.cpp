@@ -93,7 +93,6 @@ ZPAppController::ZPAppController()
                       [] { return ZPTextEditor::sharedInstance()->isValid(); }});
     ZPSmartFill::registerCommand();
     ZPPrefs::applyStored();
-    mWindow->performAction = [this](const QString& action) { mMenu->choose(action); };
     connect(mCanvas, &ZPCanvas::menuRequested, this, &ZPAppController::showPictureMenu);
     setFrameAutosaveName(mWindow.get(), "Main");
     mWindow->mayClose = [this] {
