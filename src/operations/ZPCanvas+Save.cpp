@@ -146,10 +146,8 @@ void saveAs(Edit& edit, const Arguments& to, SaveFormat format, bool exact = fal
     edit.picture().setPath(path);
     if (!save(edit, exact ? path : writtenPath(path, format), format, quality))
         edit.picture().setPath(before);
-    else if (path != before) { // what was said of the old file is over
-        edit.document().pictureIsAnother();
-        edit.document().noteSaved();
-    }
+    else if (path != before)
+        edit.document().pictureIsAnother(); // what was said of the old file is over
 }
 
 } // namespace
