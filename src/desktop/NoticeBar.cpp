@@ -35,6 +35,7 @@ NoticeBar::NoticeBar(QAbstractScrollArea* over)
     row->addWidget(mText, 1);
     row->addWidget(mButton);
     mButton->setFocusPolicy(Qt::TabFocus);
+    mButton->setAccessibleName(tr("Notice")); // until it has a title
     mCross->setText(QStringLiteral("×"));
     mCross->setAutoRaise(true);
     mCross->setFocusPolicy(Qt::TabFocus);
@@ -53,6 +54,7 @@ void NoticeBar::display(const QString& text, const QString& button)
     setAccessibleName(text);
     mButton->setText(QString(button).replace('&', "&&"));
     mButton->setMinimumWidth(mButton->fontMetrics().horizontalAdvance(button) + kButtonMargins);
+    mButton->setAccessibleName(button.isEmpty() ? tr("Notice") : button);
     mButton->setVisible(!button.isEmpty());
     setVisible(!text.isEmpty());
     if (text.isEmpty()) return;
