@@ -83,15 +83,15 @@ constexpr std::int64_t kForgotten = std::int64_t{7} * 24 * 3600;
 /// This machine's name as far as it can stand in a file name; several may share a folder.
 const std::string& machineName()
 {
-    static const std::string name = [] {
+    static const std::string* const name = [] {
         std::array<char, 65> room{};
         ::gethostname(room.data(), room.size() - 1);
         std::string plain(room.data());
         std::erase_if(plain, [](unsigned char c) { return !std::isalnum(c); });
         constexpr std::size_t kLongest = 32;
-        return plain.substr(0, kLongest);
+        return new std::string(plain.substr(0, kLongest)); // never taken apart: files are written until the very end
     }();
-    return name;
+    return *name;
 }
 
 int createBeside(const std::string& folder, mode_t mode, std::string& name)
@@ -125,10 +125,11 @@ bool isLeftOver(const std::string& folder, const std::string& name)
 void removeLeftoversOnce(const std::string& folder)
 {
     static std::mutex lock;
-    static std::set<std::string> seen;
+    // Never taken apart: what a program remembers is written when it ends, after other statics are gone.
+    static auto* const seen = new std::set<std::string>;
     {
         const std::lock_guard guard(lock);
-        if (!seen.insert(folder).second) return;
+        if (!seen->insert(folder).second) return;
     }
     removeLeftovers(folder);
 }
