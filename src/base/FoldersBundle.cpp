@@ -168,8 +168,9 @@ std::string bundleFolder()
     const std::string copy = pathByAppending(data, "zelpane");
 
     // Looked after once a run for each place (tests change their home while they run).
-    static std::mutex guard;
-    static std::string lookedAfter;
+    // Never destroyed: objects that live as long as the program ask for its files when they go.
+    static auto& guard = *new std::mutex;
+    static auto& lookedAfter = *new std::string;
     const std::lock_guard hold(guard);
     const std::string shipped = shippedResourcesFolder(), place = copy + "\n" + shipped;
     if (lookedAfter != place) {

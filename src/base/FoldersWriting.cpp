@@ -83,15 +83,15 @@ constexpr std::int64_t kForgotten = std::int64_t{7} * 24 * 3600;
 /// This machine's name as far as it can stand in a file name; several may share a folder.
 const std::string& machineName()
 {
-    static const std::string* const name = [] {
+    static const auto& name = *new const std::string([] {
         std::array<char, 65> room{};
         ::gethostname(room.data(), room.size() - 1);
         std::string plain(room.data());
         std::erase_if(plain, [](unsigned char c) { return !std::isalnum(c); });
         constexpr std::size_t kLongest = 32;
-        return new std::string(plain.substr(0, kLongest)); // never taken apart: files are written until the very end
-    }();
-    return *name;
+        return plain.substr(0, kLongest);
+    }());
+    return name;
 }
 
 int createBeside(const std::string& folder, mode_t mode, std::string& name)
@@ -124,12 +124,13 @@ bool isLeftOver(const std::string& folder, const std::string& name)
 /// Looks through a folder once in a process's life.
 void removeLeftoversOnce(const std::string& folder)
 {
-    static std::mutex lock;
-    // Never taken apart: what a program remembers is written when it ends, after other statics are gone.
-    static auto* const seen = new std::set<std::string>;
+    // Both, and the machine's name, outlive every other object: what is written while the program ends, the settings
+    // for one, comes here as well.
+    static auto& lock = *new std::mutex;
+    static auto& seen = *new std::set<std::string>;
     {
         const std::lock_guard guard(lock);
-        if (!seen->insert(folder).second) return;
+        if (!seen.insert(folder).second) return;
     }
     removeLeftovers(folder);
 }

@@ -34,8 +34,6 @@ NoticeBar::NoticeBar(QAbstractScrollArea* over)
     mText->setTextInteractionFlags(Qt::TextSelectableByMouse);
     row->addWidget(mText, 1);
     row->addWidget(mButton);
-    mButton->setFocusPolicy(Qt::TabFocus);
-    mButton->setAccessibleName(tr("Notice")); // until it has a title
     mCross->setText(QStringLiteral("×"));
     mCross->setAutoRaise(true);
     mCross->setFocusPolicy(Qt::TabFocus);
@@ -45,7 +43,7 @@ NoticeBar::NoticeBar(QAbstractScrollArea* over)
     connect(mButton, &QPushButton::clicked, this, &NoticeBar::chosen);
     connect(mCross, &QToolButton::clicked, this, &NoticeBar::closed);
     mOver->viewport()->installEventFilter(this);
-    hide();
+    display({}, {});
 }
 
 void NoticeBar::display(const QString& text, const QString& button)
@@ -54,8 +52,8 @@ void NoticeBar::display(const QString& text, const QString& button)
     setAccessibleName(text);
     mButton->setText(QString(button).replace('&', "&&"));
     mButton->setMinimumWidth(mButton->fontMetrics().horizontalAdvance(button) + kButtonMargins);
-    mButton->setAccessibleName(button.isEmpty() ? tr("Notice") : button);
     mButton->setVisible(!button.isEmpty());
+    mButton->setFocusPolicy(button.isEmpty() ? Qt::NoFocus : Qt::TabFocus); // without words there is nothing to go to
     setVisible(!text.isEmpty());
     if (text.isEmpty()) return;
     place();

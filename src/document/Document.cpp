@@ -30,11 +30,7 @@ Document::Document(std::span<const Command> commands, std::uint32_t strokeCapaci
       }),
       mGesture(std::make_unique<BrushStroke>(
           strokeCapacity, [this](Rect rect) { touchedByWorker(rect); }, [this] { strokeEnded(); })),
-      mHistory([this] { emit stepsChanged(); },
-               [this](const QString& trouble) {
-                   emit troubled(trouble);
-                   notice(trouble);
-               }),
+      mHistory([this] { emit stepsChanged(); }, [this](const QString& trouble) { notice(trouble); }),
       mPaintedWake([this] {
           Rect rect;
           {

@@ -159,10 +159,9 @@ signals:
     void pointerMoved();
     void paintChanged(); ///< colour or size
     void toolChosen();
-    void stepsChanged();                    ///< another step, another position, or a step was written
-    void troubled(const QString& sentence); ///< what the person has to know although no command failed
-    void noticed();                         ///< another notice is on show, or none
-    void changed();                         ///< whatever the window says of the document may be another now
+    void stepsChanged(); ///< another step, another position, or a step was written
+    void noticed();      ///< another notice is on show, or none
+    void changed();      ///< whatever the window says of the document may be another now
 
 private:
     friend class Edit;

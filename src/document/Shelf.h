@@ -16,6 +16,7 @@ struct ShelvedPicture {
     std::uint64_t order = 0; ///< when it was opened, counted
     std::string path;        ///< its file; empty when it was never saved
     bool changed = false;    ///< since it was opened or saved
+    PictureFiles files;
     History::Aside steps;
     std::shared_ptr<BitmapRep> pixels; ///< null as long as the steps can give them back
 };

@@ -31,6 +31,8 @@ try {
     else if (!hasSteps || !edit.history().goTo(position, edit.picture(), install))
         return false;
     edit.picture().setPath(std::move(shelved.path));
+    edit.picture().setFiles(std::move(shelved.files));
+    edit.document().pictureIsAnother();
     edit.gesture().openPolygon(false);
     edit.history().notePosition(edit.picture());
     edit.redraw();
@@ -50,6 +52,7 @@ void shelvePicture(Edit& edit)
     edit.history().recordOwed(picture, kAnchorSelection);
     ShelvedPicture shelved;
     shelved.path = picture.path();
+    shelved.files = picture.files();
     shelved.changed = edit.history().isModified();
     // A step that could be kept nowhere stays as it is.
     edit.history().waitForWriter();

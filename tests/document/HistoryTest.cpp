@@ -201,8 +201,9 @@ INSTANTIATE_TEST_SUITE_P(Halves, HistoryHalf,
 TEST_F(History, APairThatCannotBeWrittenIsToldOnceAndLosesNothing)
 {
     Lines told;
-    QObject::connect(document.get(), &Document::troubled, document.get(),
-                     [&told](const QString& sentence) { told.push_back(sentence.toStdString()); });
+    QObject::connect(document.get(), &Document::noticed, document.get(), [&] {
+        if (const Notice* notice = document->notices().front()) told.push_back(notice->text.toStdString());
+    });
     makeImage(400, 300);
     change(255, 90);
     rlimit before{};
