@@ -24,11 +24,11 @@ bool sameLinearPart(const AffineTransform& a, const AffineTransform& b)
 
 void OutlineDrawing::setPath(const BezierPath& path, const AffineTransform& toDevice)
 {
-    const bool same = mKnown && sameLinearPart(mMap, toDevice) && mPath.hasSameElements(path);
+    const bool same = mKnown && sameLinearPart(mMap, toDevice) && mGivenPath.hasSameElements(path);
     if (!same || mShiftX != toDevice.tX || mShiftY != toDevice.tY) mDirtyKnown = false;
     mShiftX = toDevice.tX, mShiftY = toDevice.tY;
     if (same) return;
-    mPath = path;
+    mGivenPath = path;
     mMap = toDevice;
     mKnown = true;
     rebuild();
@@ -41,14 +41,14 @@ void OutlineDrawing::rebuild()
     mPoints.clear();
     mChunks.clear();
     bool curved = false;
-    mPath.forEach([&](PathElement kind, const Point*) { curved |= kind == PathElement::CurveTo; });
+    mGivenPath.forEach([&](PathElement kind, const Point*) { curved |= kind == PathElement::CurveTo; });
     const double scale = std::max(std::hypot(mMap.m11, mMap.m12), std::hypot(mMap.m21, mMap.m22));
     BezierPath flat;
-    if (curved) flat = mPath.flattened(float(0.25 / std::max(scale, 1e-6)));
+    if (curved) flat = mGivenPath.flattened(float(0.25 / std::max(scale, 1e-6)));
 
     AffineTransform linear = mMap;
     linear.tX = linear.tY = 0;
-    const Rect extent = linear.apply(mPath.bounds());
+    const Rect extent = linear.apply(mGivenPath.bounds());
     const Box all{extent.minX(), extent.minY(), extent.maxX(), extent.maxY()};
     std::vector<std::uint64_t> dots; // a bit a pixel of the extent, made when the first dot comes
 
@@ -65,7 +65,7 @@ void OutlineDrawing::rebuild()
         }
         mPoints.push_back(p);
     };
-    (curved ? flat : mPath).forEach([&](PathElement kind, const Point* p) {
+    (curved ? flat : mGivenPath).forEach([&](PathElement kind, const Point* p) {
         switch (kind) {
         case PathElement::MoveTo:
             finishSubpath(first, hasLines, dots, all);

@@ -86,7 +86,7 @@ private:
     void finishSubpath(std::size_t first, bool hasLines, std::vector<std::uint64_t>& dots, const Box& all);
     bool markTiles(PixelBox visible, int margin, int tile);
 
-    BezierPath mPath;
+    BezierPath mGivenPath;
     AffineTransform mMap;
     double mShiftX = 0, mShiftY = 0;
     bool mKnown = false;
