@@ -88,8 +88,8 @@ int KeptAside::keep(const std::string& target)
     if (!createFolder(asideFolder(), 0700)) return EACCES;
     static std::atomic<unsigned> counter{0};
     do { // a name may be taken by a process of that number, earlier or on another machine
-        mPath = pathByAppending(asideFolder(), std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".old");
-        mFd = ::open(mPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600);
+        mFile = pathByAppending(asideFolder(), std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".old");
+        mFd = ::open(mFile.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600);
     } while (mFd < 0 && errno == EEXIST);
     if (mFd < 0) return errno;
     ::flock(mFd, LOCK_EX | LOCK_NB);
@@ -106,14 +106,14 @@ int KeptAside::keep(const std::string& target)
 
 int KeptAside::bringBack()
 {
-    const std::optional<OldBytes> old = readCopy(mPath);
+    const std::optional<OldBytes> old = readCopy(mFile);
     return old ? overwrite(old->target, old->bytes.data(), old->bytes.size()) : EIO;
 }
 
 void KeptAside::discard()
 {
     if (mFd < 0) return;
-    ::unlink(mPath.c_str());
+    ::unlink(mFile.c_str());
     ::close(mFd);
     mFd = -1;
 }

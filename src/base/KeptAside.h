@@ -17,7 +17,7 @@ public:
     int bringBack();
     /// They are not needed any more.
     void discard();
-    const std::string& path() const { return mPath; }
+    const std::string& path() const { return mFile; }
 
     KeptAside() = default;
     ~KeptAside(); ///< keeps the copy, unless it was discarded
@@ -25,7 +25,7 @@ public:
     KeptAside& operator=(const KeptAside&) = delete;
 
 private:
-    std::string mPath;
+    std::string mFile;
     int mFd = -1; ///< locked while this process lives
 };
 

@@ -52,9 +52,9 @@ std::string writeResult(const std::vector<std::uint8_t>& bytes, const std::strin
 } // namespace
 
 BatchPicture::BatchPicture(const BatchSettings& settings, std::string name)
-    : mSettings(settings), mName(std::move(name)), mPath(settings.source + "/" + mName)
+    : mSettings(settings), mName(std::move(name)), mFile(settings.source + "/" + mName)
 {
-    if (auto target = resolveAlias(mPath)) mPath = std::move(*target);
+    if (auto target = resolveAlias(mFile)) mFile = std::move(*target);
 }
 
 std::string BatchPicture::tiffPath() const { return batchOutput(mSettings.destination, mName, "tiff"); }
@@ -71,7 +71,7 @@ std::string BatchPicture::read()
     ImportOptions options;
     if (mSettings.fits() && mSettings.reducedDecoding) {
         // The result's size follows from the file's own, so that a reduced decode changes no size by a rounding.
-        const PixelDimensions size = imageFileDimensions(mPath);
+        const PixelDimensions size = imageFileDimensions(mFile);
         if (size.width > 0) {
             fitsTo({float(size.width), float(size.height)});
             const PixelDimensions least = leastSize(size, mWidth, mHeight);
@@ -79,31 +79,31 @@ std::string BatchPicture::read()
             options.atLeastHeight = least.height;
         }
     }
-    ImportedImage imported = importImageFile(mPath, options);
+    ImportedImage imported = importImageFile(mFile, options);
     if (!imported.bitmap) return imported.error;
     if (imported.damaged) {
         if (!mSettings.keepDamaged) return kDamaged;
         mDamage = kDamaged;
     }
     mReduction = imported.reduction;
-    mBitmap = std::move(imported.bitmap);
-    mBitmap->properties.userComment = kEditedComment;
-    if (mSettings.stripPrivate) removePrivateData(mBitmap->properties);
-    if (mSettings.fits() && mWidth == 0) fitsTo({float(mBitmap->pixelsWide()), float(mBitmap->pixelsHigh())});
+    mPixels = std::move(imported.bitmap);
+    mPixels->properties.userComment = kEditedComment;
+    if (mSettings.stripPrivate) removePrivateData(mPixels->properties);
+    if (mSettings.fits() && mWidth == 0) fitsTo({float(mPixels->pixelsWide()), float(mPixels->pixelsHigh())});
     return {};
 }
 
 std::string BatchPicture::fit()
 {
-    if (!mSettings.fits() || (mWidth == mBitmap->pixelsWide() && mHeight == mBitmap->pixelsHigh())) return {};
+    if (!mSettings.fits() || (mWidth == mPixels->pixelsWide() && mHeight == mPixels->pixelsHigh())) return {};
     auto fitted = BitmapRep::createUninitialized(mWidth, mHeight);
     if (!fitted) return kNoMemory;
     if (mReduction.divisor > 1)
-        resample(std::as_const(*mBitmap).view(), mReduction, fitted->view());
+        resample(std::as_const(*mPixels).view(), mReduction, fitted->view());
     else
-        resample(std::as_const(*mBitmap).view(), fitted->view());
-    fitted->properties = mBitmap->properties;
-    mBitmap = std::move(fitted);
+        resample(std::as_const(*mPixels).view(), fitted->view());
+    fitted->properties = mPixels->properties;
+    mPixels = std::move(fitted);
     return {};
 }
 
@@ -111,21 +111,21 @@ void BatchPicture::stamp()
 {
     if (!mSettings.watermark) return;
     const Size size = sizeInPoints(*mSettings.watermark);
-    const Size picture{float(mBitmap->pixelsWide()), float(mBitmap->pixelsHigh())};
+    const Size picture{float(mPixels->pixelsWide()), float(mPixels->pixelsHigh())};
     const Point point = mSettings.watermarkPlace == WatermarkPlace::Custom
                             ? mSettings.watermarkPoint
                             : watermarkPosition(mSettings.watermarkPlace, picture, size, mSettings.watermarkMargin);
-    drawWatermark(mBitmap->view(), mSettings.watermark->view(), size, point, mSettings.watermarkAlpha);
+    drawWatermark(mPixels->view(), mSettings.watermark->view(), size, point, mSettings.watermarkAlpha);
 }
 
 std::string BatchPicture::writeTIFF() const
 {
-    return writeResult(encodeTIFF(mBitmap->view(), mBitmap->properties), tiffPath());
+    return writeResult(encodeTIFF(mPixels->view(), mPixels->properties), tiffPath());
 }
 
 std::string BatchPicture::writeJPEG() const
 {
-    return writeResult(encodeJPEG(mBitmap->view(), mBitmap->properties, {.fallbackBackground = kWhite}), jpegPath());
+    return writeResult(encodeJPEG(mPixels->view(), mPixels->properties, {.fallbackBackground = kWhite}), jpegPath());
 }
 
 } // namespace zp

@@ -28,18 +28,18 @@ public:
     std::string writeJPEG() const;
 
     /// The file that is read.
-    const std::string& path() const { return mPath; }
+    const std::string& path() const { return mFile; }
     std::string tiffPath() const;
     std::string jpegPath() const;
     /// Null before read(), and when that failed.
-    const std::shared_ptr<BitmapRep>& bitmap() const { return mBitmap; }
+    const std::shared_ptr<BitmapRep>& bitmap() const { return mPixels; }
     /// What is wrong with a source that was kept although it is damaged; empty for a sound one.
     const std::string& damage() const { return mDamage; }
 
 private:
     const BatchSettings& mSettings;
-    std::string mName, mPath, mDamage;
-    std::shared_ptr<BitmapRep> mBitmap;
+    std::string mName, mFile, mDamage;
+    std::shared_ptr<BitmapRep> mPixels;
     Reduction mReduction;        ///< of what was read
     int mWidth = 0, mHeight = 0; ///< of the result; 0: not known before the picture is read
 };

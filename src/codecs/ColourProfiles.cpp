@@ -118,18 +118,18 @@ InkConverter::InkConverter(std::span<const std::uint8_t> profile, bool inverted)
     const Profile inks = open(profile, cmsSigCmykData);
     const Profile screen(cmsCreate_sRGBProfile());
     if (!inks || !screen) return;
-    mTransform = cmsCreateTransform(inks.get(), inverted ? TYPE_CMYK_8_REV : TYPE_CMYK_8, screen.get(), TYPE_ARGB_8,
-                                    INTENT_PERCEPTUAL, cmsFLAGS_NOCACHE);
+    mMatching = cmsCreateTransform(inks.get(), inverted ? TYPE_CMYK_8_REV : TYPE_CMYK_8, screen.get(), TYPE_ARGB_8,
+                                   INTENT_PERCEPTUAL, cmsFLAGS_NOCACHE);
 }
 
 InkConverter::~InkConverter()
 {
-    if (mTransform) cmsDeleteTransform(mTransform);
+    if (mMatching) cmsDeleteTransform(mMatching);
 }
 
 void InkConverter::convert(const std::uint8_t* inks, std::uint8_t* argb, int count) const
 {
-    cmsDoTransform(mTransform, inks, argb, cmsUInt32Number(count));
+    cmsDoTransform(mMatching, inks, argb, cmsUInt32Number(count));
     for (int x = 0; x < count; ++x) argb[4 * x] = 255; // not carried over: inks are opaque
 }
 

@@ -37,11 +37,11 @@ public:
     ~InkConverter();
     InkConverter(const InkConverter&) = delete;
     InkConverter& operator=(const InkConverter&) = delete;
-    explicit operator bool() const { return mTransform != nullptr; } ///< the profile is one for four inks
+    explicit operator bool() const { return mMatching != nullptr; } ///< the profile is one for four inks
     void convert(const std::uint8_t* inks, std::uint8_t* argb, int count) const;
 
 private:
-    void* mTransform = nullptr;
+    void* mMatching = nullptr;
 };
 
 } // namespace zp::codec

@@ -80,13 +80,13 @@ int PlaneDecoder::decode()
             const std::scoped_lock lock(mMutex);
             mPublished = mDecoded;
             mAllDecoded = true;
-            mChanged.notify_all();
+            mProgressed.notify_all();
             return;
         }
         // This part runs beside the first or, where no worker is free, behind it.
         std::unique_lock lock(mMutex);
         for (;;) {
-            mChanged.wait(lock, [this] { return !mConverting && (mAllDecoded || mConverted < convertible()); });
+            mProgressed.wait(lock, [this] { return !mConverting && (mAllDecoded || mConverted < convertible()); });
             if (mConverted >= convertible()) return;
             convertBand(lock);
         }
@@ -114,7 +114,7 @@ void PlaneDecoder::pointAtNextUnit(JSAMPARRAY planes[])
         // Of the units before that of the next row none is needed any more.
         while (mDecoded >= (mFreeUntil = mConverted / mRowsOfUnit + mUnits))
             if (mConverting)
-                mChanged.wait(lock);
+                mProgressed.wait(lock);
             else
                 convertBand(lock);
     }
@@ -131,7 +131,7 @@ void PlaneDecoder::unitIsDecoded()
     if (++mDecoded % mBatch != 0) return;
     const std::scoped_lock lock(mMutex);
     mPublished = mDecoded;
-    mChanged.notify_all();
+    mProgressed.notify_all();
 }
 
 /// Rows of pixels whose samples are all there.
@@ -160,7 +160,7 @@ void PlaneDecoder::convertBand(std::unique_lock<std::mutex>& lock)
     lock.lock();
     mConverted = last;
     mConverting = false;
-    mChanged.notify_all();
+    mProgressed.notify_all();
 }
 
 /// One sample for each pixel of row @p y.

@@ -62,7 +62,7 @@ private:
     int mFreeUntil = 0;      ///< units for which that thread knows the ring to have room
 
     std::mutex mMutex; ///< guards what follows
-    std::condition_variable mChanged;
+    std::condition_variable mProgressed;
     int mPublished = 0;       ///< units whose samples may be read
     int mConverted = 0;       ///< rows of pixels, those that are skipped included
     bool mAllDecoded = false; ///< nothing more will be decoded

@@ -129,15 +129,15 @@ std::shared_ptr<const ScreenColours> ScreenColours::between(std::span<const std:
 }
 
 ScreenColours::ScreenColours(void* transform, std::unique_ptr<ColourTables> tables)
-    : mTransform(transform), mTables(std::move(tables))
+    : mMatching(transform), mTables(std::move(tables))
 {
 }
 
-ScreenColours::~ScreenColours() { cmsDeleteTransform(mTransform); }
+ScreenColours::~ScreenColours() { cmsDeleteTransform(mMatching); }
 
 void ScreenColours::convertRow(std::uint32_t* words, int count) const
 {
-    cmsDoTransform(mTransform, words, words, cmsUInt32Number(count));
+    cmsDoTransform(mMatching, words, words, cmsUInt32Number(count));
 }
 
 } // namespace zp

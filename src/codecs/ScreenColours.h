@@ -29,7 +29,7 @@ public:
 
 private:
     ScreenColours(void* transform, std::unique_ptr<ColourTables> tables);
-    void* mTransform;
+    void* mMatching;
     std::unique_ptr<ColourTables> mTables;
 };
 

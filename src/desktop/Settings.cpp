@@ -43,17 +43,17 @@ QVariant decoded(const QByteArray& text)
 
 } // namespace
 
-Settings::Settings(std::string path) : mPath(std::move(path)) { load(); }
+Settings::Settings(std::string path) : mFile(std::move(path)) { load(); }
 
 void Settings::load()
 {
     // Nothing there at all, or a file that can be read; through a link, to wherever that leads.
-    const auto there = fileAttributes(mPath);
-    const std::optional<std::string> text = there ? readWholeFile(mPath, kLargest) : std::string();
+    const auto there = fileAttributes(mFile);
+    const std::optional<std::string> text = there ? readWholeFile(mFile, kLargest) : std::string();
     mWritable = text.has_value();
-    if (!mWritable) return logLine("the settings in %s cannot be read; nothing is kept", displayName(mPath).c_str());
+    if (!mWritable) return logLine("the settings in %s cannot be read; nothing is kept", displayName(mFile).c_str());
     if (text->starts_with('[')) { // of the first version
-        const QSettings old(QString::fromStdString(mPath), QSettings::IniFormat);
+        const QSettings old(QString::fromStdString(mFile), QSettings::IniFormat);
         for (const QString& key : old.allKeys()) mValues[key] = old.value(key);
         return;
     }
@@ -83,21 +83,21 @@ void Settings::remove(const QString& key)
 
 void Settings::changed()
 {
-    mChanged = true;
+    mUnwritten = true;
     if (!std::exchange(mScheduled, true)) QTimer::singleShot(0, this, &Settings::save);
 }
 
 void Settings::save()
 {
     mScheduled = false;
-    if (!mChanged || !mWritable) return;
+    if (!mUnwritten || !mWritable) return;
     QByteArray text;
     for (const auto& [key, value] : mValues) text += key.toUtf8() + '=' + encoded(value) + '\n';
-    createFolder(folderOfPath(mPath));
+    createFolder(folderOfPath(mFile));
     std::string error;
     // What could not be written is tried again with the next change, and at the end.
-    mChanged = !writeFileSafely(mPath, text.constData(), std::size_t(text.size()), &error);
-    if (mChanged) logLine("the settings were not saved: %s", error.c_str());
+    mUnwritten = !writeFileSafely(mFile, text.constData(), std::size_t(text.size()), &error);
+    if (mUnwritten) logLine("the settings were not saved: %s", error.c_str());
 }
 
 Settings& settings()

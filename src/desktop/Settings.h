@@ -25,14 +25,14 @@ public:
     void remove(const QString& key);
     /// Writes what has changed, now.
     void save();
-    const std::string& path() const { return mPath; }
+    const std::string& path() const { return mFile; }
 
 private:
     void load();
     void changed();
-    std::string mPath;
+    std::string mFile;
     std::map<QString, QVariant> mValues;
-    bool mWritable = false, mChanged = false;
+    bool mWritable = false, mUnwritten = false;
     bool mScheduled = false; ///< the event loop will save
 };
 

@@ -74,7 +74,7 @@ History::~History() = default;
 
 void History::noteChanged(PixelBox box)
 {
-    mChanged.add(box);
+    mTouchedTiles.add(box);
     mStale.add(box);
     mLoose = true;
 }
@@ -82,13 +82,13 @@ void History::noteChanged(PixelBox box)
 void History::pictureReplaced(int width, int height)
 {
     const TileGrid grid{width, height};
-    if (mChanged.grid() != grid) {
+    if (mTouchedTiles.grid() != grid) {
         mBase.reset();
         mWriterKnows = false;
-        mChanged = TileSet(grid);
+        mTouchedTiles = TileSet(grid);
         mStale = TileSet(grid);
     }
-    mChanged.addAll();
+    mTouchedTiles.addAll();
     mStale.addAll();
     mLoose = true;
 }
@@ -133,8 +133,8 @@ StepJob History::makeJob(const Picture& picture, std::int32_t number, const Step
     job.position = {picture.path(), picture.width(), picture.height(), number, number, note.time, number != mSaved};
     if (!picture.bitmap()) return job;
     const TileGrid grid{picture.width(), picture.height()};
-    if (mChanged.grid() != grid) pictureReplaced(grid.width, grid.height);
-    job.changed = mChanged;
+    if (mTouchedTiles.grid() != grid) pictureReplaced(grid.width, grid.height);
+    job.changed = mTouchedTiles;
     job.parent = mBase;
     if (!mBase) job.changed.addAll();
     TileSet tiles = mWriterKnows ? mStale : job.changed;
@@ -157,7 +157,7 @@ void History::record(const Picture& picture, const char* name)
     mWriter.add(makeJob(picture, number, note));
     mBase.reset();
     if (picture.bitmap()) mBase = number;
-    mChanged.clear();
+    mTouchedTiles.clear();
     mStale.clear();
     mWriterKnows = true;
     mLoose = false;
@@ -236,7 +236,7 @@ bool History::keepsPresent(const Picture& picture)
     lostTrack();
     mWriter.add(makeJob(picture, mUndoRedoIndex, {step->name, step->time}));
     mBase = mUndoRedoIndex;
-    mChanged.clear();
+    mTouchedTiles.clear();
     mStale.clear();
     mWriterKnows = true;
     waitForWriter();
@@ -302,10 +302,10 @@ bool History::restoreExact(std::int32_t number, Picture& picture, const Resize& 
 {
     const auto grid = mExact->gridOf(number);
     if (!grid) return false;
-    const bool sameSize = mChanged.grid() == *grid && picture.width() == grid->width &&
+    const bool sameSize = mTouchedTiles.grid() == *grid && picture.width() == grid->width &&
                           picture.height() == grid->height && picture.bitmap();
     if (sameSize && mBase && mExact->shareTiles(*mBase, number)) {
-        const auto written = mExact->restore(number, mBase, mChanged, picture.writablePixels());
+        const auto written = mExact->restore(number, mBase, mTouchedTiles, picture.writablePixels());
         if (!written) return false;
         mStale.add(*written);
     } else {
@@ -315,7 +315,7 @@ bool History::restoreExact(std::int32_t number, Picture& picture, const Resize& 
         put(pixels, picture, resize);
     }
     mBase = number;
-    mChanged.clear();
+    mTouchedTiles.clear();
     return true;
 }
 

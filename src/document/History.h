@@ -64,7 +64,7 @@ public:
     /// How a step can be brought back. Cost: looks at the disk.
     Kept kept(std::int32_t number) const;
     /// Pixels were changed since the last step.
-    bool owesStep() const { return !mBase || !mChanged.isEmpty(); }
+    bool owesStep() const { return !mBase || !mTouchedTiles.isEmpty(); }
     /// The picture is not the one that was opened or saved.
     bool isModified() const { return mLoose || std::max(mUndoRedoIndex, 0) != mSaved; }
 
@@ -133,11 +133,11 @@ private:
     bool mDontTakeSnapshot = false;
     std::vector<Step> mSteps;
     std::shared_ptr<ExactSteps> mExact = std::make_shared<ExactSteps>();
-    std::optional<std::int32_t> mBase; ///< the step that the pixels are, but for the tiles in mChanged
+    std::optional<std::int32_t> mBase; ///< the step that the pixels are, but for the tiles in mTouchedTiles
     static constexpr std::int32_t kNeverSaved = -1;
     std::int32_t mSaved = 0; ///< the step that is in a file; an opened picture's is its first
     bool mLoose = false;     ///< changed since that step or the last
-    TileSet mChanged;
+    TileSet mTouchedTiles;
     TileSet mStale;            ///< tiles that are not as the writer saw them last
     bool mWriterKnows = false; ///< the writer remembers all other tiles
     QTimer mFirstSnapshotTimer;

@@ -21,13 +21,13 @@ void PointerFeed::push(Point position)
         float x, y;
     };
     mLatest.store(std::bit_cast<std::uint64_t>(Cell{position.x, position.y}), std::memory_order_release);
-    const std::uint32_t written = mWritten.load(std::memory_order_relaxed);
+    const std::uint32_t written = mPushed.load(std::memory_order_relaxed);
     while (written - mRead.load(std::memory_order_acquire) == kSlots) {
         if (mAbandoned.load(std::memory_order_acquire)) return;
         std::this_thread::yield();
     }
     mSlots[written % kSlots] = position;
-    mWritten.store(written + 1, std::memory_order_release);
+    mPushed.store(written + 1, std::memory_order_release);
     mNews.notify();
 }
 
@@ -49,7 +49,7 @@ Point PointerFeed::latest() const
 bool PointerFeed::pop(Point& position)
 {
     const std::uint32_t read = mRead.load(std::memory_order_relaxed);
-    if (read == mWritten.load(std::memory_order_acquire)) return false;
+    if (read == mPushed.load(std::memory_order_acquire)) return false;
     position = mSlots[read % kSlots];
     mRead.store(read + 1, std::memory_order_release);
     return true;
@@ -59,7 +59,7 @@ void PointerFeed::waitForNews(std::chrono::microseconds atMost)
 {
     mNews.wait(atMost, [this] {
         return mClosed.load(std::memory_order_acquire) ||
-               mRead.load(std::memory_order_relaxed) != mWritten.load(std::memory_order_acquire);
+               mRead.load(std::memory_order_relaxed) != mPushed.load(std::memory_order_acquire);
     });
 }
 

@@ -63,9 +63,9 @@ public:
 private:
     static constexpr std::uint32_t kSlots = 65'536;
     std::array<Point, kSlots> mSlots{};
-    alignas(64) std::atomic<std::uint32_t> mWritten{0}; ///< positions pushed in all; the writer's
-    alignas(64) std::atomic<std::uint32_t> mRead{0};    ///< positions taken in all; the reader's
-    alignas(64) std::atomic<std::uint64_t> mLatest{0};  ///< the cell: both coordinates in one word
+    alignas(64) std::atomic<std::uint32_t> mPushed{0}; ///< positions pushed in all; the writer's
+    alignas(64) std::atomic<std::uint32_t> mRead{0};   ///< positions taken in all; the reader's
+    alignas(64) std::atomic<std::uint64_t> mLatest{0}; ///< the cell: both coordinates in one word
     std::atomic<bool> mClosed{false}, mAbandoned{false};
     Wakeup mNews;
 };

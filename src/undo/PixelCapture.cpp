@@ -7,7 +7,7 @@ namespace zp
 {
 
 PixelCapture::PixelCapture(std::shared_ptr<const BitmapRep> bitmap, TileSet tiles, const TileSet& again)
-    : mBitmap(std::move(bitmap)),
+    : mPixels(std::move(bitmap)),
       mTiles(std::move(tiles)),
       mStates(std::size_t(mTiles.grid().count())),
       mLeft(mTiles.count())
@@ -42,7 +42,7 @@ void PixelCapture::copyAway(int number)
         PixelMemory copy = allocatePixelsUninitialized(size);
         const bool copied = bool(copy);
         if (copied) {
-            copyPixels(mBitmap->view().part(box),
+            copyPixels(mPixels->view().part(box),
                        {copy.get(), box.width(), box.height(), std::ptrdiff_t{4} * box.width()});
             tile.copy = std::move(copy);
             mBytesCopied.fetch_add(size, std::memory_order_relaxed);
@@ -100,7 +100,7 @@ PixelCapture::Reading::Reading(PixelCapture& capture, int first, int last)
     const TileGrid& grid = capture.mTiles.grid();
     const PixelBox all = grid.box(first).united(grid.box(last - 1));
     if (!anyCopied) {
-        mPixels = capture.mBitmap->view().part(all);
+        mPixels = capture.mPixels->view().part(all);
     } else if (last - first == 1) {
         mPixels = capture.copyOf(first);
     } else {
@@ -113,7 +113,7 @@ PixelCapture::Reading::Reading(PixelCapture& capture, int first, int last)
         for (int tile = first; tile < last; ++tile) {
             const PixelBox box = grid.box(tile);
             const bool copied = capture.mStates[std::size_t(tile)].state.load(std::memory_order_acquire) == Copied;
-            copyPixels(copied ? capture.copyOf(tile) : capture.mBitmap->view().part(box),
+            copyPixels(copied ? capture.copyOf(tile) : capture.mPixels->view().part(box),
                        into.part({box.x0 - all.x0, 0, box.x1 - all.x0, box.height()}));
         }
         mPixels = into;

@@ -23,7 +23,7 @@ public:
     PixelCapture& operator=(const PixelCapture&) = delete;
 
     const TileSet& tiles() const { return mTiles; }
-    const std::shared_ptr<const BitmapRep>& bitmap() const { return mBitmap; }
+    const std::shared_ptr<const BitmapRep>& bitmap() const { return mPixels; }
     bool isDone() const { return mLeft.load(std::memory_order_acquire) == 0; }
     /// What the copies made so far have taken.
     std::uint64_t bytesCopied() const { return mBytesCopied.load(std::memory_order_relaxed); }
@@ -80,7 +80,7 @@ private:
     ConstBitmapView copyOf(int tile) const;
     void copyAway(int tile);
 
-    std::shared_ptr<const BitmapRep> mBitmap;
+    std::shared_ptr<const BitmapRep> mPixels;
     TileSet mTiles;
     std::vector<Tile> mStates;
     std::atomic<int> mLeft;

@@ -89,7 +89,7 @@ void SnapshotWriter::wait()
 std::vector<WrittenStep> SnapshotWriter::takeWritten()
 {
     const std::lock_guard lock(mJobsLock);
-    return std::exchange(mWritten, {});
+    return std::exchange(mFinishedSteps, {});
 }
 
 void SnapshotWriter::run()
@@ -112,7 +112,7 @@ void SnapshotWriter::finished(WrittenStep result)
         std::erase(mCaptures, mJobs.front().capture);
         mJobs.pop_front();
         mLeft.store(int(mJobs.size()), std::memory_order_release);
-        mWritten.push_back(std::move(result));
+        mFinishedSteps.push_back(std::move(result));
     }
     mNews.notify_all();
     mSayWritten();

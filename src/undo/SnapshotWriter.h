@@ -75,7 +75,7 @@ private:
     std::condition_variable mNews;
     std::deque<StepJob> mJobs;                            ///< the first is being written
     std::vector<std::shared_ptr<PixelCapture>> mCaptures; ///< of all that is not written yet
-    std::vector<WrittenStep> mWritten;
+    std::vector<WrittenStep> mFinishedSteps;
     std::atomic<int> mLeft{0};
     bool mEnds = false;
     std::thread mThread;

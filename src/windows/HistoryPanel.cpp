@@ -32,15 +32,15 @@ public:
     Model(const Document& document, int side) : mDocument(document), thumbnails(side)
     {
         connect(&thumbnails, &StepThumbnails::made, this, [this] {
-            if (!mSteps.empty()) emit dataChanged(index(0), index(int(mSteps.size()) - 1), {Qt::DecorationRole});
+            if (!mRows.empty()) emit dataChanged(index(0), index(int(mRows.size()) - 1), {Qt::DecorationRole});
         });
     }
 
-    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : int(mSteps.size()); }
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : int(mRows.size()); }
     QVariant data(const QModelIndex& at, int role) const override
     {
         const History& history = mDocument.history();
-        const History::Step& step = mSteps[std::size_t(at.row())];
+        const History::Step& step = mRows[std::size_t(at.row())];
         switch (role) {
         case Qt::DisplayRole:
             return step.name.empty() ? HistoryPanel::tr("Change")
@@ -80,36 +80,36 @@ public:
             return {};
         }
     }
-    std::int32_t number(int row) const { return mSteps[std::size_t(row)].number; }
+    std::int32_t number(int row) const { return mRows[std::size_t(row)].number; }
     int rowOf(std::int32_t number) const
     {
         const auto step =
-            std::find_if(mSteps.begin(), mSteps.end(), [number](const History::Step& s) { return s.number == number; });
-        return step == mSteps.end() ? -1 : int(step - mSteps.begin());
+            std::find_if(mRows.begin(), mRows.end(), [number](const History::Step& s) { return s.number == number; });
+        return step == mRows.end() ? -1 : int(step - mRows.begin());
     }
     void refresh()
     {
         const std::vector<History::Step>& steps = mDocument.history().steps();
-        const bool grown = steps.size() >= mSteps.size() &&
-                           std::equal(mSteps.begin(), mSteps.end(), steps.begin(), [](const auto& a, const auto& b) {
+        const bool grown = steps.size() >= mRows.size() &&
+                           std::equal(mRows.begin(), mRows.end(), steps.begin(), [](const auto& a, const auto& b) {
                                return a.number == b.number && a.time == b.time;
                            });
         if (!grown) {
             beginResetModel();
-            if (steps.empty() || mSteps.empty() || steps[0].time != mSteps[0].time) thumbnails.clear();
-            mSteps = steps;
+            if (steps.empty() || mRows.empty() || steps[0].time != mRows[0].time) thumbnails.clear();
+            mRows = steps;
             endResetModel();
-        } else if (steps.size() > mSteps.size()) {
-            beginInsertRows({}, int(mSteps.size()), int(steps.size()) - 1);
-            mSteps = steps;
+        } else if (steps.size() > mRows.size()) {
+            beginInsertRows({}, int(mRows.size()), int(steps.size()) - 1);
+            mRows = steps;
             endInsertRows();
         }
-        if (!mSteps.empty()) emit dataChanged(index(0), index(int(mSteps.size()) - 1));
+        if (!mRows.empty()) emit dataChanged(index(0), index(int(mRows.size()) - 1));
     }
 
 private:
     const Document& mDocument;
-    std::vector<History::Step> mSteps; ///< as they are shown
+    std::vector<History::Step> mRows; ///< as they are shown
 
 public:
     mutable StepThumbnails thumbnails;
