@@ -261,8 +261,11 @@ void ZPAppController::applicationWillTerminate()
 void ZPAppController::bringWindowToFront()
 {
     mWindow->show();
-    mWindow->raise();
-    mWindow->activateWindow();
+    // What asks keeps the keyboard: in the window behind it the keys would go nowhere.
+    QWidget* const asks = QApplication::activeModalWidget();
+    QWidget* const front = asks != nullptr ? asks : mWindow.get();
+    front->raise();
+    front->activateWindow();
 }
 
 void ZPAppController::openPath(const std::string& path)

@@ -210,7 +210,7 @@ bool answerAlert(const QString& button)
     return true;
 }
 
-bool modalWindowIsUp() { return QApplication::activeModalWidget() != nullptr; }
+bool modalWindowIsUp() { return QApplication::activeModalWidget() || QApplication::activePopupWidget(); }
 
 SilencedPanels::SilencedPanels() { ++silencers; }
 SilencedPanels::~SilencedPanels() { --silencers; }

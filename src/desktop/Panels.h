@@ -36,7 +36,7 @@ std::optional<AlertState> currentAlert();
 /// Presses a button of the front alert by its title. @return false when there is no such alert or button
 bool answerAlert(const QString& button);
 
-/// Whether a dialog or an alert keeps the rest of the program from the person's hands.
+/// Whether a dialog, an alert or an opened menu keeps the rest of the program from the person's hands.
 bool modalWindowIsUp();
 
 /// No alert is shown while one of these lives: for runs nobody watches.

@@ -4,7 +4,10 @@
 #include "desktop/Pasteboard.h"
 #include "support/AlertWatch.h"
 #include "support/ToolFixture.h"
+#include <QDialog>
+#include <QMenu>
 #include <QSignalSpy>
+#include <QTest>
 #include <new>
 
 using namespace zp;
@@ -220,6 +223,26 @@ TEST_F(Gate, RequestsFromOutsideWaitForTheButton)
     release(20, 20);
     EXPECT_EQ(order, "123");
     EXPECT_FALSE(document->requestsWait());
+}
+
+TEST_F(Gate, RequestsFromOutsideWaitForDialogsAndMenus)
+{
+    QDialog dialog;
+    dialog.setModal(true);
+    QMenu menu;
+    menu.addAction("An item");
+    const struct {
+        QWidget& widget;
+        std::function<void()> open;
+    } things[] = {{dialog, [&] { dialog.open(); }}, {menu, [&] { menu.popup({10, 10}); }}};
+    for (const auto& thing : things) {
+        bool ran = false;
+        thing.open();
+        EXPECT_FALSE(document->whenFree([&ran] { ran = true; }));
+        EXPECT_FALSE(ran);
+        thing.widget.close();
+        EXPECT_TRUE(QTest::qWaitFor([&ran] { return ran; }));
+    }
 }
 
 TEST_F(Gate, ARequestFromInsideACommandComesAfterIt)
