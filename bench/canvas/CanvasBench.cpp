@@ -7,6 +7,10 @@
 #include "codecs/ImageEncoder.h"
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/View.h"
 #include <QApplication>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>

@@ -7,6 +7,7 @@
 #include "app/CommandTable.h"
 #include "canvas/ZPCanvas.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScrollArea>

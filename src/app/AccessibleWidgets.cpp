@@ -6,6 +6,9 @@
 #include "canvas/ToolTable.h"
 #include "canvas/ZPCanvas.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Picture.h"
+#include "document/View.h"
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAccessibleWidget>

@@ -5,6 +5,7 @@
 #include "desktop/NeutralSlider.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Selection.h"
 #include "ui_Adjust.h"
 #include <QDialog>
 #include <array>

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The commands: what each needs, what it does with a floating piece, which step it leaves, and how it is reached.
 #include "app/CommandTable.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/View.h"
 #include "operations/Commands.h"
 
 namespace zp

@@ -6,6 +6,7 @@
 #include "codecs/ImageImporter.h"
 #include "desktop/Desktop.h"
 #include "document/Document.h"
+#include "document/Picture.h"
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QImage>

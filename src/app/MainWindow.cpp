@@ -17,6 +17,11 @@
 #include "desktop/ScreenProfile.h"
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/History.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/View.h"
 #include "ui_Main.h"
 #include "windows/HistoryPanel.h"
 #include <QButtonGroup>

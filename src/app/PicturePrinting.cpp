@@ -4,6 +4,7 @@
 #include "base/Folders.h"
 #include "desktop/Panels.h"
 #include "document/Document.h"
+#include "document/Picture.h"
 #include "operations/Files.h"
 #include <QCoreApplication>
 #include <QImage>

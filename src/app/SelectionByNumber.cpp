@@ -3,6 +3,9 @@
 #include "app/SelectionByNumber.h"
 #include "desktop/Panels.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialog>

@@ -2,6 +2,8 @@
 /// The chip's words and buttons.
 #include "app/SelectionChip.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Selection.h"
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>

@@ -10,6 +10,7 @@
 #include "desktop/Panels.h"
 #include "desktop/Pasteboard.h"
 #include "document/Document.h"
+#include "document/Picture.h"
 #include "operations/Files.h"
 #include "ui_Name.h"
 #include "ui_New.h"

@@ -7,6 +7,10 @@
 #include "desktop/KeyModifiers.h"
 #include "desktop/Pasteboard.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/View.h"
 #include "operations/Files.h"
 #include <QApplication>
 #include <QDrag>

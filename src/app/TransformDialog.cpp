@@ -5,6 +5,7 @@
 #include "base/Log.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Selection.h"
 #include "ui_Transform.h"
 #include <QDialog>
 #include <cmath>

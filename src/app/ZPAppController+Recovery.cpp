@@ -5,6 +5,7 @@
 #include "base/Folders.h"
 #include "desktop/Panels.h"
 #include "document/Document.h"
+#include "document/Shelf.h"
 #include "operations/Recovery.h"
 #include <QDateTime>
 #include <QLocale>

@@ -5,6 +5,9 @@
 #include "canvas/ToolTable.h"
 #include "desktop/KeyModifiers.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Selection.h"
+#include "document/View.h"
 #include "operations/FloatHandles.h"
 #include <QFile>
 #include <QGuiApplication>

@@ -5,6 +5,7 @@
 #include "canvas/ZPCanvas.h"
 #include "codecs/ScreenColours.h"
 #include "document/Document.h"
+#include "document/Picture.h"
 #include "drawing/AntsPainter.h"
 #include "drawing/ColourRows.h"
 #include <algorithm>

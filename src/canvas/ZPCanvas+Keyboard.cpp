@@ -6,6 +6,8 @@
 #include "canvas/ZPCanvas.h"
 #include "desktop/KeyModifiers.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Selection.h"
 #include <QKeyEvent>
 #include <QList>
 

@@ -4,6 +4,9 @@
 #include "canvas/ZPCanvas.h"
 #include "desktop/KeyModifiers.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Picture.h"
+#include "document/View.h"
 #include <QKeyEvent>
 #include <algorithm>
 #include <cmath>

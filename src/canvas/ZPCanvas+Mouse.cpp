@@ -3,6 +3,8 @@
 #include "canvas/ToolTable.h"
 #include "canvas/ZPCanvas.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/View.h"
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QCursor>

@@ -8,6 +8,10 @@
 #include "canvas/ToolTable.h"
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/View.h"
 #include "operations/TextToolHook.h"
 #include <QScrollBar>
 #include <algorithm>

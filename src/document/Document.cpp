@@ -4,6 +4,13 @@
 #include "base/PixelMemory.h"
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
+#include "document/Gesture.h"
+#include "document/History.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/Shelf.h"
+#include "document/View.h"
 
 namespace zp
 {
@@ -22,15 +29,40 @@ constexpr int kMessagePatience = 8000;
 
 } // namespace
 
+struct Document::Values {
+    Values(Document& document, std::uint32_t strokeCapacity)
+        : selection([this, &document] {
+              selection.advanceAnts();
+              emit document.antsMoved();
+          }),
+          gesture(std::make_unique<BrushStroke>(
+              strokeCapacity, [&document](Rect rect) { document.touchedByWorker(rect); },
+              [&document] { document.strokeEnded(); })),
+          history([&document] { emit document.stepsChanged(); },
+                  [&document](const QString& trouble) { document.notice(trouble); })
+    {
+    }
+    Picture picture;
+    Selection selection;
+    Gesture gesture;
+    Paint paint;
+    History history;
+    View view;
+    Shelf shelf;
+};
+
+Document::Document(std::span<const Command> commands) : Document(commands, BrushStroke::kCapacity) {}
+
 Document::Document(std::span<const Command> commands, std::uint32_t strokeCapacity)
     : mCommands(commands),
-      mSelection([this] {
-          mSelection.advanceAnts();
-          emit antsMoved();
-      }),
-      mGesture(std::make_unique<BrushStroke>(
-          strokeCapacity, [this](Rect rect) { touchedByWorker(rect); }, [this] { strokeEnded(); })),
-      mHistory([this] { emit stepsChanged(); }, [this](const QString& trouble) { notice(trouble); }),
+      mValues(std::make_unique<Values>(*this, strokeCapacity)),
+      mPicture(mValues->picture),
+      mSelection(mValues->selection),
+      mGesture(mValues->gesture),
+      mPaint(mValues->paint),
+      mHistory(mValues->history),
+      mView(mValues->view),
+      mShelf(mValues->shelf),
       mPaintedWake([this] {
           Rect rect;
           {
@@ -57,6 +89,26 @@ Document::~Document()
     mGesture.stroke().join();
     mHistory.waitForWriter();
 }
+
+bool Document::isModified() const
+{
+    const Floating* const piece = mSelection.floating();
+    return mPicture.bitmap() && (mHistory.isModified() || (piece && piece->isChanged()));
+}
+
+bool Document::anyWorkerRunning() const { return !mGesture.stroke().isDrawn() || mHistory.isBusy(); }
+
+bool Document::firstStepPending() const { return mHistory.firstStepPending(); }
+
+bool Document::strokeIsOpen() const { return mGesture.stroke().isOpen(); }
+
+void Document::samplePointer(Point point) { mGesture.stroke().push(point); }
+
+void Document::setOnScreen(bool on) { mView.setOnScreen(on); }
+
+void Document::setBrushShape(int index) { mPaint.setBrushShape(index); }
+
+void Document::setToleranceSetting(int setting) { mPaint.setToleranceSetting(setting); }
 
 std::string Document::infoText() const
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What is being edited, and the one gate that every change of it passes.
 #pragma once
+#include "base/Color.h"
 #include "base/Geometry.h"
 #include "desktop/MainThreadWake.h"
 #include "document/Command.h"
@@ -12,11 +13,16 @@
 #include <algorithm>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <span>
 
 namespace zp
 {
+
+class TileJournal;
+struct MarqueeRule;
+struct ToolActions;
 
 /// Six values with one owner each, and what paints. Anybody may look at them; whoever wants to change one is a
 /// command, a gesture or a late result, and gets an Edit from the gate:
@@ -35,7 +41,8 @@ class Document : public QObject
 public:
     /// @param commands        the table of all commands; must outlive the document
     /// @param strokeCapacity  points a brush stroke can have
-    explicit Document(std::span<const Command> commands, std::uint32_t strokeCapacity = BrushStroke::kCapacity);
+    Document(std::span<const Command> commands, std::uint32_t strokeCapacity);
+    explicit Document(std::span<const Command> commands); ///< with room for every stroke of a hand
     ~Document() override;
 
     const Picture& picture() const { return mPicture; }
@@ -46,11 +53,7 @@ public:
     const View& view() const { return mView; }
     const Shelf& shelf() const { return mShelf; }
     /// The picture is not the one that was opened or saved, or something floats over it that changes it.
-    bool isModified() const
-    {
-        return mPicture.bitmap() &&
-               (mHistory.isModified() || (mSelection.floating() && mSelection.floating()->isChanged()));
-    }
+    bool isModified() const;
     const UnusedFields& unusedFields() const { return mUnused; }
     /// The text of the selection's field: its box, or what the last event leaves there without a selection.
     std::string infoText() const;
@@ -105,7 +108,7 @@ public:
     /// back
     bool cancelGesture();
     /// Another position of the pointer while a brush stroke is open.
-    void samplePointer(Point point) { mGesture.stroke().push(point); }
+    void samplePointer(Point point);
     void chooseTool(Tool tool);
     /// The marquee and the open edge of a polygon as pointer and keys have them now.
     void followPointer();
@@ -124,7 +127,7 @@ public:
     void setRetina(bool on);
     void setChequered(bool on);
     void setGrid(bool on);
-    void setOnScreen(bool on) { mView.setOnScreen(on); }
+    void setOnScreen(bool on);
     void setPointer(Point point, bool inside);
     /// Another choice of colour, after which the one before can be swapped in.
     void setPaintColor(Color color);
@@ -134,14 +137,14 @@ public:
     void setBrushSize(float size);
     /// A step larger (+1) or smaller (-1): about a tenth, at least a pixel.
     void stepBrushSize(int step);
-    void setBrushShape(int index) { mPaint.setBrushShape(index); }
-    void setToleranceSetting(int setting) { mPaint.setToleranceSetting(setting); }
+    void setBrushShape(int index);
+    void setToleranceSetting(int setting);
 
     // ---- workers ---------------------------------------------------------------------------------------------------
 
     /// A stroke is painted or a step is being written.
-    bool anyWorkerRunning() const { return !mGesture.stroke().isDrawn() || mHistory.isBusy(); }
-    bool firstStepPending() const { return mHistory.firstStepPending(); }
+    bool anyWorkerRunning() const;
+    bool firstStepPending() const;
     /// Blocks until no thread works on the pixels.
     void waitForWorkers();
     /// Something outside computes for the document (a smart fill): scripts wait for it.
@@ -165,7 +168,7 @@ signals:
 
 private:
     friend class Edit;
-    bool strokeIsOpen() const { return mGesture.stroke().isOpen(); }
+    bool strokeIsOpen() const;
     void finishStroke();
     void strokeEnded();
     /// The tiles that were painted on since the press are as they were.
@@ -180,13 +183,16 @@ private:
     void touchedByWorker(Rect rect);
 
     std::span<const Command> mCommands;
-    Picture mPicture;
-    Selection mSelection;
-    Gesture mGesture;
-    Paint mPaint;
-    History mHistory;
-    View mView;
-    Shelf mShelf;
+    /// The values themselves: who looks at one of them includes that one's header and no other.
+    struct Values;
+    std::unique_ptr<Values> mValues;
+    Picture& mPicture;
+    Selection& mSelection;
+    Gesture& mGesture;
+    Paint& mPaint;
+    History& mHistory;
+    View& mView;
+    Shelf& mShelf;
     UnusedFields mUnused;
     std::string mLastFileError;
     Notices mNotices;

@@ -3,6 +3,14 @@
 #include "document/Edit.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/History.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/Shelf.h"
+#include "document/View.h"
+#include "undo/TileJournal.h"
 
 namespace zp
 {
@@ -25,6 +33,8 @@ BitmapView Edit::write(PixelBox box)
     wrote(box);
     return pixels;
 }
+
+BitmapView Edit::writeAll() { return write(mPicture.box()); }
 
 BitmapView Edit::mayWrite(PixelBox box)
 {

@@ -1,21 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The right to change the document, handed to a command or a gesture while the gate is open for it.
 #pragma once
+#include "base/BitmapView.h"
+#include "base/Geometry.h"
 #include "document/Command.h"
-#include "document/Gesture.h"
-#include "document/History.h"
-#include "document/Paint.h"
-#include "document/Picture.h"
-#include "document/Selection.h"
-#include "document/Shelf.h"
-#include "document/View.h"
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace zp
 {
 
+class BitmapRep;
 class Document;
+class Gesture;
+class History;
+class Paint;
+class Picture;
+class Selection;
+class Shelf;
+class View;
+enum class Settled;
+struct Replacement;
 
 /// Only the gate makes one. What is changed is noted here, so that the gate knows what to redisplay, whether a step is
 /// due, and what to tell the person; nothing that runs events of its own may be called while it is open.
@@ -36,7 +42,7 @@ public:
 
     /// The picture's bytes, of which those of @p box are about to be written. Empty without a picture.
     BitmapView write(PixelBox box);
-    BitmapView writeAll() { return write(mPicture.box()); }
+    BitmapView writeAll();
     /// The same in two halves, for work that knows only afterwards what it wrote inside @p box.
     BitmapView mayWrite(PixelBox box);
     void wrote(PixelBox box);

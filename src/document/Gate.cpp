@@ -5,6 +5,13 @@
 #include "desktop/Pasteboard.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/History.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/Shelf.h"
+#include "document/View.h"
+#include "undo/TileJournal.h"
 #include <new>
 #include <system_error>
 

@@ -5,6 +5,13 @@
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/History.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/View.h"
+#include "undo/TileJournal.h"
 #include <cmath>
 #include <new>
 #include <system_error>

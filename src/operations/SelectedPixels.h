@@ -2,6 +2,7 @@
 /// Work on what is selected that several operations share.
 #pragma once
 #include "document/Edit.h"
+#include "document/Selection.h"
 #include <cmath>
 
 namespace zp

@@ -2,6 +2,7 @@
 /// The alpha plane as a run-length file, and a byte at a time.
 #include "base/Folders.h"
 #include "base/Log.h"
+#include "document/Picture.h"
 #include "operations/AlphaBytes.h"
 #include "operations/Commands.h"
 #include "undo/AlphaRLE.h"

@@ -2,6 +2,11 @@
 /// The mouse with the brush: the press prepares the tip and starts the stroke, whose threads do the rest.
 #include "base/Folders.h"
 #include "codecs/ImageImporter.h"
+#include "document/Gesture.h"
+#include "document/History.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
 #include "operations/ToolActions.h"
 
 namespace zp

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The mouse with the clone stamp: pixels from elsewhere under a round tip.
 #include "desktop/KeyModifiers.h"
+#include "document/Gesture.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
 #include "drawing/BitmapContext.h"
 #include "operations/ToolActions.h"
 #include <cmath>

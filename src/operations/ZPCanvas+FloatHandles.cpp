@@ -2,6 +2,9 @@
 /// The handles of the floating piece.
 #include "desktop/KeyModifiers.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Selection.h"
+#include "document/View.h"
 #include "operations/FloatHandles.h"
 #include "selection/FloatingImage.h"
 #include <algorithm>

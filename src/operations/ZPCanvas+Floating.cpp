@@ -2,6 +2,10 @@
 /// The floating selection: lifted, scaled and turned, adjusted, anchored.
 #include "desktop/KeyModifiers.h"
 #include "desktop/Sounds.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/View.h"
 #include "operations/Commands.h"
 #include "operations/SelectedPixels.h"
 #include <QCoreApplication>

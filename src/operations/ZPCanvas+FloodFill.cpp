@@ -2,6 +2,10 @@
 /// The paint bucket's fill, the bucket and the eyedropper.
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
 #include "operations/Commands.h"
 #include "operations/SelectedPixels.h"
 #include "operations/ToolActions.h"

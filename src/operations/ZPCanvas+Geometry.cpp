@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Quarter turns, flips and crop of the whole picture.
+#include "document/Picture.h"
+#include "document/Selection.h"
 #include "imageops/RotateFlip.h"
 #include "operations/Commands.h"
 #include "selection/FloatingImage.h"

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The magic wand in its three forms: by tiles, for the tool; a pixel at a time; and painting what it selects.
+#include "document/Picture.h"
+#include "document/Selection.h"
 #include "operations/Commands.h"
 #include "operations/PixelAccess.h"
 #include "operations/SelectedPixels.h"

@@ -2,6 +2,7 @@
 /// A file becomes the picture, and the person learns what of it did not.
 #include "base/Folders.h"
 #include "document/Document.h"
+#include "document/Picture.h"
 #include "operations/Files.h"
 #include <QCoreApplication>
 #include <algorithm>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// One pixel by its word, and the two clean-ups of transparency.
+#include "document/Picture.h"
 #include "operations/Commands.h"
 #include "operations/PixelAccess.h"
 #include "selection/FloatingImage.h"

@@ -2,6 +2,10 @@
 /// Pictures that make room for another one, and come back.
 #include "codecs/FileNames.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/History.h"
+#include "document/Picture.h"
+#include "document/Shelf.h"
 #include "operations/Commands.h"
 #include "operations/Recovery.h"
 #include <QCoreApplication>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Another size for the image: resampled, or cut and extended around the place where it stays.
 #include "base/Log.h"
+#include "document/Picture.h"
 #include "drawing/Resample.h"
 #include "operations/Commands.h"
 #include <QCoreApplication>

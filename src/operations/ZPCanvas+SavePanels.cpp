@@ -3,6 +3,7 @@
 #include "base/Folders.h"
 #include "codecs/FileNames.h"
 #include "document/Document.h"
+#include "document/Picture.h"
 #include "operations/Files.h"
 
 namespace zp

@@ -4,6 +4,7 @@
 #include "base/Log.h"
 #include "codecs/PictureFacts.h"
 #include "document/Document.h"
+#include "document/Picture.h"
 #include "operations/Files.h"
 #include <QCoreApplication>
 

@@ -2,6 +2,8 @@
 /// Selections kept in files, to be used again in any image.
 #include "base/Folders.h"
 #include "base/Log.h"
+#include "document/Gesture.h"
+#include "document/Selection.h"
 #include "operations/Commands.h"
 #include "selection/SelectionFile.h"
 #include <QCoreApplication>

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The selection as a whole: all, none, inverse, back again, nudged; ending a polygon; and the mask by itself.
 #include "desktop/Sounds.h"
+#include "document/Gesture.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
 #include "operations/Commands.h"
 #include "operations/SelectedPixels.h"
 #include "selection/MaskOps.h"

@@ -4,6 +4,9 @@
 #include "desktop/KeyModifiers.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
 #include "operations/SelectedPixels.h"
 #include "operations/ToolActions.h"
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The command that opens the smart fill window on the selection.
 #include "document/Document.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
 #include "operations/Commands.h"
 #include "operations/SmartFillHook.h"
 #include <new>

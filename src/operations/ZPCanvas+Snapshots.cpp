@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Undo and redo, steps on demand.
 #include "document/Document.h"
+#include "document/History.h"
+#include "document/Picture.h"
 #include "operations/Commands.h"
 
 namespace zp

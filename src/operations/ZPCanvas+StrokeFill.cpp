@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The two commands that paint the selection's outline or its inside.
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/View.h"
 #include "drawing/BitmapContext.h"
 #include "operations/Commands.h"
 

@@ -2,6 +2,10 @@
 /// The canvas's side of the text tool: a text becomes the selection's outline.
 #include "base/NotificationCenter.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Paint.h"
+#include "document/Selection.h"
+#include "document/View.h"
 #include "operations/SelectedPixels.h"
 #include "operations/TextToolHook.h"
 #include "operations/ToolActions.h"

@@ -2,6 +2,7 @@
 /// A watermark drawn into the picture.
 #include "batch/WatermarkDrawing.h"
 #include "codecs/ImageImporter.h"
+#include "document/Picture.h"
 #include "operations/Commands.h"
 
 namespace zp

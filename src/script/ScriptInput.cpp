@@ -7,6 +7,8 @@
 #include "canvas/ZPCanvas.h"
 #include "desktop/KeyModifiers.h"
 #include "document/Document.h"
+#include "document/Picture.h"
+#include "document/View.h"
 #include "script/ScriptDriver.h"
 #include <QAction>
 #include <QApplication>

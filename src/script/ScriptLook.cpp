@@ -8,6 +8,12 @@
 #include "desktop/Pasteboard.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/History.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/View.h"
 #include "script/ScriptDriver.h"
 #include "windows/ZPFileManager.h"
 #include <QFile>

@@ -2,6 +2,7 @@
 /// Rows of steps, drawn.
 #include "windows/HistoryPanel.h"
 #include "document/Document.h"
+#include "document/History.h"
 #include "windows/StepThumbnails.h"
 #include <QAbstractListModel>
 #include <QCoreApplication>

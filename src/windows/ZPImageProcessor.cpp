@@ -12,6 +12,7 @@
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Picture.h"
 #include "operations/Files.h"
 #include "ui_ImageProcessor.h"
 #include <QApplication>

@@ -7,6 +7,8 @@
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
 #include "operations/SmartFillHook.h"
 #include "ui_SmartFill.h"
 #include "windows/FineProgressBar.h"

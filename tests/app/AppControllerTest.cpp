@@ -5,6 +5,7 @@
 #include "base/Folders.h"
 #include "canvas/ZPCanvas.h"
 #include "document/Document.h"
+#include "document/View.h"
 #include "support/AlertWatch.h"
 #include "support/Samples.h"
 #include <QAction>

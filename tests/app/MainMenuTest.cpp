@@ -8,6 +8,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "document/Document.h"
+#include "document/Paint.h"
 #include "support/TemporaryFolder.h"
 #include <QAction>
 #include <QApplication>

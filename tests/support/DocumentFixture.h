@@ -8,6 +8,13 @@
 #include "desktop/KeyModifiers.h"
 #include "desktop/Sounds.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/History.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "document/Shelf.h"
+#include "document/View.h"
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
