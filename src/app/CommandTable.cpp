@@ -183,7 +183,7 @@ constexpr Command kCommands[] = {
     onPicture(item("Edit", "Stroke", "Ctrl+Shift+F", "Draws the selection's outline in the paint colour",
                    paints("stroke:", "Stroke", Selected, kSettle, stroke))),
     item("Edit", "Smart Fill…", "Ctrl+Alt+F", "Fills the selection from its surroundings",
-         settlesAndSelects("smartFill:", smartFill)),
+         selects("smartFill:", Selected, smartFill)),
     line("Edit"),
     onPicture(item("Edit", "Transform…", "Ctrl+T", "Scales and rotates the selected pixels",
                    shell("transform:", PictureThere | Selected))),

@@ -9,6 +9,7 @@
 #include "document/Document.h"
 #include "document/Paint.h"
 #include "document/Picture.h"
+#include "operations/Files.h"
 #include "operations/SmartFillHook.h"
 #include "ui_SmartFill.h"
 #include "windows/FineProgressBar.h"
@@ -158,7 +159,9 @@ void ZPSmartFill::run()
                              mUi->mFasterCheckbox->isChecked());
     try {
         const ConstMaskView mask{mMaskBytes.data(), mMaskBox.width(), mMaskBox.height(), mMaskBox.width()};
-        run.picture = fetchSmartFillPicture(picture.pixels(), mask, run.area, {mMaskBox.x0, mMaskBox.y0});
+        // What floats is filled from as it is seen; it becomes part of the picture in the result's own step.
+        const std::shared_ptr<const BitmapRep> shown = pictureAsShown(*mDocument);
+        run.picture = fetchSmartFillPicture(shown->view(), mask, run.area, {mMaskBox.x0, mMaskBox.y0});
         mCalcThread = std::thread([this, &run] { calcThread(run); });
     } catch (const std::bad_alloc&) {
         run.outOfMemory = true;

@@ -277,9 +277,25 @@ INSTANTIATE_TEST_SUITE_P(
                     Settling{"Bucket", {"key 7", "press 50 50", "release 50 50"}, 3, 3},
                     Settling{"Flip", {"menu flipH:"}, 95, 5}, Settling{"Turn", {"menu rotateCW:"}, 75, 5},
                     Settling{"Resize", {"send setImageSize:scale: 200 160 0"}, 5, 5},
-                    Settling{"Crop", {"menu cropToSelection:"}, 5, 5},
-                    Settling{"SmartFill", {"menu smartFill:", "click closeMe:"}, 3, 3}),
+                    Settling{"Crop", {"menu cropToSelection:"}, 5, 5}),
     [](const auto& of) { return std::string(of.param.name); });
+
+TEST_F(Gate, ASmartFillAnchorsWhatFloatsInItsOwnStep)
+{
+    copyGreen();
+    const QByteArray white = picture();
+    play({"menu paste:"});
+    const int before = position();
+    play({"menu smartFill:", "click closeMe:"});
+    EXPECT_TRUE(floats()) << "nothing was filled";
+    EXPECT_EQ(position(), before);
+    play({"menu smartFill:", "click run:", "wait"});
+    EXPECT_FALSE(floats());
+    EXPECT_EQ(position(), before + 1);
+    EXPECT_EQ(run.pixel(3, 3), kWhite) << "from the surroundings";
+    play({"menu undo:", "wait"});
+    EXPECT_EQ(picture(), white);
+}
 
 TEST_F(Gate, DeleteAndCutOfAPieceThatWasPastedLeaveThePictureBelow)
 {
