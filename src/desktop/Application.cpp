@@ -4,6 +4,8 @@
 #include "base/Log.h"
 #include "desktop/Panels.h"
 #include <QTimer>
+#include <QWidget>
+#include <QWindow>
 #include <exception>
 
 namespace zp
@@ -32,6 +34,19 @@ void sayThatMemoryRanOut()
 }
 
 } // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv)
+{
+    // Window managers let a click or a task bar activate the window behind a dialog, where every key would be lost.
+    connect(this, &QGuiApplication::focusWindowChanged, this, [](const QWindow* window) {
+        QWidget* const asks = activeModalWidget();
+        if (!window || !asks || activePopupWidget() || window->modality() != Qt::NonModal) return;
+        for (const QWindow* w = window; w; w = w->transientParent()) // itself, or what it opened
+            if (w == asks->windowHandle()) return;
+        asks->raise();
+        asks->activateWindow();
+    });
+}
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {

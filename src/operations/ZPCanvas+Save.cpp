@@ -137,6 +137,7 @@ bool save(Edit& edit, const std::string& path, SaveFormat format, int quality)
     if (!writeAndTell(edit, *shown, shown->properties, path, format, quality)) return false;
     edit.picture().setJPEGQuality(path, quality);
     edit.history().noteSaved(edit.picture());
+    if (path == edit.picture().path()) edit.document().pictureIsAnother(); // the file holds what the screen shows now
     return true;
 }
 

@@ -136,6 +136,8 @@ TEST_F(FileSession, TheBarSaysWhatTheFileHolds)
     EXPECT_EQ(opened("tiff-pillow/multipage.tiff", "pages.tiff"), "The file has 3 pages; this is the first.");
     EXPECT_EQ(notice()["buttons"].toArray(), QJsonArray{"Close"});
     EXPECT_EQ(opened("photos/tahoe-gps.jpg", "photo.jpg"), "Save writes quality 70; this file has 85.");
+    run.play({"menu save:", "wait"});
+    EXPECT_TRUE(run.must("notice")["notice"].isNull()) << "the file has quality 70 now";
     EXPECT_EQ(opened("made/valid/base.jpg", "album.jpeg"), "Save does not write .jpeg files.");
     EXPECT_EQ(notice()["buttons"].toArray(), (QJsonArray{"Use Save as JPEG…", "Close"}));
     run.must("choose " + run.file("album.jpeg"));
