@@ -25,9 +25,8 @@ float View::wholeZoom(Size picture) const
 void View::begin(Size picture)
 {
     if (mRoom.width < 1 || mRoom.height < 1 || picture.width < 1 || picture.height < 1) return;
-    const float ownPixels = 1, whole = wholeZoom(picture);
-    mFit = whole < ownPixels ? Fit::Shrink : Fit::No;
-    mZoom = std::min(whole, ownPixels);
+    mFit = Fit::Shrink;
+    refit(picture);
 }
 
 bool View::refit(Size picture)

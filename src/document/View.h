@@ -14,7 +14,7 @@ inline constexpr std::array<float, 9> kZoomLevels{0.0625f, 0.125f, 0.25f, 0.5f, 
 /// Whether the zoom follows the room that the window has for the picture.
 enum class Fit {
     No,
-    Shrink, ///< the whole picture, but not larger than its own pixels: how a large one opens
+    Shrink, ///< the whole picture, but not larger than its own pixels: how one opens
     Whole,  ///< the whole picture as large as it goes: when a person asked for it
 };
 
@@ -27,7 +27,8 @@ public:
     bool isRetina() const { return m2xRetina; }
     /// The zoom, halved in 2x retina mode.
     float effectiveZoom() const { return m2xRetina ? mZoom * 0.5f : mZoom; }
-    Fit fit() const { return mFit; }
+    /// A picture that opened at its own pixels and has the room for them counts as not fitted.
+    Fit fit() const { return mFit == Fit::Shrink && mZoom >= 1 ? Fit::No : mFit; }
     Size room() const { return mRoom; } ///< of the window for the picture, in screen points; zero when there is none
     /// The level nearest to the zoom, by ratio.
     int nearestLevel() const;
@@ -50,7 +51,8 @@ public:
     void setZoom(float factor) { mZoom = factor, mFit = Fit::No; }
     void setFit(Fit fit) { mFit = fit; }
     void setRoom(Size room) { mRoom = room; }
-    /// Another document: one larger than the room is fitted, any other shows its own pixels. Without a room all stays.
+    /// Another document: one larger than the room is fitted, any other shows its own pixels as long as the room
+    /// suffices. Without a room all stays.
     void begin(Size picture);
     /// The zoom that the fit asks for, when there is one. @return whether it is another now
     bool refit(Size picture);

@@ -120,6 +120,23 @@ TEST(View, AFitFollowsTheRoomUntilAZoomIsChosen)
     EXPECT_EQ(view.zoom(), 2);
 }
 
+TEST(View, ASmallPictureIsFittedWhileTheRoomIsSmaller)
+{
+    const Size picture{400, 200};
+    View view;
+    view.setRoom({800.5f, 600.5f});
+    view.begin(picture);
+    EXPECT_EQ(view.fit(), Fit::No);
+    view.setRoom({200.5f, 600.5f}); // a dock was opened beside it
+    EXPECT_TRUE(view.refit(picture));
+    EXPECT_FLOAT_EQ(view.zoom(), 0.5f);
+    EXPECT_EQ(view.fit(), Fit::Shrink);
+    view.setRoom({800.5f, 600.5f});
+    EXPECT_TRUE(view.refit(picture));
+    EXPECT_EQ(view.zoom(), 1);
+    EXPECT_EQ(view.fit(), Fit::No);
+}
+
 TEST(View, RetinaModeDoesNotMoveTheLevels)
 {
     View view;
