@@ -24,12 +24,12 @@ constexpr int kPatience = 10'000;
 const std::set<std::string> kMaskWriters{
     "inverseMask", "clearSelectionMask",        "selectionPathToMask", "clearSelectionMaskINVERT",
     "magicWand:",  "selectionPathToMaskINVERT", "smartFill:",          "magicWandOver:"};
-/// Rows that end the program, open windows of their own program, or wait for a person.
-const std::set<std::string> kLeftOut{
-    "terminate:",    "openWithPreview:", "runPageLayout:", "about:",       "imageProcessor:", "newDocument:",
-    "openDocument:", "quickSave:",       "saveAsTIFF:",    "saveAsJPEG:",  "saveAsPNG:",      "help:",
-    "retina:",       "prefs:",           "fileManager:",   "showWindows:", "transform:",      "adjust:",
-    "resize:",       "saveSelection:",   "loadSelection:", "save:"};
+/// Rows that open a window or a panel and wait for a person, or end the program: they have no operation. And what
+/// writes files where the person's are.
+bool isLeftOut(const Command& row)
+{
+    return (!row.run && row.effect == Effect::Window) || row.action == std::string("save:");
+}
 
 /// Operations that are told to break a rule that is checked: no steps from here on, alpha or a tint by itself.
 const std::set<std::string> kRuleBreakers{"dontTakeSnapshot", "makeSelection", "readAlphaRLEFile:"};
@@ -136,8 +136,7 @@ protected:
     {
         std::vector<const char*> actions;
         for (const Command& row : commandTable())
-            if (row.menu && *row.action && *row.action != '|' && !kLeftOut.contains(row.action))
-                actions.push_back(row.action);
+            if (row.menu && *row.action && *row.action != '|' && !isLeftOut(row)) actions.push_back(row.action);
         return actions[std::size_t(upTo(int(actions.size())))];
     }
     QString someOperation()
