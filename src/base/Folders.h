@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Where things are: home, temporary files, the program's bundle; and the few file operations the product asks for.
+/// Where things are: home, temporary files, the program's bundle; and the few file operations that are needed.
 ///
 /// Paths are the file system's own bytes, never converted: names that are not UTF-8 work. Functions of this header use
 /// no Qt and may be called from any thread; none throws.

@@ -25,7 +25,7 @@ std::optional<std::uint32_t> scriptedKeyModifiers();
 /// Bits that are held by switches on screen, or-ed to the keyboard's. Main thread.
 void setSwitchedKeyModifiers(std::uint32_t bits);
 std::uint32_t switchedKeyModifiers();
-/// What Qt's modifier flags mean in the product's roles, by the preferences. Main thread.
+/// What Qt's modifier flags mean in this program's roles, by the preferences. Main thread.
 std::uint32_t keyModifiersFromQt(int qtModifiers);
 /// Which key plays which role: each of "alt", "ctrl", "meta", stored in the preferences. Main thread.
 void setKeyRoles(const char* option, const char* control, const char* command);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The probes: the kernel's release and the processor, in the words of the product's gates.
+/// The probes: the kernel's release and the processor, as the commands' own tests of them read.
 #include "desktop/SystemProbes.h"
 #include "base/Log.h"
 #include <bit>

@@ -8,7 +8,7 @@
 namespace zp
 {
 
-/// The system version as a number of binary coded decimals (0x1050, 0x1060, ...) that the product's gates compare with.
+/// The system version as a number of binary coded decimals (0x1050, 0x1060, ...) that version tests compare with.
 /// Linux kernels at or above the oldest one supported answer 0x1060; older ones 0x1040.
 inline constexpr std::uint32_t kVersionLeopard = 0x1050;
 inline constexpr std::uint32_t kVersionSnowLeopard = 0x1060;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// What the product does to the document, by subject: the operations behind the rows of the command table. Each runs
+/// What can be done to the document, by subject: the operations behind the rows of the command table. Each runs
 /// inside the gate; what it needs beforehand and what follows it says its row.
 #pragma once
 #include "document/Edit.h"

@@ -26,7 +26,7 @@ void dropWithSound(Edit& edit, bool reselectable)
     playSound("Frog");
 }
 
-/// What a new shape leaves behind: its mask, made where the product has always made it.
+/// What a new shape leaves behind: its mask.
 void renderMask(Edit& edit)
 {
     edit.selection().rawMask().clear();
