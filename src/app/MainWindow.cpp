@@ -84,6 +84,7 @@ MainWindow::MainWindow(Document& document)
         if (performAction) performAction(action);
     });
     mStatus = new StatusLine(*statusBar(), mDocument);
+    mStatus->setLook([this](Color color) { return mCanvas->asShown(color); });
     // One height for every tool: the picture must not jump when the brush's tips come.
     mUi->mBrushPopUp->setMaximumHeight(mUi->mZoomPopUp->sizeHint().height());
     mUi->optionsBar->setFixedHeight(mUi->mZoomPopUp->sizeHint().height() + 13);
@@ -121,6 +122,7 @@ MainWindow::~MainWindow() = default;
 void MainWindow::setUpHistory()
 {
     mHistoryPanel = new HistoryPanel(mDocument, this);
+    mHistoryPanel->setLook([this](QImage image) { return mCanvas->asShown(std::move(image)); });
     addDockWidget(Qt::RightDockWidgetArea, mHistoryPanel);
     mHistoryPanel->hide();
 }

@@ -215,7 +215,8 @@ void StatusLine::showPointer()
     if (color.isValid()) {
         QPainter painter(&swatch);
         painter.setPen(mSwatch->palette().color(QPalette::Mid));
-        painter.setBrush(color);
+        const Color shown = mLook({float(color.redF()), float(color.greenF()), float(color.blueF()), 1});
+        painter.setBrush(QColor::fromRgbF(shown.red, shown.green, shown.blue, float(color.alphaF())));
         painter.drawRect(QRectF(0.5, 0.5, kSwatch - 1, kSwatch - 1));
     }
     mSwatch->setPixmap(swatch);

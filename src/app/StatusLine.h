@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The line below the picture, in words for people: selection, hint or message, pointer, picture and zoom.
 #pragma once
+#include "base/Color.h"
 #include "base/Geometry.h"
 #include <QObject>
+#include <functional>
 
 class ElidedLabel;
 class QLabel;
@@ -26,6 +28,8 @@ class StatusLine : public QObject
 
 public:
     StatusLine(QStatusBar& bar, zp::Document& document);
+    /// How the picture's colours look on the screen; as they are without it.
+    void setLook(std::function<zp::Color(zp::Color)> look) { mLook = std::move(look); }
     void show();
     void showPointer();
     /// What the pointer rests on explains itself; empty: the tool's hint again.
@@ -42,4 +46,5 @@ private:
     QLabel *mInfoField, *mSelectionField, *mSwatch, *mPointerField, *mImageField;
     ElidedLabel* mMiddle;
     QString mPassingHint;
+    std::function<zp::Color(zp::Color)> mLook = [](zp::Color color) { return color; };
 };

@@ -83,3 +83,16 @@ Color ZPCanvas::asShown(Color color)
     const auto part = [word](unsigned shift) { return float(word >> shift & 255u) / 255; };
     return {part(16), part(8), part(0), color.alpha};
 }
+
+QImage ZPCanvas::asShown(QImage image)
+{
+    const ScreenColours* const conversion = colours();
+    if (!conversion || image.isNull()) return image;
+    const QImage alpha = image.hasAlphaChannel() ? image.convertToFormat(QImage::Format_Alpha8) : QImage();
+    image = image.convertToFormat(QImage::Format_RGB32); // its words are those of the screen
+    if (image.isNull()) return image;
+    convert(*conversion, reinterpret_cast<std::uint32_t*>(image.bits()), image.bytesPerLine() / 4, image.width(),
+            image.height());
+    if (!alpha.isNull()) image.setAlphaChannel(alpha);
+    return image;
+}

@@ -11,6 +11,7 @@
 #include <vector>
 
 class QPainter;
+class QImage;
 namespace zp
 {
 class Document;
@@ -51,6 +52,8 @@ public:
     void setScreenProfile(std::vector<std::uint8_t> profile);
     /// A colour of the picture as it looks on that screen, in the screen's own numbers.
     zp::Color asShown(zp::Color color);
+    /// A small picture of the picture, likewise.
+    QImage asShown(QImage image);
 
     // ---- zoom (ZPCanvas.cpp) --------------------------------------------------------------------------------------
     /// As the zoom pop-up asks for it: @p percent as the title of its item says.

@@ -70,7 +70,8 @@ public:
                 return HistoryPanel::tr("Go to this step");
             }
         case Qt::DecorationRole:
-            return thumbnails.of(step.number, history.kept(step.number) == History::Kept::BeingWritten ? 0 : step.time);
+            return look(
+                thumbnails.of(step.number, history.kept(step.number) == History::Kept::BeingWritten ? 0 : step.time));
         case Qt::AccessibleTextRole:
             return data(at, Qt::DisplayRole).toString() + ", " + data(at, TimeRole).toString();
         case UndoneRole:
@@ -114,6 +115,7 @@ private:
 
 public:
     mutable StepThumbnails thumbnails;
+    std::function<QImage(QImage)> look = [](QImage image) { return image; };
 };
 
 class HistoryPanel::Delegate : public QStyledItemDelegate
@@ -194,6 +196,8 @@ HistoryPanel::HistoryPanel(Document& document, QWidget* parent)
 }
 
 HistoryPanel::~HistoryPanel() { delete mList; } // before the model that it shows
+
+void HistoryPanel::setLook(std::function<QImage(QImage)> look) { mModel->look = std::move(look); }
 
 bool HistoryPanel::isComplete() const { return mModel->thumbnails.isIdle(); }
 

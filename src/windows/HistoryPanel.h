@@ -2,6 +2,8 @@
 /// The list of steps beside the picture.
 #pragma once
 #include <QDockWidget>
+#include <QImage>
+#include <functional>
 #include <memory>
 
 class QListView;
@@ -22,6 +24,8 @@ public:
     /// @param document  must outlive the panel
     explicit HistoryPanel(zp::Document& document, QWidget* parent = nullptr);
     ~HistoryPanel() override;
+    /// How small pictures look on the screen; as they are without it.
+    void setLook(std::function<QImage(QImage)> look);
     /// Whether no small picture is still to be made.
     bool isComplete() const;
 

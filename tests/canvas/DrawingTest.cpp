@@ -64,6 +64,12 @@ TEST_F(Drawing, APictureLooksAsItsProfileSays)
                    int(std::lround(asShown.blue * 255))),
               seen);
     EXPECT_EQ(asShown.alpha, 0.5f);
+    QImage small(3, 2, QImage::Format_ARGB32);
+    small.fill(qRgba(187, 61, 52, 255));
+    small.setPixel(1, 1, qRgba(187, 61, 52, 128));
+    const QImage smallShown = canvas->asShown(small);
+    EXPECT_EQ(smallShown.pixel(0, 0), seen);
+    EXPECT_EQ(qAlpha(smallShown.pixel(1, 1)), 128) << "what is clear stays so";
     // On a screen with those very primaries nothing has to be done.
     canvas->setScreenProfile(wide);
     EXPECT_EQ(shown().pixel(3, 2), plain);
