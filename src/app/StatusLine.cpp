@@ -71,7 +71,7 @@ const Unit& unitInForce()
     return kUnits[ZPPrefs::unit()];
 }
 
-QColor plainColor(const std::uint8_t* pixel)
+QColor plainColor(const std::array<std::uint8_t, 4>& pixel)
 {
     const int alpha = pixel[0];
     const auto plain = [alpha](int c) { return alpha ? std::min(255, (c * 255 + alpha / 2) / alpha) : 0; };
@@ -192,8 +192,8 @@ void StatusLine::show()
 
 void StatusLine::showPointer()
 {
-    const ConstBitmapView pixels = mDocument.picture().pixels();
-    if (pixels.isEmpty()) {
+    const Picture& picture = mDocument.picture();
+    if (!picture.isLoaded()) {
         mPointerField->clear();
         mSwatch->clear();
         return;
@@ -202,8 +202,8 @@ void StatusLine::showPointer()
     const int x = int(std::floor(p.x)), y = int(std::floor(p.y));
     QString text = QString("%1, %2").arg(x).arg(y);
     QColor color;
-    if (pixels.box().contains(x, y)) {
-        color = plainColor(pixels.pixel(x, y));
+    if (picture.box().contains(x, y)) {
+        color = plainColor(picture.pixel(x, y));
         text += "   " + color.name();
         if (color.alpha() < 255) text += QString(" %1 %").arg(qRound(color.alpha() / 2.55));
     }

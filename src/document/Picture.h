@@ -6,6 +6,7 @@
 #include "base/GWorld.h"
 #include "base/Image.h"
 #include "codecs/PictureFacts.h"
+#include <array>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -61,6 +62,13 @@ public:
     /// Null without a picture.
     std::shared_ptr<const BitmapRep> bitmap() const { return mBitmapRep; }
     ConstBitmapView pixels() const { return mBitmapRep ? std::as_const(*mBitmapRep).view() : ConstBitmapView{}; }
+    /// The bytes A, R, G, B of a pixel inside the picture, also while a stroke is being painted.
+    std::array<std::uint8_t, 4> pixel(int x, int y) const
+    {
+        const std::lock_guard lock(mPixelLock);
+        const std::uint8_t* const bytes = pixels().pixel(x, y);
+        return {bytes[0], bytes[1], bytes[2], bytes[3]};
+    }
     const Image& image() const { return *mImage; }
     const std::uint8_t* bitmapPointer() const { return mBitmap; } ///< as the last rebuild stored it
     const std::optional<GWorld>& gworld() const { return mGWorld; }

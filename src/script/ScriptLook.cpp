@@ -161,7 +161,7 @@ void ScriptDriver::addLookCommands()
     });
     addImmediate("pixel", [this, pixelPosition](const Words& w) {
         const PixelPoint p = pixelPosition(w);
-        const std::uint8_t* b = mDocument.picture().pixels().pixel(p.x, p.y);
+        const auto b = mDocument.picture().pixel(p.x, p.y);
         return QJsonObject{{"argb", QJsonArray{b[0], b[1], b[2], b[3]}}};
     });
     addImmediate("mask", [this, pixelPosition](const Words& w) {

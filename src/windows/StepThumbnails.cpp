@@ -47,7 +47,8 @@ try {
 
 } // namespace
 
-StepThumbnails::StepThumbnails(int side, QObject* parent) : QObject(parent), mSide(side)
+StepThumbnails::StepThumbnails(int side, QObject* parent)
+    : QObject(parent), mSide(side), mReady([this] { emit made(); })
 {
     mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
 }
@@ -90,6 +91,6 @@ void StepThumbnails::work(const std::stop_token& stop)
         lock.lock();
         mMade[wish] = std::move(image);
         mWorking = false;
-        if (mWishes.empty()) QMetaObject::invokeMethod(this, &StepThumbnails::made, Qt::QueuedConnection);
+        if (mWishes.empty()) mReady.wake();
     }
 }

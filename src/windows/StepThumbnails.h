@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Small pictures of steps, made in the background.
 #pragma once
+#include "desktop/MainThreadWake.h"
 #include <QImage>
 #include <QObject>
 #include <condition_variable>
@@ -43,5 +44,6 @@ private:
     std::map<Wish, QImage> mMade; ///< null: it could not be made
     std::vector<Wish> mWishes;    ///< the latest last, which is made first
     bool mWorking = false;
+    zp::MainThreadWake mReady;
     std::jthread mWorker; ///< after all that it uses
 };
