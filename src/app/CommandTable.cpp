@@ -184,6 +184,8 @@ constexpr Command kCommands[] = {
                    paints("stroke:", "Stroke", Selected, kSettle, stroke))),
     item("Edit", "Smart Fill…", "Ctrl+Alt+F", "Fills the selection from its surroundings",
          selects("smartFill:", Selected, smartFill)),
+    item("Edit", "Remove Brush", "Ctrl+Alt+R", "Paint over a thing and let go: it is filled from its surroundings",
+         looks("removeBrush:", PictureThere)),
     line("Edit"),
     onPicture(item("Edit", "Transform…", "Ctrl+T", "Scales and rotates the selected pixels",
                    shell("transform:", PictureThere | Selected))),
