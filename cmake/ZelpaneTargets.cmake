@@ -12,6 +12,11 @@ else() # the fuzzers' compiler knows some of these and remarks on other things
 endif()
 if(ZP_FUZZING)
     add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    # Kernels for one processor only: with the sanitizers the compiler needs minutes for each of them.
+    add_compile_definitions(HWY_COMPILE_ONLY_STATIC)
+    if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
+        add_compile_options(-march=x86-64-v3)
+    endif()
     add_link_options(-fsanitize=address,undefined)
     add_compile_definitions(ZP_SANITIZED)
 endif()

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Shared by ./run, ./test and ./package: the packages that are missing, then the build. To be sourced, with $root set; or to be
-# called with parts of the list (run, test, long, arm64, bench) to install those. Everything it says goes to standard error.
+# called with parts of the list (run, test, long, arm64, fuzz, bench) to install those. Everything it says goes to standard error.
 
 # packages_of PART...: the packages listed under those headings. A package with marks behind its name belongs to these parts instead.
 packages_of() {
@@ -49,6 +49,6 @@ build() {
 if [ "${BASH_SOURCE[0]}" = "$0" ]; then
     set -euo pipefail
     root=$(cd "$(dirname "$0")/.." && pwd)
-    [ $# -gt 0 ] || { echo "usage: $0 PART... (run, test, long, arm64, bench)" >&2 && exit 2; }
+    [ $# -gt 0 ] || { echo "usage: $0 PART... (run, test, long, arm64, fuzz, bench)" >&2 && exit 2; }
     install_missing_packages "$@"
 fi

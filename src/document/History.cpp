@@ -200,6 +200,10 @@ void History::takeResults()
                     .arg(why));
         else if (!result.pair)
             say(tr("The last change could not be kept as a step of its own (%1).").arg(why));
+        else if (!result.exact && !why.isEmpty())
+            say(tr("The very pixels of the last change could not be kept (%1). Undo brings them back from a JPEG copy: "
+                   "colours may differ a little.")
+                    .arg(why));
         else if (store().place() == SnapshotStore::Place::Runtime)
             say(tr("There is no place for undo steps among the temporary files. A private folder of this session "
                    "serves instead."));
@@ -280,22 +284,25 @@ bool History::goTo(std::int32_t number, Picture& picture, const Resize& resize)
 }
 
 bool History::takeBack(Picture& picture, const Resize& resize)
-{
+try {
     waitForWriter();
     return mUndoRedoIndex >= 0 && restore(mUndoRedoIndex, picture, resize);
+} catch (const std::bad_alloc&) {
+    return false; // whoever takes back has said already that memory is short
 }
 
 bool History::restore(std::int32_t number, Picture& picture, const Resize& resize)
-try {
+{
     const auto start = Clock::now();
+    const bool hasExact = mExact->gridOf(number).has_value();
     const bool exact = restoreExact(number, picture, resize);
     if (!exact && !restoreWholePair(number, picture, resize)) return false;
     picture.restored();
+    if (hasExact && !exact)
+        mTrouble(tr("The very pixels of this step could not be read. What is shown comes from its JPEG copy: colours "
+                    "may differ a little."));
     logLine("restoreSnapshot: %s: %f", exact ? "exact" : "JPG+RLE", secondsSince(start));
     return true;
-} catch (const std::bad_alloc&) {
-    say(tr("There is not enough memory."));
-    return false;
 }
 
 bool History::restoreExact(std::int32_t number, Picture& picture, const Resize& resize)
@@ -357,7 +364,8 @@ void History::restorePair(std::int32_t number, Picture& picture, const Resize& r
     bool decoded = false;
     if (size) {
         const auto pixels = BitmapRep::createUninitialized(size->width, size->height);
-        decoded = pixels && decodeSnapshotJPEG(*colour, pixels->view());
+        if (!pixels) throw std::bad_alloc();
+        decoded = decodeSnapshotJPEG(*colour, pixels->view());
         if (decoded) put(pixels, picture, resize);
     }
     logLine("restoreSnapshot: JPG: %f", secondsSince(start));

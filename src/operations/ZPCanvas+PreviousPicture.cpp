@@ -97,6 +97,9 @@ Outcome recover(Document& document, const LeftPicture& left)
         shelvePicture(edit);
         edit.shelf().opened();
         recovered = show(edit, std::move(shelved));
+        if (!recovered)
+            edit.alert(QCoreApplication::translate("Files", "The picture could not be brought back."),
+                       QCoreApplication::translate("Files", "Its steps could not be read."));
     });
     return recovered ? outcome : Outcome{Outcome::Refused, {}};
 }

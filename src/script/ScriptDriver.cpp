@@ -24,6 +24,7 @@ namespace
 {
 
 constexpr int kPollMilliseconds = 2;
+constexpr const char* kNoMemory = "There is not enough memory.";
 /// How long a closed modal window's loop may take to unwind before the next command goes on without it.
 constexpr int kUnwindMilliseconds = 5000;
 
@@ -134,6 +135,8 @@ void ScriptDriver::execute(const std::string& text)
         command->second(*words);
     } catch (const Failure& failure) {
         fail(failure.error);
+    } catch (const std::bad_alloc&) {
+        fail(kNoMemory);
     }
 }
 
@@ -193,6 +196,9 @@ void ScriptDriver::startWork(std::function<QJsonObject()> work)
             result = work();
         } catch (const Failure& failure) {
             error = failure.error;
+        } catch (const std::exception&) { // the program's own boundary says so to people
+            if (number == mCommandNumber) mWorkError = kNoMemory;
+            throw;
         }
         // A command that stood in a modal loop was answered long ago.
         if (number != mCommandNumber) return;
@@ -204,7 +210,10 @@ void ScriptDriver::startWork(std::function<QJsonObject()> work)
 
 void ScriptDriver::poll(const std::shared_ptr<std::function<bool()>>& look)
 {
-    if ((*look)()) return;
+    try {
+        if ((*look)()) return;
+    } catch (const std::bad_alloc&) { // looked at again: a command has its answer whatever runs out meanwhile
+    }
     QTimer::singleShot(kPollMilliseconds, this, [this, look] { poll(look); });
 }
 

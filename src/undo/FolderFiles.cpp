@@ -152,7 +152,7 @@ bool writeFile(int handle, const std::string& name, std::span<const std::uint8_t
 
 bool replaceFile(int handle, const std::string& name, std::span<const std::uint8_t> bytes, std::string& error)
 {
-    const std::string beside = "." + name + ".part";
+    const std::string beside = (name.starts_with('.') ? name : "." + name) + ".part";
     if (!writeFile(handle, beside, bytes, error)) return false;
     if (renameat(handle, beside.c_str(), handle, name.c_str()) == 0) return true;
     error = std::strerror(errno);

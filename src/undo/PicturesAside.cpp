@@ -89,6 +89,9 @@ bool bringBack(int folder, int number)
 {
     if (!noteMove(folder, 'i', number)) return false;
     const bool moved = move(folder, 'i', number);
+    // What has come goes back: the picture's steps are never in two places. Where even that fails, the note stays, and
+    // whoever takes this folder over ends the move.
+    if (!moved && (!noteMove(folder, 'o', number) || !move(folder, 'o', number))) return false;
     unlinkat(folder, kMoveName, 0);
     return moved;
 }

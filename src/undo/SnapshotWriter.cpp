@@ -164,8 +164,10 @@ WrittenStep SnapshotWriter::write(StepJob& job)
         try {
             result.exact = job.exact->write(job.number, job.parent, *job.capture, job.changed);
         } catch (const std::bad_alloc&) {
+            if (result.pair) result.error = "not enough memory";
             logLine("takeSnapshot: not enough memory for the exact pixels");
         } catch (const std::system_error& error) {
+            if (result.pair) result.error = error.what();
             logLine("takeSnapshot: %s", error.what());
         }
         job.capture->abandon();

@@ -37,7 +37,7 @@ struct StepJob {
 struct WrittenStep {
     std::int32_t number = -1;
     bool pair = false, exact = false;
-    std::string error; ///< why there is no pair
+    std::string error; ///< why there is no pair; beside a pair, why the exact pixels are lost
 };
 
 /// Any thread may call; each call is whole.

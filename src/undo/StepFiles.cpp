@@ -46,7 +46,7 @@ std::string stepNoteName(std::int32_t number) { return ".C_" + std::to_string(nu
 
 bool belongsToSteps(const std::string& name)
 {
-    return name.starts_with("C_") || name.starts_with(".C_") || name == kRecoveryName;
+    return name.starts_with("C_") || name.starts_with(".C_") || name.starts_with(kRecoveryName);
 }
 
 bool hasPair(int folder, std::int32_t number)

@@ -40,8 +40,7 @@ public:
     /// From here on the @p n -th such call fails.
     void arm(faults::Call call, std::int64_t n, std::uint64_t least = 32 << 10)
     {
-        mControl->least = least;
-        mControl->met = 0;
+        count(least);
         mControl->countdown = n;
         mControl->call = call;
     }
@@ -51,7 +50,14 @@ public:
         mControl->call = faults::Call::None;
         return mControl->countdown <= 0;
     }
-    std::int64_t met() const { return mControl->met; }
+    /// From here on calls are counted, those of memory from @p least bytes on.
+    void count(std::uint64_t least)
+    {
+        mControl->least = least;
+        for (auto& met : mControl->met) met = 0;
+    }
+    /// How many calls of that kind there were.
+    std::int64_t met(faults::Call call) const { return mControl->met[std::size_t(call)]; }
     bool isAttached() const { return mControl->attached > 0; }
 
 private:
@@ -70,11 +76,11 @@ public:
     Session* operator->() { return mSession.get(); }
     FaultControl& control() { return mControl; }
     QString file(const QString& name) const { return mHome.filePath(name); }
-    void restart()
+    void restart(const QStringList& more = {})
     {
         mSession.reset();
-        mSession =
-            std::make_unique<Session>(QStringList{"--no-start-choice"}, mHome.path(), mControl.variables(mHome.path()));
+        mSession = std::make_unique<Session>(QStringList{"--no-start-choice"} + more, mHome.path(),
+                                             mControl.variables(mHome.path()));
         mSession->must("wait");
         EXPECT_TRUE(mControl.isAttached()) << "the injector was not loaded";
     }
@@ -83,8 +89,9 @@ public:
         bool struck = false;   ///< the call was reached, and failed
         bool lives = false;    ///< the program answers
         QStringList sentences; ///< the titles of the alerts that came, all answered
+        QString notice;        ///< what the bar over the picture says
     };
-    /// One command with the n-th call failing.
+    /// One command with the n-th call failing, there or in the writing of its step.
     Outcome attack(const QString& line, faults::Call call, std::int64_t n, std::uint64_t least = 32 << 10)
     {
         Outcome outcome;
@@ -92,8 +99,24 @@ public:
         mSession->send(line);
         outcome.lives = mSession->takeAnswer() && mSession->settles();
         outcome.struck = mControl.disarm();
-        if (outcome.lives) outcome.sentences = answerAll();
+        if (!outcome.lives) return outcome;
+        mSession->ask("wait 5"); // what the news of a failed step needs to arrive
+        outcome.sentences = answerAll();
+        outcome.notice = mSession->must("notice")["notice"].toObject()["text"].toString();
         return outcome;
+    }
+    bool saysSomething(const Outcome& outcome) const
+    {
+        return !outcome.sentences.isEmpty() || !outcome.notice.isEmpty();
+    }
+    /// Closes the bars over the picture, so that what is said next is news.
+    void closeNotices()
+    {
+        for (int i = 0; i < 20; ++i) {
+            const QJsonObject notice = mSession->must("notice")["notice"].toObject();
+            if (notice.isEmpty()) return;
+            mSession->must("click-notice \"" + notice["buttons"].toArray().last().toString() + "\"");
+        }
     }
     /// Answers the alerts that are up and closes the dialogs. @return the alerts' titles
     QStringList answerAll()

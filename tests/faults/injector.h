@@ -3,6 +3,7 @@
 #pragma once
 #include <atomic>
 #include <cstdint>
+#include <iterator>
 
 namespace zp::faults
 {
@@ -29,9 +30,9 @@ inline constexpr const char* kCallNames[] = {"none",  "write", "short write", "s
 struct Control {
     std::atomic<Call> call{Call::None};
     std::atomic<std::int64_t> countdown{0}; ///< the call that takes it to 0 fails
-    std::atomic<std::int64_t> met{0};       ///< how many such calls there were
     std::atomic<std::uint64_t> least{0};
-    std::atomic<std::uint32_t> attached{0}; ///< programs that have mapped the page
+    std::atomic<std::uint32_t> attached{0};                 ///< programs that have mapped the page
+    std::atomic<std::int64_t> met[std::size(kCalls) + 1]{}; ///< by kind: how many calls there were
 };
 
 /// The file of the control page, and the folder below which opening fails.

@@ -3,6 +3,7 @@
 #include "codecs/ImageImporter.h"
 #include "support/Samples.h"
 #include "support/Session.h"
+#include <QDirIterator>
 #include <random>
 #include <set>
 #include <unistd.h>
@@ -39,7 +40,22 @@ struct Writing {
     const char* other;        ///< and one that writes it the other way, each after its preparation
     const char* prepareFirst; ///< lines, semicolons between them
     const char* prepareOther;
+    const char* begin = "open HOME/a.jpg;menu selectAll:"; ///< after each start
 };
+
+QStringList linesOf(const QString& lines, const QString& home)
+{
+    return QString(lines).replace("HOME", home).split(';', Qt::SkipEmptyParts);
+}
+
+/// What an interrupted writing leaves beside a file, below @p folder.
+QStringList leftovers(const QString& folder)
+{
+    QStringList found;
+    QDirIterator every(folder, {".zelpane-*", "*.part"}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (every.hasNext()) found << every.next();
+    return found;
+}
 
 /// Two contents are written in turn, over each other, until the kill; then the file must be one of the two.
 class Kills : public testing::TestWithParam<Writing>
@@ -56,18 +72,12 @@ TEST_P(Kills, LeaveOneOfTheTwoFiles)
     const auto start = [&] {
         auto session = std::make_unique<Session>(QStringList{"--no-start-choice"}, home.path());
         if (!session->must("alert")["alert"].isNull()) session->must("answer Discard");
-        session->must("open " + home.filePath("a.jpg"));
-        session->must("menu prefs:");
-        session->must("set mPageField https://example.org/kept");
-        session->must("key Return");
-        session->must("menu selectAll:");
-        session->must("wait");
+        for (const QString& line : linesOf(w.begin, home.path())) session->must(line);
         return session;
     };
     const auto write = [&](Session& s, bool other, bool wait) {
         const QString lines = QString(other ? w.prepareOther : w.prepareFirst) + ";" + (other ? w.other : w.first);
-        for (const QString& line : QString(lines).replace("HOME", home.path()).split(';', Qt::SkipEmptyParts))
-            wait ? void(s.must(line)) : s.send(line);
+        for (const QString& line : linesOf(lines, home.path())) wait ? void(s.must(line)) : s.send(line);
     };
     {
         const auto s = start();
@@ -94,6 +104,12 @@ TEST_P(Kills, LeaveOneOfTheTwoFiles)
         if (HasFailure()) break;
     }
     EXPECT_GE(met.size(), 1u);
+    // What the kills left beside the file goes when the next program writes there.
+    const auto s = start();
+    write(*s, false, true);
+    s->must("sleep 0.05");
+    EXPECT_EQ(s->end(), 0);
+    EXPECT_EQ(leftovers(QFileInfo(file).path()), QStringList());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -106,9 +122,61 @@ INSTANTIATE_TEST_SUITE_P(
                             "menu rotateCW:", "menu rotateCCW:"},
                     Writing{"Selection", "chosen", "send saveSelection: HOME/chosen", "send saveSelection: HOME/chosen",
                             "menu selectAll:", "press 10 10;drag 200 150;release 200 150"},
+                    Writing{"QuickSave", "b.tiff", "send quickSave: HOME/b.tiff", "send quickSave: HOME/b.tiff",
+                            "menu rotateCW:", "menu rotateCCW:"},
                     Writing{"Preferences", ".config/zelpane/zelpane.conf", "sleep 0.001", "sleep 0.001",
-                            "set mUnitPopUp #1", "set mUnitPopUp #2"}),
+                            "set mUnitPopUp #1", "set mUnitPopUp #2",
+                            "menu prefs:;set mPageField https://example.org/kept;key Return"}),
     [](const auto& one) { return std::string(one.param.name); });
+
+/// The picture is filled with one colour after the other, each a step, until the kill; the next start offers one of
+/// those pictures, with the steps before it.
+TEST(KillsOfSnapshots, LeaveAWholePictureWithItsSteps)
+{
+    QTemporaryDir home;
+    const QStringList offering{"--no-start-choice", "--offer-recovery"};
+    const std::vector<std::vector<int>> colours = {{255, 255, 0, 0}, {255, 0, 0, 255}, {255, 0, 255, 0}};
+    const char* const names[] = {"#ff0000", "#0000ff", "#00ff00"};
+    const auto isOneColour = [&](Session& s, const std::vector<int>& colour) {
+        return s.pixel(3, 3) == colour && s.pixel(150, 110) == colour && s.pixel(297, 217) == colour;
+    };
+    std::set<int> stepsMet;
+    for (int round = 0; round < rounds(); ++round) {
+        SCOPED_TRACE(round);
+        {
+            Session s({"--no-start-choice"}, home.path());
+            s.newImage(300, 220);
+            s.play({"menu selectAll:", "set mColorWell #ffffff", "menu fill:", "wait"}); // that much is there
+            for (int i = 0; i < 12; ++i) {
+                s.send(QString("set mColorWell ") + names[i % 3]);
+                s.send("menu fill:");
+                if (i % 4 == 3) s.send("menu undo:");
+            }
+            for (int i = upTo(26); i > 0; --i) s.takeAnswer(); // in the midst of any of them, however slow the machine
+            usleep(useconds_t(upTo(5'000)));
+            s.kill();
+        }
+        Session next(offering, home.path());
+        ASSERT_TRUE(next.must("alert")["alert"].toObject()["title"].toString().contains("recover"));
+        next.must("answer Recover");
+        next.must("wait");
+        const int step = next.must("history")["current"].toInt(-1);
+        stepsMet.insert(step);
+        ASSERT_GE(step, 1);
+        const std::vector<int> now = next.pixel(150, 110);
+        EXPECT_TRUE(isOneColour(next, now)) << "half of a step";
+        EXPECT_TRUE(now == (std::vector<int>{255, 255, 255, 255}) ||
+                    std::find(colours.begin(), colours.end(), now) != colours.end());
+        for (int number = step; number > 1; --number) next.must("menu undo:");
+        EXPECT_TRUE(isOneColour(next, {255, 255, 255, 255})) << "the steps before it";
+        EXPECT_TRUE(next.must("alert")["alert"].isNull());
+        EXPECT_EQ(next.end(), 0);
+        EXPECT_EQ(QDir(home.path()).entryList({"Zelpane Undo*"}, QDir::Dirs | QDir::Hidden), QStringList());
+        EXPECT_EQ(leftovers(home.path()), QStringList());
+        if (HasFailure()) break;
+    }
+    EXPECT_GT(stepsMet.size(), 1u) << "the moments are all the same";
+}
 
 TEST(KillsOfABatch, LeaveWholeResultsAndTheSameFolderInTheEnd)
 {

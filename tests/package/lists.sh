@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The list of packages has its four parts, the version is one, and a second start installs nothing.
+# The list of packages has its five parts, the version is one, and a second start installs nothing.
 . "$ROOT/tests/support/script.sh"
 root=$ROOT
 . "$ROOT/packaging/prepare.sh"
 parts=$(sed -n 's/^## \([a-z0-9]*\).*/\1/p' "$ROOT/packaging/packages.txt" | tr '\n' ' ')
-[ "$parts" = "run test arm64 bench " ] || fail "the parts are: $parts"
-all=$(packages_of run test long arm64 bench)
+[ "$parts" = "run test arm64 fuzz bench " ] || fail "the parts are: $parts"
+all=$(packages_of run test long arm64 fuzz bench)
 [ -z "$(sort <<<"$all" | uniq -d)" ] || fail "listed twice: $(sort <<<"$all" | uniq -d)"
 ! packages_of run | grep -qE 'opencv|benchmark|gtest|slurm' || fail "./run would install what only tests and benchmarks need"
 ! packages_of run test | grep -qE 'opencv|benchmark' || fail "./test would install what only benchmarks need"

@@ -109,12 +109,11 @@ public:
         mProcess.readLine();
         return true;
     }
-    /// Whether the program still answers, and nothing is at work in it any more.
+    /// Whether the program still answers, and ends what is at work in it.
     bool settles()
     {
-        send("alert");
-        if (!takeAnswer()) return false;
-        return true;
+        send("wait 20");
+        return takeAnswer(30'000);
     }
     void terminate() { mProcess.terminate(); }
     bool finishes(int milliseconds = 20'000) { return mProcess.waitForFinished(milliseconds); }
