@@ -31,8 +31,6 @@ std::int64_t now()
         .count();
 }
 
-QString tr(const char* text) { return QCoreApplication::translate("History", text); }
-
 /// The colour file is lossy: beside an edge of transparency it may bring back more colour than the alpha allows, which
 /// every blend after it would carry on beyond white.
 void limitToAlpha(BitmapView pixels)
@@ -294,7 +292,7 @@ try {
     logLine("restoreSnapshot: %s: %f", exact ? "exact" : "JPG+RLE", secondsSince(start));
     return true;
 } catch (const std::bad_alloc&) {
-    say(tr("There is not enough memory."));
+    say(History::tr("There is not enough memory."));
     return false;
 }
 

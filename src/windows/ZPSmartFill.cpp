@@ -3,6 +3,7 @@
 #include "windows/ZPSmartFill.h"
 #include "base/Log.h"
 #include "base/NotificationCenter.h"
+#include "base/Translation.h"
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
@@ -31,7 +32,7 @@ namespace
 
 /// The result of a run on its way into the picture.
 constexpr Command kSmartFill{.action = "smartFill",
-                             .name = "Smart Fill",
+                             .name = ZP_TEXT("Steps", "Smart Fill"),
                              .effect = Effect::Paint,
                              .onFloat = OnFloat::Settle,
                              .step = StepRule::Always};
