@@ -48,24 +48,19 @@ QString languageFor(const QStringList& wanted)
     return {};
 }
 
-QString languagesFolder()
-{
-    const QString installed = QFile::decodeName((shippedResourcesFolder() + "/../translations").c_str());
-#ifdef ZP_BUILD_TRANSLATIONS
-    if (!QFile::exists(installed)) return ZP_BUILD_TRANSLATIONS;
-#endif
-    return installed;
-}
-
 bool speakLanguage(const QString& language)
 {
     QCoreApplication::removeTranslator(&texts);
     QCoreApplication::removeTranslator(&panelTexts);
     setTranslator(nullptr);
     if (language.isEmpty()) return true;
-    const bool ours = texts.load("zelpane_" + language, languagesFolder());
+    const QString name = "zelpane_" + language;
+    bool ours = texts.load(name, QFile::decodeName((shippedResourcesFolder() + "/../translations").c_str()));
+#ifdef ZP_BUILD_TRANSLATIONS
+    ours = ours || texts.load(name, ZP_BUILD_TRANSLATIONS);
+#endif
     const bool panels = panelTexts.load("qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    if (!ours) logLine("there are no texts in %s", qUtf8Printable(languagesFolder() + "/zelpane_" + language + ".qm"));
+    if (!ours) logLine("the texts of %s are missing", qUtf8Printable(name));
     if (panels) QCoreApplication::installTranslator(&panelTexts);
     if (ours) QCoreApplication::installTranslator(&texts);
     if (ours) setTranslator(byQt);

@@ -13,10 +13,8 @@ const QStringList& languages();
 /// The one of languages() that a person who reads these languages, best first, wants. Empty: English.
 QString languageFor(const QStringList& wanted);
 
-/// The folder of the compiled texts.
-QString languagesFolder();
-
-/// The whole program, and Qt's own panels, speak this language from here on. Main thread, before the first window.
+/// The whole program, and Qt's own panels, speak this language from here on: the texts lie beside the resources. Main
+/// thread, before the first window.
 /// @param language  of languages(); empty: English
 /// @return whether all its texts were there
 bool speakLanguage(const QString& language);
