@@ -58,12 +58,12 @@ void MainMenu::giveMnemonics(const QList<QAction*>& actions)
 void MainMenu::settleWhenHidden(QMenu* menu)
 {
     // Shortcuts of a closed menu must not depend on how things were when it was last open.
-    connect(menu, &QMenu::aboutToHide, this, [this] {
+    connect(menu, &QMenu::aboutToHide, this, [this, menu] {
+        for (QAction* item : menu->actions()) item->setText(withoutMnemonic(item->text()));
         QTimer::singleShot(0, this, [this] {
-            for (QAction* item : mOrder) {
-                item->setEnabled(true);
-                item->setText(withoutMnemonic(item->text())); // an item stands in several menus, by a letter in each
-            }
+            for (const QMenu* other : mMenus)
+                if (other->isVisible()) return; // the hand went on to the next menu
+            for (QAction* item : mOrder) item->setEnabled(true);
         });
     });
 }
