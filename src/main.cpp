@@ -9,6 +9,7 @@
 #include "desktop/Application.h"
 #include "desktop/EndSignals.h"
 #include "desktop/KeyModifiers.h"
+#include "desktop/Languages.h"
 #include "desktop/Panels.h"
 #include "desktop/SingleInstance.h"
 #include "script/ScriptDriver.h"
@@ -68,6 +69,7 @@ static int run(int argc, char** argv)
     // One home for Qt's files and our own.
     if (qEnvironmentVariableIsEmpty("HOME")) qputenv("HOME", QByteArray::fromStdString(homeFolder()));
     Application application(argc, argv);
+    scripted ? speakAsScripts() : speakAsDesktop();
     QApplication::setStyle("fusion"); // the same on every desktop and platform plug-in
     applyColorScheme();
     QApplication::setQuitOnLastWindowClosed(false);

@@ -19,6 +19,8 @@ namespace
 
 class AdjustDialog : public QDialog
 {
+    Q_DECLARE_TR_FUNCTIONS(AdjustDialog)
+
 public:
     AdjustDialog(Document& document, QWidget* parent) : QDialog(parent), mDocument(document)
     {

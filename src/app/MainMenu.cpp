@@ -2,8 +2,10 @@
 /// The menu bar, made from the command table.
 #include "app/MainMenu.h"
 #include "app/CommandTable.h"
+#include "desktop/Mnemonics.h"
 #include "desktop/Settings.h"
 #include <QAction>
+#include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
@@ -15,6 +17,9 @@ namespace
 
 const QString kKeySettings = "shortcuts/";
 
+/// What menus say has one place among the translations, whoever shows it.
+QString inMenu(const char* text) { return QCoreApplication::translate("Menu", text); }
+
 } // namespace
 
 MainMenu::MainMenu(QMenuBar* bar, Validator validate, Performer prepare, Performer perform)
@@ -24,18 +29,43 @@ MainMenu::MainMenu(QMenuBar* bar, Validator validate, Performer prepare, Perform
         if (!row.menu) continue;
         QMenu*& menu = mMenus[row.menu];
         if (!menu) {
-            menu = bar->addMenu('&' + tr(row.menu)); // their first letters are all different
+            menu = bar->addMenu(inMenu(row.menu));
+            menu->menuAction()->setProperty("english", row.menu);
             menu->setToolTipsVisible(true);
-            connect(menu, &QMenu::aboutToShow, this, [this] { this->validate(); });
-            // Shortcuts of a closed menu must not depend on how things were when it was last open.
-            connect(menu, &QMenu::aboutToHide, this, [this] {
-                QTimer::singleShot(0, this, [this] {
-                    for (QAction* item : mOrder) item->setEnabled(true);
-                });
+            connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+                this->validate();
+                giveMnemonics(menu->actions());
             });
+            settleWhenHidden(menu);
         }
         addRow(*menu, row);
     }
+    giveMnemonics(bar->actions());
+}
+
+void MainMenu::giveMnemonics(const QList<QAction*>& actions)
+{
+    QStringList texts, hints;
+    for (const QAction* action : actions) {
+        texts << withoutMnemonic(action->text());
+        hints << action->property("english").toString();
+    }
+    texts = withMnemonics(texts, hints);
+    for (qsizetype i = 0; i < actions.size(); ++i)
+        if (!actions[i]->isSeparator()) actions[i]->setText(texts[i]);
+}
+
+void MainMenu::settleWhenHidden(QMenu* menu)
+{
+    // Shortcuts of a closed menu must not depend on how things were when it was last open.
+    connect(menu, &QMenu::aboutToHide, this, [this, menu] {
+        for (QAction* item : menu->actions()) item->setText(withoutMnemonic(item->text()));
+        QTimer::singleShot(0, this, [this] {
+            for (const QMenu* other : mMenus)
+                if (other->isVisible()) return; // the hand went on to the next menu
+            for (QAction* item : mOrder) item->setEnabled(true);
+        });
+    });
 }
 
 void MainMenu::addRow(QMenu& menu, const Command& row)
@@ -46,15 +76,17 @@ void MainMenu::addRow(QMenu& menu, const Command& row)
         return;
     }
     if (action == kRecentMenu) {
-        mRecent = menu.addMenu(tr(row.title));
+        mRecent = menu.addMenu(inMenu(row.title));
+        mRecent->menuAction()->setProperty("english", row.title);
         return;
     }
-    QAction* item = menu.addAction(tr(row.title));
+    QAction* item = menu.addAction(inMenu(row.title));
     item->setProperty("action", action);
-    item->setProperty("menu", row.menu);
-    item->setToolTip(tr(row.tip));
-    item->setProperty("tip", tr(row.tip));
-    item->setStatusTip(tr(row.tip));
+    item->setProperty("menu", inMenu(row.menu));
+    item->setProperty("english", row.title);
+    item->setToolTip(inMenu(row.tip));
+    item->setProperty("tip", inMenu(row.tip));
+    item->setStatusTip(inMenu(row.tip));
     item->setProperty("keys", QString(row.shortcut));
     applyKeys(item);
     if (action == "terminate:") item->setMenuRole(QAction::QuitRole);
@@ -77,7 +109,7 @@ void MainMenu::validate(QAction* item)
     QString title;
     const QString action = item->property("action").toString();
     item->setEnabled(mValidate(action, &title));
-    if (!title.isEmpty()) item->setText(title);
+    if (!title.isEmpty() && title != withoutMnemonic(item->text())) item->setText(title);
     const QString why = item->isEnabled() || !mWhyNot ? QString() : mWhyNot(action);
     const QString tip = item->property("tip").toString();
     item->setStatusTip(why.isEmpty() ? tip : why);
@@ -190,11 +222,8 @@ QMenu* MainMenu::makePictureMenu(QWidget* parent)
         line = false;
         menu->addAction(mItems.value(row.action));
     }
-    connect(menu, &QMenu::aboutToHide, this, [this] {
-        QTimer::singleShot(0, this, [this] {
-            for (QAction* item : mOrder) item->setEnabled(true);
-        });
-    });
+    giveMnemonics(menu->actions());
+    settleWhenHidden(menu);
     return menu;
 }
 
@@ -202,6 +231,7 @@ void cleanUpEditMenu(QMenu* menu)
 {
     for (int look = 0; look < 2; ++look) {
         const QList<QAction*> actions = menu->actions();
-        if (!actions.isEmpty() && actions.last()->text() != QString("Adjust…")) menu->removeAction(actions.last());
+        if (!actions.isEmpty() && actions.last()->property("action").toString() != "adjust:")
+            menu->removeAction(actions.last());
     }
 }

@@ -56,6 +56,9 @@ public:
 private:
     void validate(QAction* item);
     void addRow(QMenu& menu, const zp::Command& row);
+    /// Letters for what stands together in one menu, or in the bar.
+    void giveMnemonics(const QList<QAction*>& actions);
+    void settleWhenHidden(QMenu* menu);
     void choose(QAction* item);
     void applyKeys(QAction* item);
     Validator mValidate;

@@ -233,14 +233,22 @@ void MainWindow::setUpSwitches()
         unsigned bit, option;
     };
     const Role roles[] = {
-        {"Square", "As if Command were held: the marquee becomes a square", kCommandKey, options::Square},
-        {"Oval", "As if Control were held: the marquee becomes an oval", kControlKey, options::Oval},
-        {"Polygon", "As if Control were held: click corners, Return ends", kControlKey, options::Polygon},
-        {"Add", "As if Shift were held: the new shape joins the selection", kShiftKey, options::Add},
-        {"Subtract", "As if Option were held: the new shape is cut from the selection", kOptionKey, options::Subtract},
-        {"Float", "As if Command were held: dragging the selection lifts its pixels", kCommandKey, options::Float},
-        {"Straight", "As if Shift were held: one straight line from press to release", kShiftKey, options::Straight},
-        {"Set source", "As if Option were held: the click sets where pixels come from", kOptionKey, options::SetSource},
+        {QT_TR_NOOP("Square"), QT_TR_NOOP("As if Command were held: the marquee becomes a square"), kCommandKey,
+         options::Square},
+        {QT_TR_NOOP("Oval"), QT_TR_NOOP("As if Control were held: the marquee becomes an oval"), kControlKey,
+         options::Oval},
+        {QT_TR_NOOP("Polygon"), QT_TR_NOOP("As if Control were held: click corners, Return ends"), kControlKey,
+         options::Polygon},
+        {QT_TR_NOOP("Add"), QT_TR_NOOP("As if Shift were held: the new shape joins the selection"), kShiftKey,
+         options::Add},
+        {QT_TR_NOOP("Subtract"), QT_TR_NOOP("As if Option were held: the new shape is cut from the selection"),
+         kOptionKey, options::Subtract},
+        {QT_TR_NOOP("Float"), QT_TR_NOOP("As if Command were held: dragging the selection lifts its pixels"),
+         kCommandKey, options::Float},
+        {QT_TR_NOOP("Straight"), QT_TR_NOOP("As if Shift were held: one straight line from press to release"),
+         kShiftKey, options::Straight},
+        {QT_TR_NOOP("Set source"), QT_TR_NOOP("As if Option were held: the click sets where pixels come from"),
+         kOptionKey, options::SetSource},
     };
     for (const Role& role : roles) {
         auto* button = new QToolButton(mUi->switches);

@@ -24,6 +24,8 @@ std::string selectionsFolder()
 
 class SaveSelectionDialog : public QDialog
 {
+    Q_DECLARE_TR_FUNCTIONS(SaveSelectionDialog)
+
 public:
     explicit SaveSelectionDialog(QWidget* parent) : QDialog(parent)
     {
@@ -46,6 +48,8 @@ private:
 
 class LoadSelectionDialog : public QDialog
 {
+    Q_DECLARE_TR_FUNCTIONS(LoadSelectionDialog)
+
 public:
     explicit LoadSelectionDialog(QWidget* parent) : QDialog(parent), mFolder(selectionsFolder())
     {

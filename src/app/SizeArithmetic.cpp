@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The sums of the size dialogs.
 #include "app/SizeArithmetic.h"
+#include "base/Translation.h"
 #include <cmath>
 #include <limits>
 
@@ -22,8 +23,9 @@ int wholePixels(float value)
 std::string fileSizeEstimate(int width, int height)
 {
     const double kilobytes = double(width) * double(height) * 4.0 * 0.0009765625;
-    if (kilobytes > 2000.0) return std::to_string(std::lround(kilobytes * 0.0009765625)) + " MB";
-    return std::to_string(std::lround(kilobytes)) + " KB";
+    if (kilobytes > 2000.0)
+        return filledIn(translated("Files", "%1 MB"), {std::to_string(std::lround(kilobytes * 0.0009765625))});
+    return filledIn(translated("Files", "%1 KB"), {std::to_string(std::lround(kilobytes))});
 }
 
 ResizeFields linkedResizeFields(ResizeFields f, int tag, float w, float h, bool keepAspect)

@@ -18,6 +18,7 @@
 #include <QDialog>
 #include <QDoubleValidator>
 #include <QFile>
+#include <QLocale>
 #include <QSignalBlocker>
 
 using namespace zp;
@@ -26,7 +27,7 @@ namespace
 {
 
 /// A float as its field shows it: no more digits than single precision has.
-QString percentText(float value) { return QString::number(double(value), 'g', 7); }
+QString percentText(float value) { return QLocale().toString(double(value), 'g', 7); }
 
 class NewDialog : public QDialog
 {
@@ -60,9 +61,7 @@ public:
             mXDpi = bitmap->properties.xDpi, mYDpi = bitmap->properties.yDpi;
         ui.setupUi(this);
         for (QLineEdit* field : {ui.mResize_Width_P, ui.mResize_Height_P}) {
-            auto* number = new QDoubleValidator(field);
-            number->setLocale(QLocale::c());
-            field->setValidator(number);
+            field->setValidator(new QDoubleValidator(field));
             connect(field, &QLineEdit::textEdited, this, [this, field] { resizeSet(field->property("tag").toInt()); });
         }
         for (QSpinBox* field : {ui.mResize_Width, ui.mResize_Height})
@@ -84,7 +83,8 @@ private:
     void resizeSet(int tag)
     {
         const ResizeFields now{ui.mResize_Width->value(), ui.mResize_Height->value(),
-                               ui.mResize_Width_P->text().toFloat(), ui.mResize_Height_P->text().toFloat()};
+                               QLocale().toFloat(ui.mResize_Width_P->text()),
+                               QLocale().toFloat(ui.mResize_Height_P->text())};
         show(linkedResizeFields(now, tag, mOriginal.width, mOriginal.height, ui.mResize_KeepAspectRatio->isChecked()),
              tag);
     }
@@ -108,6 +108,8 @@ private:
 
 class NameDialog : public QDialog
 {
+    Q_DECLARE_TR_FUNCTIONS(NameDialog)
+
 public:
     explicit NameDialog(QWidget* parent) : QDialog(parent)
     {

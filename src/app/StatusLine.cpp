@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QDrag>
 #include <QLabel>
+#include <QLocale>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -57,7 +58,7 @@ private:
     QPoint mPressed;
 };
 
-QString number(double value) { return QString::number(value, 'f', 2); }
+QString number(double value) { return QLocale().toString(value, 'f', 2); }
 
 struct Unit {
     const char* name;
@@ -100,7 +101,7 @@ QString sizeInWords(Rect pixels, double xDpi, double yDpi)
 QString zoomInWords(float zoom)
 {
     const double percent = double(zoom) * 100;
-    return QString("%1 %").arg(percent, 0, 'g', percent >= 1000 ? 4 : 3);
+    return QString("%L1 %").arg(percent, 0, 'g', percent >= 1000 ? 4 : 3);
 }
 
 StatusLine::StatusLine(QStatusBar& bar, Document& document) : QObject(&bar), mDocument(document)

@@ -4,6 +4,7 @@
 #include "base/Folders.h"
 #include "base/FoldersLinks.h"
 #include "base/KeptAside.h"
+#include "base/Translation.h"
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -33,31 +34,31 @@ std::string sentenceFor(int code)
 {
     switch (code) {
     case ENOSPC:
-        return "The disk is full.";
+        return translated("Folders", "The disk is full.");
     case EDQUOT:
-        return "The disk quota is used up.";
+        return translated("Folders", "The disk quota is used up.");
     case EFBIG:
-        return "The file would be larger than is allowed here.";
+        return translated("Folders", "The file would be larger than is allowed here.");
     case EACCES:
     case EPERM:
-        return "There is no permission to write here.";
+        return translated("Folders", "There is no permission to write here.");
     case EROFS:
-        return "The disk cannot be written to.";
+        return translated("Folders", "The disk cannot be written to.");
     case ENOENT:
-        return "The folder does not exist.";
+        return translated("Folders", "The folder does not exist.");
     case ENOTDIR:
-        return "A part of the path is not a folder.";
+        return translated("Folders", "A part of the path is not a folder.");
     case EISDIR:
-        return "There is a folder of that name.";
+        return translated("Folders", "There is a folder of that name.");
     case ENAMETOOLONG:
-        return "The name is too long.";
+        return translated("Folders", "The name is too long.");
     case ELOOP:
-        return "The link leads round in a circle.";
+        return translated("Folders", "The link leads round in a circle.");
     case EIO:
-        return "The disk reported an error.";
+        return translated("Folders", "The disk reported an error.");
     case EMFILE:
     case ENFILE:
-        return "Too many files are open.";
+        return translated("Folders", "Too many files are open.");
     default:
         break;
     }

@@ -2,6 +2,7 @@
 /// Names, sizes and positions of a batch run.
 #include "batch/BatchRules.h"
 #include "base/Folders.h"
+#include "base/Translation.h"
 #include <cmath>
 
 namespace zp
@@ -44,13 +45,13 @@ const char* batchFaultText(BatchFolderFault fault)
 {
     switch (fault) {
     case BatchFolderFault::NoSource:
-        return "Choose a source folder.";
+        return ZP_TEXT("ZPImageProcessor", "Choose a source folder.");
     case BatchFolderFault::NoDestination:
-        return "Choose a destination folder.";
+        return ZP_TEXT("ZPImageProcessor", "Choose a destination folder.");
     case BatchFolderFault::Same:
-        return "Source and destination folder cannot be the same.";
+        return ZP_TEXT("ZPImageProcessor", "Source and destination folder cannot be the same.");
     case BatchFolderFault::Missing:
-        return "Error: Source or destination folder does not exist.";
+        return ZP_TEXT("ZPImageProcessor", "Error: Source or destination folder does not exist.");
     case BatchFolderFault::None:
         break;
     }

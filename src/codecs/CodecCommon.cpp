@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Size limits, turning upright, and messages of libraries.
+#include "base/Translation.h"
 #include "base/WorkPool.h"
 #include "codecs/Codec.h"
 #include <algorithm>
@@ -50,22 +51,21 @@ void copyTurned(ConstBitmapView from, BitmapView to, Target target)
 bool checkSize(std::int64_t width, std::int64_t height, std::uint64_t fileBytes, std::string& error,
                std::uint64_t workBytes)
 {
-    char text[160];
     if (width <= 0 || height <= 0) {
-        error = "The picture has no pixels.";
+        error = translated("Codecs", "The picture has no pixels.");
         return false;
     }
     const auto refuse = [&](const char* format) {
-        std::snprintf(text, sizeof text, format, static_cast<long long>(width), static_cast<long long>(height));
-        error = text;
+        error = filledIn(translated("Codecs", format), {std::to_string(width), std::to_string(height)});
         return false;
     };
-    if (!isSensibleImageSize(width, height)) return refuse("The picture is too large: %lld x %lld pixels.");
+    if (!isSensibleImageSize(width, height))
+        return refuse(ZP_TEXT("Codecs", "The picture is too large: %1 x %2 pixels."));
     if (width * height > kSuspiciousPixels && std::uint64_t(width * height) > kMaxPixelsPerByte * fileBytes)
-        return refuse("The file is far too small for the %lld x %lld pixels it claims to hold.");
+        return refuse(ZP_TEXT("Codecs", "The file is far too small for the %1 x %2 pixels it claims to hold."));
     const std::uint64_t memory = machineMemory();
     if (memory && (std::uint64_t(width * height) * 4 > memory / 2 || workBytes > memory / 4))
-        return refuse("The picture of %lld x %lld pixels does not fit this machine's memory.");
+        return refuse(ZP_TEXT("Codecs", "The picture of %1 x %2 pixels does not fit this machine's memory."));
     return true;
 }
 
@@ -112,7 +112,7 @@ std::string tidyMessage(const char* message)
     std::string out;
     for (const char* p = message; p && *p && out.size() < 150; ++p) out += *p >= 0x20 && *p < 0x7F ? *p : ' ';
     while (!out.empty() && (out.back() == '.' || out.back() == ' ')) out.pop_back();
-    return out.empty() ? "its data is damaged" : out;
+    return out.empty() ? translated("Codecs", "its data is damaged") : out;
 }
 
 } // namespace zp::codec

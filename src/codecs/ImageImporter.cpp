@@ -2,6 +2,7 @@
 /// Opens picture files: reads the bytes, finds their kind, hands them to its reader, turns the result upright.
 #include "codecs/ImageImporter.h"
 #include "base/PixelMemory.h"
+#include "base/Translation.h"
 #include "codecs/Codec.h"
 #include "codecs/FileWindow.h"
 #include "codecs/MagickReader.h"
@@ -32,7 +33,7 @@ Decoded decodeAs(Format format, Bytes bytes, const ImportOptions& options)
 {
     switch (format) {
     case Format::Unknown:
-        return Decoded::failure("It is not a picture of a kind that can be opened.");
+        return Decoded::failure(translated("Codecs", "It is not a picture of a kind that can be opened."));
     case Format::JPEG:
         return codec::decodeJPEG(bytes, options);
     case Format::PNG:
@@ -49,7 +50,7 @@ Decoded decodeAs(Format format, Bytes bytes, const ImportOptions& options)
 
 Decoded decode(Bytes bytes, const ImportOptions& options)
 {
-    if (bytes.empty()) return Decoded::failure("The file is empty.");
+    if (bytes.empty()) return Decoded::failure(translated("Codecs", "The file is empty."));
     std::size_t start = 0;
     const Format format = codec::sniffFormat(bytes, &start);
     bytes = bytes.subspan(start);
@@ -77,16 +78,17 @@ std::string sentenceFor(int error)
     switch (error) {
     case ENOENT:
     case ENOTDIR:
-        return "The file does not exist.";
+        return translated("Codecs", "The file does not exist.");
     case EACCES:
     case EPERM:
-        return "There is no permission to read the file.";
+        return translated("Codecs", "There is no permission to read the file.");
     case ELOOP:
-        return "The file is a link that leads nowhere.";
+        return translated("Codecs", "The file is a link that leads nowhere.");
     case ENAMETOOLONG:
-        return "The file's name is too long.";
+        return translated("Codecs", "The file's name is too long.");
     default:
-        return std::string("The file cannot be read: ") + codec::tidyMessage(std::strerror(error)) + ".";
+        return filledIn(translated("Codecs", "The file cannot be read: %1."),
+                        {codec::tidyMessage(std::strerror(error))});
     }
 }
 
@@ -117,13 +119,14 @@ ImportedImage importLargeFile(const OpenFile& file, const std::string& path, std
     head.resize(std::size_t(got));
     std::size_t start = 0;
     const Format format = codec::sniffFormat(head, &start);
-    if (format == Format::Unknown) return {.error = "It is not a picture of a kind that can be opened."};
+    if (format == Format::Unknown)
+        return {.error = translated("Codecs", "It is not a picture of a kind that can be opened.")};
     const PixelDimensions dimensions = imageFileDimensions(path);
     std::string error;
     if (dimensions.width > 0 && !codec::checkSize(dimensions.width, dimensions.height, size, error))
         return {.error = error};
     codec::FileWindow window(file.fd(), size, codec::mostBytesFor(format, dimensions.width, dimensions.height));
-    if (!window.isOpen()) return {.error = "There is not enough memory to read the file."};
+    if (!window.isOpen()) return {.error = translated("Codecs", "There is not enough memory to read the file.")};
     codec::takeNeededParts(window, format, start);
     return importImage(window.bytes().first(window.end()), options);
 }
@@ -137,7 +140,7 @@ ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptio
         Decoded decoded = decode(bytes, options);
         if (decoded.bitmap && decoded.orientation > 1) {
             decoded.bitmap = codec::turnedUpright(*decoded.bitmap, decoded.orientation);
-            if (!decoded.bitmap) decoded.error = "There is not enough memory for this picture.";
+            if (!decoded.bitmap) decoded.error = translated("Codecs", "There is not enough memory for this picture.");
         }
         image.bitmap = std::move(decoded.bitmap);
         image.error = std::move(decoded.error);
@@ -146,11 +149,12 @@ ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptio
         image.facts = decoded.facts;
         image.facts.endedEarly = image.damaged;
     } catch (const std::bad_alloc&) {
-        image = {.error = "There is not enough memory for this picture."};
+        image = {.error = translated("Codecs", "There is not enough memory for this picture.")};
     } catch (const std::exception& e) {
-        image = {.error = "The picture cannot be read: " + codec::tidyMessage(e.what()) + "."};
+        image = {.error =
+                     filledIn(translated("Codecs", "The picture cannot be read: %1."), {codec::tidyMessage(e.what())})};
     }
-    if (!image.bitmap && image.error.empty()) image.error = "The picture cannot be read.";
+    if (!image.bitmap && image.error.empty()) image.error = translated("Codecs", "The picture cannot be read.");
     return image;
 }
 
@@ -161,16 +165,16 @@ try {
     struct stat facts {
     };
     if (fstat(file.fd(), &facts) != 0) return {.error = sentenceFor(errno)};
-    if (S_ISDIR(facts.st_mode)) return {.error = "It is a folder, not a picture."};
-    if (!S_ISREG(facts.st_mode)) return {.error = "It is not an ordinary file."};
-    if (facts.st_size == 0) return {.error = "The file is empty."};
-    if (facts.st_size > kMaxFileBytes) return {.error = "The file is larger than 4 GiB."};
+    if (S_ISDIR(facts.st_mode)) return {.error = translated("Codecs", "It is a folder, not a picture.")};
+    if (!S_ISREG(facts.st_mode)) return {.error = translated("Codecs", "It is not an ordinary file.")};
+    if (facts.st_size == 0) return {.error = translated("Codecs", "The file is empty.")};
+    if (facts.st_size > kMaxFileBytes) return {.error = translated("Codecs", "The file is larger than 4 GiB.")};
 
     if (facts.st_size > kReadWhole) return importLargeFile(file, path, std::uint64_t(facts.st_size), options);
     // Read, not mapped: a mapped file that shrinks meanwhile would take the program down.
     const auto wanted = std::size_t(facts.st_size);
     auto memory = allocatePixelsUninitialized(wanted);
-    if (!memory) return {.error = "There is not enough memory to read the file."};
+    if (!memory) return {.error = translated("Codecs", "There is not enough memory to read the file.")};
     std::size_t got = 0;
     while (got < wanted) {
         const ssize_t n = pread(file.fd(), memory.get() + got, wanted - got, off_t(got));
@@ -181,7 +185,7 @@ try {
     }
     return importImage({memory.get(), got}, options);
 } catch (const std::exception&) {
-    return {.error = "There is not enough memory to read the file."};
+    return {.error = translated("Codecs", "There is not enough memory to read the file.")};
 }
 
 } // namespace zp

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// JPEG files straight into A, R, G, B rows.
 #include "base/FixedPoint.h"
+#include "base/Translation.h"
 #include "codecs/Codec.h"
 #include "codecs/ColourProfiles.h"
 #include "codecs/JPEGBands.h"
@@ -165,7 +166,8 @@ void collectProfile(const jpeg_decompress_struct& info, bool inksConverted, Imag
 {
     bool incomplete = false;
     std::vector<std::uint8_t> profile = profileOf(info, incomplete);
-    if (incomplete) properties.warnings.emplace_back("The colour profile is incomplete and was left out.");
+    if (incomplete)
+        properties.warnings.emplace_back(translated("Codecs", "The colour profile is incomplete and was left out."));
     if (inksConverted) {
         properties.iccProfile = sRGBProfile();
         return;
@@ -210,8 +212,8 @@ int orientationOf(const jpeg_decompress_struct& info)
 
 std::string sentence(const Session& s)
 {
-    if (s.errors.ranOutOfMemory()) return "There is not enough memory for this JPEG picture.";
-    return "The JPEG data cannot be read: " + tidyMessage(s.errors.message) + ".";
+    if (s.errors.ranOutOfMemory()) return translated("Codecs", "There is not enough memory for this JPEG picture.");
+    return filledIn(translated("Codecs", "The JPEG data cannot be read: %1."), {tidyMessage(s.errors.message)});
 }
 
 /// The smallest scale of whole halves at which the picture is still as large as asked for.
@@ -250,7 +252,8 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
     if (!readHeader(s, bytes, options.properties)) return Decoded::failure(sentence(s));
     Decoded result;
     if (!checkSize(s.info.image_width, s.info.image_height, bytes.size(), result.error)) return result;
-    if (s.info.num_components == 2) return Decoded::failure("JPEG pictures with two components cannot be read.");
+    if (s.info.num_components == 2)
+        return Decoded::failure(translated("Codecs", "JPEG pictures with two components cannot be read."));
     result.orientation = orientationOf(s.info);
     const unsigned reduction = reductionFor(s.info, options, result.orientation);
     if (reduction > 1)
@@ -259,7 +262,7 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
     if (!choose(s, reduction)) return Decoded::failure(sentence(s));
 
     auto bitmap = BitmapRep::createUninitialized(int(s.info.output_width), int(s.info.output_height));
-    if (!bitmap) return Decoded::failure("There is not enough memory for this picture.");
+    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
     bool incomplete = false;
     if (options.properties && s.info.out_color_space == JCS_CMYK)
         s.inks.emplace(profileOf(s.info, incomplete), s.info.saw_Adobe_marker);
@@ -271,7 +274,8 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
     for (int y = rows; y < s.out.height; ++y) std::memset(s.out.rowData(y), 0, std::size_t(s.out.rowBytes));
     result.damaged = rows < s.out.height || s.errors.num_warnings > 0;
     if (result.damaged)
-        bitmap->properties.warnings.emplace_back("The JPEG data is damaged; what could be read is shown.");
+        bitmap->properties.warnings.emplace_back(
+            translated("Codecs", "The JPEG data is damaged; what could be read is shown."));
     result.bitmap = std::move(bitmap);
     return result;
 }

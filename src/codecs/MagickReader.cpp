@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// PSD, GIF, BMP, WebP and the other kinds, by ImageMagick's readers, each called by name over bytes in memory.
 #include "codecs/MagickReader.h"
+#include "base/Translation.h"
 #include "codecs/ColourProfiles.h"
 #include "codecs/MetadataBlocks.h"
 #include "codecs/PixelRows.h"
@@ -69,8 +70,10 @@ std::string sentence(Format format, const Magick::Exception& e)
     if (const auto at = text.find(" @ "); at != std::string::npos) text.erase(at);
     if (const auto quote = text.find(" `"); quote != std::string::npos) text.erase(quote);
     if (dynamic_cast<const Magick::ErrorResourceLimit*>(&e))
-        return std::string("The ") + readerFor(format) + " picture is larger than the limits of this machine allow.";
-    return std::string("The ") + readerFor(format) + " data cannot be read: " + tidyMessage(text.c_str()) + ".";
+        return filledIn(translated("Codecs", "The %1 picture is larger than the limits of this machine allow."),
+                        {readerFor(format)});
+    return filledIn(translated("Codecs", "The %1 data cannot be read: %2."),
+                    {readerFor(format), tidyMessage(text.c_str())});
 }
 
 std::vector<std::uint8_t> profileOf(Magick::Image& image, const char* name)
@@ -156,7 +159,7 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
         result.damaged = true;
     } catch (const Magick::Warning&) {
     }
-    if (!image.isValid()) return Decoded::failure("The picture has no pixels.");
+    if (!image.isValid()) return Decoded::failure(translated("Codecs", "The picture has no pixels."));
     const bool inks = image.colorSpace() == Magick::CMYKColorspace;
     const bool deep = image.depth() > 8 && format != Format::GIF;
     if (inks && !profileOf(image, "icc").empty()) {
@@ -180,7 +183,7 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
         }
     }
     auto bitmap = BitmapRep::create(width, height);
-    if (!bitmap) return Decoded::failure("There is not enough memory for this picture.");
+    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
     const BitmapView out = bitmap->view();
     const bool transparent = image.matte() && alphaCounts(format);
     const int columns = int(image.columns());
@@ -197,10 +200,14 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
         if (x0 < x1) std::memcpy(out.pixel(x0, to), &row[std::size_t(x0 - left) * 4], std::size_t(x1 - x0) * 4);
     }
     ImageProperties& properties = bitmap->properties;
-    if (result.damaged) properties.warnings.emplace_back("The picture's data is damaged; what could be read is shown.");
+    if (result.damaged)
+        properties.warnings.emplace_back(
+            translated("Codecs", "The picture's data is damaged; what could be read is shown."));
     if (deep) result.facts.bits = 16;
     result.facts.inks = inks;
-    if (deep) properties.warnings.emplace_back("The picture had 16 bits a colour; it was reduced to 8.");
+    if (deep)
+        properties.warnings.emplace_back(
+            translated("Codecs", "The picture had %n bits a colour; it was reduced to 8.", nullptr, 16));
     result.orientation = format == Format::TGA ? orientationOfTGA(bytes) : orientationOf(image);
     if (options.properties) collectProperties(image, inks, properties);
     result.bitmap = std::move(bitmap);
@@ -211,7 +218,8 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
 
 Decoded decodeByMagick(Bytes bytes, Format format, const ImportOptions& options)
 {
-    if (!readerFor(format)) return Decoded::failure("It is not a picture of a kind that can be opened.");
+    if (!readerFor(format))
+        return Decoded::failure(translated("Codecs", "It is not a picture of a kind that can be opened."));
     initializeOnce();
     try {
         return read(bytes, format, options);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What of a file's EXIF, XMP and profile is kept, and what is put right before they are written again.
 #include "codecs/MetadataBlocks.h"
+#include "base/Translation.h"
 #include "codecs/ColourProfiles.h"
 #include <algorithm>
 #include <array>
@@ -110,7 +111,7 @@ void trimPadding(std::string& text)
     while (!text.empty() && (text.back() == '\0' || text.back() == ' ')) text.pop_back();
 }
 
-void warnOnce(ImageProperties& properties, const char* sentence)
+void warnOnce(ImageProperties& properties, const std::string& sentence)
 {
     auto& w = properties.warnings;
     if (std::find(w.begin(), w.end(), sentence) == w.end()) w.emplace_back(sentence);
@@ -169,10 +170,10 @@ void keepExif(ImageProperties& properties, std::span<const std::uint8_t> exif)
 {
     auto block = parseExif(exif);
     if (!block) {
-        warnOnce(properties, "The EXIF data is damaged and was left out.");
+        warnOnce(properties, translated("Codecs", "The EXIF data is damaged and was left out."));
         return;
     }
-    if (block->damaged) warnOnce(properties, "Damaged parts of the EXIF data were left out.");
+    if (block->damaged) warnOnce(properties, translated("Codecs", "Damaged parts of the EXIF data were left out."));
     if (ExifBlock::find(block->image, tag::Orientation)) block->setNumber(block->image, tag::Orientation, kShort, 1);
     if (const ExifEntry* comment = ExifBlock::find(block->photo, tag::UserComment))
         properties.userComment = decodeUserComment(comment->value, block->bigEndian);
@@ -192,7 +193,7 @@ void keepXMP(ImageProperties& properties, std::string packet)
     // Entities of its own are no part of a packet, and how others' files make their readers run out of memory.
     if (packet.size() > kMaxBlockBytes || packet.find("<!DOCTYPE") != std::string::npos ||
         packet.find("<!ENTITY") != std::string::npos || packet.find('<') == std::string::npos) {
-        if (!packet.empty()) warnOnce(properties, "The XMP data is damaged and was left out.");
+        if (!packet.empty()) warnOnce(properties, translated("Codecs", "The XMP data is damaged and was left out."));
         return;
     }
     properties.xmp = std::move(packet);
@@ -205,7 +206,7 @@ void keepProfile(ImageProperties& properties, std::vector<std::uint8_t> profile,
     const bool sound =
         profile.size() >= 132 && profile.size() <= kMaxBlockBytes && std::memcmp(&profile[36], "acsp", 4) == 0;
     if (!sound) {
-        warnOnce(properties, "The colour profile is damaged and was left out.");
+        warnOnce(properties, translated("Codecs", "The colour profile is damaged and was left out."));
         return;
     }
     const auto isFor = [&](const char* space) { return space && std::memcmp(&profile[16], space, 4) == 0; };
@@ -218,9 +219,10 @@ void keepProfile(ImageProperties& properties, std::vector<std::uint8_t> profile,
     }
     // The canvas is RGB: a profile that describes grey or ink amounts would be wrong for what is written.
     if (isFor(colourSpace) || isFor(sourceSpace) || sourceSpace)
-        warnOnce(properties, "The picture was converted to RGB; its colour profile was left out.");
+        warnOnce(properties,
+                 translated("Codecs", "The picture was converted to RGB; its colour profile was left out."));
     else
-        warnOnce(properties, "The colour profile does not fit the picture and was left out.");
+        warnOnce(properties, translated("Codecs", "The colour profile does not fit the picture and was left out."));
 }
 
 void keepIPTC(ImageProperties& properties, std::span<const std::uint8_t> records)
@@ -228,7 +230,7 @@ void keepIPTC(ImageProperties& properties, std::span<const std::uint8_t> records
     constexpr std::uint8_t kMark = 0x1C; // every record begins with it
     if (records.empty() || !properties.iptc.empty()) return;
     if (records[0] != kMark || records.size() > kMaxBlockBytes) {
-        warnOnce(properties, "The IPTC data is damaged and was left out.");
+        warnOnce(properties, translated("Codecs", "The IPTC data is damaged and was left out."));
         return;
     }
     properties.iptc.assign(records.begin(), records.end());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Walks through the chunks of a PNG file.
 #include "codecs/PNGParts.h"
+#include "base/Translation.h"
 #include <algorithm>
 #include <cstring>
 #include <libdeflate.h>
@@ -94,11 +95,13 @@ const char* faultOf(const Chunk& chunk, const PNGParts& parts)
 {
     if (!chunk.isCritical() || chunk.cut || chunk.is("IEND")) return "";
     if (chunk.is("PLTE")) {
-        if (!checksumHolds(chunk.data)) return "its palette is corrupt";
+        if (!checksumHolds(chunk.data)) return ZP_TEXT("Codecs", "its palette is corrupt");
         const bool needed = parts.header.type == PNGHeader::Palette;
-        return needed && (chunk.data.size() % 3 != 0 || chunk.data.empty()) ? "its palette is damaged" : "";
+        return needed && (chunk.data.size() % 3 != 0 || chunk.data.empty())
+                   ? ZP_TEXT("Codecs", "its palette is damaged")
+                   : "";
     }
-    return "it holds what is unknown and cannot be left out";
+    return ZP_TEXT("Codecs", "it holds what is unknown and cannot be left out");
 }
 
 } // namespace
@@ -111,13 +114,13 @@ bool checksumHolds(Bytes data)
 PNGParts takePNGApart(Bytes bytes, std::string& error)
 {
     const auto fail = [&](const char* why) {
-        error = std::string("The PNG data cannot be read: ") + why + ".";
+        error = filledIn(translated("Codecs", "The PNG data cannot be read: %1."), {translated("Codecs", why)});
         return PNGParts();
     };
     PNGParts parts;
     ChunkWalk walk(bytes);
     Chunk chunk;
-    if (!walk.next(chunk) || !readHeader(chunk, parts.header)) return fail("its header is damaged");
+    if (!walk.next(chunk) || !readHeader(chunk, parts.header)) return fail(ZP_TEXT("Codecs", "its header is damaged"));
 
     bool ended = false;
     while (!ended && walk.next(chunk)) {
@@ -135,8 +138,11 @@ PNGParts takePNGApart(Bytes bytes, std::string& error)
         if (sound) *place = chunk.data;
         parts.damaged |= !sound;
     }
-    if (parts.pixels.empty()) return fail(ended ? "it has no pixels" : "the file is damaged or ends before its pixels");
-    if (parts.header.type == PNGHeader::Palette && parts.palette.empty()) return fail("it has no palette");
+    if (parts.pixels.empty())
+        return fail(ended ? ZP_TEXT("Codecs", "it has no pixels")
+                          : ZP_TEXT("Codecs", "the file is damaged or ends before its pixels"));
+    if (parts.header.type == PNGHeader::Palette && parts.palette.empty())
+        return fail(ZP_TEXT("Codecs", "it has no palette"));
     return parts;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// PNG files straight into A, R, G, B rows: unpacked in one go into the end of the picture's own memory, from where the
 /// rows are unfiltered to their places.
+#include "base/Translation.h"
 #include "codecs/Codec.h"
 #include "codecs/ColourProfiles.h"
 #include "codecs/MetadataBlocks.h"
@@ -153,7 +154,7 @@ void keepPackedProfile(ImageProperties& properties, Bytes chunk, bool grey)
     if (profile && !profile->empty())
         keepProfile(properties, std::move(*profile), grey ? "GRAY" : "RGB ");
     else
-        properties.warnings.emplace_back("The colour profile is damaged and was left out.");
+        properties.warnings.emplace_back(translated("Codecs", "The colour profile is damaged and was left out."));
 }
 
 /// Keyword, zero, whether it is compressed, the way, language, zero, translated keyword, zero, text.
@@ -221,16 +222,17 @@ Decoded decodePNG(Bytes bytes, const ImportOptions& options)
     const int width = int(header.width), height = int(header.height);
     const auto bitmap = header.interlaced ? BitmapRep::create(width, height) // passes fill in what earlier ones left
                                           : BitmapRep::createUninitialized(width, height);
-    if (!bitmap) return Decoded::failure("There is not enough memory for this picture.");
+    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
     const BitmapView out = bitmap->view();
     PixelMemory own;
     if (!inPlace && !(own = allocatePixelsUninitialized(size)))
-        return Decoded::failure("There is not enough memory for this picture.");
+        return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
     std::uint8_t* const rows = own ? own.get() : out.rowData(height) - size;
 
     std::size_t unpacked = 0;
     const PixelState state = inflatePixels(parts, rows, size, unpacked);
-    if (state == PixelState::NoMemory) return Decoded::failure("There is not enough memory for this picture.");
+    if (state == PixelState::NoMemory)
+        return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
     const PNGSamples samples(parts);
     int done = 0;
     bool complete = state == PixelState::Whole;
@@ -242,14 +244,18 @@ Decoded decodePNG(Bytes bytes, const ImportOptions& options)
         for (int y = done; y < height; ++y) std::memset(out.rowData(y), 0, std::size_t(out.rowBytes));
     }
     if (done == 0)
-        return Decoded::failure(state == PixelState::Corrupt
-                                    ? "The PNG data cannot be read: a checksum of its pixels is wrong."
-                                    : "The PNG data cannot be read: not one row of its pixels is whole.");
+        return Decoded::failure(
+            state == PixelState::Corrupt
+                ? translated("Codecs", "The PNG data cannot be read: a checksum of its pixels is wrong.")
+                : translated("Codecs", "The PNG data cannot be read: not one row of its pixels is whole."));
 
     ImageProperties& properties = bitmap->properties;
     result.damaged = !complete || parts.damaged;
-    if (result.damaged) properties.warnings.emplace_back("The PNG data is damaged; what could be read is shown.");
-    if (header.depth == 16) properties.warnings.emplace_back("The picture had 16 bits a colour; it was reduced to 8.");
+    if (result.damaged)
+        properties.warnings.emplace_back(translated("Codecs", "The PNG data is damaged; what could be read is shown."));
+    if (header.depth == 16)
+        properties.warnings.emplace_back(
+            translated("Codecs", "The picture had %n bits a colour; it was reduced to 8.", nullptr, 16));
     result.orientation = exifOrientation(parts.exif);
     if (options.properties) collectProperties(parts, properties);
     result.bitmap = bitmap;

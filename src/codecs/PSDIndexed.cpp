@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Photoshop files whose pixels are numbers of a palette's colours, which the reader of the other kinds refuses. Such
 /// files have no layers: the picture stands at their end, plain or packed.
+#include "base/Translation.h"
 #include "codecs/Codec.h"
 #include "codecs/MetadataBlocks.h"
 #include <algorithm>
@@ -114,9 +115,10 @@ Decoded decodeIndexedPSD(Bytes bytes, const ImportOptions& options)
     Decoded result;
     if (!checkSize(width, height, bytes.size(), result.error)) return result;
     const Bytes palette = walk.take(walk.number(4));
-    if (palette.size() < kPaletteBytes) return Decoded::failure("The PSD data cannot be read: its palette is damaged.");
+    if (palette.size() < kPaletteBytes)
+        return Decoded::failure(translated("Codecs", "The PSD data cannot be read: its palette is damaged."));
     result.bitmap = BitmapRep::create(int(width), int(height));
-    if (!result.bitmap) return Decoded::failure("There is not enough memory for this picture.");
+    if (!result.bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
     const int transparent = readResources(walk.take(walk.number(4)), options.properties, result.bitmap->properties);
     walk.take(walk.number(4)); // layers and masks
 
@@ -142,7 +144,8 @@ Decoded decodeIndexedPSD(Bytes bytes, const ImportOptions& options)
         for (std::uint32_t x = 0; x < width; ++x) out.row(y)[x] = colours[numbers[x]];
     }
     if (result.damaged)
-        result.bitmap->properties.warnings.emplace_back("The PSD data is damaged; what could be read is shown.");
+        result.bitmap->properties.warnings.emplace_back(
+            translated("Codecs", "The PSD data is damaged; what could be read is shown."));
     return result;
 }
 

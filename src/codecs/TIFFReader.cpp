@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// TIFF files into A, R, G, B rows: plain layouts by strips and tiles on all cores, the rest by libtiff's own
 /// conversion.
+#include "base/Translation.h"
 #include "base/WorkPool.h"
 #include "codecs/Codec.h"
 #include "codecs/MetadataBlocks.h"
@@ -24,17 +25,18 @@ constexpr std::uint64_t kSmallChunk = 64 << 20; // a strip or tile that is alway
 
 std::string checkLayout(const TIFFLayout& layout)
 {
-    if (layout.samples < 1 || layout.bits < 1) return "The TIFF structure is damaged.";
+    if (layout.samples < 1 || layout.bits < 1) return translated("Codecs", "The TIFF structure is damaged.");
     if (layout.samples > 64 || layout.bits > 64)
-        return "TIFF pictures with so many or so large samples cannot be read.";
-    if (!layout.codecKnown) return "The TIFF file is compressed in a way that cannot be read.";
+        return translated("Codecs", "TIFF pictures with so many or so large samples cannot be read.");
+    if (!layout.codecKnown) return translated("Codecs", "The TIFF file is compressed in a way that cannot be read.");
     if (layout.chunkWidth <= 0 || layout.chunkHeight <= 0 || layout.chunkRowBytes <= 0)
-        return "The TIFF structure is damaged: its strips or tiles have no size.";
+        return translated("Codecs", "The TIFF structure is damaged: its strips or tiles have no size.");
     const auto picture = std::uint64_t(layout.width) * std::uint64_t(layout.height) * layout.samples * layout.bits / 8;
     const std::uint64_t chunk = std::uint64_t(layout.chunkRowBytes) * std::uint64_t(layout.chunkHeight);
     if (chunk > kSmallChunk && chunk / 4 > picture)
-        return "The TIFF structure is damaged: its strips or tiles are too large.";
-    if (layout.chunkCount() > kMaxChunks) return "The TIFF structure is damaged: it has too many strips or tiles.";
+        return translated("Codecs", "The TIFF structure is damaged: its strips or tiles are too large.");
+    if (layout.chunkCount() > kMaxChunks)
+        return translated("Codecs", "The TIFF structure is damaged: it has too many strips or tiles.");
     return {};
 }
 
@@ -154,7 +156,7 @@ bool decodeByLibrary(TIFFSource& source, const TIFFLayout& layout, BitmapView ou
     char message[1024] = {};
     TIFFRGBAImage image{};
     if (!TIFFRGBAImageOK(source.handle(), message) || !TIFFRGBAImageBegin(&image, source.handle(), 0, message)) {
-        error = "The TIFF data cannot be read: " + tidyMessage(message) + ".";
+        error = filledIn(translated("Codecs", "The TIFF data cannot be read: %1."), {tidyMessage(message)});
         return false;
     }
     image.orientation = image.req_orientation = ORIENTATION_TOPLEFT; // turning is done once for all kinds of file
@@ -163,7 +165,7 @@ bool decodeByLibrary(TIFFSource& source, const TIFFLayout& layout, BitmapView ou
                                                  std::uint32_t(layout.width), std::uint32_t(layout.height));
     TIFFRGBAImageEnd(&image);
     if (!raster) {
-        error = "There is not enough memory for this picture.";
+        error = translated("Codecs", "There is not enough memory for this picture.");
         return false;
     }
     for (int y = 0; y < layout.height; ++y) {
@@ -175,7 +177,7 @@ bool decodeByLibrary(TIFFSource& source, const TIFFLayout& layout, BitmapView ou
             for (int k = 0; k < 3; ++k) to[k + 1] = std::min(from[k], a);
         }
     }
-    if (!done) error = "The TIFF data is damaged: " + tidyMessage(source.message()) + ".";
+    if (!done) error = filledIn(translated("Codecs", "The TIFF data is damaged: %1."), {tidyMessage(source.message())});
     return done;
 }
 
@@ -232,15 +234,16 @@ Decoded decodeTIFF(Bytes bytes, const ImportOptions& options)
 {
     TIFFSource source(bytes);
     if (!source.isOpen())
-        return Decoded::failure("The TIFF data cannot be read: " + tidyMessage(source.message()) + ".");
+        return Decoded::failure(
+            filledIn(translated("Codecs", "The TIFF data cannot be read: %1."), {tidyMessage(source.message())}));
     TIFFLayout layout;
-    if (!layout.read(source.handle())) return Decoded::failure("The TIFF structure is damaged.");
+    if (!layout.read(source.handle())) return Decoded::failure(translated("Codecs", "The TIFF structure is damaged."));
     Decoded result;
     if (!checkSize(layout.width64, layout.height64, bytes.size(), result.error)) return result;
     if (result.error = checkLayout(layout); !result.error.empty()) return result;
 
     auto bitmap = BitmapRep::createUninitialized(layout.width, layout.height);
-    if (!bitmap) return Decoded::failure("There is not enough memory for this picture.");
+    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
     const std::unique_ptr<InkConverter> inks = options.properties ? inksOf(source, layout) : nullptr;
     layout.inks = inks.get();
     ImageProperties& properties = bitmap->properties;
@@ -249,17 +252,20 @@ Decoded decodeTIFF(Bytes bytes, const ImportOptions& options)
         if (faults.empty >= layout.chunkCount() / (layout.separatePlanes ? layout.samples : 1)) {
             std::vector<std::uint8_t> first(std::size_t(layout.chunkRowBytes) * std::size_t(layout.chunkHeight));
             source.readChunk(0, first.data(), std::int64_t(first.size()), layout.tiled); // for its message
-            return Decoded::failure("The TIFF data cannot be read: " + tidyMessage(source.message()) + ".");
+            return Decoded::failure(
+                filledIn(translated("Codecs", "The TIFF data cannot be read: %1."), {tidyMessage(source.message())}));
         }
         result.damaged = faults.damaged > 0;
-        if (result.damaged) properties.warnings.emplace_back("The TIFF data is damaged; what could be read is shown.");
+        if (result.damaged)
+            properties.warnings.emplace_back(
+                translated("Codecs", "The TIFF data is damaged; what could be read is shown."));
     } else {
         std::string error;
         if (!decodeByLibrary(source, layout, bitmap->view(), error)) return Decoded::failure(error);
     }
     if (layout.bits > 8) {
-        properties.warnings.emplace_back("The picture had " + std::to_string(layout.bits) +
-                                         " bits a colour; it was reduced to 8.");
+        properties.warnings.emplace_back(
+            translated("Codecs", "The picture had %n bits a colour; it was reduced to 8.", nullptr, int(layout.bits)));
     }
     result.orientation = layout.orientation;
     if (options.properties) collectProperties(source, layout, bytes, properties);

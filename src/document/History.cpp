@@ -31,8 +31,6 @@ std::int64_t now()
         .count();
 }
 
-QString tr(const char* text) { return QCoreApplication::translate("History", text); }
-
 /// The colour file is lossy: beside an edge of transparency it may bring back more colour than the alpha allows, which
 /// every blend after it would carry on beyond white.
 void limitToAlpha(BitmapView pixels)

@@ -5,6 +5,7 @@
 #include "document/Picture.h"
 #include "undo/SnapshotStore.h"
 #include "undo/SnapshotWriter.h"
+#include <QCoreApplication>
 #include <QString>
 #include <QTimer>
 #include <algorithm>
@@ -24,6 +25,8 @@ namespace zp
 /// Main thread, except where noted.
 class History
 {
+    Q_DECLARE_TR_FUNCTIONS(History)
+
 public:
     struct Step {
         std::int32_t number = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Rows and values of the image library.
 #include "library/LibraryListing.h"
+#include "base/Translation.h"
 #include <cstdio>
 #include <ctime>
 
@@ -70,7 +71,7 @@ std::string libraryValue(const LibraryItem& item, const std::string& column, Dim
     if (column == "KIND") return kindOf(pathExtension(item.path));
     if (column == "SIZE") return librarySizeText(item.attributes.size);
     if (column == "DIMENSIONS") {
-        if (item.broken) return "broken link";
+        if (item.broken) return translated("Library", "broken link");
         const PixelDimensions pixels = dimensions.of(item.file(), item.attributes);
         if (pixels.width <= 0 || pixels.height <= 0) return kUnknown;
         return std::to_string(pixels.width) + " x " + std::to_string(pixels.height);
@@ -83,8 +84,8 @@ std::string libraryValue(const LibraryItem& item, const std::string& column, Dim
 std::string librarySizeText(std::int64_t bytes)
 {
     const float k = float(std::int32_t(std::uint32_t(bytes))) * (1.0f / 1024.0f);
-    if (k > 2000.0f) return std::to_string(int(k / 1024.0f)) + " MB";
-    return std::to_string(int(k)) + " KB";
+    if (k > 2000.0f) return filledIn(translated("Files", "%1 MB"), {std::to_string(int(k / 1024.0f))});
+    return filledIn(translated("Files", "%1 KB"), {std::to_string(int(k))});
 }
 
 std::string libraryDateText(std::int64_t secondsSince1970)

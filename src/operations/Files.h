@@ -8,6 +8,7 @@
 #include "codecs/ImageImporter.h"
 #include "desktop/Panels.h"
 #include "document/Command.h"
+#include <QCoreApplication>
 #include <QString>
 #include <memory>
 #include <optional>
@@ -18,6 +19,11 @@ namespace zp
 
 class Document;
 class Edit;
+
+/// Gives the sentences about files their place among the translations.
+struct FileTexts {
+    Q_DECLARE_TR_FUNCTIONS(Files)
+};
 
 /// A blank picture that has no file yet. Refused with a word when there is no memory for it or it would be too large.
 Outcome newPicture(Document& document, Size size);

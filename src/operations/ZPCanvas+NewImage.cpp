@@ -23,8 +23,6 @@ namespace zp
 namespace
 {
 
-QString say(const char* text) { return QCoreApplication::translate("Files", text); }
-
 void markAsEdited(ImageProperties& properties)
 {
     properties.userComment = kEditedComment;
@@ -39,8 +37,8 @@ bool refusesSize(Edit& edit, Size size)
                           size.width > float(kMaxPixelsPerSide) || size.height > float(kMaxPixelsPerSide) ||
                           double(size.width) * double(size.height) > double(kMaxPixels);
     if (tooLarge)
-        edit.refuse(say("The image would be too large."),
-                    say("An image can have up to 30,000 pixels a side and 1,000 megapixels in all."));
+        edit.refuse(FileTexts::tr("The image would be too large."),
+                    FileTexts::tr("An image can have up to 30,000 pixels a side and 1,000 megapixels in all."));
     return tooLarge || size.width < float(-kMaxPixelsPerSide) || size.height < float(-kMaxPixelsPerSide);
 }
 
@@ -137,7 +135,7 @@ void installOpened(Edit& edit, OpenedFile file)
         edit.history().recordSoon(edit.picture(), QT_TRANSLATE_NOOP("Steps", "Open"));
         noticeWhatFileHolds(document);
     } else
-        edit.refuse(say("The file could not be opened."), whyNotOpened(path, document.lastFileError()));
+        edit.refuse(FileTexts::tr("The file could not be opened."), whyNotOpened(path, document.lastFileError()));
 }
 
 QString whyNotOpened(const std::string& path, const std::string& error)

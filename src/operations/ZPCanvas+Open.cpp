@@ -14,8 +14,6 @@ namespace zp
 namespace
 {
 
-QString say(const char* text) { return QCoreApplication::translate("Files", text); }
-
 /// The command that writes what Save does not.
 struct SaveCommand {
     const char *button, *action;
@@ -35,8 +33,8 @@ const SaveCommand& commandFor(std::string extension)
 
 QString notWrittenBySave(const std::string& extension)
 {
-    if (extension.empty()) return say("Save does not write files whose names have no extension.");
-    return say("Save does not write .%1 files.").arg(QString::fromStdString(displayName(extension)));
+    if (extension.empty()) return FileTexts::tr("Save does not write files whose names have no extension.");
+    return FileTexts::tr("Save does not write .%1 files.").arg(QString::fromStdString(displayName(extension)));
 }
 
 } // namespace
@@ -50,8 +48,8 @@ Outcome openPicture(Document& document, const std::string& path)
         return document.perform(kOpen, [&file](Edit& edit) { installOpened(edit, std::move(file)); });
     document.setLastFileError(file.image.error);
     const QString why = whyNotOpened(path, file.image.error);
-    document.say(say("Not opened: %1").arg(why));
-    runAlert(say("The file could not be opened."), why, {say("OK")});
+    document.say(FileTexts::tr("Not opened: %1").arg(why));
+    runAlert(FileTexts::tr("The file could not be opened."), why, {FileTexts::tr("OK")});
     return {Outcome::Failed, why};
 }
 
@@ -67,7 +65,7 @@ void noticeWhatFileHolds(Document& document)
     Notice notice;
     notice.ofPicture = true;
     const auto offer = [&notice](const SaveCommand& command) {
-        notice.button = say(command.button);
+        notice.button = FileTexts::tr(command.button);
         notice.action = command.action;
     };
     if (facts.jpegQuality > kJPEGQuality) offer(kAsJPEG);

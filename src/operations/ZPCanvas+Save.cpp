@@ -2,6 +2,7 @@
 /// The picture into files.
 #include "base/Folders.h"
 #include "base/Log.h"
+#include "base/Translation.h"
 #include "codecs/FileNames.h"
 #include "codecs/ImageEncoder.h"
 #include "codecs/PrivateData.h"
@@ -16,6 +17,7 @@
 #include "operations/Commands.h"
 #include "operations/Files.h"
 #include <QCoreApplication>
+#include <QLocale>
 #include <chrono>
 #include <new>
 
@@ -24,8 +26,6 @@ namespace zp
 
 namespace
 {
-
-QString say(const char* text) { return QCoreApplication::translate("Files", text); }
 
 /// @param quality  of a JPEG file
 std::vector<std::uint8_t> encoded(ConstBitmapView pixels, const ImageProperties& properties, SaveFormat format,
@@ -61,9 +61,9 @@ QString sizeTitle(std::size_t bytes)
 {
     constexpr double kKilo = 1024, kMostKilobytes = 2000;
     const double kilobytes = double(bytes) / kKilo;
-    if (kilobytes < 1) return QString("%1 bytes").arg(bytes);
-    if (kilobytes <= kMostKilobytes) return QString("%1 KB").arg(qRound64(kilobytes));
-    return QString("%1 MB").arg(kilobytes / kKilo, 0, 'f', 1);
+    if (kilobytes < 1) return FileTexts::tr("%n bytes", nullptr, int(bytes));
+    if (kilobytes <= kMostKilobytes) return FileTexts::tr("%1 KB").arg(qRound64(kilobytes));
+    return FileTexts::tr("%1 MB").arg(QLocale().toString(kilobytes / kKilo, 'f', 1));
 }
 
 /// Writes to exactly @p path. @param size  of the file, in bytes. @return why it failed, empty when it did not
@@ -72,11 +72,12 @@ std::string write(ConstBitmapView pixels, const ImageProperties& properties, con
 {
     const std::vector<std::uint8_t> bytes = encoded(pixels, properties, format, quality);
     if (bytes.empty())
-        return "There is not enough memory to encode the image, or it is too large for this kind of file.";
+        return translated("Files",
+                          "There is not enough memory to encode the image, or it is too large for this kind of file.");
     size = bytes.size();
     std::string error;
     if (writeFileSafely(path, bytes.data(), bytes.size(), &error)) return {};
-    return error.empty() ? "The file could not be written." : error;
+    return error.empty() ? translated("Files", "The file could not be written.") : error;
 }
 
 /// What the file that was opened held and the saved one does not.
@@ -115,13 +116,13 @@ bool writeAndTell(Edit& edit, const BitmapRep& shown, const ImageProperties& pro
     if (document.lastFileError().empty()) {
         logLosses(properties);
         edit.picture().noteWritten(path);
-        document.say(say("Saved %1 · %2 · %3").arg(name, formatTitle(format, quality), sizeTitle(size)));
+        document.say(FileTexts::tr("Saved %1 · %2 · %3").arg(name, formatTitle(format, quality), sizeTitle(size)));
         return true;
     }
     logLine("could not save %s: %s", path.c_str(), document.lastFileError().c_str());
     const QString why = name + ": " + QString::fromStdString(document.lastFileError());
-    document.say(say("Not saved: %1").arg(why));
-    edit.refuse(say("The file could not be saved."), why);
+    document.say(FileTexts::tr("Not saved: %1").arg(why));
+    edit.refuse(FileTexts::tr("The file could not be saved."), why);
     return false;
 }
 
@@ -130,8 +131,9 @@ bool save(Edit& edit, const std::string& path, SaveFormat format, int quality)
 {
     const std::shared_ptr<const BitmapRep> shown = pictureAsShown(edit.document());
     if (!shown) {
-        edit.document().setLastFileError("There is no image to save.");
-        edit.refuse(say("The file could not be saved."), QString::fromStdString(edit.document().lastFileError()));
+        edit.document().setLastFileError(translated("Files", "There is no image to save."));
+        edit.refuse(FileTexts::tr("The file could not be saved."),
+                    QString::fromStdString(edit.document().lastFileError()));
         return false;
     }
     if (!writeAndTell(edit, *shown, shown->properties, path, format, quality)) return false;
@@ -201,11 +203,13 @@ void operations::saveImage(Edit& edit, const Arguments&)
     switch (format) {
     case SaveFormat::None:
         // Without a word that has to be answered: the bar over the picture has said it at opening.
-        return edit.document().say(say("Not saved: %1").arg(say("Save does not write files of this name.")));
+        return edit.document().say(
+            FileTexts::tr("Not saved: %1").arg(FileTexts::tr("Save does not write files of this name.")));
     case SaveFormat::Photoshop:
-        return edit.refuse(say("Cannot save PSD file (Photoshop file)"),
-                           say("Choose 'File' > 'Save as TIFF…' or 'File' > 'Save as JPEG…' to save the image in "
-                               "another image format."));
+        return edit.refuse(
+            FileTexts::tr("Cannot save PSD file (Photoshop file)"),
+            FileTexts::tr("Choose 'File' > 'Save as TIFF…' or 'File' > 'Save as JPEG…' to save the image in "
+                          "another image format."));
     default:
         break;
     }

@@ -14,8 +14,6 @@ namespace zp
 namespace
 {
 
-QString say(const char* text) { return QCoreApplication::translate("Files", text); }
-
 struct Concerns {
     bool another = false; ///< a file that the picture was neither read from nor written to
     bool changed = false; ///< written by somebody else since
@@ -50,9 +48,9 @@ Permission askAboutLoss(Document& document, const std::string& path)
     const QString name = QString::fromStdString(displayName(lastPathComponent(path)));
     const QString lost = QString::fromStdString(lossBySaving(document.picture().files().facts));
     logLine("saving over %s, which has %s", path.c_str(), lost.toStdString().c_str());
-    switch (runAlert(say("The file holds more than the picture."),
-                     say("%1 has %2. Saving the picture into it takes that away.").arg(name, lost),
-                     {say("Save"), say("Save as…"), say("Cancel")})) {
+    switch (runAlert(FileTexts::tr("The file holds more than the picture."),
+                     FileTexts::tr("%1 has %2. Saving the picture into it takes that away.").arg(name, lost),
+                     {FileTexts::tr("Save"), FileTexts::tr("Save as…"), FileTexts::tr("Cancel")})) {
     case 0:
         return Permission::Save;
     case 1:
@@ -64,8 +62,9 @@ Permission askAboutLoss(Document& document, const std::string& path)
 
 bool askAboutChange()
 {
-    return runAlert(say("The file was changed since it was opened."),
-                    say("Do you want to overwrite the existing file?"), {say("Yes"), say("No")}) == 0;
+    return runAlert(FileTexts::tr("The file was changed since it was opened."),
+                    FileTexts::tr("Do you want to overwrite the existing file?"),
+                    {FileTexts::tr("Yes"), FileTexts::tr("No")}) == 0;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 /// Whole pairs in a locked, private folder.
 #include "undo/SnapshotStore.h"
 #include "base/Folders.h"
+#include "base/Translation.h"
 #include "undo/FolderFiles.h"
 #include "undo/LeftWork.h"
 #include "undo/PicturesAside.h"
@@ -162,7 +163,7 @@ bool SnapshotStore::stage(std::int32_t number, Half half, std::span<const std::u
 {
     const std::lock_guard lock(mMutex);
     if (mFolder < 0) {
-        error = "there is no undo folder";
+        error = translated("History", "there is no undo folder");
         return false;
     }
     const bool written = folder::writeFile(mFolder, partName(stepFileName(number, half)), bytes, error);

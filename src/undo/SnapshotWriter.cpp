@@ -2,6 +2,7 @@
 /// Step after step: the pair, the exact record, the note for the start after a crash.
 #include "undo/SnapshotWriter.h"
 #include "base/Log.h"
+#include "base/Translation.h"
 #include "undo/SnapshotStore.h"
 #include <algorithm>
 #include <chrono>
@@ -121,8 +122,8 @@ void SnapshotWriter::finished(WrittenStep result)
 std::string SnapshotWriter::writePair(StepJob& job)
 try {
     const auto start = Clock::now();
-    if (!job.capture) return "there is no picture";
-    if (!mEncoder.encode(*job.capture)) return "the step before could not be encoded";
+    if (!job.capture) return translated("History", "there is no picture");
+    if (!mEncoder.encode(*job.capture)) return translated("History", "the step before could not be encoded");
     std::string error;
     const auto stage = [&](Half half) {
         const auto bytes = half == Half::Colour ? mEncoder.colour() : mEncoder.alpha();
@@ -141,9 +142,9 @@ try {
     while (!stands && mStore.dropOldestAside()) stands = writeBoth();
     if (job.alphaFirst) logLine("takeSnapshot: JPEG+RLE: %f", secondsSince(start));
     if (stands) return {};
-    return error.empty() ? "the files could not be put in their places" : error;
+    return error.empty() ? translated("History", "the files could not be put in their places") : error;
 } catch (const std::bad_alloc&) {
-    return "not enough memory";
+    return translated("History", "not enough memory");
 }
 
 WrittenStep SnapshotWriter::write(StepJob& job)
@@ -157,7 +158,7 @@ WrittenStep SnapshotWriter::write(StepJob& job)
         if (std::exchange(mTimesOpened, mStore.timesOpened()) != 0) job.exact->reset(handle);
         if (handle >= 0) ::close(handle);
     }
-    result.error = folder ? writePair(job) : "there is no undo folder";
+    result.error = folder ? writePair(job) : translated("History", "there is no undo folder");
     result.pair = result.error.empty();
     if (!result.pair) logLine("takeSnapshot: step %d was not written: %s", int(job.number), result.error.c_str());
     if (job.capture) {

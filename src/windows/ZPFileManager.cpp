@@ -2,6 +2,7 @@
 /// The image library's commands.
 #include "windows/ZPFileManager.h"
 #include "base/NotificationCenter.h"
+#include "base/Translation.h"
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
@@ -109,7 +110,7 @@ void ZPFileManager::reload()
     mModel->reload();
     if (!name.empty()) selectName(name);
     mUi->mCountLabel->setText(
-        tr("%n picture(s)", nullptr, mModel->rowCount()).replace("(s)", mModel->rowCount() == 1 ? "" : "s"));
+        QString::fromStdString(translated("ZPFileManager", "%n picture(s)", nullptr, mModel->rowCount())));
     selectionChanged();
 }
 

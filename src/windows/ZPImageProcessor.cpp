@@ -3,6 +3,7 @@
 #include "windows/ZPImageProcessor.h"
 #include "base/Folders.h"
 #include "base/NotificationCenter.h"
+#include "base/Translation.h"
 #include "batch/BatchPicture.h"
 #include "batch/WatermarkDrawing.h"
 #include "batch/Watermarks.h"
@@ -240,7 +241,7 @@ std::string ZPImageProcessor::processEntry(const BatchSettings& settings, const 
     NotificationCenter& center = NotificationCenter::defaultCenter();
     center.post("_giveMeCanvasNotif"); // twice, as it has always been asked
     center.post("_giveMeCanvasNotif");
-    if (!mCanvas) return "There is no canvas to work on.";
+    if (!mCanvas) return translated("ZPImageProcessor", "There is no canvas to work on.");
     Document& document = mCanvas->document();
     document.perform("dontTakeSnapshot");
     struct SnapshotsAgain {
@@ -299,6 +300,6 @@ void ZPImageProcessor::reportFailures(const std::vector<BatchOutcome>& failures)
     for (const BatchOutcome& failure : failures)
         lines += QString("%1: %2\n").arg(textFromPath(failure.name), QString::fromStdString(failure.error));
     const QString title = failures.size() == 1 ? tr("One file could not be processed.")
-                                               : tr("%1 files could not be processed.").arg(failures.size());
+                                               : tr("%n files could not be processed.", nullptr, int(failures.size()));
     runAlert(title, lines.trimmed(), {tr("OK")});
 }

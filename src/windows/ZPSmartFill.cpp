@@ -3,6 +3,7 @@
 #include "windows/ZPSmartFill.h"
 #include "base/Log.h"
 #include "base/NotificationCenter.h"
+#include "base/Translation.h"
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
@@ -40,7 +41,8 @@ constexpr Command intoPicture(const char* action, const char* name)
     return {
         .action = action, .name = name, .effect = Effect::Paint, .onFloat = OnFloat::Settle, .step = StepRule::Always};
 }
-constexpr Command kSmartFill = intoPicture("smartFill", "Smart Fill"), kRemove = intoPicture("remove", "Remove");
+constexpr Command kSmartFill = intoPicture("smartFill", ZP_TEXT("Steps", "Smart Fill")),
+                  kRemove = intoPicture("remove", ZP_TEXT("Steps", "Remove"));
 
 /// How far around a removed thing colours are looked for, in pixels: half its longer side, so that a thin stroke sees
 /// more than its own width, but not half the picture.

@@ -1,0 +1,3236 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+<context>
+    <name>AboutBox</name>
+    <message>
+        <source>About Zelpane</source>
+        <translation>À propos de Zelpane</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Project &amp;Page</source>
+        <translation>&amp;Page du projet</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>Accessible</name>
+    <message>
+        <source>No picture</source>
+        <translation>Aucune image</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels</source>
+        <translation>%1 sur %2 pixels</translation>
+    </message>
+    <message>
+        <source>zoom %1</source>
+        <translation>zoom %1</translation>
+    </message>
+    <message>
+        <source>selected: %1</source>
+        <translation>sélection : %1</translation>
+    </message>
+</context>
+<context>
+    <name>Adjust</name>
+    <message>
+        <source>Adjust Selection</source>
+        <translation>Ajuster la sélection</translation>
+    </message>
+    <message>
+        <source>&amp;Hue:</source>
+        <translation>&amp;Teinte :</translation>
+    </message>
+    <message>
+        <source>Turns all colours about the grey axis, in hundredths of a radian; 0 leaves them as they are</source>
+        <translation>Fait tourner toutes les couleurs autour de l’axe des gris, en centièmes de radian ; 0 les laisse telles quelles</translation>
+    </message>
+    <message>
+        <source>Hue slider</source>
+        <translation>Curseur de teinte</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Teinte</translation>
+    </message>
+    <message>
+        <source>Sa&amp;turation:</source>
+        <translation>&amp;Saturation :</translation>
+    </message>
+    <message>
+        <source>Strength of the colours: 0 is grey, 100 leaves them as they are</source>
+        <translation>Force des couleurs : 0 donne du gris, 100 les laisse telles quelles</translation>
+    </message>
+    <message>
+        <source>Saturation slider</source>
+        <translation>Curseur de saturation</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Luminosité :</translation>
+    </message>
+    <message>
+        <source>Added to every colour; 0 leaves them as they are</source>
+        <translation>S’ajoute à chaque couleur ; 0 les laisse telles quelles</translation>
+    </message>
+    <message>
+        <source>Brightness slider</source>
+        <translation>Curseur de luminosité</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>&amp;Contrast:</source>
+        <translation>&amp;Contraste :</translation>
+    </message>
+    <message>
+        <source>Distance from mid grey; 100 leaves it as it is</source>
+        <translation>Distance au gris moyen ; 100 la laisse telle quelle</translation>
+    </message>
+    <message>
+        <source>Contrast slider</source>
+        <translation>Curseur de contraste</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>&amp;Sharpness:</source>
+        <translation>&amp;Netteté :</translation>
+    </message>
+    <message>
+        <source>Above 0 sharpens, below 0 blurs</source>
+        <translation>Au-dessus de 0 rend plus net, au-dessous plus flou</translation>
+    </message>
+    <message>
+        <source>Sharpness slider</source>
+        <translation>Curseur de netteté</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Réinitialiser</translation>
+    </message>
+    <message>
+        <source>All five back to what leaves the picture as it is</source>
+        <translation>Remet les cinq réglages à ce qui laisse l’image telle quelle</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Closes the dialog; the adjustment shown stays and can be undone once anchored</source>
+        <translation>Ferme le dialogue ; l’ajustement affiché reste et peut être annulé une fois ancré</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Closes the dialog; the adjustment shown stays</source>
+        <translation>Ferme le dialogue ; l’ajustement affiché reste</translation>
+    </message>
+    <message>
+        <source>The selection could not be adjusted.</source>
+        <translation>La sélection n’a pas pu être ajustée.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire est insuffisante.</translation>
+    </message>
+</context>
+<context>
+    <name>AdjustDialog</name>
+    <message>
+        <source> · %1°</source>
+        <translation> · %1°</translation>
+    </message>
+</context>
+<context>
+    <name>Clipboard</name>
+    <message>
+        <source>Selection %1.png</source>
+        <translation>Sélection %1.png</translation>
+    </message>
+    <message>
+        <source>Nothing could be pasted.</source>
+        <translation>Rien n’a pu être collé.</translation>
+    </message>
+    <message>
+        <source>The clipboard&apos;s picture cannot be read.</source>
+        <translation>L’image du presse-papiers est illisible.</translation>
+    </message>
+</context>
+<context>
+    <name>Codecs</name>
+    <message>
+        <source>The picture has no pixels.</source>
+        <translation>L’image n’a pas de pixels.</translation>
+    </message>
+    <message>
+        <source>The picture is too large: %1 x %2 pixels.</source>
+        <translation>L’image est trop grande : %1 × %2 pixels.</translation>
+    </message>
+    <message>
+        <source>The file is far too small for the %1 x %2 pixels it claims to hold.</source>
+        <translation>Le fichier est bien trop petit pour les %1 × %2 pixels qu’il prétend contenir.</translation>
+    </message>
+    <message>
+        <source>The picture of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
+        <translation>L’image de %1 × %2 pixels ne tient pas dans la mémoire de cette machine.</translation>
+    </message>
+    <message>
+        <source>its data is damaged</source>
+        <translation>ses données sont endommagées</translation>
+    </message>
+    <message>
+        <source>It is not a picture of a kind that can be opened.</source>
+        <translation>Ce n’est pas une image d’un type qui peut être ouvert.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Le fichier est vide.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Le fichier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>There is no permission to read the file.</source>
+        <translation>Vous n’avez pas le droit de lire le fichier.</translation>
+    </message>
+    <message>
+        <source>The file is a link that leads nowhere.</source>
+        <translation>Le fichier est un lien qui ne mène nulle part.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s name is too long.</source>
+        <translation>Le nom du fichier est trop long.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>Le fichier est illisible : %1.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the file.</source>
+        <translation>La mémoire est insuffisante pour lire le fichier.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this picture.</source>
+        <translation>La mémoire est insuffisante pour cette image.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be read: %1.</source>
+        <translation>L’image est illisible : %1.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be read.</source>
+        <translation>L’image est illisible.</translation>
+    </message>
+    <message>
+        <source>It is a folder, not a picture.</source>
+        <translation>C’est un dossier, pas une image.</translation>
+    </message>
+    <message>
+        <source>It is not an ordinary file.</source>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>The file is larger than 4 GiB.</source>
+        <translation>Le fichier dépasse 4 Gio.</translation>
+    </message>
+    <message>
+        <source>The colour profile is incomplete and was left out.</source>
+        <translation>Le profil de couleur est incomplet et a été laissé de côté.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this JPEG picture.</source>
+        <translation>La mémoire est insuffisante pour cette image JPEG.</translation>
+    </message>
+    <message>
+        <source>The JPEG data cannot be read: %1.</source>
+        <translation>Les données JPEG sont illisibles : %1.</translation>
+    </message>
+    <message>
+        <source>JPEG pictures with two components cannot be read.</source>
+        <translation>Les images JPEG à deux composantes ne peuvent pas être lues.</translation>
+    </message>
+    <message>
+        <source>The JPEG data is damaged; what could be read is shown.</source>
+        <translation>Les données JPEG sont endommagées ; ce qui a pu être lu est affiché.</translation>
+    </message>
+    <message>
+        <source>The %1 picture is larger than the limits of this machine allow.</source>
+        <translation>L’image %1 dépasse les limites de cette machine.</translation>
+    </message>
+    <message>
+        <source>The %1 data cannot be read: %2.</source>
+        <translation>Les données %1 sont illisibles : %2.</translation>
+    </message>
+    <message>
+        <source>The picture&apos;s data is damaged; what could be read is shown.</source>
+        <translation>Les données de l’image sont endommagées ; ce qui a pu être lu est affiché.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The picture had %n bits a colour; it was reduced to 8.</source>
+        <translation>
+            <numerusform>L’image avait %n bit par couleur ; elle a été réduite à 8.</numerusform>
+            <numerusform>L’image avait %n bits par couleur ; elle a été réduite à 8.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The EXIF data is damaged and was left out.</source>
+        <translation>Les données EXIF sont endommagées et ont été laissées de côté.</translation>
+    </message>
+    <message>
+        <source>Damaged parts of the EXIF data were left out.</source>
+        <translation>Les parties endommagées des données EXIF ont été laissées de côté.</translation>
+    </message>
+    <message>
+        <source>The XMP data is damaged and was left out.</source>
+        <translation>Les données XMP sont endommagées et ont été laissées de côté.</translation>
+    </message>
+    <message>
+        <source>The colour profile is damaged and was left out.</source>
+        <translation>Le profil de couleur est endommagé et a été laissé de côté.</translation>
+    </message>
+    <message>
+        <source>The picture was converted to RGB; its colour profile was left out.</source>
+        <translation>L’image a été convertie en RVB ; son profil de couleur a été laissé de côté.</translation>
+    </message>
+    <message>
+        <source>The colour profile does not fit the picture and was left out.</source>
+        <translation>Le profil de couleur ne convient pas à l’image et a été laissé de côté.</translation>
+    </message>
+    <message>
+        <source>The IPTC data is damaged and was left out.</source>
+        <translation>Les données IPTC sont endommagées et ont été laissées de côté.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or ended too early; what could be read is shown.</source>
+        <translation>Le fichier est endommagé ou s’arrête trop tôt ; ce qui a pu être lu est affiché.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has %n page(s); this is the first.</source>
+        <translation>
+            <numerusform>Le fichier a %n page ; voici la première.</numerusform>
+            <numerusform>Le fichier a %n pages ; voici la première.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has %n frame(s); this is the first.</source>
+        <translation>
+            <numerusform>Le fichier a %n trame ; voici la première.</numerusform>
+            <numerusform>Le fichier a %n trames ; voici la première.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has %n layer(s); this is what they make together.</source>
+        <translation>
+            <numerusform>Le fichier a %n calque ; voici ce qu’il donne.</numerusform>
+            <numerusform>Le fichier a %n calques ; voici ce qu’ils donnent ensemble.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has %n bits a colour; the picture has 8.</source>
+        <translation>
+            <numerusform>Le fichier a %n bit par couleur ; l’image en a 8.</numerusform>
+            <numerusform>Le fichier a %n bits par couleur ; l’image en a 8.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file is in printing inks; the picture is in red, green and blue.</source>
+        <translation>Le fichier est en encres d’impression ; l’image est en rouge, vert et bleu.</translation>
+    </message>
+    <message>
+        <source>Save writes quality %1; this file has %2.</source>
+        <translation>Enregistrer écrit la qualité %1 ; ce fichier a %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frame(s)</source>
+        <translation>
+            <numerusform>%n trame</numerusform>
+            <numerusform>%n trames</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n layer(s)</source>
+        <translation>
+            <numerusform>%n calque</numerusform>
+            <numerusform>%n calques</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bits a colour</source>
+        <translation>
+            <numerusform>%n bit par couleur</numerusform>
+            <numerusform>%n bits par couleur</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>its palette is corrupt</source>
+        <translation>leur palette est altérée</translation>
+    </message>
+    <message>
+        <source>its palette is damaged</source>
+        <translation>leur palette est endommagée</translation>
+    </message>
+    <message>
+        <source>it holds what is unknown and cannot be left out</source>
+        <translation>elles contiennent de l’inconnu qui ne peut pas être laissé de côté</translation>
+    </message>
+    <message>
+        <source>The PNG data cannot be read: %1.</source>
+        <translation>Les données PNG sont illisibles : %1.</translation>
+    </message>
+    <message>
+        <source>its header is damaged</source>
+        <translation>leur en-tête est endommagé</translation>
+    </message>
+    <message>
+        <source>it has no pixels</source>
+        <translation>elles n’ont pas de pixels</translation>
+    </message>
+    <message>
+        <source>the file is damaged or ends before its pixels</source>
+        <translation>le fichier est endommagé ou s’arrête avant ses pixels</translation>
+    </message>
+    <message>
+        <source>it has no palette</source>
+        <translation>elles n’ont pas de palette</translation>
+    </message>
+    <message>
+        <source>The PNG data cannot be read: a checksum of its pixels is wrong.</source>
+        <translation>Les données PNG sont illisibles : une somme de contrôle de leurs pixels est fausse.</translation>
+    </message>
+    <message>
+        <source>The PNG data cannot be read: not one row of its pixels is whole.</source>
+        <translation>Les données PNG sont illisibles : pas une ligne de pixels n’est entière.</translation>
+    </message>
+    <message>
+        <source>The PNG data is damaged; what could be read is shown.</source>
+        <translation>Les données PNG sont endommagées ; ce qui a pu être lu est affiché.</translation>
+    </message>
+    <message>
+        <source>The PSD data cannot be read: its palette is damaged.</source>
+        <translation>Les données PSD sont illisibles : leur palette est endommagée.</translation>
+    </message>
+    <message>
+        <source>The PSD data is damaged; what could be read is shown.</source>
+        <translation>Les données PSD sont endommagées ; ce qui a pu être lu est affiché.</translation>
+    </message>
+    <message>
+        <source>The TIFF structure is damaged.</source>
+        <translation>La structure du fichier TIFF est endommagée.</translation>
+    </message>
+    <message>
+        <source>TIFF pictures with so many or so large samples cannot be read.</source>
+        <translation>Les images TIFF avec des échantillons si nombreux ou si grands ne peuvent pas être lues.</translation>
+    </message>
+    <message>
+        <source>The TIFF file is compressed in a way that cannot be read.</source>
+        <translation>Le fichier TIFF est compressé d’une façon qui ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>The TIFF structure is damaged: its strips or tiles have no size.</source>
+        <translation>La structure du fichier TIFF est endommagée : ses bandes ou tuiles n’ont pas de taille.</translation>
+    </message>
+    <message>
+        <source>The TIFF structure is damaged: its strips or tiles are too large.</source>
+        <translation>La structure du fichier TIFF est endommagée : ses bandes ou tuiles sont trop grandes.</translation>
+    </message>
+    <message>
+        <source>The TIFF structure is damaged: it has too many strips or tiles.</source>
+        <translation>La structure du fichier TIFF est endommagée : il a trop de bandes ou de tuiles.</translation>
+    </message>
+    <message>
+        <source>The TIFF data cannot be read: %1.</source>
+        <translation>Les données TIFF sont illisibles : %1.</translation>
+    </message>
+    <message>
+        <source>The TIFF data is damaged: %1.</source>
+        <translation>Les données TIFF sont endommagées : %1.</translation>
+    </message>
+    <message>
+        <source>The TIFF data is damaged; what could be read is shown.</source>
+        <translation>Les données TIFF sont endommagées ; ce qui a pu être lu est affiché.</translation>
+    </message>
+</context>
+<context>
+    <name>ColorWell</name>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Couleurs</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire est insuffisante.</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyView</name>
+    <message>
+        <source>Drop a picture here</source>
+        <translation>Déposez une image ici</translation>
+    </message>
+    <message>
+        <source>&amp;New…</source>
+        <translation>&amp;Nouvelle…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+</context>
+<context>
+    <name>FileManager</name>
+    <message>
+        <source>Image Library</source>
+        <translation>Photothèque</translation>
+    </message>
+    <message>
+        <source>Pictures of the library</source>
+        <translation>Images de la photothèque</translation>
+    </message>
+    <message>
+        <source>Drop pictures here to add them</source>
+        <translation>Déposez des images ici pour les ajouter</translation>
+    </message>
+    <message>
+        <source>Preview of the selected picture</source>
+        <translation>Aperçu de l’image choisie</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Ajouter…</translation>
+    </message>
+    <message>
+        <source>Adds a link to a picture</source>
+        <translation>Ajoute un lien vers une image</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Renommer…</translation>
+    </message>
+    <message>
+        <source>Renames the selected entry (F2)</source>
+        <translation>Renomme l’entrée choisie (F2)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Deletes the selected entry, never the picture that a link leads to (Delete)</source>
+        <translation>Supprime l’entrée choisie, jamais l’image à laquelle mène un lien (Suppr)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Opens the selected picture in the editor (Return)</source>
+        <translation>Ouvre l’image choisie dans l’éditeur (Entrée)</translation>
+    </message>
+</context>
+<context>
+    <name>Files</name>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 Ko</translation>
+    </message>
+    <message>
+        <source>The image would be too large.</source>
+        <translation>L’image serait trop grande.</translation>
+    </message>
+    <message>
+        <source>An image can have up to 30,000 pixels a side and 1,000 megapixels in all.</source>
+        <translation>Une image peut avoir jusqu’à 30 000 pixels de côté et 1 000 mégapixels en tout.</translation>
+    </message>
+    <message>
+        <source>The file could not be opened.</source>
+        <translation>Le fichier n’a pas pu être ouvert.</translation>
+    </message>
+    <message>
+        <source>Use Save as TIFF…</source>
+        <translation>Enregistrer en TIFF…</translation>
+    </message>
+    <message>
+        <source>Use Save as JPEG…</source>
+        <translation>Enregistrer en JPEG…</translation>
+    </message>
+    <message>
+        <source>Use Save as PNG…</source>
+        <translation>Enregistrer en PNG…</translation>
+    </message>
+    <message>
+        <source>Save does not write files whose names have no extension.</source>
+        <translation>Enregistrer n’écrit pas les fichiers sans extension.</translation>
+    </message>
+    <message>
+        <source>Save does not write .%1 files.</source>
+        <translation>Enregistrer n’écrit pas les fichiers .%1.</translation>
+    </message>
+    <message>
+        <source>Not opened: %1</source>
+        <translation>Non ouvert : %1</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The picture could not be brought back.</source>
+        <translation>L’image n’a pas pu être rétablie.</translation>
+    </message>
+    <message>
+        <source>Its steps are gone from the folder of temporary files.</source>
+        <translation>Ses étapes ont disparu du dossier des fichiers temporaires.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%n octet</numerusform>
+            <numerusform>%n octets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is not enough memory to encode the image, or it is too large for this kind of file.</source>
+        <translation>La mémoire est insuffisante pour encoder l’image, ou elle est trop grande pour ce type de fichier.</translation>
+    </message>
+    <message>
+        <source>The file could not be written.</source>
+        <translation>Le fichier n’a pas pu être écrit.</translation>
+    </message>
+    <message>
+        <source>Saved %1 · %2 · %3</source>
+        <translation>%1 enregistré · %2 · %3</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Non enregistré : %1</translation>
+    </message>
+    <message>
+        <source>The file could not be saved.</source>
+        <translation>Le fichier n’a pas pu être enregistré.</translation>
+    </message>
+    <message>
+        <source>There is no image to save.</source>
+        <translation>Il n’y a pas d’image à enregistrer.</translation>
+    </message>
+    <message>
+        <source>Save does not write files of this name.</source>
+        <translation>Enregistrer n’écrit pas les fichiers de ce nom.</translation>
+    </message>
+    <message>
+        <source>Cannot save PSD file (Photoshop file)</source>
+        <translation>Impossible d’enregistrer un fichier PSD (fichier Photoshop)</translation>
+    </message>
+    <message>
+        <source>Choose &apos;File&apos; &gt; &apos;Save as TIFF…&apos; or &apos;File&apos; &gt; &apos;Save as JPEG…&apos; to save the image in another image format.</source>
+        <translation>Choisissez « Fichier » &gt; « Enregistrer en TIFF… » ou « Fichier » &gt; « Enregistrer en JPEG… » pour enregistrer l’image dans un autre format.</translation>
+    </message>
+    <message>
+        <source>The file holds more than the picture.</source>
+        <translation>Le fichier contient plus que l’image.</translation>
+    </message>
+    <message>
+        <source>%1 has %2. Saving the picture into it takes that away.</source>
+        <translation>%1 contient %2. Y enregistrer l’image les ferait disparaître.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The file was changed since it was opened.</source>
+        <translation>Le fichier a été modifié depuis son ouverture.</translation>
+    </message>
+    <message>
+        <source>Do you want to overwrite the existing file?</source>
+        <translation>Voulez-vous remplacer le fichier existant ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>Folders</name>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Le disque est plein.</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up.</source>
+        <translation>Le quota du disque est épuisé.</translation>
+    </message>
+    <message>
+        <source>The file would be larger than is allowed here.</source>
+        <translation>Le fichier dépasserait la taille permise ici.</translation>
+    </message>
+    <message>
+        <source>There is no permission to write here.</source>
+        <translation>Vous n’avez pas le droit d’écrire ici.</translation>
+    </message>
+    <message>
+        <source>The disk cannot be written to.</source>
+        <translation>Le disque ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>The folder does not exist.</source>
+        <translation>Le dossier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>A part of the path is not a folder.</source>
+        <translation>Une partie du chemin n’est pas un dossier.</translation>
+    </message>
+    <message>
+        <source>There is a folder of that name.</source>
+        <translation>Un dossier porte déjà ce nom.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Le nom est trop long.</translation>
+    </message>
+    <message>
+        <source>The link leads round in a circle.</source>
+        <translation>Le lien tourne en rond.</translation>
+    </message>
+    <message>
+        <source>The disk reported an error.</source>
+        <translation>Le disque a signalé une erreur.</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>Trop de fichiers sont ouverts.</translation>
+    </message>
+</context>
+<context>
+    <name>History</name>
+    <message>
+        <source>Undo steps cannot be written to the disk (%1). They are kept in memory until the program ends.</source>
+        <translation>Les étapes d’annulation ne peuvent pas être écrites sur le disque (%1). Elles restent en mémoire jusqu’à la fin du programme.</translation>
+    </message>
+    <message>
+        <source>The last change could not be kept as a step of its own (%1).</source>
+        <translation>La dernière modification n’a pas pu être gardée comme étape à part (%1).</translation>
+    </message>
+    <message>
+        <source>There is no place for undo steps among the temporary files. A private folder of this session serves instead.</source>
+        <translation>Il n’y a pas de place pour les étapes d’annulation parmi les fichiers temporaires. Un dossier privé de cette session les remplace.</translation>
+    </message>
+    <message>
+        <source>Nothing was undone: what is on screen could be kept neither on the disk nor in memory.</source>
+        <translation>Rien n’a été annulé : ce qui est à l’écran n’a pu être gardé ni sur le disque ni en mémoire.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire est insuffisante.</translation>
+    </message>
+    <message>
+        <source>there is no undo folder</source>
+        <translation>il n’y a pas de dossier d’annulation</translation>
+    </message>
+    <message>
+        <source>there is no picture</source>
+        <translation>il n’y a pas d’image</translation>
+    </message>
+    <message>
+        <source>the step before could not be encoded</source>
+        <translation>l’étape précédente n’a pas pu être encodée</translation>
+    </message>
+    <message>
+        <source>the files could not be put in their places</source>
+        <translation>les fichiers n’ont pas pu être mis en place</translation>
+    </message>
+    <message>
+        <source>not enough memory</source>
+        <translation>mémoire insuffisante</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPanel</name>
+    <message>
+        <source>Change</source>
+        <translation>Modification</translation>
+    </message>
+    <message>
+        <source>There is no room for the very pixels of this step: it comes back as its files hold it, nearly the same.</source>
+        <translation>Il n’y a pas de place pour les pixels exacts de cette étape : elle revient telle que ses fichiers la gardent, presque pareille.</translation>
+    </message>
+    <message>
+        <source>This step could not be kept.</source>
+        <translation>Cette étape n’a pas pu être gardée.</translation>
+    </message>
+    <message>
+        <source>Go to this step</source>
+        <translation>Aller à cette étape</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Steps of the image, oldest first</source>
+        <translation>Étapes de l’image, de la plus ancienne à la plus récente</translation>
+    </message>
+</context>
+<context>
+    <name>ImageProcessor</name>
+    <message>
+        <source>Image Processor</source>
+        <translation>Traitement par lots</translation>
+    </message>
+    <message>
+        <source>&amp;Source folder:</source>
+        <translation>&amp;Dossier source :</translation>
+    </message>
+    <message>
+        <source>Every .tiff and .jpg image in it</source>
+        <translation>Toutes les images .tiff et .jpg qu’il contient</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>&amp;Destination folder:</source>
+        <translation>D&amp;ossier de destination :</translation>
+    </message>
+    <message>
+        <source>Save as:</source>
+        <translation>Enregistrer en :</translation>
+    </message>
+    <message>
+        <source>&amp;TIFF</source>
+        <translation>&amp;TIFF</translation>
+    </message>
+    <message>
+        <source>&amp;JPEG</source>
+        <translation>&amp;JPEG</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>&amp;Fit into</source>
+        <translation>&amp;Adapter à</translation>
+    </message>
+    <message>
+        <source>Width of the box in pixels</source>
+        <translation>Largeur du cadre en pixels</translation>
+    </message>
+    <message>
+        <source>by</source>
+        <translation>sur</translation>
+    </message>
+    <message>
+        <source>Height of the box in pixels</source>
+        <translation>Hauteur du cadre en pixels</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Watermark:</source>
+        <translation>&amp;Filigrane :</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Images in the watermark folder</source>
+        <translation>Images du dossier des filigranes</translation>
+    </message>
+    <message>
+        <source>&amp;Position:</source>
+        <translation>&amp;Position :</translation>
+    </message>
+    <message>
+        <source>Fills in the position for images as large as the box</source>
+        <translation>Remplit la position pour des images aussi grandes que le cadre</translation>
+    </message>
+    <message>
+        <source>Custom position</source>
+        <translation>Position libre</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Upper left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centre</translation>
+    </message>
+    <message>
+        <source>From the left edge in pixels</source>
+        <translation>Depuis le bord gauche, en pixels</translation>
+    </message>
+    <message>
+        <source>From the lower edge in pixels</source>
+        <translation>Depuis le bord inférieur, en pixels</translation>
+    </message>
+    <message>
+        <source>In &amp;each picture by its own size, with a margin of</source>
+        <translation>Dans &amp;chaque image selon sa taille, avec une marge de</translation>
+    </message>
+    <message>
+        <source>The preset holds for every picture, upright or flat, instead of filling in X and Y</source>
+        <translation>Le préréglage vaut pour chaque image, debout ou couchée, au lieu de remplir X et Y</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Between the watermark and the edges of its corner in pixels</source>
+        <translation>Entre le filigrane et les bords de son coin, en pixels</translation>
+    </message>
+    <message>
+        <source>Margin of the watermark</source>
+        <translation>Marge du filigrane</translation>
+    </message>
+    <message>
+        <source>&amp;Opacity:</source>
+        <translation>Opac&amp;ité :</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Of the watermark, on top of its own</source>
+        <translation>Du filigrane, en plus de la sienne</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Lancer</translation>
+    </message>
+</context>
+<context>
+    <name>Keys</name>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+</context>
+<context>
+    <name>Library</name>
+    <message>
+        <source>broken link</source>
+        <translation>lien rompu</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryModel</name>
+    <message>
+        <source>The file that this link leads to is gone. The link can be deleted.</source>
+        <translation>Le fichier auquel mène ce lien a disparu. Le lien peut être supprimé.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Dimensions</source>
+        <translation>Dimensions</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Modifié</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Chemin</translation>
+    </message>
+</context>
+<context>
+    <name>LoadSelection</name>
+    <message>
+        <source>Load Selection</source>
+        <translation>Charger une sélection</translation>
+    </message>
+    <message>
+        <source>&amp;Saved selection:</source>
+        <translation>&amp;Sélection enregistrée :</translation>
+    </message>
+    <message>
+        <source>The outline to use; it lands where it was drawn</source>
+        <translation>Le contour à utiliser ; il se place là où il a été dessiné</translation>
+    </message>
+    <message>
+        <source>The selection that there is now is dropped, a floating one with its pixels.</source>
+        <translation>La sélection actuelle est abandonnée, avec ses pixels si elle flotte.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Delete the chosen selection&apos;s file for good</source>
+        <translation>Supprimer pour de bon le fichier de la sélection choisie</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close and keep the selection as it is</source>
+        <translation>Fermer et garder la sélection telle quelle</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Charger</translation>
+    </message>
+    <message>
+        <source>Select by the chosen outline</source>
+        <translation>Sélectionner selon le contour choisi</translation>
+    </message>
+</context>
+<context>
+    <name>LoadSelectionDialog</name>
+    <message>
+        <source>Do you wish to delete the folder with all that is in it?</source>
+        <translation>Voulez-vous supprimer le dossier avec tout ce qu’il contient ?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>Zelpane</source>
+        <translation>Zelpane</translation>
+    </message>
+    <message>
+        <source>Tool (keys 1 to 9 and 0)</source>
+        <translation>Outil (touches 1 à 9 et 0)</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>Outil</translation>
+    </message>
+    <message>
+        <source>Paint colour and opacity</source>
+        <translation>Couleur de peinture et opacité</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Diameter of brush, pencil, eraser and clone stamp in pixels; also the text size and the width of strokes</source>
+        <translation>Diamètre du pinceau, du crayon, de la gomme et du clonage en pixels ; aussi la taille du texte et l’épaisseur des contours</translation>
+    </message>
+    <message>
+        <source>Size in pixels</source>
+        <translation>Taille en pixels</translation>
+    </message>
+    <message>
+        <source>Shape of the brush tip</source>
+        <translation>Forme de la pointe du pinceau</translation>
+    </message>
+    <message>
+        <source>Brush shape</source>
+        <translation>Forme du pinceau</translation>
+    </message>
+    <message>
+        <source>Tolerance</source>
+        <translation>Tolérance</translation>
+    </message>
+    <message>
+        <source>How far a colour may differ from the one under the pointer</source>
+        <translation>De combien une couleur peut différer de celle sous le pointeur</translation>
+    </message>
+    <message>
+        <source>Tolerance in percent</source>
+        <translation>Tolérance en pour cent</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Occupé</translation>
+    </message>
+    <message>
+        <source>Zoom (keys + and −, Ctrl+wheel)</source>
+        <translation>Zoom (touches + et −, Ctrl+molette)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Tool options</source>
+        <translation>Options de l’outil</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Brush %1</source>
+        <translation>Pinceau %1</translation>
+    </message>
+    <message>
+        <source>Fit · %1</source>
+        <translation>Adapté · %1</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Carré</translation>
+    </message>
+    <message>
+        <source>As if Command were held: the marquee becomes a square</source>
+        <translation>Comme si Command était enfoncée : le cadre devient un carré</translation>
+    </message>
+    <message>
+        <source>Oval</source>
+        <translation>Ovale</translation>
+    </message>
+    <message>
+        <source>As if Control were held: the marquee becomes an oval</source>
+        <translation>Comme si Control était enfoncée : le cadre devient un ovale</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygone</translation>
+    </message>
+    <message>
+        <source>As if Control were held: click corners, Return ends</source>
+        <translation>Comme si Control était enfoncée : cliquez les coins, Entrée termine</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>As if Shift were held: the new shape joins the selection</source>
+        <translation>Comme si Maj était enfoncée : la nouvelle forme s’ajoute à la sélection</translation>
+    </message>
+    <message>
+        <source>Subtract</source>
+        <translation>Soustraire</translation>
+    </message>
+    <message>
+        <source>As if Option were held: the new shape is cut from the selection</source>
+        <translation>Comme si Option était enfoncée : la nouvelle forme est retirée de la sélection</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>Flotter</translation>
+    </message>
+    <message>
+        <source>As if Command were held: dragging the selection lifts its pixels</source>
+        <translation>Comme si Command était enfoncée : faire glisser la sélection soulève ses pixels</translation>
+    </message>
+    <message>
+        <source>Straight</source>
+        <translation>Droit</translation>
+    </message>
+    <message>
+        <source>As if Shift were held: one straight line from press to release</source>
+        <translation>Comme si Maj était enfoncée : une ligne droite de l’appui au relâchement</translation>
+    </message>
+    <message>
+        <source>Set source</source>
+        <translation>Définir la source</translation>
+    </message>
+    <message>
+        <source>As if Option were held: the click sets where pixels come from</source>
+        <translation>Comme si Option était enfoncée : le clic fixe d’où viennent les pixels</translation>
+    </message>
+    <message>
+        <source>Untitled[*] — Zelpane</source>
+        <translation>Sans titre[*] — Zelpane</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>About Zelpane</source>
+        <translation>À propos de Zelpane</translation>
+    </message>
+    <message>
+        <source>Version and licence</source>
+        <translation>Version et licence</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Préférences…</translation>
+    </message>
+    <message>
+        <source>Units, keys and other settings</source>
+        <translation>Unités, touches et autres réglages</translation>
+    </message>
+    <message>
+        <source>Quit Zelpane</source>
+        <translation>Quitter Zelpane</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Termine le programme</translation>
+    </message>
+    <message>
+        <source>New…</source>
+        <translation>Nouvelle…</translation>
+    </message>
+    <message>
+        <source>Makes a blank image</source>
+        <translation>Crée une image vide</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Opens an image file</source>
+        <translation>Ouvre un fichier d’image</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Ouvrir récent</translation>
+    </message>
+    <message>
+        <source>Previous Picture</source>
+        <translation>Image précédente</translation>
+    </message>
+    <message>
+        <source>Shows the image again that was open before this one</source>
+        <translation>Affiche de nouveau l’image ouverte avant celle-ci</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Writes the image into its file</source>
+        <translation>Écrit l’image dans son fichier</translation>
+    </message>
+    <message>
+        <source>Save as TIFF…</source>
+        <translation>Enregistrer en TIFF…</translation>
+    </message>
+    <message>
+        <source>Writes a TIFF file; transparency is kept</source>
+        <translation>Écrit un fichier TIFF ; la transparence est gardée</translation>
+    </message>
+    <message>
+        <source>Save as JPEG…</source>
+        <translation>Enregistrer en JPEG…</translation>
+    </message>
+    <message>
+        <source>Writes a JPEG file; transparent areas become white</source>
+        <translation>Écrit un fichier JPEG ; les parties transparentes deviennent blanches</translation>
+    </message>
+    <message>
+        <source>Save as PNG…</source>
+        <translation>Enregistrer en PNG…</translation>
+    </message>
+    <message>
+        <source>Writes a PNG file; transparency is kept</source>
+        <translation>Écrit un fichier PNG ; la transparence est gardée</translation>
+    </message>
+    <message>
+        <source>Save without Private Data…</source>
+        <translation>Enregistrer sans données privées…</translation>
+    </message>
+    <message>
+        <source>Writes a copy that says nothing of place, device and people</source>
+        <translation>Écrit une copie qui ne dit rien du lieu, de l’appareil ni des personnes</translation>
+    </message>
+    <message>
+        <source>Quick Save…</source>
+        <translation>Enregistrement rapide…</translation>
+    </message>
+    <message>
+        <source>Saves into the image library</source>
+        <translation>Enregistre dans la photothèque</translation>
+    </message>
+    <message>
+        <source>Open with Preview</source>
+        <translation>Ouvrir dans la visionneuse</translation>
+    </message>
+    <message>
+        <source>Shows the file in the desktop&apos;s image viewer</source>
+        <translation>Montre le fichier dans la visionneuse d’images du bureau</translation>
+    </message>
+    <message>
+        <source>Page Setup…</source>
+        <translation>Mise en page…</translation>
+    </message>
+    <message>
+        <source>Paper size and orientation</source>
+        <translation>Format du papier et orientation</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Imprimer…</translation>
+    </message>
+    <message>
+        <source>Prints the image on the paper of Page Setup</source>
+        <translation>Imprime l’image sur le papier de la mise en page</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Takes the last change back</source>
+        <translation>Défait la dernière modification</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Brings the change back that was undone</source>
+        <translation>Refait la modification annulée</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Moves the selected pixels to the clipboard</source>
+        <translation>Déplace les pixels sélectionnés dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copies the selected pixels, or the whole image, to the clipboard</source>
+        <translation>Copie les pixels sélectionnés, ou toute l’image, dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Places the clipboard&apos;s image as a floating selection</source>
+        <translation>Place l’image du presse-papiers comme sélection flottante</translation>
+    </message>
+    <message>
+        <source>Paste Into</source>
+        <translation>Coller dedans</translation>
+    </message>
+    <message>
+        <source>Places the clipboard&apos;s image inside the selection</source>
+        <translation>Place l’image du presse-papiers dans la sélection</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Makes the selected pixels transparent</source>
+        <translation>Rend transparents les pixels sélectionnés</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>Fills the selection with the paint colour</source>
+        <translation>Remplit la sélection de la couleur de peinture</translation>
+    </message>
+    <message>
+        <source>Stroke</source>
+        <translation>Contour</translation>
+    </message>
+    <message>
+        <source>Draws the selection&apos;s outline in the paint colour</source>
+        <translation>Trace le contour de la sélection dans la couleur de peinture</translation>
+    </message>
+    <message>
+        <source>Smart Fill…</source>
+        <translation>Remplissage intelligent…</translation>
+    </message>
+    <message>
+        <source>Fills the selection from its surroundings</source>
+        <translation>Remplit la sélection d’après son entourage</translation>
+    </message>
+    <message>
+        <source>Transform…</source>
+        <translation>Transformer…</translation>
+    </message>
+    <message>
+        <source>Scales and rotates the selected pixels</source>
+        <translation>Met à l’échelle et tourne les pixels sélectionnés</translation>
+    </message>
+    <message>
+        <source>Adjust…</source>
+        <translation>Ajuster…</translation>
+    </message>
+    <message>
+        <source>Hue, saturation, brightness, contrast and sharpness of the selection</source>
+        <translation>Teinte, saturation, luminosité, contraste et netteté de la sélection</translation>
+    </message>
+    <message>
+        <source>Resize…</source>
+        <translation>Redimensionner…</translation>
+    </message>
+    <message>
+        <source>Changes the size of the image</source>
+        <translation>Change la taille de l’image</translation>
+    </message>
+    <message>
+        <source>Crop to Selection</source>
+        <translation>Rogner à la sélection</translation>
+    </message>
+    <message>
+        <source>Cuts the image to the selection&apos;s box</source>
+        <translation>Coupe l’image au cadre de la sélection</translation>
+    </message>
+    <message>
+        <source>Rotate Clockwise</source>
+        <translation>Pivoter à droite</translation>
+    </message>
+    <message>
+        <source>Turns the image by 90° to the right</source>
+        <translation>Tourne l’image de 90° vers la droite</translation>
+    </message>
+    <message>
+        <source>Rotate Counter-Clockwise</source>
+        <translation>Pivoter à gauche</translation>
+    </message>
+    <message>
+        <source>Turns the image by 90° to the left</source>
+        <translation>Tourne l’image de 90° vers la gauche</translation>
+    </message>
+    <message>
+        <source>Flip Horizontally</source>
+        <translation>Retourner horizontalement</translation>
+    </message>
+    <message>
+        <source>Exchanges left and right</source>
+        <translation>Échange la gauche et la droite</translation>
+    </message>
+    <message>
+        <source>Flip Vertically</source>
+        <translation>Retourner verticalement</translation>
+    </message>
+    <message>
+        <source>Exchanges top and bottom</source>
+        <translation>Échange le haut et le bas</translation>
+    </message>
+    <message>
+        <source>2x Retina Display Mode</source>
+        <translation>Affichage Retina 2x</translation>
+    </message>
+    <message>
+        <source>One image pixel on one pixel of a double-density screen</source>
+        <translation>Un pixel de l’image sur un pixel d’un écran à double densité</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Selects the whole image</source>
+        <translation>Sélectionne toute l’image</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Ne rien sélectionner</translation>
+    </message>
+    <message>
+        <source>Drops the selection</source>
+        <translation>Abandonne la sélection</translation>
+    </message>
+    <message>
+        <source>Select Inverse</source>
+        <translation>Inverser la sélection</translation>
+    </message>
+    <message>
+        <source>Selects what is not selected</source>
+        <translation>Sélectionne ce qui ne l’est pas</translation>
+    </message>
+    <message>
+        <source>Position and Size…</source>
+        <translation>Position et taille…</translation>
+    </message>
+    <message>
+        <source>A rectangle by number, and what new marquees keep to</source>
+        <translation>Un rectangle par ses nombres, et ce que suivent les nouveaux cadres</translation>
+    </message>
+    <message>
+        <source>Reselect</source>
+        <translation>Resélectionner</translation>
+    </message>
+    <message>
+        <source>Brings the last dropped selection back</source>
+        <translation>Ramène la dernière sélection abandonnée</translation>
+    </message>
+    <message>
+        <source>Float Selection</source>
+        <translation>Rendre la sélection flottante</translation>
+    </message>
+    <message>
+        <source>Lifts the selected pixels, or puts them back (Return)</source>
+        <translation>Soulève les pixels sélectionnés, ou les repose (Entrée)</translation>
+    </message>
+    <message>
+        <source>Save Selection…</source>
+        <translation>Enregistrer la sélection…</translation>
+    </message>
+    <message>
+        <source>Keeps the outline under a name (key s: the default name)</source>
+        <translation>Garde le contour sous un nom (touche s : le nom par défaut)</translation>
+    </message>
+    <message>
+        <source>Load Selection…</source>
+        <translation>Charger une sélection…</translation>
+    </message>
+    <message>
+        <source>Brings a kept outline back</source>
+        <translation>Ramène un contour gardé</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Zoom avant</translation>
+    </message>
+    <message>
+        <source>One zoom level in (+)</source>
+        <translation>Un niveau de zoom de plus (+)</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Zoom arrière</translation>
+    </message>
+    <message>
+        <source>One zoom level out (−)</source>
+        <translation>Un niveau de zoom de moins (−)</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>One image pixel on one pixel of the screen</source>
+        <translation>Un pixel de l’image sur un pixel de l’écran</translation>
+    </message>
+    <message>
+        <source>Fit to Window</source>
+        <translation>Adapter à la fenêtre</translation>
+    </message>
+    <message>
+        <source>The whole image in the window, whatever becomes of the window</source>
+        <translation>Toute l’image dans la fenêtre, quoi que devienne la fenêtre</translation>
+    </message>
+    <message>
+        <source>Transparency as Chequerboard</source>
+        <translation>Transparence en damier</translation>
+    </message>
+    <message>
+        <source>Transparent parts show a chequerboard instead of grey</source>
+        <translation>Les parties transparentes montrent un damier au lieu du gris</translation>
+    </message>
+    <message>
+        <source>Pixel Grid</source>
+        <translation>Grille de pixels</translation>
+    </message>
+    <message>
+        <source>Lines between the pixels, from 800 % on</source>
+        <translation>Des lignes entre les pixels, à partir de 800 %</translation>
+    </message>
+    <message>
+        <source>Keyboard Pointer</source>
+        <translation>Pointeur au clavier</translation>
+    </message>
+    <message>
+        <source>A crosshair that the numeric pad or Ctrl+arrows move; Ctrl+Space presses the button and lets it go</source>
+        <translation>Un réticule que déplacent le pavé numérique ou Ctrl+flèches ; Ctrl+Espace enfonce le bouton et le relâche</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>The steps of the image, to go back to</source>
+        <translation>Les étapes de l’image, pour y revenir</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>The window on the whole screen, and back</source>
+        <translation>La fenêtre sur tout l’écran, et retour</translation>
+    </message>
+    <message>
+        <source>Larger Brush</source>
+        <translation>Pinceau plus grand</translation>
+    </message>
+    <message>
+        <source>The size of brush, pencil, eraser, text and strokes: a tenth more</source>
+        <translation>Taille du pinceau, du crayon, de la gomme, du texte et des contours : un dixième de plus</translation>
+    </message>
+    <message>
+        <source>Smaller Brush</source>
+        <translation>Pinceau plus petit</translation>
+    </message>
+    <message>
+        <source>The size of brush, pencil, eraser, text and strokes: a tenth less</source>
+        <translation>Taille du pinceau, du crayon, de la gomme, du texte et des contours : un dixième de moins</translation>
+    </message>
+    <message>
+        <source>Swap Colours</source>
+        <translation>Échanger les couleurs</translation>
+    </message>
+    <message>
+        <source>Back to the colour that was chosen before this one, and again</source>
+        <translation>Revient à la couleur choisie avant celle-ci, et inversement</translation>
+    </message>
+    <message>
+        <source>Image Editor</source>
+        <translation>Éditeur d’images</translation>
+    </message>
+    <message>
+        <source>Brings the main window to the front</source>
+        <translation>Amène la fenêtre principale au premier plan</translation>
+    </message>
+    <message>
+        <source>Image Library</source>
+        <translation>Photothèque</translation>
+    </message>
+    <message>
+        <source>Your favourite images</source>
+        <translation>Vos images préférées</translation>
+    </message>
+    <message>
+        <source>Show Windows</source>
+        <translation>Afficher les fenêtres</translation>
+    </message>
+    <message>
+        <source>Main window and image library</source>
+        <translation>Fenêtre principale et photothèque</translation>
+    </message>
+    <message>
+        <source>Image Processor…</source>
+        <translation>Traitement par lots…</translation>
+    </message>
+    <message>
+        <source>Resizes and watermarks a folder of images</source>
+        <translation>Redimensionne un dossier d’images et y met un filigrane</translation>
+    </message>
+    <message>
+        <source>Zelpane Help</source>
+        <translation>Aide de Zelpane</translation>
+    </message>
+    <message>
+        <source>Where to find the User&apos;s Guide</source>
+        <translation>Où trouver le guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>User&apos;s Guide</source>
+        <translation>Guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Opens the guide in the browser</source>
+        <translation>Ouvre le guide dans le navigateur</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>All commands and tools with their keys, which can be changed there</source>
+        <translation>Toutes les commandes et tous les outils avec leurs touches, qui peuvent y être changées</translation>
+    </message>
+    <message>
+        <source>Zelpane</source>
+        <translation>Zelpane</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+</context>
+<context>
+    <name>Name</name>
+    <message>
+        <source>Quick Save</source>
+        <translation>Enregistrement rapide</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the image in the library:</source>
+        <translation>&amp;Nom de l’image dans la photothèque :</translation>
+    </message>
+    <message>
+        <source>The image is saved as TIFF in the image library</source>
+        <translation>L’image est enregistrée en TIFF dans la photothèque</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Please enter a proper file name.</source>
+        <translation>Veuillez saisir un nom de fichier valable.</translation>
+    </message>
+    <message>
+        <source>File extension must be .tiff.</source>
+        <translation>L’extension du fichier doit être .tiff.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>New</name>
+    <message>
+        <source>New Image</source>
+        <translation>Nouvelle image</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Largeur :</translation>
+    </message>
+    <message>
+        <source>Width of the new image in pixels</source>
+        <translation>Largeur de la nouvelle image en pixels</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Hauteur :</translation>
+    </message>
+    <message>
+        <source>Height of the new image in pixels</source>
+        <translation>Hauteur de la nouvelle image en pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Résolution :</translation>
+    </message>
+    <message>
+        <source>For information; the image is measured in pixels</source>
+        <translation>Pour information ; l’image se mesure en pixels</translation>
+    </message>
+    <message>
+        <source>pixels/inch</source>
+        <translation>pixels/pouce</translation>
+    </message>
+    <message>
+        <source>File size:</source>
+        <translation>Taille du fichier :</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouvelle image</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>Panels</name>
+    <message>
+        <source>The image could not be printed.</source>
+        <translation>L’image n’a pas pu être imprimée.</translation>
+    </message>
+    <message>
+        <source>The printer did not take it.</source>
+        <translation>L’imprimante ne l’a pas acceptée.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>Qualité :</translation>
+    </message>
+    <message>
+        <source>File already exists</source>
+        <translation>Le fichier existe déjà</translation>
+    </message>
+    <message>
+        <source>Do you want to overwrite the existing file?</source>
+        <translation>Voulez-vous remplacer le fichier existant ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>Prefs</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>&amp;Unité :</translation>
+    </message>
+    <message>
+        <source>The unit that lengths are shown in</source>
+        <translation>L’unité dans laquelle les longueurs sont affichées</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>Centimeters</source>
+        <translation>Centimètres</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pouces</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance:</source>
+        <translation>&amp;Apparence :</translation>
+    </message>
+    <message>
+        <source>Light or dark windows</source>
+        <translation>Fenêtres claires ou sombres</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claire</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Play &amp;sounds</source>
+        <translation>&amp;Jouer les sons</translation>
+    </message>
+    <message>
+        <source>Cues for floated, dropped and filled selections and finished runs</source>
+        <translation>Signaux pour les sélections soulevées, abandonnées et remplies et les traitements finis</translation>
+    </message>
+    <message>
+        <source>Held keys</source>
+        <translation>Touches maintenues</translation>
+    </message>
+    <message>
+        <source>Some desktops take a key for themselves. Each role can be given to another one; Shift always adds and draws straight.</source>
+        <translation>Certains bureaux prennent une touche pour eux. Chaque rôle peut en recevoir une autre ; Maj ajoute et trace droit toujours.</translation>
+    </message>
+    <message>
+        <source>&amp;Option (subtract, set source):</source>
+        <translation>&amp;Option (soustraire, définir la source) :</translation>
+    </message>
+    <message>
+        <source>&amp;Control (oval, polygon):</source>
+        <translation>&amp;Control (ovale, polygone) :</translation>
+    </message>
+    <message>
+        <source>Co&amp;mmand (square, float):</source>
+        <translation>Command (carré, &amp;flotter) :</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Fenêtres</translation>
+    </message>
+    <message>
+        <source>&amp;Keep windows where I put them</source>
+        <translation>&amp;Garder les fenêtres où je les mets</translation>
+    </message>
+    <message>
+        <source>Windows and dialogs come back in their last place instead of the middle of the screen</source>
+        <translation>Fenêtres et dialogues reviennent à leur dernière place plutôt qu’au milieu de l’écran</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>C&amp;hange Shortcuts…</source>
+        <translation>&amp;Modifier les raccourcis…</translation>
+    </message>
+    <message>
+        <source>All commands with their keys</source>
+        <translation>Toutes les commandes avec leurs touches</translation>
+    </message>
+    <message>
+        <source>About box</source>
+        <translation>Fenêtre À propos</translation>
+    </message>
+    <message>
+        <source>Project &amp;page:</source>
+        <translation>&amp;Page du projet :</translation>
+    </message>
+    <message>
+        <source>The page that the About box opens</source>
+        <translation>La page qu’ouvre la fenêtre À propos</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>F&amp;ermer</translation>
+    </message>
+</context>
+<context>
+    <name>Printing</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire est insuffisante.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Rename</name>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>&amp;New name (the extension stays as it is):</source>
+        <translation>&amp;Nouveau nom (l’extension reste la même) :</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>Resize</name>
+    <message>
+        <source>Resize Image</source>
+        <translation>Redimensionner l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Largeur :</translation>
+    </message>
+    <message>
+        <source>New width in pixels</source>
+        <translation>Nouvelle largeur en pixels</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>New width in percent of the present one</source>
+        <translation>Nouvelle largeur en pour cent de l’actuelle</translation>
+    </message>
+    <message>
+        <source>Width in percent</source>
+        <translation>Largeur en pour cent</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Hauteur :</translation>
+    </message>
+    <message>
+        <source>New height in pixels</source>
+        <translation>Nouvelle hauteur en pixels</translation>
+    </message>
+    <message>
+        <source>New height in percent of the present one</source>
+        <translation>Nouvelle hauteur en pour cent de l’actuelle</translation>
+    </message>
+    <message>
+        <source>Height in percent</source>
+        <translation>Hauteur en pour cent</translation>
+    </message>
+    <message>
+        <source>File size:</source>
+        <translation>Taille du fichier :</translation>
+    </message>
+    <message>
+        <source>&amp;Scale image</source>
+        <translation>&amp;Mettre l’image à l’échelle</translation>
+    </message>
+    <message>
+        <source>On: the picture is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
+        <translation>Activé : l’image est rééchantillonnée à la nouvelle taille. Désactivé : elle garde ses pixels à l’emplacement ci-dessous et elle est coupée ou étendue</translation>
+    </message>
+    <message>
+        <source>&amp;Keep aspect ratio</source>
+        <translation>&amp;Garder les proportions</translation>
+    </message>
+    <message>
+        <source>Width and height follow each other</source>
+        <translation>La largeur et la hauteur se suivent</translation>
+    </message>
+    <message>
+        <source>&amp;Place:</source>
+        <translation>&amp;Emplacement :</translation>
+    </message>
+    <message>
+        <source>Where the picture sits in the new size, when it is not scaled</source>
+        <translation>Où se place l’image dans la nouvelle taille, quand elle n’est pas mise à l’échelle</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>En haut</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Au milieu</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>En bas</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>S&amp;harp pixels</source>
+        <translation>&amp;Pixels nets</translation>
+    </message>
+    <message>
+        <source>When it is scaled, pixels stay squares of one colour instead of being blended</source>
+        <translation>À la mise à l’échelle, les pixels restent des carrés d’une couleur au lieu d’être fondus</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Redimensionner</translation>
+    </message>
+    <message>
+        <source>Width and height must be from 1 to %1 pixels, and the image at most %2 megapixels.</source>
+        <translation>La largeur et la hauteur doivent être de 1 à %1 pixels, et l’image de %2 mégapixels au plus.</translation>
+    </message>
+    <message>
+        <source>The image could not be resized.</source>
+        <translation>L’image n’a pas pu être redimensionnée.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for an image of this size.</source>
+        <translation>La mémoire est insuffisante pour une image de cette taille.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveSelection</name>
+    <message>
+        <source>Save Selection</source>
+        <translation>Enregistrer la sélection</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the selection:</source>
+        <translation>&amp;Nom de la sélection :</translation>
+    </message>
+    <message>
+        <source>The outline is kept under this name; a selection of the same name is replaced</source>
+        <translation>Le contour est gardé sous ce nom ; une sélection du même nom est remplacée</translation>
+    </message>
+    <message>
+        <source>Only the outline is kept. It can be loaded into any image.</source>
+        <translation>Seul le contour est gardé. Il peut être chargé dans toute image.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Fermer sans enregistrer</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save the outline of the selection</source>
+        <translation>Enregistrer le contour de la sélection</translation>
+    </message>
+</context>
+<context>
+    <name>SaveSelectionDialog</name>
+    <message>
+        <source>Please enter a valid name for the selection</source>
+        <translation>Veuillez saisir un nom valable pour la sélection</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSelections</name>
+    <message>
+        <source>The selection could not be saved.</source>
+        <translation>La sélection n’a pas pu être enregistrée.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionByNumber</name>
+    <message>
+        <source>Position and Size</source>
+        <translation>Position et taille</translation>
+    </message>
+    <message>
+        <source>&amp;Left:</source>
+        <translation>&amp;Gauche :</translation>
+    </message>
+    <message>
+        <source>&amp;Top:</source>
+        <translation>&amp;Haut :</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Largeur :</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>H&amp;auteur :</translation>
+    </message>
+    <message>
+        <source>Any size</source>
+        <translation>Taille libre</translation>
+    </message>
+    <message>
+        <source>This ratio of width to height</source>
+        <translation>Ce rapport de largeur et hauteur</translation>
+    </message>
+    <message>
+        <source>This size</source>
+        <translation>Cette taille</translation>
+    </message>
+    <message>
+        <source>What a rectangle or oval keeps to while it is dragged with the mouse</source>
+        <translation>Ce que suit un rectangle ou un ovale tracé à la souris</translation>
+    </message>
+    <message>
+        <source>New &amp;marquees:</source>
+        <translation>&amp;Nouveaux cadres :</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Sélectionner</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionChip</name>
+    <message>
+        <source>Floating</source>
+        <translation>Flottante</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Anchor ⏎</source>
+        <translation>Ancrer ⏎</translation>
+    </message>
+    <message>
+        <source>Drop Esc</source>
+        <translation>Abandonner Échap</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>Stroke</source>
+        <translation>Contour</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>Flotter</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsWindow</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Find a command or a key</source>
+        <translation>Chercher une commande ou une touche</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>Commandes et leurs touches</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>New &amp;keys:</source>
+        <translation>&amp;Nouvelles touches :</translation>
+    </message>
+    <message>
+        <source>New keys</source>
+        <translation>Nouvelles touches</translation>
+    </message>
+    <message>
+        <source>&amp;Set</source>
+        <translation>&amp;Attribuer</translation>
+    </message>
+    <message>
+        <source>The chosen command gets these keys; without keys it has none</source>
+        <translation>La commande choisie reçoit ces touches ; sans touches, elle n’en a aucune</translation>
+    </message>
+    <message>
+        <source>As &amp;Given</source>
+        <translation>&amp;Par défaut</translation>
+    </message>
+    <message>
+        <source>The chosen command gets its own keys back</source>
+        <translation>La commande choisie retrouve ses propres touches</translation>
+    </message>
+    <message>
+        <source>&amp;All as Given</source>
+        <translation>&amp;Tout par défaut</translation>
+    </message>
+    <message>
+        <source>Every command gets its own keys back</source>
+        <translation>Chaque commande retrouve ses propres touches</translation>
+    </message>
+    <message>
+        <source>Tools, over the picture</source>
+        <translation>Outils, sur l’image</translation>
+    </message>
+    <message>
+        <source>%1 belongs to %2 now, which would lose it.</source>
+        <translation>%1 appartient maintenant à « %2 », qui le perdrait.</translation>
+    </message>
+    <message>
+        <source>%1 chooses the tool %2, which would not hear it any more.</source>
+        <translation>%1 choisit l’outil « %2 », qui ne l’entendrait plus.</translation>
+    </message>
+</context>
+<context>
+    <name>SmartFill</name>
+    <message>
+        <source>Smart Fill</source>
+        <translation>Remplissage intelligent</translation>
+    </message>
+    <message>
+        <source>&amp;Radius:</source>
+        <translation>&amp;Rayon :</translation>
+    </message>
+    <message>
+        <source>How far around the selection to look for texture, in percent of its width and height</source>
+        <translation>Jusqu’où chercher de la texture autour de la sélection, en pour cent de sa largeur et de sa hauteur</translation>
+    </message>
+    <message>
+        <source>Radius in percent</source>
+        <translation>Rayon en pour cent</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>&amp;Faster, at half the resolution</source>
+        <translation>&amp;Plus vite, à demi-résolution</translation>
+    </message>
+    <message>
+        <source>Works on every second pixel; the selection&apos;s whole box becomes coarser</source>
+        <translation>Travaille sur un pixel sur deux ; tout le cadre de la sélection devient plus grossier</translation>
+    </message>
+    <message>
+        <source>Time:</source>
+        <translation>Temps :</translation>
+    </message>
+    <message>
+        <source>0.0 sec</source>
+        <translation>0,0 s</translation>
+    </message>
+    <message>
+        <source>Elapsed time</source>
+        <translation>Temps écoulé</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>You can go on working during a run, but changes inside the work area will be overwritten when it ends.</source>
+        <translation>Vous pouvez continuer à travailler pendant le calcul, mais les modifications dans la zone de travail seront écrasées à la fin.</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Lancer</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Box of the selection</source>
+        <translation>Cadre de la sélection</translation>
+    </message>
+    <message>
+        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG picture.</source>
+        <translation>La sélection : son coin et sa taille. Faites glisser ceci vers un autre programme pour la lui donner comme image PNG.</translation>
+    </message>
+    <message>
+        <source>Colour under the pointer</source>
+        <translation>Couleur sous le pointeur</translation>
+    </message>
+    <message>
+        <source>Position and colour under the pointer</source>
+        <translation>Position et couleur sous le pointeur</translation>
+    </message>
+    <message>
+        <source>Size of the image and zoom</source>
+        <translation>Taille de l’image et zoom</translation>
+    </message>
+    <message>
+        <source>Open an image, make a new one, or drop a file on the window</source>
+        <translation>Ouvrez une image, créez-en une ou déposez un fichier sur la fenêtre</translation>
+    </message>
+    <message>
+        <source>Click the next corner · Return closes the shape, Escape gives it up</source>
+        <translation>Cliquez le coin suivant · Entrée ferme la forme, Échap l’abandonne</translation>
+    </message>
+    <message>
+        <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
+        <translation>Glisser déplace · les poignées mettent à l’échelle et tournent, %1 : par 15° · Entrée ancre, Échap abandonne</translation>
+    </message>
+</context>
+<context>
+    <name>Steps</name>
+    <message>
+        <source>Anchor Selection</source>
+        <translation>Ancrer la sélection</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouvelle image</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>Stroke</source>
+        <translation>Contour</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Rogner</translation>
+    </message>
+    <message>
+        <source>Rotate Clockwise</source>
+        <translation>Pivoter à droite</translation>
+    </message>
+    <message>
+        <source>Rotate Counter-Clockwise</source>
+        <translation>Pivoter à gauche</translation>
+    </message>
+    <message>
+        <source>Flip Horizontally</source>
+        <translation>Retourner horizontalement</translation>
+    </message>
+    <message>
+        <source>Flip Vertically</source>
+        <translation>Retourner verticalement</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Redimensionner</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Pinceau</translation>
+    </message>
+    <message>
+        <source>Pencil</source>
+        <translation>Crayon</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>Gomme</translation>
+    </message>
+    <message>
+        <source>Paint Bucket</source>
+        <translation>Pot de peinture</translation>
+    </message>
+    <message>
+        <source>Clone Stamp</source>
+        <translation>Clonage</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Smart Fill</source>
+        <translation>Remplissage intelligent</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditor</name>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>&amp;Texte :</translation>
+    </message>
+    <message>
+        <source>What is typed here stands on the picture at once</source>
+        <translation>Ce qui est tapé ici apparaît aussitôt sur l’image</translation>
+    </message>
+    <message>
+        <source>Font family</source>
+        <translation>Famille de police</translation>
+    </message>
+    <message>
+        <source>Smaller; with Shift by ten</source>
+        <translation>Plus petit ; avec Maj, de dix</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Plus petit</translation>
+    </message>
+    <message>
+        <source>Size in pixels</source>
+        <translation>Taille en pixels</translation>
+    </message>
+    <message>
+        <source>Larger; with Shift by ten</source>
+        <translation>Plus grand ; avec Maj, de dix</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Plus grand</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>&amp;Gras</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>&amp;Italique</translation>
+    </message>
+    <message>
+        <source>Colour of the preview below; the selection takes none</source>
+        <translation>Couleur de l’aperçu ci-dessous ; la sélection n’en prend pas</translation>
+    </message>
+    <message>
+        <source>Colour of the preview</source>
+        <translation>Couleur de l’aperçu</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>G&amp;auche</translation>
+    </message>
+    <message>
+        <source>Alignment of the preview</source>
+        <translation>Alignement de l’aperçu</translation>
+    </message>
+    <message>
+        <source>&amp;Center</source>
+        <translation>&amp;Centré</translation>
+    </message>
+    <message>
+        <source>&amp;Right</source>
+        <translation>&amp;Droite</translation>
+    </message>
+    <message>
+        <source>&amp;Justified</source>
+        <translation>&amp;Justifié</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Keeps the text as the selection</source>
+        <translation>Garde le texte comme sélection</translation>
+    </message>
+</context>
+<context>
+    <name>Tools</name>
+    <message>
+        <source>Rectangle Selection</source>
+        <translation>Sélection rectangulaire</translation>
+    </message>
+    <message>
+        <source>Selects a rectangle; square and oval by switch or key</source>
+        <translation>Sélectionne un rectangle ; carré et ovale par bouton ou touche</translation>
+    </message>
+    <message>
+        <source>Drag to select; inside the selection it moves · {Shift} adds, {Option} subtracts · {Command}: square, {Control}: oval</source>
+        <translation>Glisser sélectionne ; dans la sélection, déplace · {Shift} ajoute, {Option} soustrait · {Command} : carré, {Control} : ovale</translation>
+    </message>
+    <message>
+        <source>Lasso</source>
+        <translation>Lasso</translation>
+    </message>
+    <message>
+        <source>Selects by a drawn outline; polygon by switch or key, ended with Return</source>
+        <translation>Sélectionne selon un contour dessiné ; polygone par bouton ou touche, terminé par Entrée</translation>
+    </message>
+    <message>
+        <source>Draw around what you want · {Shift} adds, {Option} subtracts · {Control}: corner by corner, Return ends</source>
+        <translation>Entourez ce que vous voulez · {Shift} ajoute, {Option} soustrait · {Control} : coin par coin, Entrée termine</translation>
+    </message>
+    <message>
+        <source>Magic Wand</source>
+        <translation>Baguette magique</translation>
+    </message>
+    <message>
+        <source>Selects the area of similar colour</source>
+        <translation>Sélectionne la zone de couleur semblable</translation>
+    </message>
+    <message>
+        <source>Click a colour · {Shift} adds, {Option} subtracts · Tolerance says how far colours may differ</source>
+        <translation>Cliquez une couleur · {Shift} ajoute, {Option} soustrait · la tolérance dit de combien les couleurs peuvent différer</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Pinceau</translation>
+    </message>
+    <message>
+        <source>Paints with a brush tip</source>
+        <translation>Peint avec une pointe de pinceau</translation>
+    </message>
+    <message>
+        <source>Drag to paint · [ and ] change the size, X the colour · Escape takes the stroke back</source>
+        <translation>Glisser peint · [ et ] changent la taille, X la couleur · Échap reprend le trait</translation>
+    </message>
+    <message>
+        <source>Pencil</source>
+        <translation>Crayon</translation>
+    </message>
+    <message>
+        <source>Draws a line; straight with Shift</source>
+        <translation>Trace une ligne ; droite avec Maj</translation>
+    </message>
+    <message>
+        <source>Drag to draw · {Shift}: one straight line · Escape takes it back</source>
+        <translation>Glisser trace · {Shift} : une ligne droite · Échap la reprend</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <translation>Gomme</translation>
+    </message>
+    <message>
+        <source>Makes pixels transparent; straight with Shift</source>
+        <translation>Rend des pixels transparents ; droit avec Maj</translation>
+    </message>
+    <message>
+        <source>Drag to make transparent · {Shift}: one straight line · Escape takes it back</source>
+        <translation>Glisser rend transparent · {Shift} : une ligne droite · Échap la reprend</translation>
+    </message>
+    <message>
+        <source>Paint Bucket</source>
+        <translation>Pot de peinture</translation>
+    </message>
+    <message>
+        <source>Fills the area of similar colour</source>
+        <translation>Remplit la zone de couleur semblable</translation>
+    </message>
+    <message>
+        <source>Click to fill the area of one colour · Tolerance says how far colours may differ</source>
+        <translation>Cliquez pour remplir la zone d’une couleur · la tolérance dit de combien les couleurs peuvent différer</translation>
+    </message>
+    <message>
+        <source>Eyedropper</source>
+        <translation>Pipette</translation>
+    </message>
+    <message>
+        <source>Picks the colour under the pointer</source>
+        <translation>Prélève la couleur sous le pointeur</translation>
+    </message>
+    <message>
+        <source>Click or drag to pick the paint colour · X goes back to the one before</source>
+        <translation>Cliquez ou glissez pour prélever la couleur de peinture · X revient à la précédente</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Places text as a selection</source>
+        <translation>Place du texte comme sélection</translation>
+    </message>
+    <message>
+        <source>Click where the text begins · inside the text, dragging moves it</source>
+        <translation>Cliquez où commence le texte · dans le texte, glisser le déplace</translation>
+    </message>
+    <message>
+        <source>Clone Stamp</source>
+        <translation>Clonage</translation>
+    </message>
+    <message>
+        <source>Paints with pixels from elsewhere; Option-click sets the source</source>
+        <translation>Peint avec des pixels venus d’ailleurs ; un clic avec Option fixe la source</translation>
+    </message>
+    <message>
+        <source>{Option}+click says where pixels come from, then paint</source>
+        <translation>{Option}+clic dit d’où viennent les pixels, puis peignez</translation>
+    </message>
+</context>
+<context>
+    <name>Transform</name>
+    <message>
+        <source>Transform Selection</source>
+        <translation>Transformer la sélection</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>É&amp;chelle :</translation>
+    </message>
+    <message>
+        <source>Size of the selected pixels in percent; 100 is their own size</source>
+        <translation>Taille des pixels sélectionnés en pour cent ; 100 est leur propre taille</translation>
+    </message>
+    <message>
+        <source>Scale slider</source>
+        <translation>Curseur d’échelle</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>R&amp;otate:</source>
+        <translation>&amp;Rotation :</translation>
+    </message>
+    <message>
+        <source>Turns the selected pixels about their centre, in degrees</source>
+        <translation>Tourne les pixels sélectionnés autour de leur centre, en degrés</translation>
+    </message>
+    <message>
+        <source>Rotate slider</source>
+        <translation>Curseur de rotation</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>Ré&amp;initialiser</translation>
+    </message>
+    <message>
+        <source>Back to 100 % and 0 degrees</source>
+        <translation>Retour à 100 % et 0 degré</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Closes the dialog; the selection keeps floating as shown</source>
+        <translation>Ferme le dialogue ; la sélection continue de flotter comme affiché</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+</context>
+<context>
+    <name>ZPAboutBox</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert pictures, one at a time or by the folder.</source>
+        <translation>Retouche d’images simple et pourtant puissante : peindre, sélectionner, retoucher, ajuster et convertir des images, une à une ou par dossier.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. It comes with no warranty, to the extent that the law permits.</source>
+        <translation>Logiciel libre sous la licence publique générale GNU, version 3 ou ultérieure. Il est fourni sans garantie, dans la mesure permise par la loi.</translation>
+    </message>
+</context>
+<context>
+    <name>ZPAppController</name>
+    <message>
+        <source>An image that was never saved</source>
+        <translation>Une image jamais enregistrée</translation>
+    </message>
+    <message>
+        <source>%1, %2 × %3 pixels, as it was after the last change.</source>
+        <translation>%1, %2 × %3 pixels, telle qu’après la dernière modification.</translation>
+    </message>
+    <message>
+        <source>Zelpane ended unexpectedly. Do you want to recover your last image?</source>
+        <translation>Zelpane s’est arrêté de façon inattendue. Voulez-vous récupérer votre dernière image ?</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Récupérer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Jeter</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Changed and never saved: %1.</source>
+        <translation>Modifiée et jamais enregistrée : %1.</translation>
+    </message>
+    <message>
+        <source>This is a (Snow) Leopard-only product!</source>
+        <translation>Ce produit est réservé à (Snow) Leopard !</translation>
+    </message>
+    <message>
+        <source>Mac OS X 10.5 or later is required.</source>
+        <translation>Mac OS X 10.5 ou ultérieur est requis.</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>What would you like to do? Create a new image or open an existing image.</source>
+        <translation>Que voulez-vous faire ? Créez une nouvelle image ou ouvrez-en une.</translation>
+    </message>
+    <message>
+        <source>New…</source>
+        <translation>Nouvelle…</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Do you really want to quit?</source>
+        <translation>Voulez-vous vraiment quitter ?</translation>
+    </message>
+    <message>
+        <source>Make sure that the image is saved to disk.</source>
+        <translation>Assurez-vous que l’image est enregistrée sur le disque.</translation>
+    </message>
+    <message>
+        <source>No recent images</source>
+        <translation>Aucune image récente</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer la liste</translation>
+    </message>
+    <message>
+        <source>Read the User&apos;s Guide</source>
+        <translation>Lire le guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>You can find the User&apos;s Guide in the same folder as this application.</source>
+        <translation>Vous trouverez le guide de l’utilisateur dans le même dossier que cette application.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Do you really want to use the image processor?</source>
+        <translation>Voulez-vous vraiment utiliser le traitement par lots ?</translation>
+    </message>
+    <message>
+        <source>Make sure that the current image is saved to disk.</source>
+        <translation>Assurez-vous que l’image actuelle est enregistrée sur le disque.</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>You have enabled 2x retina display mode.</source>
+        <translation>Vous avez activé l’affichage Retina 2x.</translation>
+    </message>
+    <message>
+        <source>You have disabled 2x retina display mode.</source>
+        <translation>Vous avez désactivé l’affichage Retina 2x.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>verb and name of a step: Undo Fill</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Anchor Selection</source>
+        <translation>Ancrer la sélection</translation>
+    </message>
+    <message>
+        <source>Float Selection</source>
+        <translation>Rendre la sélection flottante</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Needs an image: open one or make a new one.</source>
+        <translation>Il faut une image : ouvrez-en une ou créez-en une.</translation>
+    </message>
+    <message>
+        <source>Needs a selection.</source>
+        <translation>Il faut une sélection.</translation>
+    </message>
+    <message>
+        <source>Needs an image on the clipboard.</source>
+        <translation>Il faut une image dans le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>Needs an image that has a file: save it first.</source>
+        <translation>Il faut une image qui a un fichier : enregistrez-la d’abord.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Il n’y a rien à annuler.</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation>Il n’y a rien à rétablir.</translation>
+    </message>
+    <message>
+        <source>No selection was dropped yet.</source>
+        <translation>Aucune sélection n’a encore été abandonnée.</translation>
+    </message>
+    <message>
+        <source>No image was open before this one.</source>
+        <translation>Aucune image n’était ouverte avant celle-ci.</translation>
+    </message>
+    <message>
+        <source>Needs the main window.</source>
+        <translation>Il faut la fenêtre principale.</translation>
+    </message>
+</context>
+<context>
+    <name>ZPCanvas</name>
+    <message>
+        <source>Canvas</source>
+        <translation>Canevas</translation>
+    </message>
+</context>
+<context>
+    <name>ZPFileManager</name>
+    <message numerus="yes">
+        <source>%n picture(s)</source>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No picture selected</source>
+        <translation>Aucune image choisie</translation>
+    </message>
+    <message>
+        <source>Drop pictures here</source>
+        <translation>Déposez des images ici</translation>
+    </message>
+    <message>
+        <source>The file that this link leads to is gone.</source>
+        <translation>Le fichier auquel mène ce lien a disparu.</translation>
+    </message>
+    <message>
+        <source>Add to Image Library</source>
+        <translation>Ajouter à la photothèque</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Do you wish to delete the selected file?</source>
+        <translation>Voulez-vous supprimer le fichier choisi ?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Select a file to rename.</source>
+        <translation>Choisissez un fichier à renommer.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Enter a valid new name.</source>
+        <translation>Saisissez un nouveau nom valable.</translation>
+    </message>
+</context>
+<context>
+    <name>ZPImageProcessor</name>
+    <message>
+        <source>Choose a source folder.</source>
+        <translation>Choisissez un dossier source.</translation>
+    </message>
+    <message>
+        <source>Choose a destination folder.</source>
+        <translation>Choisissez un dossier de destination.</translation>
+    </message>
+    <message>
+        <source>Source and destination folder cannot be the same.</source>
+        <translation>Les dossiers source et destination ne peuvent pas être le même.</translation>
+    </message>
+    <message>
+        <source>Error: Source or destination folder does not exist.</source>
+        <translation>Erreur : le dossier source ou destination n’existe pas.</translation>
+    </message>
+    <message>
+        <source>Ending after this image…</source>
+        <translation>Fin après cette image…</translation>
+    </message>
+    <message>
+        <source>Choose source folder</source>
+        <translation>Choisir le dossier source</translation>
+    </message>
+    <message>
+        <source>Choose destination folder</source>
+        <translation>Choisir le dossier de destination</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choisir</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The source folder cannot be listed.</source>
+        <translation>Le contenu du dossier source est illisible.</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1 sur %2 : %3</translation>
+    </message>
+    <message>
+        <source>There is no canvas to work on.</source>
+        <translation>Il n’y a pas de canevas sur lequel travailler.</translation>
+    </message>
+    <message>
+        <source>One file could not be processed.</source>
+        <translation>Un fichier n’a pas pu être traité.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be processed.</source>
+        <translation>
+            <numerusform>%n fichier n’a pas pu être traité.</numerusform>
+            <numerusform>%n fichiers n’ont pas pu être traités.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ZPPrefs</name>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
+    </message>
+</context>
+<context>
+    <name>ZPSmartFill</name>
+    <message>
+        <source>There is not enough memory for this fill.</source>
+        <translation>La mémoire est insuffisante pour ce remplissage.</translation>
+    </message>
+    <message>
+        <source>Select a smaller area or lower the radius.</source>
+        <translation>Sélectionnez une zone plus petite ou réduisez le rayon.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>There is nothing to fill from.</source>
+        <translation>Il n’y a rien d’où remplir.</translation>
+    </message>
+    <message>
+        <source>Select a smaller area or raise the radius.</source>
+        <translation>Sélectionnez une zone plus petite ou augmentez le rayon.</translation>
+    </message>
+    <message>
+        <source>The picture changed meanwhile; the fill was dropped.</source>
+        <translation>L’image a changé entre-temps ; le remplissage a été abandonné.</translation>
+    </message>
+</context>
+<context>
+    <name>ZPTextEditor</name>
+    <message>
+        <source>The letters of this family are pictures without outlines. Please choose another family.</source>
+        <translation>Les lettres de cette famille sont des images sans contours. Veuillez en choisir une autre.</translation>
+    </message>
+    <message>
+        <source>Some characters are pictures without an outline and are left out.</source>
+        <translation>Certains caractères sont des images sans contour et sont laissés de côté.</translation>
+    </message>
+</context>
+<context>
+    <name>zp::Document</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire est insuffisante.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+</TS>
