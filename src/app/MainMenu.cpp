@@ -222,7 +222,7 @@ QMenu* MainMenu::makePictureMenu(QWidget* parent)
         line = false;
         menu->addAction(mItems.value(row.action));
     }
-    giveMnemonics(menu->actions());
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { giveMnemonics(menu->actions()); });
     settleWhenHidden(menu);
     return menu;
 }

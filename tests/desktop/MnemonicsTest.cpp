@@ -17,6 +17,7 @@ TEST(Mnemonics, BeginningsOfWordsComeFirstAndNoLetterTwice)
         {{"Save", "Save as"}, {"&Save", "Save &as"}},
         {{"Cut", "Copy", "Crop"}, {"&Cut", "C&opy", "C&rop"}},
         {{"Öffnen", "Über"}, {"Ö&ffnen", "Ü&ber"}},
+        {{"Ab", "A"}, {"A&b", "&A"}}, // the first makes room
         {{"A", "A"}, {"&A", "A"}},
         {{}, {}},
     };

@@ -13,6 +13,9 @@ desktop-file-validate "$share/applications/zelpane.desktop" >"$work/said" 2>&1 |
 for action in new-image open-image image-processor; do
     grep -q "^\[Desktop Action $action\]" "$share/applications/zelpane.desktop" || fail "there is no action $action"
 done
+for language in de es fr ja pt_BR zh_CN; do
+    [ -s "$share/zelpane/translations/zelpane_$language.qm" ] || fail "$language is missing"
+done
 appstreamcli validate --no-net --pedantic "$share/metainfo/com.orvanta.zelpane.metainfo.xml" >"$work/said" 2>&1 ||
     fail "$(cat "$work/said")"
 # Hints do not change its status; they are lines that begin with a letter and a colon.
