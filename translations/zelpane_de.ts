@@ -487,14 +487,25 @@
     </message>
 </context>
 <context>
-    <name>ColorWell</name>
+    <name>ColorPanel</name>
     <message>
-        <source>Colour</source>
-        <translation>Farbe</translation>
+        <source>The colour with its opacity</source>
+        <translation>Die Farbe mit ihrer Deckkraft</translation>
     </message>
     <message>
         <source>Colours</source>
         <translation>Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Colour</source>
+        <translation>Farbe vom Bildschirm &amp;aufnehmen</translation>
+    </message>
+</context>
+<context>
+    <name>ColorWell</name>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
     </message>
 </context>
 <context>
@@ -707,6 +718,10 @@
         <source>No</source>
         <translation>Nein</translation>
     </message>
+    <message>
+        <source>Its steps could not be read.</source>
+        <translation>Seine Schritte konnten nicht gelesen werden.</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -778,10 +793,6 @@
         <translation>Nichts wurde rückgängig gemacht: Was zu sehen ist, konnte weder auf dem Datenträger noch im Speicher behalten werden.</translation>
     </message>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>Es ist nicht genug Speicher frei.</translation>
-    </message>
-    <message>
         <source>there is no undo folder</source>
         <translation>es gibt keinen Ordner für die Schritte</translation>
     </message>
@@ -800,6 +811,14 @@
     <message>
         <source>not enough memory</source>
         <translation>nicht genug Speicher</translation>
+    </message>
+    <message>
+        <source>The very pixels of the last change could not be kept (%1). Undo brings them back from a JPEG copy: colours may differ a little.</source>
+        <translation>Die genauen Pixel der letzten Änderung konnten nicht aufbewahrt werden (%1). Beim Widerrufen kommen sie aus einer JPEG-Kopie: Farben können etwas abweichen.</translation>
+    </message>
+    <message>
+        <source>The very pixels of this step could not be read. What is shown comes from its JPEG copy: colours may differ a little.</source>
+        <translation>Die genauen Pixel dieses Schritts konnten nicht gelesen werden. Gezeigt wird seine JPEG-Kopie: Farben können etwas abweichen.</translation>
     </message>
 </context>
 <context>
@@ -1775,6 +1794,14 @@
         <source>Help</source>
         <translation>Hilfe</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>Entfernen-Pinsel</translation>
+    </message>
+    <message>
+        <source>Paint over a thing and let go: it is filled from its surroundings</source>
+        <translation>Etwas übermalen und loslassen: Es wird aus seiner Umgebung gefüllt</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2467,6 +2494,109 @@
         <source>&amp;Run</source>
         <translation>S&amp;tarten</translation>
     </message>
+    <message>
+        <source>&amp;Keep lines</source>
+        <translation>&amp;Linien fortführen</translation>
+    </message>
+    <message>
+        <source>Edges that enter the selection on one side and leave it on another are drawn through it first</source>
+        <translation>Kanten, die auf einer Seite in die Auswahl hinein- und auf einer anderen hinausführen, werden zuerst durchgezogen</translation>
+    </message>
+    <message>
+        <source>&amp;Take From…</source>
+        <translation>Füllen &amp;aus …</translation>
+    </message>
+    <message>
+        <source>Takes colours only from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>Nimmt Farben nur aus dem, was jetzt im Bild ausgewählt ist; noch einmal gedrückt von überall</translation>
+    </message>
+    <message>
+        <source>anywhere</source>
+        <translation>überall</translation>
+    </message>
+    <message>
+        <source>Taken from</source>
+        <translation>Gefüllt aus</translation>
+    </message>
+    <message>
+        <source>&amp;Never From…</source>
+        <translation>&amp;Nie aus …</translation>
+    </message>
+    <message>
+        <source>Takes no colour from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>Nimmt keine Farbe aus dem, was jetzt im Bild ausgewählt ist; noch einmal gedrückt von überall</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>nirgends</translation>
+    </message>
+    <message>
+        <source>Never taken from</source>
+        <translation>Nie gefüllt aus</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Vorschau</translation>
+    </message>
+    <message>
+        <source>Shows the fill over the image; Run then leaves it there</source>
+        <translation>Zeigt die Füllung über dem Bild; Starten lässt sie dann dort</translation>
+    </message>
+    <message>
+        <source>&amp;Another Result</source>
+        <translation>Anderes &amp;Ergebnis</translation>
+    </message>
+    <message>
+        <source>Shows what other random numbers make of it</source>
+        <translation>Zeigt, was andere Zufallszahlen daraus machen</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Brush</source>
+        <translation>Ent&amp;fernen-Pinsel</translation>
+    </message>
+    <message>
+        <source>Paint over a thing in the image and let go: it is gone</source>
+        <translation>Etwas im Bild übermalen und loslassen: Es ist weg</translation>
+    </message>
+    <message>
+        <source>One of the last four results: shows it over the image; pressed again, the image without it</source>
+        <translation>Eines der letzten vier Ergebnisse: zeigt es über dem Bild; noch einmal gedrückt das Bild ohne es</translation>
+    </message>
+    <message>
+        <source>Result 1</source>
+        <translation>Ergebnis 1</translation>
+    </message>
+    <message>
+        <source>Result 2</source>
+        <translation>Ergebnis 2</translation>
+    </message>
+    <message>
+        <source>Result 3</source>
+        <translation>Ergebnis 3</translation>
+    </message>
+    <message>
+        <source>Result 4</source>
+        <translation>Ergebnis 4</translation>
+    </message>
+</context>
+<context>
+    <name>SmartFillStudio</name>
+    <message>
+        <source>anywhere</source>
+        <translation>überall</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>nirgends</translation>
+    </message>
+    <message>
+        <source>select the place in the picture first</source>
+        <translation>zuerst die Stelle im Bild auswählen</translation>
+    </message>
+    <message>
+        <source>the selection of %1 × %2</source>
+        <translation>die Auswahl von %1 × %2</translation>
+    </message>
 </context>
 <context>
     <name>StatusLine</name>
@@ -2584,6 +2714,10 @@
     <message>
         <source>Smart Fill</source>
         <translation>Intelligent füllen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -2799,6 +2933,18 @@
         <source>{Option}+click says where pixels come from, then paint</source>
         <translation>{Option}+Klick sagt, woher die Pixel kommen, dann malen</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>Entfernen-Pinsel</translation>
+    </message>
+    <message>
+        <source>Fills what it is drawn over from its surroundings</source>
+        <translation>Füllt, worüber gemalt wird, aus der Umgebung</translation>
+    </message>
+    <message>
+        <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
+        <translation>Übermalen, was verschwinden soll, und loslassen · jedes Werkzeug beendet dies · Escape nimmt den Strich zurück</translation>
+    </message>
 </context>
 <context>
     <name>Transform</name>
@@ -2861,6 +3007,13 @@
     <message>
         <source>Apply</source>
         <translation>Anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>Watermark</name>
+    <message>
+        <source>The watermark could not be drawn.</source>
+        <translation>Das Wasserzeichen konnte nicht gezeichnet werden.</translation>
     </message>
 </context>
 <context>

@@ -487,14 +487,25 @@
     </message>
 </context>
 <context>
-    <name>ColorWell</name>
+    <name>ColorPanel</name>
     <message>
-        <source>Colour</source>
-        <translation>Color</translation>
+        <source>The colour with its opacity</source>
+        <translation>El color con su opacidad</translation>
     </message>
     <message>
         <source>Colours</source>
         <translation>Colores</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Colour</source>
+        <translation>&amp;Tomar un color de la pantalla</translation>
+    </message>
+</context>
+<context>
+    <name>ColorWell</name>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
     </message>
 </context>
 <context>
@@ -707,6 +718,10 @@
         <source>No</source>
         <translation>No</translation>
     </message>
+    <message>
+        <source>Its steps could not be read.</source>
+        <translation>No se pudieron leer sus pasos.</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -778,10 +793,6 @@
         <translation>No se ha deshecho nada: lo que está en pantalla no se pudo conservar ni en el disco ni en memoria.</translation>
     </message>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>No hay memoria suficiente.</translation>
-    </message>
-    <message>
         <source>there is no undo folder</source>
         <translation>no hay carpeta para los pasos</translation>
     </message>
@@ -800,6 +811,14 @@
     <message>
         <source>not enough memory</source>
         <translation>memoria insuficiente</translation>
+    </message>
+    <message>
+        <source>The very pixels of the last change could not be kept (%1). Undo brings them back from a JPEG copy: colours may differ a little.</source>
+        <translation>No se pudieron conservar los píxeles exactos del último cambio (%1). Deshacer los recupera de una copia JPEG: los colores pueden variar un poco.</translation>
+    </message>
+    <message>
+        <source>The very pixels of this step could not be read. What is shown comes from its JPEG copy: colours may differ a little.</source>
+        <translation>No se pudieron leer los píxeles exactos de este paso. Lo que se muestra procede de su copia JPEG: los colores pueden variar un poco.</translation>
     </message>
 </context>
 <context>
@@ -1775,6 +1794,14 @@
         <source>Help</source>
         <translation>Ayuda</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>Pincel de eliminación</translation>
+    </message>
+    <message>
+        <source>Paint over a thing and let go: it is filled from its surroundings</source>
+        <translation>Pinte sobre un objeto y suelte: se rellena con su entorno</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2467,6 +2494,109 @@
         <source>&amp;Run</source>
         <translation>&amp;Ejecutar</translation>
     </message>
+    <message>
+        <source>&amp;Keep lines</source>
+        <translation>Conservar &amp;líneas</translation>
+    </message>
+    <message>
+        <source>Edges that enter the selection on one side and leave it on another are drawn through it first</source>
+        <translation>Los bordes que entran en la selección por un lado y salen por otro se trazan primero a través de ella</translation>
+    </message>
+    <message>
+        <source>&amp;Take From…</source>
+        <translation>&amp;Tomar de…</translation>
+    </message>
+    <message>
+        <source>Takes colours only from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>Toma los colores solo de lo que está seleccionado ahora; al pulsarlo otra vez, de cualquier lugar</translation>
+    </message>
+    <message>
+        <source>anywhere</source>
+        <translation>cualquier lugar</translation>
+    </message>
+    <message>
+        <source>Taken from</source>
+        <translation>Tomado de</translation>
+    </message>
+    <message>
+        <source>&amp;Never From…</source>
+        <translation>&amp;Nunca de…</translation>
+    </message>
+    <message>
+        <source>Takes no colour from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>No toma ningún color de lo que está seleccionado ahora; al pulsarlo otra vez, de cualquier lugar</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>ninguna parte</translation>
+    </message>
+    <message>
+        <source>Never taken from</source>
+        <translation>Nunca tomado de</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Vista previa</translation>
+    </message>
+    <message>
+        <source>Shows the fill over the image; Run then leaves it there</source>
+        <translation>Muestra el relleno sobre la imagen; Ejecutar lo deja allí</translation>
+    </message>
+    <message>
+        <source>&amp;Another Result</source>
+        <translation>&amp;Otro resultado</translation>
+    </message>
+    <message>
+        <source>Shows what other random numbers make of it</source>
+        <translation>Muestra el resultado con otros números aleatorios</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Brush</source>
+        <translation>Pincel de eli&amp;minación</translation>
+    </message>
+    <message>
+        <source>Paint over a thing in the image and let go: it is gone</source>
+        <translation>Pinte sobre un objeto de la imagen y suelte: desaparece</translation>
+    </message>
+    <message>
+        <source>One of the last four results: shows it over the image; pressed again, the image without it</source>
+        <translation>Uno de los cuatro últimos resultados: lo muestra sobre la imagen; al pulsarlo otra vez, la imagen sin él</translation>
+    </message>
+    <message>
+        <source>Result 1</source>
+        <translation>Resultado 1</translation>
+    </message>
+    <message>
+        <source>Result 2</source>
+        <translation>Resultado 2</translation>
+    </message>
+    <message>
+        <source>Result 3</source>
+        <translation>Resultado 3</translation>
+    </message>
+    <message>
+        <source>Result 4</source>
+        <translation>Resultado 4</translation>
+    </message>
+</context>
+<context>
+    <name>SmartFillStudio</name>
+    <message>
+        <source>anywhere</source>
+        <translation>cualquier lugar</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>ninguna parte</translation>
+    </message>
+    <message>
+        <source>select the place in the picture first</source>
+        <translation>seleccione primero el lugar en la imagen</translation>
+    </message>
+    <message>
+        <source>the selection of %1 × %2</source>
+        <translation>la selección de %1 × %2</translation>
+    </message>
 </context>
 <context>
     <name>StatusLine</name>
@@ -2584,6 +2714,10 @@
     <message>
         <source>Smart Fill</source>
         <translation>Relleno inteligente</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>
@@ -2799,6 +2933,18 @@
         <source>{Option}+click says where pixels come from, then paint</source>
         <translation>{Option}+clic dice de dónde vienen los píxeles; después, pinte</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>Pincel de eliminación</translation>
+    </message>
+    <message>
+        <source>Fills what it is drawn over from its surroundings</source>
+        <translation>Rellena lo que cubre con su entorno</translation>
+    </message>
+    <message>
+        <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
+        <translation>Pinte sobre lo que deba desaparecer y suelte · cualquier herramienta lo termina · Escape retira el trazo</translation>
+    </message>
 </context>
 <context>
     <name>Transform</name>
@@ -2861,6 +3007,13 @@
     <message>
         <source>Apply</source>
         <translation>Aplicar</translation>
+    </message>
+</context>
+<context>
+    <name>Watermark</name>
+    <message>
+        <source>The watermark could not be drawn.</source>
+        <translation>No se pudo dibujar la marca de agua.</translation>
     </message>
 </context>
 <context>

@@ -487,14 +487,25 @@
     </message>
 </context>
 <context>
-    <name>ColorWell</name>
+    <name>ColorPanel</name>
     <message>
-        <source>Colour</source>
-        <translation>Couleur</translation>
+        <source>The colour with its opacity</source>
+        <translation>La couleur avec son opacité</translation>
     </message>
     <message>
         <source>Colours</source>
         <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Colour</source>
+        <translation>&amp;Prélever une couleur à l’écran</translation>
+    </message>
+</context>
+<context>
+    <name>ColorWell</name>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
     </message>
 </context>
 <context>
@@ -707,6 +718,10 @@
         <source>No</source>
         <translation>Non</translation>
     </message>
+    <message>
+        <source>Its steps could not be read.</source>
+        <translation>Ses étapes n’ont pas pu être lues.</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -778,10 +793,6 @@
         <translation>Rien n’a été annulé : ce qui est à l’écran n’a pu être gardé ni sur le disque ni en mémoire.</translation>
     </message>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>La mémoire est insuffisante.</translation>
-    </message>
-    <message>
         <source>there is no undo folder</source>
         <translation>il n’y a pas de dossier d’annulation</translation>
     </message>
@@ -800,6 +811,14 @@
     <message>
         <source>not enough memory</source>
         <translation>mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>The very pixels of the last change could not be kept (%1). Undo brings them back from a JPEG copy: colours may differ a little.</source>
+        <translation>Les pixels exacts de la dernière modification n’ont pas pu être conservés (%1). L’annulation les reprend d’une copie JPEG : les couleurs peuvent différer légèrement.</translation>
+    </message>
+    <message>
+        <source>The very pixels of this step could not be read. What is shown comes from its JPEG copy: colours may differ a little.</source>
+        <translation>Les pixels exacts de cette étape n’ont pas pu être lus. L’image affichée vient de sa copie JPEG : les couleurs peuvent différer légèrement.</translation>
     </message>
 </context>
 <context>
@@ -1775,6 +1794,14 @@
         <source>Help</source>
         <translation>Aide</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>Pinceau de suppression</translation>
+    </message>
+    <message>
+        <source>Paint over a thing and let go: it is filled from its surroundings</source>
+        <translation>Peignez sur un objet et relâchez : il est comblé d’après son entourage</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2467,6 +2494,109 @@
         <source>&amp;Run</source>
         <translation>&amp;Lancer</translation>
     </message>
+    <message>
+        <source>&amp;Keep lines</source>
+        <translation>&amp;Garder les lignes</translation>
+    </message>
+    <message>
+        <source>Edges that enter the selection on one side and leave it on another are drawn through it first</source>
+        <translation>Les contours qui entrent dans la sélection d’un côté et en sortent d’un autre y sont d’abord prolongés</translation>
+    </message>
+    <message>
+        <source>&amp;Take From…</source>
+        <translation>&amp;Prendre dans…</translation>
+    </message>
+    <message>
+        <source>Takes colours only from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>Ne prend les couleurs que dans ce qui est sélectionné maintenant ; pressé de nouveau, partout</translation>
+    </message>
+    <message>
+        <source>anywhere</source>
+        <translation>partout</translation>
+    </message>
+    <message>
+        <source>Taken from</source>
+        <translation>Pris dans</translation>
+    </message>
+    <message>
+        <source>&amp;Never From…</source>
+        <translation>&amp;Jamais dans…</translation>
+    </message>
+    <message>
+        <source>Takes no colour from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>Ne prend aucune couleur dans ce qui est sélectionné maintenant ; pressé de nouveau, partout</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>nulle part</translation>
+    </message>
+    <message>
+        <source>Never taken from</source>
+        <translation>Jamais pris dans</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>A&amp;perçu</translation>
+    </message>
+    <message>
+        <source>Shows the fill over the image; Run then leaves it there</source>
+        <translation>Montre le remplissage sur l’image ; Lancer l’y laisse ensuite</translation>
+    </message>
+    <message>
+        <source>&amp;Another Result</source>
+        <translation>&amp;Autre résultat</translation>
+    </message>
+    <message>
+        <source>Shows what other random numbers make of it</source>
+        <translation>Montre ce qu’en font d’autres nombres aléatoires</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Brush</source>
+        <translation>Pinceau de suppre&amp;ssion</translation>
+    </message>
+    <message>
+        <source>Paint over a thing in the image and let go: it is gone</source>
+        <translation>Peignez sur un objet de l’image et relâchez : il disparaît</translation>
+    </message>
+    <message>
+        <source>One of the last four results: shows it over the image; pressed again, the image without it</source>
+        <translation>L’un des quatre derniers résultats : le montre sur l’image ; pressé de nouveau, l’image sans lui</translation>
+    </message>
+    <message>
+        <source>Result 1</source>
+        <translation>Résultat 1</translation>
+    </message>
+    <message>
+        <source>Result 2</source>
+        <translation>Résultat 2</translation>
+    </message>
+    <message>
+        <source>Result 3</source>
+        <translation>Résultat 3</translation>
+    </message>
+    <message>
+        <source>Result 4</source>
+        <translation>Résultat 4</translation>
+    </message>
+</context>
+<context>
+    <name>SmartFillStudio</name>
+    <message>
+        <source>anywhere</source>
+        <translation>partout</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>nulle part</translation>
+    </message>
+    <message>
+        <source>select the place in the picture first</source>
+        <translation>sélectionnez d’abord l’endroit dans l’image</translation>
+    </message>
+    <message>
+        <source>the selection of %1 × %2</source>
+        <translation>la sélection de %1 × %2</translation>
+    </message>
 </context>
 <context>
     <name>StatusLine</name>
@@ -2584,6 +2714,10 @@
     <message>
         <source>Smart Fill</source>
         <translation>Remplissage intelligent</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
@@ -2799,6 +2933,18 @@
         <source>{Option}+click says where pixels come from, then paint</source>
         <translation>{Option}+clic dit d’où viennent les pixels, puis peignez</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>Pinceau de suppression</translation>
+    </message>
+    <message>
+        <source>Fills what it is drawn over from its surroundings</source>
+        <translation>Comble ce qu’il recouvre d’après l’entourage</translation>
+    </message>
+    <message>
+        <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
+        <translation>Peignez sur ce qui doit disparaître et relâchez · tout outil termine · Échap reprend le trait</translation>
+    </message>
 </context>
 <context>
     <name>Transform</name>
@@ -2861,6 +3007,13 @@
     <message>
         <source>Apply</source>
         <translation>Appliquer</translation>
+    </message>
+</context>
+<context>
+    <name>Watermark</name>
+    <message>
+        <source>The watermark could not be drawn.</source>
+        <translation>Le filigrane n’a pas pu être dessiné.</translation>
     </message>
 </context>
 <context>

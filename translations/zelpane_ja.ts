@@ -478,13 +478,24 @@
     </message>
 </context>
 <context>
-    <name>ColorWell</name>
+    <name>ColorPanel</name>
     <message>
-        <source>Colour</source>
-        <translation>色</translation>
+        <source>The colour with its opacity</source>
+        <translation>不透明度を含む色</translation>
     </message>
     <message>
         <source>Colours</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Colour</source>
+        <translation>画面の色を取得(&amp;P)</translation>
+    </message>
+</context>
+<context>
+    <name>ColorWell</name>
+    <message>
+        <source>Colour</source>
         <translation>色</translation>
     </message>
 </context>
@@ -697,6 +708,10 @@
         <source>No</source>
         <translation>いいえ</translation>
     </message>
+    <message>
+        <source>Its steps could not be read.</source>
+        <translation>手順を読み込めませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -768,10 +783,6 @@
         <translation>取り消しませんでした。画面の内容をディスクにもメモリにも保持できないためです。</translation>
     </message>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>メモリが足りません。</translation>
-    </message>
-    <message>
         <source>there is no undo folder</source>
         <translation>履歴のフォルダーがありません</translation>
     </message>
@@ -790,6 +801,14 @@
     <message>
         <source>not enough memory</source>
         <translation>メモリ不足</translation>
+    </message>
+    <message>
+        <source>The very pixels of the last change could not be kept (%1). Undo brings them back from a JPEG copy: colours may differ a little.</source>
+        <translation>最後の変更の正確なピクセルを保存できませんでした (%1)。取り消すと JPEG のコピーから戻るため、色が少し異なることがあります。</translation>
+    </message>
+    <message>
+        <source>The very pixels of this step could not be read. What is shown comes from its JPEG copy: colours may differ a little.</source>
+        <translation>この手順の正確なピクセルを読み込めませんでした。JPEG のコピーを表示しているため、色が少し異なることがあります。</translation>
     </message>
 </context>
 <context>
@@ -1765,6 +1784,14 @@
         <source>Help</source>
         <translation>ヘルプ</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>除去ブラシ</translation>
+    </message>
+    <message>
+        <source>Paint over a thing and let go: it is filled from its surroundings</source>
+        <translation>物の上を塗って離すと、周囲から塗りつぶされます</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2457,6 +2484,109 @@
         <source>&amp;Run</source>
         <translation>実行(&amp;U)</translation>
     </message>
+    <message>
+        <source>&amp;Keep lines</source>
+        <translation>線を保つ(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Edges that enter the selection on one side and leave it on another are drawn through it first</source>
+        <translation>選択範囲の一方から入り他方へ抜ける輪郭を、先に通して描きます</translation>
+    </message>
+    <message>
+        <source>&amp;Take From…</source>
+        <translation>取り込み元(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Takes colours only from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>いま選択している部分からだけ色を取ります。もう一度押すとどこからでも取ります</translation>
+    </message>
+    <message>
+        <source>anywhere</source>
+        <translation>どこからでも</translation>
+    </message>
+    <message>
+        <source>Taken from</source>
+        <translation>取り込み元</translation>
+    </message>
+    <message>
+        <source>&amp;Never From…</source>
+        <translation>使わない部分(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>Takes no colour from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>いま選択している部分からは色を取りません。もう一度押すとどこからでも取ります</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Never taken from</source>
+        <translation>使わない部分</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>プレビュー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Shows the fill over the image; Run then leaves it there</source>
+        <translation>塗りつぶしを画像の上に表示します。実行するとそのまま残ります</translation>
+    </message>
+    <message>
+        <source>&amp;Another Result</source>
+        <translation>別の結果(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Shows what other random numbers make of it</source>
+        <translation>別の乱数での結果を表示します</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Brush</source>
+        <translation>除去ブラシ(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Paint over a thing in the image and let go: it is gone</source>
+        <translation>画像の中の物を塗って離すと、消えます</translation>
+    </message>
+    <message>
+        <source>One of the last four results: shows it over the image; pressed again, the image without it</source>
+        <translation>最近の 4 つの結果の 1 つを画像の上に表示します。もう一度押すと元の画像を表示します</translation>
+    </message>
+    <message>
+        <source>Result 1</source>
+        <translation>結果 1</translation>
+    </message>
+    <message>
+        <source>Result 2</source>
+        <translation>結果 2</translation>
+    </message>
+    <message>
+        <source>Result 3</source>
+        <translation>結果 3</translation>
+    </message>
+    <message>
+        <source>Result 4</source>
+        <translation>結果 4</translation>
+    </message>
+</context>
+<context>
+    <name>SmartFillStudio</name>
+    <message>
+        <source>anywhere</source>
+        <translation>どこからでも</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>select the place in the picture first</source>
+        <translation>先に画像の中で場所を選択してください</translation>
+    </message>
+    <message>
+        <source>the selection of %1 × %2</source>
+        <translation>%1 × %2 の選択範囲</translation>
+    </message>
 </context>
 <context>
     <name>StatusLine</name>
@@ -2574,6 +2704,10 @@
     <message>
         <source>Smart Fill</source>
         <translation>スマート塗りつぶし</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>除去</translation>
     </message>
 </context>
 <context>
@@ -2789,6 +2923,18 @@
         <source>{Option}+click says where pixels come from, then paint</source>
         <translation>{Option}+クリックで元の位置を決め、それから描きます</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>除去ブラシ</translation>
+    </message>
+    <message>
+        <source>Fills what it is drawn over from its surroundings</source>
+        <translation>塗った部分を周囲から塗りつぶします</translation>
+    </message>
+    <message>
+        <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
+        <translation>消したいものを塗って離す · どのツールでも終了 · Esc で線を取り消す</translation>
+    </message>
 </context>
 <context>
     <name>Transform</name>
@@ -2851,6 +2997,13 @@
     <message>
         <source>Apply</source>
         <translation>適用</translation>
+    </message>
+</context>
+<context>
+    <name>Watermark</name>
+    <message>
+        <source>The watermark could not be drawn.</source>
+        <translation>透かしを描画できませんでした。</translation>
     </message>
 </context>
 <context>

@@ -487,14 +487,25 @@
     </message>
 </context>
 <context>
-    <name>ColorWell</name>
+    <name>ColorPanel</name>
     <message>
-        <source>Colour</source>
-        <translation>Cor</translation>
+        <source>The colour with its opacity</source>
+        <translation>A cor com sua opacidade</translation>
     </message>
     <message>
         <source>Colours</source>
         <translation>Cores</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Colour</source>
+        <translation>&amp;Capturar cor da tela</translation>
+    </message>
+</context>
+<context>
+    <name>ColorWell</name>
+    <message>
+        <source>Colour</source>
+        <translation>Cor</translation>
     </message>
 </context>
 <context>
@@ -707,6 +718,10 @@
         <source>No</source>
         <translation>Não</translation>
     </message>
+    <message>
+        <source>Its steps could not be read.</source>
+        <translation>Não foi possível ler os passos dela.</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -778,10 +793,6 @@
         <translation>Nada foi desfeito: o que está na tela não pôde ser guardado nem no disco nem na memória.</translation>
     </message>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>Não há memória suficiente.</translation>
-    </message>
-    <message>
         <source>there is no undo folder</source>
         <translation>não há pasta para os passos</translation>
     </message>
@@ -800,6 +811,14 @@
     <message>
         <source>not enough memory</source>
         <translation>memória insuficiente</translation>
+    </message>
+    <message>
+        <source>The very pixels of the last change could not be kept (%1). Undo brings them back from a JPEG copy: colours may differ a little.</source>
+        <translation>Não foi possível guardar os pixels exatos da última alteração (%1). Desfazer os traz de uma cópia JPEG: as cores podem diferir um pouco.</translation>
+    </message>
+    <message>
+        <source>The very pixels of this step could not be read. What is shown comes from its JPEG copy: colours may differ a little.</source>
+        <translation>Não foi possível ler os pixels exatos deste passo. O que é mostrado vem da cópia JPEG: as cores podem diferir um pouco.</translation>
     </message>
 </context>
 <context>
@@ -1775,6 +1794,14 @@
         <source>Help</source>
         <translation>Ajuda</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>Pincel de remoção</translation>
+    </message>
+    <message>
+        <source>Paint over a thing and let go: it is filled from its surroundings</source>
+        <translation>Pinte sobre um objeto e solte: ele é preenchido com o entorno</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2467,6 +2494,109 @@
         <source>&amp;Run</source>
         <translation>&amp;Executar</translation>
     </message>
+    <message>
+        <source>&amp;Keep lines</source>
+        <translation>Manter &amp;linhas</translation>
+    </message>
+    <message>
+        <source>Edges that enter the selection on one side and leave it on another are drawn through it first</source>
+        <translation>As bordas que entram na seleção por um lado e saem por outro são traçadas primeiro através dela</translation>
+    </message>
+    <message>
+        <source>&amp;Take From…</source>
+        <translation>&amp;Usar de…</translation>
+    </message>
+    <message>
+        <source>Takes colours only from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>Usa cores apenas do que está selecionado agora; pressionado de novo, de qualquer lugar</translation>
+    </message>
+    <message>
+        <source>anywhere</source>
+        <translation>qualquer lugar</translation>
+    </message>
+    <message>
+        <source>Taken from</source>
+        <translation>Usado de</translation>
+    </message>
+    <message>
+        <source>&amp;Never From…</source>
+        <translation>&amp;Nunca de…</translation>
+    </message>
+    <message>
+        <source>Takes no colour from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>Não usa nenhuma cor do que está selecionado agora; pressionado de novo, de qualquer lugar</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>nenhum lugar</translation>
+    </message>
+    <message>
+        <source>Never taken from</source>
+        <translation>Nunca usado de</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Prévia</translation>
+    </message>
+    <message>
+        <source>Shows the fill over the image; Run then leaves it there</source>
+        <translation>Mostra o preenchimento sobre a imagem; Executar o deixa lá</translation>
+    </message>
+    <message>
+        <source>&amp;Another Result</source>
+        <translation>&amp;Outro resultado</translation>
+    </message>
+    <message>
+        <source>Shows what other random numbers make of it</source>
+        <translation>Mostra o resultado com outros números aleatórios</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Brush</source>
+        <translation>Pincel de re&amp;moção</translation>
+    </message>
+    <message>
+        <source>Paint over a thing in the image and let go: it is gone</source>
+        <translation>Pinte sobre um objeto da imagem e solte: ele some</translation>
+    </message>
+    <message>
+        <source>One of the last four results: shows it over the image; pressed again, the image without it</source>
+        <translation>Um dos quatro últimos resultados: mostra-o sobre a imagem; pressionado de novo, a imagem sem ele</translation>
+    </message>
+    <message>
+        <source>Result 1</source>
+        <translation>Resultado 1</translation>
+    </message>
+    <message>
+        <source>Result 2</source>
+        <translation>Resultado 2</translation>
+    </message>
+    <message>
+        <source>Result 3</source>
+        <translation>Resultado 3</translation>
+    </message>
+    <message>
+        <source>Result 4</source>
+        <translation>Resultado 4</translation>
+    </message>
+</context>
+<context>
+    <name>SmartFillStudio</name>
+    <message>
+        <source>anywhere</source>
+        <translation>qualquer lugar</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>nenhum lugar</translation>
+    </message>
+    <message>
+        <source>select the place in the picture first</source>
+        <translation>selecione primeiro o lugar na imagem</translation>
+    </message>
+    <message>
+        <source>the selection of %1 × %2</source>
+        <translation>a seleção de %1 × %2</translation>
+    </message>
 </context>
 <context>
     <name>StatusLine</name>
@@ -2584,6 +2714,10 @@
     <message>
         <source>Smart Fill</source>
         <translation>Preenchimento inteligente</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
     </message>
 </context>
 <context>
@@ -2799,6 +2933,18 @@
         <source>{Option}+click says where pixels come from, then paint</source>
         <translation>{Option}+clique diz de onde vêm os pixels; depois, pinte</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>Pincel de remoção</translation>
+    </message>
+    <message>
+        <source>Fills what it is drawn over from its surroundings</source>
+        <translation>Preenche o que cobre com o entorno</translation>
+    </message>
+    <message>
+        <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
+        <translation>Pinte sobre o que deve sumir e solte · qualquer ferramenta encerra · Escape desfaz o traço</translation>
+    </message>
 </context>
 <context>
     <name>Transform</name>
@@ -2861,6 +3007,13 @@
     <message>
         <source>Apply</source>
         <translation>Aplicar</translation>
+    </message>
+</context>
+<context>
+    <name>Watermark</name>
+    <message>
+        <source>The watermark could not be drawn.</source>
+        <translation>Não foi possível desenhar a marca-d’água.</translation>
     </message>
 </context>
 <context>

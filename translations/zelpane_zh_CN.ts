@@ -478,13 +478,24 @@
     </message>
 </context>
 <context>
-    <name>ColorWell</name>
+    <name>ColorPanel</name>
     <message>
-        <source>Colour</source>
-        <translation>颜色</translation>
+        <source>The colour with its opacity</source>
+        <translation>带不透明度的颜色</translation>
     </message>
     <message>
         <source>Colours</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Colour</source>
+        <translation>拾取屏幕颜色(&amp;P)</translation>
+    </message>
+</context>
+<context>
+    <name>ColorWell</name>
+    <message>
+        <source>Colour</source>
         <translation>颜色</translation>
     </message>
 </context>
@@ -697,6 +708,10 @@
         <source>No</source>
         <translation>否</translation>
     </message>
+    <message>
+        <source>Its steps could not be read.</source>
+        <translation>无法读取其步骤。</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -768,10 +783,6 @@
         <translation>没有撤销任何内容：屏幕上的内容既无法保留在磁盘上，也无法保留在内存中。</translation>
     </message>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>内存不足。</translation>
-    </message>
-    <message>
         <source>there is no undo folder</source>
         <translation>没有撤销文件夹</translation>
     </message>
@@ -790,6 +801,14 @@
     <message>
         <source>not enough memory</source>
         <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>The very pixels of the last change could not be kept (%1). Undo brings them back from a JPEG copy: colours may differ a little.</source>
+        <translation>无法保留上次更改的精确像素（%1）。撤销时将从 JPEG 副本恢复：颜色可能略有差异。</translation>
+    </message>
+    <message>
+        <source>The very pixels of this step could not be read. What is shown comes from its JPEG copy: colours may differ a little.</source>
+        <translation>无法读取此步骤的精确像素。显示的是其 JPEG 副本：颜色可能略有差异。</translation>
     </message>
 </context>
 <context>
@@ -1765,6 +1784,14 @@
         <source>Help</source>
         <translation>帮助</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>移除画笔</translation>
+    </message>
+    <message>
+        <source>Paint over a thing and let go: it is filled from its surroundings</source>
+        <translation>在物体上涂抹后松开：由其周围填充</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2457,6 +2484,109 @@
         <source>&amp;Run</source>
         <translation>运行(&amp;U)</translation>
     </message>
+    <message>
+        <source>&amp;Keep lines</source>
+        <translation>保留线条(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Edges that enter the selection on one side and leave it on another are drawn through it first</source>
+        <translation>先将从一侧进入选区并从另一侧穿出的边缘贯穿绘出</translation>
+    </message>
+    <message>
+        <source>&amp;Take From…</source>
+        <translation>取自(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Takes colours only from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>仅从当前所选部分取色；再按一次则从任意位置取色</translation>
+    </message>
+    <message>
+        <source>anywhere</source>
+        <translation>任意位置</translation>
+    </message>
+    <message>
+        <source>Taken from</source>
+        <translation>取自</translation>
+    </message>
+    <message>
+        <source>&amp;Never From…</source>
+        <translation>绝不取自(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>Takes no colour from what is selected in the image now; pressed again, from anywhere</source>
+        <translation>不从当前所选部分取色；再按一次则从任意位置取色</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Never taken from</source>
+        <translation>绝不取自</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>预览(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Shows the fill over the image; Run then leaves it there</source>
+        <translation>在图像上显示填充效果；运行后即保留</translation>
+    </message>
+    <message>
+        <source>&amp;Another Result</source>
+        <translation>另一结果(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Shows what other random numbers make of it</source>
+        <translation>显示使用其他随机数的结果</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Brush</source>
+        <translation>移除画笔(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Paint over a thing in the image and let go: it is gone</source>
+        <translation>在图像中的物体上涂抹后松开：它就消失</translation>
+    </message>
+    <message>
+        <source>One of the last four results: shows it over the image; pressed again, the image without it</source>
+        <translation>最近四个结果之一：显示在图像上；再按一次显示原图像</translation>
+    </message>
+    <message>
+        <source>Result 1</source>
+        <translation>结果 1</translation>
+    </message>
+    <message>
+        <source>Result 2</source>
+        <translation>结果 2</translation>
+    </message>
+    <message>
+        <source>Result 3</source>
+        <translation>结果 3</translation>
+    </message>
+    <message>
+        <source>Result 4</source>
+        <translation>结果 4</translation>
+    </message>
+</context>
+<context>
+    <name>SmartFillStudio</name>
+    <message>
+        <source>anywhere</source>
+        <translation>任意位置</translation>
+    </message>
+    <message>
+        <source>nowhere</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>select the place in the picture first</source>
+        <translation>请先在图像中选择位置</translation>
+    </message>
+    <message>
+        <source>the selection of %1 × %2</source>
+        <translation>%1 × %2 的选区</translation>
+    </message>
 </context>
 <context>
     <name>StatusLine</name>
@@ -2574,6 +2704,10 @@
     <message>
         <source>Smart Fill</source>
         <translation>智能填充</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
     </message>
 </context>
 <context>
@@ -2789,6 +2923,18 @@
         <source>{Option}+click says where pixels come from, then paint</source>
         <translation>{Option}+单击指定像素来源，然后绘画</translation>
     </message>
+    <message>
+        <source>Remove Brush</source>
+        <translation>移除画笔</translation>
+    </message>
+    <message>
+        <source>Fills what it is drawn over from its surroundings</source>
+        <translation>用周围填充所涂部分</translation>
+    </message>
+    <message>
+        <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
+        <translation>涂抹要消失的部分后松开 · 选择任一工具即结束 · Esc 撤回笔画</translation>
+    </message>
 </context>
 <context>
     <name>Transform</name>
@@ -2851,6 +2997,13 @@
     <message>
         <source>Apply</source>
         <translation>应用</translation>
+    </message>
+</context>
+<context>
+    <name>Watermark</name>
+    <message>
+        <source>The watermark could not be drawn.</source>
+        <translation>无法绘制水印。</translation>
     </message>
 </context>
 <context>

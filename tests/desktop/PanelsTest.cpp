@@ -320,7 +320,9 @@ TEST(Alert, ReadsNamesAsNamesAndNotAsMarkup)
         auto* alert = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         ASSERT_TRUE(alert);
         for (const QLabel* label : alert->findChildren<QLabel*>())
-            if (!label->text().isEmpty()) EXPECT_EQ(label->textFormat(), Qt::PlainText);
+            if (!label->text().isEmpty()) {
+                EXPECT_EQ(label->textFormat(), Qt::PlainText);
+            }
         answerAlert("OK");
     });
     runAlert("<b>bold</b>.jpg", "<img src=x>", {"OK"});
