@@ -2,7 +2,7 @@
 # Every library the program stands on, found once. The packages that bring them are in packaging/packages.txt.
 set(CMAKE_AUTOMOC OFF) # only the targets that hold widgets ask for it
 find_package(Threads REQUIRED)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Network PrintSupport Svg Test)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Widgets Network PrintSupport Svg Test)
 find_package(PkgConfig REQUIRED)
 # zp_library(PREFIX NAME MODULE): a library with a pkg-config file, as target PkgConfig::PREFIX. NAME and its version stand
 # in what --version prints.

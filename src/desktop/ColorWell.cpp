@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The colour well and the one colour panel that all wells share.
 #include "desktop/ColorWell.h"
-#include <QColorDialog>
+#include "desktop/ColorPanel.h"
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -76,17 +76,15 @@ void ColorWell::choose(zp::Color color, bool goesOn)
 
 void ColorWell::openPanel()
 {
-    static QPointer<QColorDialog> panel;
+    static QPointer<ColorPanel> panel;
     if (!panel) {
-        panel = new QColorDialog(window());
-        panel->setOption(QColorDialog::NoButtons);
-        panel->setWindowTitle(tr("Colours"));
-        panel->setObjectName("Colors");
+        panel = new ColorPanel(window());
     }
-    panel->disconnect(SIGNAL(currentColorChanged(QColor)));
+    static QMetaObject::Connection answer; // of the well that opened the panel last
+    disconnect(answer);
     panel->setOption(QColorDialog::ShowAlphaChannel, panelShowsAlpha);
     panel->setCurrentColor(toQt(mColor));
-    connect(panel, &QColorDialog::currentColorChanged, this, [this](const QColor& c) {
+    answer = connect(panel, &QColorDialog::currentColorChanged, this, [this](const QColor& c) {
         if (!c.isValid()) return;
         // A drag through the panel is one choice, however many colours it passes.
         const bool goesOn = mHandWatch.isActive();
@@ -111,21 +109,7 @@ void ColorWell::paintEvent(QPaintEvent*)
     painter.save();
     painter.setClipPath(outline);
     const QColor color = toQt(mLook ? mLook(mColor) : mColor);
-    if (mColor.alpha < 1) {
-        constexpr int kCell = 6;
-        for (int y = 0; y < height(); y += kCell)
-            for (int x = 0; x < width(); x += kCell)
-                painter.fillRect(x, y, kCell, kCell, ((x + y) / kCell) % 2 ? QColor(190, 190, 190) : Qt::white);
-        painter.fillRect(rect(), color);
-        QColor opaque = color;
-        opaque.setAlpha(255);
-        const QPolygonF corner({QPointF(0, 0), QPointF(height(), 0), QPointF(0, height())});
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(opaque);
-        painter.drawPolygon(corner);
-    } else {
-        painter.fillRect(rect(), color);
-    }
+    paintColor(painter, rect(), color);
     painter.restore();
     const QColor edge = hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::PlaceholderText);
     painter.setPen(QPen(edge, hasFocus() ? 2 : 1));

@@ -21,7 +21,8 @@ void ElidedLabel::paintEvent(QPaintEvent*)
 bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && fontMetrics().horizontalAdvance(text()) > contentsRect().width()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(), this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                           QString("<span>%1</span>").arg(text().toHtmlEscaped()), this);
         return true;
     }
     return QLabel::event(event);

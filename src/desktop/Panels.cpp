@@ -19,7 +19,9 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
+#include <QTextOption>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace zp
 {
@@ -29,6 +31,7 @@ namespace
 
 constexpr int kIconSize = 48, kTextWidth = 380;
 constexpr qsizetype kLinesWithoutScrolling = 8;
+constexpr qsizetype kLettersWithoutScrolling = 1200;
 constexpr QSize kLongTextSize(kTextWidth + 160, 220);
 
 int silencers = 0;
@@ -40,6 +43,23 @@ int cancelIndex(const QStringList& buttons)
     for (const char* title : {"Cancel", "No", "Later"})
         if (const int i = int(buttons.indexOf(QString::fromLatin1(title))); i >= 0) return i;
     return -1;
+}
+
+bool hasWordBeyondLine(const QString& text, const QFontMetrics& font)
+{
+    for (const QString& line : text.split('\n'))
+        for (const QString& word : line.split(' '))
+            if (font.horizontalAdvance(word) > kTextWidth) return true;
+    return false;
+}
+
+/// Of a title: a word that no line has room for (a file's name) is cut in its middle.
+QString withoutWordsBeyondLine(const QString& text, const QFontMetrics& font)
+{
+    if (!hasWordBeyondLine(text, font)) return text;
+    QStringList words = text.split(' ');
+    for (QString& word : words) word = font.elidedText(word, Qt::ElideMiddle, kTextWidth);
+    return words.join(' ');
 }
 
 /// The window a question belongs to.
@@ -78,7 +98,8 @@ public:
         rows->setSpacing(8);
         columns->addLayout(rows, 1);
         rows->addWidget(textLabel(title, true));
-        if (message.count('\n') >= kLinesWithoutScrolling)
+        if (message.count('\n') >= kLinesWithoutScrolling || message.size() > kLettersWithoutScrolling ||
+            hasWordBeyondLine(message, fontMetrics()))
             rows->addWidget(longText(message));
         else if (!message.isEmpty())
             rows->addWidget(textLabel(message, false));
@@ -107,28 +128,34 @@ private:
     {
         auto* label = new QLabel(this);
         label->setTextFormat(Qt::PlainText);
-        label->setText(text);
         QFont font = label->font();
         font.setBold(bold);
         if (bold) font.setPointSizeF(font.pointSizeF() * 1.08);
         label->setFont(font);
+        const QString shown = withoutWordsBeyondLine(text, QFontMetrics(font));
+        label->setText(shown);
+        if (shown != text) label->setToolTip(QString("<span>%1</span>").arg(text.toHtmlEscaped()));
         label->setWordWrap(true);
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         label->setFocusPolicy(Qt::NoFocus);
         // A fixed width, so that the height that wrapping needs is known before the window is shown.
-        const int natural = QFontMetrics(font).size(0, text).width() + 4;
+        const int natural = QFontMetrics(font).size(0, shown).width() + 4;
         label->setFixedWidth(std::clamp(natural, 220, kTextWidth));
         return label;
     }
 
-    /// A list of any length, scrolled, to be read by keys and copied whole.
+    /// A list or a message of any length, scrolled, to be read by keys and copied whole.
     QPlainTextEdit* longText(const QString& text)
     {
         auto* list = new QPlainTextEdit(text, this);
         list->setObjectName("AlertList");
         list->setReadOnly(true);
         list->setTabChangesFocus(true);
-        list->setLineWrapMode(QPlainTextEdit::NoWrap);
+        // Entries of a list keep a line each; sentences are wrapped, anywhere if need be.
+        if (text.count('\n') >= kLinesWithoutScrolling)
+            list->setLineWrapMode(QPlainTextEdit::NoWrap);
+        else
+            list->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         list->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         list->setFixedSize(kLongTextSize);
         return list;
@@ -141,8 +168,8 @@ private:
         row->setSpacing(8);
         row->addStretch(1);
         for (int i = 0; i < mState.buttons.size(); ++i) {
-            QString text = mState.buttons[i];
-            auto* button = new QPushButton(text.replace("&", "&&"), this);
+            const QString title = fontMetrics().elidedText(mState.buttons[i], Qt::ElideMiddle, kTextWidth / 2);
+            auto* button = new QPushButton(QString(title).replace("&", "&&"), this);
             button->setMinimumWidth(84);
             button->setAutoDefault(true);
             button->setDefault(i == 0);
@@ -266,7 +293,13 @@ void centerWindow(QWidget* window, const QWidget* over)
     if (!window) return;
     window->ensurePolished();
     if (window->isMaximized() || window->isFullScreen() || placeWhereKept(window)) return;
-    if (!window->testAttribute(Qt::WA_WState_Created) && !window->testAttribute(Qt::WA_Resized)) window->adjustSize();
+    if (!window->testAttribute(Qt::WA_WState_Created) && !window->testAttribute(Qt::WA_Resized)) {
+        window->adjustSize();
+        // The toolkit takes two thirds of the screen at most and would squeeze what is in it.
+        if (const QLayout* layout = window->layout(); layout && window->screen())
+            window->resize(
+                window->size().expandedTo(layout->totalSizeHint()).boundedTo(window->screen()->availableSize()));
+    }
     const QWidget* main = over ? over->window() : nullptr;
     if (!main) {
         for (const QWidget* other : QApplication::topLevelWidgets())

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -284,4 +285,45 @@ TEST(CenterWindow, StaysOnTheScreen)
     corner.show();
     centerWindow(&window, &corner);
     EXPECT_TRUE(room.contains(window.geometry()));
+}
+
+TEST(Alert, IsNeverWiderThanAScreenWhateverItSays)
+{
+    const QString name = QString("Summer").repeated(50) + ".jpg"; // no blank to break it at
+    struct Case {
+        QString title, message, button;
+    };
+    for (const Case& c : {Case{"Title", name, "OK"},
+                          {"The file " + name + " could not be saved.", {}, "OK"},
+                          {"Title", QString("word ").repeated(2000), "OK"},
+                          {"Title", "Message", name},
+                          {"Title", QString(name + "\n").repeated(40), "OK"}}) {
+        QTimer::singleShot(0, qApp, [&c] {
+            auto* alert = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(alert);
+            EXPECT_LE(alert->width(), 800) << c.title.left(30).toStdString();
+            EXPECT_LE(alert->height(), 600) << c.title.left(30).toStdString();
+            for (const QWidget* part : alert->findChildren<QWidget*>())
+                if (part->isVisibleTo(alert) && part->parentWidget() == alert) {
+                    EXPECT_TRUE(alert->rect().contains(part->geometry()));
+                }
+            EXPECT_EQ(currentAlert()->message, c.message) << "drivers read all of it";
+            EXPECT_TRUE(answerAlert(c.button));
+        });
+        EXPECT_EQ(runAlert(c.title, c.message, {c.button}), 0);
+    }
+}
+
+TEST(Alert, ReadsNamesAsNamesAndNotAsMarkup)
+{
+    QTimer::singleShot(0, qApp, [] {
+        auto* alert = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(alert);
+        for (const QLabel* label : alert->findChildren<QLabel*>())
+            if (!label->text().isEmpty()) {
+                EXPECT_EQ(label->textFormat(), Qt::PlainText);
+            }
+        answerAlert("OK");
+    });
+    runAlert("<b>bold</b>.jpg", "<img src=x>", {"OK"});
 }

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The colour panel shows opacity, and picks from the screen through a portal.
+#include "desktop/ColorPanel.h"
+#include "desktop/ScreenColorPicker.h"
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QImage>
+#include <QLineEdit>
+#include <QPainter>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace
+{
+
+struct Rgb {
+    double red = 0, green = 0, blue = 0;
+};
+
+QDBusArgument& operator<<(QDBusArgument& out, const Rgb& color)
+{
+    out.beginStructure();
+    out << color.red << color.green << color.blue;
+    out.endStructure();
+    return out;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& in, Rgb& color)
+{
+    in.beginStructure();
+    in >> color.red >> color.green >> color.blue;
+    in.endStructure();
+    return in;
+}
+
+/// What a desktop's portal does when it is asked for a colour.
+class Portal : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Screenshot")
+
+public:
+    uint answer = 0; ///< 0: a colour, 1: the person gave up
+    bool refuses = false;
+
+public slots:
+    QDBusObjectPath PickColor(const QString&, const QVariantMap& options) // NOLINT: the bus's name
+    {
+        if (refuses) {
+            sendErrorReply(QDBusError::Failed, "no picking here");
+            return QDBusObjectPath("/");
+        }
+        const QString sender = message().service().mid(1).replace('.', '_');
+        const QString request = QString("/org/freedesktop/portal/desktop/request/%1/%2")
+                                    .arg(sender, options.value("handle_token").toString());
+        QDBusMessage response = QDBusMessage::createSignal(request, "org.freedesktop.portal.Request", "Response");
+        response << answer
+                 << (answer == 0 ? QVariantMap{{"color", QVariant::fromValue(Rgb{1, 0.5, 0})}} : QVariantMap());
+        connection().send(response);
+        return QDBusObjectPath(request);
+    }
+};
+
+class ScreenColor : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        qDBusRegisterMetaType<Rgb>();
+        const QString program = QStandardPaths::findExecutable("dbus-daemon");
+        if (program.isEmpty()) GTEST_SKIP() << "there is no message bus";
+        mDaemon.start(program, {"--session", "--nofork", "--print-address"});
+        ASSERT_TRUE(mDaemon.waitForReadyRead());
+        const QString address = QString::fromUtf8(mDaemon.readLine()).trimmed();
+        mPortalSide = QDBusConnection::connectToBus(address, "portal");
+        mProgramSide = QDBusConnection::connectToBus(address, "program");
+        ASSERT_TRUE(mPortalSide.isConnected() && mProgramSide.isConnected());
+        ASSERT_TRUE(
+            mPortalSide.registerObject("/org/freedesktop/portal/desktop", &portal, QDBusConnection::ExportAllSlots));
+    }
+    void TearDown() override
+    {
+        for (const char* name : {"portal", "program"}) QDBusConnection::disconnectFromBus(name);
+        mDaemon.kill();
+        mDaemon.waitForFinished();
+    }
+    void startPortal() { ASSERT_TRUE(mPortalSide.registerService("org.freedesktop.portal.Desktop")); }
+
+    Portal portal;
+    QProcess mDaemon;
+    QDBusConnection mPortalSide{"none"}, mProgramSide{"none"};
+};
+
+} // namespace
+
+TEST_F(ScreenColor, IsPickedByThePortal)
+{
+    zp::ScreenColorPicker picker(mProgramSide);
+    EXPECT_FALSE(picker.isAvailable());
+    startPortal();
+    EXPECT_TRUE(picker.isAvailable());
+    QSignalSpy picked(&picker, &zp::ScreenColorPicker::picked);
+    for (int times = 1; times <= 2; ++times) {
+        picker.pick();
+        ASSERT_TRUE(picked.wait());
+        EXPECT_EQ(picked.last().at(0).value<QColor>().name(), "#ff8000");
+    }
+}
+
+TEST_F(ScreenColor, LeavesTheColourWhenThePersonOrThePortalGivesUp)
+{
+    startPortal();
+    zp::ScreenColorPicker picker(mProgramSide);
+    QSignalSpy picked(&picker, &zp::ScreenColorPicker::picked), gaveUp(&picker, &zp::ScreenColorPicker::gaveUp);
+    portal.answer = 1;
+    picker.pick();
+    ASSERT_TRUE(gaveUp.wait());
+    portal.refuses = true;
+    picker.pick();
+    ASSERT_TRUE(gaveUp.wait());
+    EXPECT_TRUE(picked.isEmpty());
+    portal.refuses = false, portal.answer = 0;
+    picker.pick();
+    EXPECT_TRUE(picked.wait()) << "the next request is answered as ever";
+}
+
+TEST(ColorPanelTest, ShowsOpacityOverAChequerboard)
+{
+    ColorPanel panel;
+    panel.setOption(QColorDialog::ShowAlphaChannel);
+    panel.show();
+    auto* swatch = panel.findChild<QWidget*>("mColorSwatch");
+    ASSERT_TRUE(swatch);
+    const auto colors = [swatch] {
+        const QImage image = swatch->grab().toImage();
+        std::set<QRgb> seen;
+        for (int x = image.width() / 2; x < image.width() / 2 + 24; ++x)
+            seen.insert(image.pixel(x, image.height() / 2));
+        return seen;
+    };
+    panel.setCurrentColor(QColor(255, 0, 0));
+    EXPECT_EQ(colors(), std::set<QRgb>{qRgb(255, 0, 0)});
+    panel.setCurrentColor(QColor(255, 0, 0, 128));
+    EXPECT_EQ(colors().size(), 2u) << "light and dark fields shine through";
+    const QImage image = swatch->grab().toImage();
+    EXPECT_EQ(image.pixel(3, 3), qRgb(255, 0, 0)) << "the opaque colour stands in a corner";
+}
+
+TEST(ColorPanelTest, HasAFieldForTheHexadecimalNumber)
+{
+    ColorPanel panel;
+    panel.show();
+    bool found = false;
+    panel.setCurrentColor(QColor(0x12, 0xab, 0xef));
+    for (const QLineEdit* field : panel.findChildren<QLineEdit*>()) found |= field->text().toLower() == "#12abef";
+    EXPECT_TRUE(found);
+}
+
+#include "ColorPanelTest.moc"
