@@ -56,9 +56,11 @@ void paintColor(QPainter& painter, const QRect& rect, const QColor& color)
     opaque.setAlpha(255);
     const QPointF corner = rect.topLeft();
     const int side = rect.height();
+    painter.save();
     painter.setPen(Qt::NoPen);
     painter.setBrush(opaque);
     painter.drawPolygon(QPolygonF({corner, corner + QPointF(side, 0), corner + QPointF(0, side)}));
+    painter.restore();
 }
 
 ColorPanel::ColorPanel(QWidget* parent) : QColorDialog(parent)
