@@ -128,6 +128,7 @@ TEST_P(LanguageTest, FieldsShowNumbersAsTheyAreWrittenThere)
     {
         ZPAppController controller;
         controller.document().perform("newImageWithSize:", {{200, 100}, {}});
+        controller.window().show();
         QString percent, width;
         QTimer::singleShot(50, &controller, [&] {
             QWidget* dialog = QApplication::activeModalWidget();
