@@ -38,7 +38,7 @@ public:
                     .arg(document.picture().width())
                     .arg(document.picture().height()),
                 QCoreApplication::translate("Accessible", "zoom %1").arg(zoomInWords(document.view().zoom())),
-                QCoreApplication::translate("Tools", rowOf(document.gesture().tool()).title)};
+                QCoreApplication::translate("Tools", rowOf(document.gesture()).title)};
             const QString selection = window ? window->statusLine().selectionInWords() : QString();
             if (!selection.isEmpty()) parts << QCoreApplication::translate("Accessible", "selected: %1").arg(selection);
             return parts.join(", ");

@@ -320,7 +320,7 @@ void MainWindow::setToolImages()
 
 void MainWindow::showTool()
 {
-    const ToolRow& row = rowOf(mDocument.gesture().tool());
+    const ToolRow& row = rowOf(mDocument.gesture());
     const auto has = [&row](unsigned option) { return (row.options & option) != 0; };
     for (QWidget* w : std::initializer_list<QWidget*>{mUi->toleranceLabel, mUi->mToleranceSlider, mUi->mToleranceField})
         w->setVisible(has(options::Tolerance));

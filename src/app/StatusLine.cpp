@@ -141,7 +141,7 @@ void StatusLine::setPassingHint(const QString& text)
 QString StatusLine::hint() const
 {
     const Selection& selection = mDocument.selection();
-    const ToolRow& row = rowOf(mDocument.gesture().tool());
+    const ToolRow& row = rowOf(mDocument.gesture());
     if (!mDocument.picture().isLoaded()) return tr("Open an image, make a new one, or drop a file on the window");
     if (mDocument.gesture().polygonIsOpen())
         return tr("Click the next corner · Return closes the shape, Escape gives it up");

@@ -88,6 +88,7 @@ ZPAppController::ZPAppController()
     mMenu->setState("history:", [this] { return mWindow->historyIsShown(); });
     mMenu->setState("fullScreen:", [this] { return mWindow->isFullScreen(); });
     mMenu->setState("chequerboard:", [this] { return mDocument->view().isChequered(); });
+    mMenu->setState("removeBrush:", [this] { return mDocument->gesture().removes(); });
     mMenu->setState("pixelGrid:", [this] { return mDocument->view().hasGrid(); });
     mMenu->setState("keyboardPointer:", [this] { return mCanvas->hasKeyboardPointer(); });
     mMenu->setReason([this](const QString& action) { return whyNot(action); });
@@ -504,6 +505,7 @@ void ZPAppController::buildShell()
     mShell["fitToWindow:"] = [this] { mDocument->fitPicture(); };
     mShell["fullScreen:"] = [this] { mWindow->toggleFullScreen(); };
     mShell["chequerboard:"] = [this] { mDocument->setChequered(!mDocument->view().isChequered()); };
+    mShell["removeBrush:"] = [this] { mDocument->setRemoving(!mDocument->gesture().removes()); };
     mShell["pixelGrid:"] = [this] { mDocument->setGrid(!mDocument->view().hasGrid()); };
     mShell["keyboardPointer:"] = [this] { mCanvas->setKeyboardPointer(!mCanvas->hasKeyboardPointer()); };
     mShell["largerBrush:"] = [this] { mDocument->stepBrushSize(1); };

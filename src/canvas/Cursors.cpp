@@ -128,7 +128,7 @@ QCursor cursorAt(const Document& document, Point point, qreal ratio)
 {
     const Selection& selection = document.selection();
     const Gesture& gesture = document.gesture();
-    const ToolRow& row = rowOf(gesture.tool());
+    const ToolRow& row = rowOf(gesture);
     if (gesture.actions() && gesture.isMoving()) {
         const auto held = FloatHandle(selection.transformMode());
         return held == FloatHandle::None ? QCursor(Qt::SizeAllCursor) : handleCursor(selection, held, ratio);

@@ -42,7 +42,7 @@ HandlesOverlay::HandlesOverlay(ZPCanvas& canvas, QWidget* viewport)
 bool HandlesOverlay::isShown() const
 {
     const Document& document = mCanvas.document();
-    return showsFloatHandles(document, rowOf(document.gesture().tool()).actions);
+    return showsFloatHandles(document, rowOf(document.gesture()).actions);
 }
 
 QPointF HandlesOverlay::inView(Point p) const

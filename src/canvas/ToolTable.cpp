@@ -2,6 +2,7 @@
 /// The tools, one row each.
 #include "canvas/ToolTable.h"
 #include "desktop/KeyModifiers.h"
+#include "document/Gesture.h"
 #include "operations/ToolActions.h"
 #include <QCoreApplication>
 #include <array>
@@ -134,6 +135,24 @@ constexpr std::array<ToolRow, kToolCount> kTools{{
      .outline = true},
 }};
 
+/// The brush while it removes what it is drawn over; the palette shows the brush.
+constexpr ToolRow kRemoving{.tool = Tool::Brush,
+                            .title = QT_TRANSLATE_NOOP("Tools", "Remove Brush"),
+                            .tip = QT_TRANSLATE_NOOP("Tools", "Fills what it is drawn over from its surroundings"),
+                            .key = '4',
+                            .hint = QT_TRANSLATE_NOOP("Tools", "Paint over what should vanish and let go · any tool "
+                                                               "ends this · Escape takes the stroke back"),
+                            .options = options::Size,
+                            .actions = {.name = QT_TRANSLATE_NOOP("Steps", "Remove"),
+                                        .press = pressRemove,
+                                        .drag = dragPencil,
+                                        .release = releaseRemove,
+                                        .onFloat = OnFloat::Settle,
+                                        .paints = true},
+                            .preview = previewRemove,
+                            .previewBox = previewBox,
+                            .outline = true};
+
 } // namespace
 
 std::span<const ToolRow> toolTable() { return kTools; }
@@ -150,6 +169,8 @@ QString hintOf(const ToolRow& row)
         hint.replace(role.word, keyNameOf(role.bit));
     return hint;
 }
+
+const ToolRow& rowOf(const Gesture& gesture) { return gesture.removes() ? kRemoving : rowOf(gesture.tool()); }
 
 const ToolRow& rowOf(Tool tool) { return kTools[std::size_t(tool)]; }
 

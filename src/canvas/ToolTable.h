@@ -10,6 +10,7 @@ namespace zp
 {
 
 class Document;
+class Gesture;
 
 /// What of the options bar a tool shows; several may be or-ed.
 namespace options
@@ -50,6 +51,8 @@ struct ToolRow {
 /// In the order of the tool numbers.
 std::span<const ToolRow> toolTable();
 const ToolRow& rowOf(Tool tool);
+/// The row of what the hand holds: the chosen tool's, or that of the brush that removes.
+const ToolRow& rowOf(const Gesture& gesture);
 /// The tool's hint for the person, with the keys that are in force.
 QString hintOf(const ToolRow& row);
 

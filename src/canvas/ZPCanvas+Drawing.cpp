@@ -10,6 +10,7 @@
 #include "document/Gesture.h"
 #include "document/Paint.h"
 #include "document/Picture.h"
+#include "document/Preview.h"
 #include "document/Selection.h"
 #include "document/View.h"
 #include "drawing/AntsPainter.h"
@@ -151,7 +152,8 @@ PixelBox ZPCanvas::overlayBox() const
     const Selection& selection = mDocument.selection();
     if (mDocument.view().isChequered()) return picture.box();
     PixelBox box;
-    if (row().preview && mDocument.gesture().actions()) box = row().previewBox(mDocument);
+    if (const auto& preview = mDocument.view().preview()) box = preview->box.intersected(picture.box());
+    if (row().preview && mDocument.gesture().actions()) box = box.united(row().previewBox(mDocument));
     if (!selection.isNil() && selection.floating())
         box = box.united(pixelBoxOf(selection.bounds().inset(-1), picture.width(), picture.height()));
     return box;
@@ -175,6 +177,8 @@ bool ZPCanvas::composeOverlays(PixelBox box)
         floating->logDrawing(mDocument.selection().isTransforming() ? " 2" : " 1");
         drawFloatingPiece(mDocument, copy, box.x0, box.y0);
     }
+    // Over what floats: the result is written when that has become part of the picture.
+    if (const auto& preview = mDocument.view().preview()) layPreview(*preview, copy, box.x0, box.y0);
     if (mDocument.view().isChequered()) layChequerboardUnder(copy, box.x0, box.y0, mDocument.view().effectiveZoom());
     return true;
 }

@@ -64,7 +64,7 @@ ZPCanvas::~ZPCanvas() { NotificationCenter::defaultCenter().removeObserver(this)
 
 Rect ZPCanvas::bounds() const { return mDocument.picture().bounds(); }
 
-const ToolRow& ZPCanvas::row() const { return rowOf(mDocument.gesture().tool()); }
+const ToolRow& ZPCanvas::row() const { return rowOf(mDocument.gesture()); }
 
 void ZPCanvas::showCursor()
 {

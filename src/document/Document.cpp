@@ -8,6 +8,7 @@
 #include "document/History.h"
 #include "document/Paint.h"
 #include "document/Picture.h"
+#include "document/Preview.h"
 #include "document/Selection.h"
 #include "document/Shelf.h"
 #include "document/View.h"
@@ -185,6 +186,15 @@ void Document::setChequered(bool on)
     emit touched(mPicture.bounds());
 }
 
+void Document::showPreview(std::shared_ptr<const Preview> preview)
+{
+    const std::shared_ptr<const Preview> before = mView.preview();
+    if (before == preview) return;
+    mView.setPreview(preview);
+    if (before) emit touched(before->box.rect());
+    if (preview) emit touched(preview->box.rect());
+}
+
 void Document::setGrid(bool on)
 {
     mView.setGrid(on);
@@ -232,6 +242,15 @@ void Document::chooseTool(Tool tool)
     // In the middle of a gesture: what was begun with the old tool ends here, as that tool ends it.
     if (mGesture.actions() && tool != mGesture.tool()) endGesture();
     mGesture.chooseTool(tool);
+    emit toolChosen();
+    emit changed();
+}
+
+void Document::setRemoving(bool on)
+{
+    if (on == mGesture.removes()) return;
+    endGesture();
+    mGesture.setRemoving(on);
     emit toolChosen();
     emit changed();
 }

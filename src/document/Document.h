@@ -22,6 +22,7 @@ namespace zp
 
 class TileJournal;
 struct MarqueeRule;
+struct Preview;
 struct ToolActions;
 
 /// Six values with one owner each, and what paints. Anybody may look at them; whoever wants to change one is a
@@ -110,6 +111,8 @@ public:
     /// Another position of the pointer while a brush stroke is open.
     void samplePointer(Point point);
     void chooseTool(Tool tool);
+    /// The brush removes what it is drawn over instead of painting; ends with the next choice of a tool.
+    void setRemoving(bool on);
     /// The marquee and the open edge of a polygon as pointer and keys have them now.
     void followPointer();
     /// What the next marquees keep to. Ignored when a side is not above zero.
@@ -127,6 +130,8 @@ public:
     void setRetina(bool on);
     void setChequered(bool on);
     void setGrid(bool on);
+    /// Shows pixels over the picture that are no part of it, or none (null), until another bitmap becomes the picture.
+    void showPreview(std::shared_ptr<const Preview> preview);
     void setOnScreen(bool on);
     void setPointer(Point point, bool inside);
     /// Another choice of colour, after which the one before can be swapped in.

@@ -123,6 +123,7 @@ void Document::closeEdit(Edit& edit, const char* stepName, StepRule rule)
                          ? edit.mStepWanted
                          : (rule == StepRule::Always && !edit.mRefused) || (rule != StepRule::Never && edit.mWrote);
     if (edit.mReplaced) {
+        mView.setPreview(nullptr); // it was of pixels that are gone
         emit pictureReplaced();
         emit zoomChanged(); // fitted, or at its own pixels
     }

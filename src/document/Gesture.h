@@ -28,6 +28,7 @@ public:
     explicit Gesture(std::unique_ptr<BrushStroke> stroke) : mStroke(std::move(stroke)) {}
 
     Tool tool() const { return mTool; }
+    bool removes() const { return mRemoves; }
     bool isMouseDown() const { return mIsMouseDown; }
     /// What the open gesture's tool does; null when none is open, or its press was refused.
     const ToolActions* actions() const { return mActions; }
@@ -51,7 +52,9 @@ public:
 
     // ---- transitions ---------------------------------------------------------------------------------------------
 
-    void chooseTool(Tool tool) { mTool = tool; }
+    void chooseTool(Tool tool) { mTool = tool, mRemoves = false; }
+    /// The brush removes what it is drawn over, until another tool is chosen.
+    void setRemoving(bool on) { mTool = on ? Tool::Brush : mTool, mRemoves = on; }
     void setMarqueeRule(const MarqueeRule& rule) { mMarqueeRule = rule; }
     /// @param before  the selection, to be brought back when the gesture is taken back
     void begin(const ToolActions* actions, Point point, std::shared_ptr<Selection::Memento> before);
@@ -86,6 +89,7 @@ public:
 
 private:
     Tool mTool = Tool::Rectangle;
+    bool mRemoves = false;
     MarqueeRule mMarqueeRule;
     std::uint8_t mIsMouseDown = 0;
     const ToolActions* mActions = nullptr;

@@ -3,9 +3,13 @@
 #pragma once
 #include "base/Geometry.h"
 #include <array>
+#include <memory>
+#include <utility>
 
 namespace zp
 {
+
+struct Preview;
 
 /// The zoom levels that are offered, as factors: powers of two, so that picture pixels and screen pixels always meet
 /// evenly.
@@ -45,9 +49,12 @@ public:
     bool isChequered() const { return mChequered; }
     /// Lines between the pixels, from a zoom on at which they are large.
     bool hasGrid() const { return mGrid; }
+    /// What is shown over the picture for a window to ask "like this?"; null for nothing.
+    const std::shared_ptr<const Preview>& preview() const { return mPreview; }
 
     void setChequered(bool on) { mChequered = on; }
     void setGrid(bool on) { mGrid = on; }
+    void setPreview(std::shared_ptr<const Preview> preview) { mPreview = std::move(preview); }
     void setZoom(float factor) { mZoom = factor, mFit = Fit::No; }
     void setFit(Fit fit) { mFit = fit; }
     void setRoom(Size room) { mRoom = room; }
@@ -73,6 +80,7 @@ private:
     Point mPointer;
     bool mPointerInside = false, mOnScreen = false, mChequered = false, mGrid = false;
     const char* mInfoWithoutSelection = "";
+    std::shared_ptr<const Preview> mPreview;
 };
 
 } // namespace zp

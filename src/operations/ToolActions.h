@@ -15,6 +15,7 @@ Action pressLasso, dragLasso, releaseLasso;
 Action pressWand, releaseWand;
 Action pressBrush;
 Action pressPencil, dragPencil, releasePencil, releaseEraser;
+Action pressRemove, releaseRemove;
 Action pressBucket;
 Action pickColor;
 Action pressText;
@@ -25,7 +26,7 @@ Action moveSelection;
 /// What the pencil or the eraser would leave if the button were let go now, drawn into @p pixels, whose corner is the
 /// picture's pixel (x, y): the very drawing that the release does.
 using Preview = void(const Document& document, BitmapView pixels, int x, int y);
-Preview previewPencil, previewEraser;
+Preview previewPencil, previewEraser, previewRemove;
 /// The pixels that the preview may touch.
 PixelBox previewBox(const Document& document);
 

@@ -1,22 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The mouse with pencil and eraser: a path while the button is down, drawn at the release by what also shows it
 /// before.
-#include "base/FixedPoint.h"
-#include "base/PixelMemory.h"
 #include "desktop/KeyModifiers.h"
-#include "desktop/Sounds.h"
 #include "document/Document.h"
 #include "document/Gesture.h"
 #include "document/Paint.h"
 #include "document/Picture.h"
 #include "document/Selection.h"
 #include "drawing/BitmapContext.h"
+#include "operations/DrawnStroke.h"
 #include "operations/ToolActions.h"
-#include "selection/MaskOps.h"
 #include "tools/BrushTip.h"
 #include "tools/StrokeGeometry.h"
-#include <cstring>
-#include <new>
 
 namespace zp
 {
@@ -24,75 +19,23 @@ namespace zp
 namespace
 {
 
-/// The straight line of a press with Shift.
-BezierPath straightStroke(const Gesture& gesture, float width)
-{
-    BezierPath line;
-    line.setLineWidth(width);
-    line.setLineJoin(LineJoin::Round);
-    line.setLineCap(LineCap::Round);
-    line.moveTo(gesture.pt1());
-    line.lineTo(gesture.pt2());
-    return line;
-}
-
-/// What has been drawn so far.
-BezierPath strokeSoFar(const Document& document)
-{
-    const BezierPath* drawn = document.gesture().pencilPath();
-    return drawn ? *drawn : straightStroke(document.gesture(), document.paint().size());
-}
-
-/// What the finished gesture draws.
-BezierPath finishedStroke(Edit& edit, Point released)
-{
-    std::optional<BezierPath> drawn = edit.gesture().takePencil();
-    if (!drawn) return straightStroke(edit.gesture(), edit.paint().size());
-    // The release is a position like any other; a click without a drag becomes a dot.
-    if (drawn->elementCount() == 1 || drawn->currentPoint() != released) drawn->lineTo(released);
-    return std::move(*drawn);
-}
-
-/// Picture coordinates to those of a part whose corner is the picture's pixel (x, y).
-AffineTransform toPart(int x, int y)
+void drawPencil(BitmapView pixels, int x, int y, const BezierPath& path, const BezierPath* clip, Color color)
 {
     AffineTransform shift;
     shift.translate(-x, -y);
-    return shift;
-}
-
-void drawPencil(BitmapView pixels, int x, int y, const BezierPath& path, const BezierPath* clip, Color color)
-{
     BitmapContext context(pixels);
-    context.concat(toPart(x, y));
+    context.concat(shift);
     if (clip) context.addClip(*clip);
     context.setColor(color);
     context.stroke(path);
 }
 
 /// Makes what @p path strokes transparent, as far as the selection lets it. Only the stroke's own box is worked on.
-void erase(BitmapView pixels, int x, int y, BezierPath path, const BezierPath* clip)
+void erase(BitmapView pixels, int x, int y, const BezierPath& path, const BezierPath* clip)
 {
-    path.transform(toPart(x, y));
-    const PixelBox box = pixelBoxOf(strokeBounds(path).inset(-1), pixels.width, pixels.height);
-    if (box.isEmpty()) return;
-    const std::size_t bytes = std::size_t(box.width()) * std::size_t(box.height());
-    const PixelMemory keep = allocatePixelsUninitialized(bytes),
-                      allowed = allocatePixelsUninitialized(clip ? bytes : 1);
-    if (!keep || !allowed) throw std::bad_alloc();
-    std::memset(keep.get(), kNotSelected, bytes);
-    const MaskView mask{keep.get(), box.width(), box.height(), box.width()};
-    path.transform(toPart(box.x0, box.y0));
-    strokePathInMask(mask, path, 0);
-    if (clip) {
-        std::memset(allowed.get(), kNotSelected, bytes);
-        BezierPath outline = *clip;
-        outline.transform(toPart(x + box.x0, y + box.y0));
-        renderPathInMask({allowed.get(), box.width(), box.height(), box.width()}, outline, kSelected);
-        for (std::size_t i = 0; i < bytes; ++i)
-            keep[i] = std::uint8_t(255 - divide255(std::uint32_t((255 - keep[i]) * (255 - allowed[i]))));
-    }
-    eraseThroughMask(pixels.part(box), mask);
+    const BezierPath outline = clip ? inPart(*clip, x, y) : BezierPath();
+    const StrokeMask mask = maskOfStroke(inPart(path, x, y), clip ? &outline : nullptr, pixels.width, pixels.height);
+    if (!mask.box.isEmpty()) eraseThroughMask(pixels.part(mask.box), mask.view());
 }
 
 /// The end of both tools: what the selection lets nothing through of is a beep and no step.

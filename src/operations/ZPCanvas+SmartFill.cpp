@@ -18,6 +18,8 @@ SmartFillHook registeredHook;
 
 void setSmartFillHook(SmartFillHook hook) { registeredHook = std::move(hook); }
 
+const SmartFillHook& smartFillHook() { return registeredHook; }
+
 void operations::smartFill(Edit& edit, const Arguments&)
 {
     Selection& selection = edit.selection();
@@ -28,7 +30,7 @@ void operations::smartFill(Edit& edit, const Arguments&)
     mask.renderInverted(*selection.outline());
     const ConstMaskView inverted = mask.bytes();
     if (inverted.isEmpty()) throw std::bad_alloc();
-    registeredHook(edit.document(), inverted, selection.bounds());
+    registeredHook(edit.document(), {.mask = inverted, .maskOrigin = {}, .bounds = selection.bounds()});
 }
 
 } // namespace zp

@@ -61,8 +61,8 @@ SmartFillRun::SmartFillRun(const SmartFillPicture& picture, std::uint64_t seed, 
     : mLayout(picture.width, picture.height), mRandom(seed), mStep(step), mKnown(mLayout)
 {
     const std::size_t size = mLayout.size();
-    const auto sources =
-        std::size_t(std::count_if(picture.mask.begin(), picture.mask.end(), [](auto m) { return m != 255; }));
+    std::size_t sources = 0;
+    for (std::size_t pixel = 0; pixel < picture.mask.size(); ++pixel) sources += picture.isSource(pixel);
     mMemory = allocatePixelsUninitialized(size * (sizeof(TargetPixel) + 5) + sources * 4 + 64);
     if (!mMemory) throw std::bad_alloc();
     std::uint8_t* next = mMemory.get();
@@ -98,7 +98,7 @@ void SmartFillRun::readPicture(const SmartFillPicture& picture)
             const std::uint8_t mask = picture.mask[pixel];
             mSource[std::size_t(index)] = mTarget[std::size_t(index)].value = picture.pixels[pixel];
             if (mask) mFillList.push_back({x, y});
-            if (mask == 255) continue;
+            if (!picture.isSource(pixel)) continue;
             mSourceList[source++] = index;
             mClear[std::size_t(index)] = 255;
         }

@@ -29,6 +29,10 @@ struct SmartFillPicture {
     int width = 0, height = 0;
     std::vector<std::uint32_t> pixels; ///< width * height words as in the bitmap
     std::vector<std::uint8_t> mask;    ///< the same count; 0 outside the selection, 255 wholly inside
+    /// The same count; 0 where nothing may be taken from, though it counts as surroundings. Empty: anything may be.
+    std::vector<std::uint8_t> sources;
+
+    bool isSource(std::size_t pixel) const { return mask[pixel] != 255 && (sources.empty() || sources[pixel]); }
 };
 
 /// Reads the area out of a picture. @p bitmap must hold area.work; @p mask (255 inside) may be a part of the picture
@@ -61,7 +65,7 @@ enum class SmartFillSpeed {
     Portable, ///< plain C++
 };
 
-/// Fills the hole (mask not 0) of @p picture from its source pixels (mask not 255) in place; a partly selected pixel is
+/// Fills the hole (mask not 0) of @p picture from its source pixels (isSource) in place; a partly selected pixel is
 /// both. Logs "update progress: %f" lines and "image and mask fetched".
 /// @param seed  the same seed gives the same picture, whatever the processor
 /// Time: about 4 steps a hole pixel, each some 230 comparisons of up to 29 pixels. Memory: about 20 bytes a pixel.

@@ -10,13 +10,17 @@
 #include "document/Document.h"
 #include "document/Paint.h"
 #include "document/Picture.h"
+#include "document/Preview.h"
 #include "operations/Files.h"
 #include "operations/SmartFillHook.h"
 #include "ui_SmartFill.h"
 #include "windows/FineProgressBar.h"
+#include "windows/SmartFillStudio.h"
 #include <QCoreApplication>
 #include <QDialog>
+#include <QHideEvent>
 #include <QThread>
+#include <algorithm>
 #include <any>
 #include <chrono>
 #include <ctime>
@@ -31,11 +35,20 @@ namespace
 {
 
 /// The result of a run on its way into the picture.
-constexpr Command kSmartFill{.action = "smartFill",
-                             .name = ZP_TEXT("Steps", "Smart Fill"),
-                             .effect = Effect::Paint,
-                             .onFloat = OnFloat::Settle,
-                             .step = StepRule::Always};
+constexpr Command intoPicture(const char* action, const char* name)
+{
+    return {
+        .action = action, .name = name, .effect = Effect::Paint, .onFloat = OnFloat::Settle, .step = StepRule::Always};
+}
+constexpr Command kSmartFill = intoPicture("smartFill", ZP_TEXT("Steps", "Smart Fill")), kRemove = intoPicture("remove", ZP_TEXT("Steps", "Remove"));
+
+/// How far around a removed thing colours are looked for, in pixels: half its longer side, so that a thin stroke sees
+/// more than its own width, but not half the picture.
+constexpr float kRemoveReach = 0.5f, kLeastRemoveReach = 48, kMostRemoveReach = 256;
+/// What is removed is marked until it is gone.
+constexpr std::uint32_t kRemoveMark = 0x0000FFFF; // opaque red, alpha in the low byte
+/// A removal that is not done by then shows how far it is, in milliseconds.
+constexpr int kRemovePatience = 700;
 
 constexpr char kProgressNotif[] = "SmartFillProgressNotif";
 
@@ -46,9 +59,21 @@ public:
     explicit Window(ZPSmartFill& owner) : mOwner(owner) {}
     void reject() override { mOwner.isRunning() ? mOwner.cancel() : mOwner.closeMe(); }
 
+protected:
+    void hideEvent(QHideEvent* event) override
+    {
+        QDialog::hideEvent(event);
+        if (!event->spontaneous()) mOwner.closed();
+    }
+
 private:
     ZPSmartFill& mOwner;
 };
+
+void leaveInPicture(Document& document, const Command& command, const Preview& preview)
+{
+    document.perform(command, [&preview](Edit& edit) { layPreview(preview, edit.write(preview.box), 0, 0); });
+}
 
 double now() { return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count(); }
 
@@ -56,6 +81,9 @@ double now() { return std::chrono::duration<double>(std::chrono::steady_clock::n
 
 /// What belongs to one run. The worker alone touches picture, status and failure until it has ended.
 struct ZPSmartFill::Run {
+    Purpose purpose = Purpose::Fill;
+    QPointer<Document> document;
+    std::uint64_t generation = 0; ///< of the picture it was read from
     SmartFillArea area;
     SmartFillPicture picture;
     std::uint64_t seed = 0;
@@ -71,22 +99,32 @@ ZPSmartFill* ZPSmartFill::sharedSmartFill()
 
 void ZPSmartFill::registerCommand()
 {
-    setSmartFillHook([](Document& document, ConstMaskView mask, Rect selection) {
-        sharedSmartFill()->runWithBitmapRep(document, mask, selection);
+    setSmartFillHook([](Document& document, const FillRequest& request) {
+        request.atOnce ? sharedSmartFill()->remove(document, request)
+                       : sharedSmartFill()->runWithBitmapRep(document, request);
     });
 }
 
 ZPSmartFill::ZPSmartFill() : mUi(std::make_unique<Ui::SmartFill>()), mWindow(std::make_unique<Window>(*this))
 {
     mUi->setupUi(mWindow.get());
+    mStudio = std::make_unique<SmartFillStudio>(*mUi);
     setFrameAutosaveName(mWindow.get(), "SmartFill");
     connect(mUi->mRunButton, &QPushButton::clicked, this, &ZPSmartFill::run);
+    connect(mUi->mPreviewButton, &QPushButton::clicked, this, &ZPSmartFill::preview);
+    connect(mUi->mAnotherButton, &QPushButton::clicked, this, &ZPSmartFill::another);
     connect(mUi->mCancelButton, &QPushButton::clicked, this, &ZPSmartFill::cancel);
     connect(mUi->mCloseButton, &QPushButton::clicked, this, &ZPSmartFill::closeMe);
     connect(mUi->mRadiusSlider, &QSlider::valueChanged, mUi->mRadiusField, &QSpinBox::setValue);
     connect(mUi->mRadiusField, &QSpinBox::valueChanged, mUi->mRadiusSlider, &QSlider::setValue);
     NotificationCenter::defaultCenter().addObserver(this, kProgressNotif, [this](const Notification& notification) {
         if (const auto* progress = std::any_cast<float>(&notification.object)) progressNotif(*progress);
+    });
+    mPatience.setSingleShot(true);
+    mPatience.setInterval(kRemovePatience);
+    connect(&mPatience, &QTimer::timeout, this, [this] {
+        mShownForRemove = mRunning && !mWindow->isVisible();
+        if (mShownForRemove) mWindow->show();
     });
     mPoll.setInterval(15);
     connect(&mPoll, &QTimer::timeout, this, &ZPSmartFill::lookAtWorker);
@@ -105,7 +143,7 @@ void ZPSmartFill::dropWorker()
     if (mCalcThread.joinable()) mCalcThread.join();
 }
 
-void ZPSmartFill::runWithBitmapRep(Document& document, ConstMaskView selectionMask, Rect selectionRect)
+void ZPSmartFill::runWithBitmapRep(Document& document, const FillRequest& request)
 {
     const bool wasHidden = !mWindow->isVisible();
     if (wasHidden && mWindow->pos().isNull()) centerWindow(mWindow.get());
@@ -116,12 +154,12 @@ void ZPSmartFill::runWithBitmapRep(Document& document, ConstMaskView selectionMa
     enableButtons(false);
     mDocument = &document;
     mGeneration = document.picture().generation();
-    mSelRect = selectionRect;
+    mSelRect = request.bounds;
     // A copy, because the document goes on using its mask, with the opposite meaning, while the window stands open.
-    mMaskBox = pixelBoxOf(selectionRect, selectionMask.width, selectionMask.height);
-    mMaskBytes.clear();
-    for (int y = mMaskBox.y0; y < mMaskBox.y1; ++y)
-        mMaskBytes.insert(mMaskBytes.end(), selectionMask.row(y) + mMaskBox.x0, selectionMask.row(y) + mMaskBox.x1);
+    const Picture& picture = document.picture();
+    mHole =
+        markedPixels(request.mask, pixelBoxOf(request.bounds, picture.width(), picture.height()), request.maskOrigin);
+    mStudio->begin(document);
 }
 
 void ZPSmartFill::enableButtons(bool running)
@@ -129,22 +167,90 @@ void ZPSmartFill::enableButtons(bool running)
     mUi->mRunButton->setEnabled(!running);
     mUi->mCancelButton->setEnabled(running);
     mUi->mCloseButton->setEnabled(!running);
+    mStudio->setIdle(!running);
 }
 
-void ZPSmartFill::run()
+bool ZPSmartFill::isReady()
 {
     if (mRunning) { // a cancelled run that has not come to its next progress point yet
         dropWorker();
         finish();
-        if (mRunning) return;
+        if (mRunning) return false;
     }
     // Another picture since the window was opened, or its pixels in other places: they have nothing to do with the
     // selection.
-    if (!mDocument || !mDocument->picture().bitmap() || mDocument->picture().generation() != mGeneration) return beep();
+    const bool same = mDocument && mDocument->picture().bitmap() && mDocument->picture().generation() == mGeneration;
+    if (!same) beep();
+    return same;
+}
+
+std::uint64_t ZPSmartFill::firstSeed() const { return mSeed ? mSeed : std::uint64_t(std::time(nullptr)); }
+
+void ZPSmartFill::run()
+{
+    if (!isReady()) return;
+    if (const std::shared_ptr<const Preview> shown = mStudio->shown()) {
+        leaveInPicture(*mDocument, kSmartFill, *shown);
+        return mWindow->hide();
+    }
+    startForWindow(Purpose::Fill, firstSeed());
+}
+
+void ZPSmartFill::preview()
+{
+    if (isReady() && !mStudio->showNewest()) startForWindow(Purpose::Preview, firstSeed());
+}
+
+void ZPSmartFill::another()
+{
+    if (isReady()) startForWindow(Purpose::Preview, mStudio->nextSeed(firstSeed()));
+}
+
+void ZPSmartFill::startForWindow(Purpose purpose, std::uint64_t seed)
+{
     mDocument->endGesture(); // what is being painted is part of what is filled from
     const Picture& picture = mDocument->picture();
+    auto run = std::make_unique<Run>();
+    run->purpose = purpose;
+    run->document = mDocument;
+    run->generation = mGeneration;
+    run->seed = seed;
+    run->area = areaWithSources(smartFillArea(mSelRect, picture.width(), picture.height(), mUi->mRadiusSlider->value(),
+                                              mUi->mFasterCheckbox->isChecked()),
+                                mStudio->sources());
+    start(std::move(run), mHole, mStudio->sources());
+}
 
-    mRun = std::make_unique<Run>();
+void ZPSmartFill::remove(Document& document, const FillRequest& request)
+{
+    if (mRunning) return beep();
+    mStudio->hide();
+    const Picture& picture = document.picture();
+    const MarkedPixels hole =
+        markedPixels(request.mask, pixelBoxOf(request.bounds, picture.width(), picture.height()), request.maskOrigin);
+    auto run = std::make_unique<Run>();
+    run->purpose = Purpose::Remove;
+    run->document = &document;
+    run->generation = picture.generation();
+    run->seed = firstSeed();
+    const float reach = std::clamp(kRemoveReach * std::max(request.bounds.size.width, request.bounds.size.height),
+                                   kLeastRemoveReach, kMostRemoveReach);
+    run->area.work = pixelBoxOf(request.bounds.inset(-reach), picture.width(), picture.height());
+    auto mark = std::make_shared<Preview>();
+    mark->box = hole.box;
+    mark->covers = hole.bytes;
+    // Half the mark, half the picture, so that it can be seen what is still there; the lowest bits do not matter.
+    for (int y = hole.box.y0; y < hole.box.y1; ++y)
+        for (int x = hole.box.x0; x < hole.box.x1; ++x)
+            mark->words.push_back((picture.pixels().row(y)[x] >> 1 & 0x7F7F7F7F) + (kRemoveMark >> 1 & 0x7F7F7F7F));
+    document.showPreview(std::move(mark));
+    start(std::move(run), hole, {});
+    mPatience.start();
+}
+
+void ZPSmartFill::start(std::unique_ptr<Run> started, const MarkedPixels& hole, const SmartFillSources& sources)
+{
+    mRun = std::move(started);
     Run& run = *mRun;
     mUi->mProgressBar->setPercent(0);
     enableButtons(true);
@@ -153,16 +259,12 @@ void ZPSmartFill::run()
     mProgress.store(kNoProgress, std::memory_order_release);
     mWorkerDone.store(false, std::memory_order_release);
     mRunning = true;
-    mDocument->setComputing(true);
-
-    run.seed = mSeed ? mSeed : std::uint64_t(std::time(nullptr));
-    run.area = smartFillArea(mSelRect, picture.width(), picture.height(), mUi->mRadiusSlider->value(),
-                             mUi->mFasterCheckbox->isChecked());
+    run.document->setComputing(true);
     try {
-        const ConstMaskView mask{mMaskBytes.data(), mMaskBox.width(), mMaskBox.height(), mMaskBox.width()};
         // What floats is filled from as it is seen; it becomes part of the picture in the result's own step.
-        const std::shared_ptr<const BitmapRep> shown = pictureAsShown(*mDocument);
-        run.picture = fetchSmartFillPicture(shown->view(), mask, run.area, {mMaskBox.x0, mMaskBox.y0});
+        const std::shared_ptr<const BitmapRep> seen = pictureAsShown(*run.document);
+        run.picture = fetchSmartFillPicture(seen->view(), hole.view(), run.area, hole.origin());
+        limitSources(run.picture, run.area, sources);
         mCalcThread = std::thread([this, &run] { calcThread(run); });
     } catch (const std::bad_alloc&) {
         run.outOfMemory = true;
@@ -197,6 +299,11 @@ void ZPSmartFill::cancel()
 
 void ZPSmartFill::closeMe() { mWindow->hide(); }
 
+void ZPSmartFill::closed()
+{
+    if (!mRunning) mStudio->end();
+}
+
 void ZPSmartFill::progressNotif(float progress)
 {
     if (QThread::currentThread() == thread()) return showProgress(progress);
@@ -226,10 +333,11 @@ void ZPSmartFill::finish()
 {
     if (mCalcThread.joinable()) mCalcThread.join();
     mPoll.stop();
+    mPatience.stop();
     const std::unique_ptr<Run> run = std::move(mRun);
     mRunning = false;
     enableButtons(false);
-    if (mDocument) takeResult(*run);
+    if (run->document) takeResult(*run);
     if (run->outOfMemory)
         runAlert(tr("There is not enough memory for this fill."), tr("Select a smaller area or lower the radius."),
                  {tr("OK")});
@@ -239,14 +347,32 @@ void ZPSmartFill::finish()
 
 void ZPSmartFill::takeResult(const Run& run)
 {
-    mDocument->setComputing(false);
+    Document& document = *run.document;
+    const bool filled = !run.outOfMemory && run.status == SmartFillStatus::Filled;
+    document.setComputing(false);
+    if (run.purpose == Purpose::Remove) {
+        document.showPreview(nullptr);
+        if (std::exchange(mShownForRemove, false)) mWindow->hide();
+    }
     // A picture that was opened, turned, cropped or undone meanwhile is another one: the result is nobody's.
-    if (mDocument->picture().generation() != mGeneration)
-        return mUi->mTimeField->setText(tr("The picture changed meanwhile; the fill was dropped."));
-    if (mUi->mProgressBar->percent() >= 100.0) mWindow->hide();
-    mDocument->perform(kSmartFill, [&run](Edit& edit) {
-        if (run.outOfMemory || run.status != SmartFillStatus::Filled) return; // the step is left all the same
-        const PixelBox box = run.area.work.united(run.area.selection).intersected(edit.picture().box());
-        writeBackSmartFill(edit.write(box), run.picture, run.area);
-    });
+    if (document.picture().generation() != run.generation) {
+        const QString sentence = tr("The picture changed meanwhile; the fill was dropped.");
+        return run.purpose == Purpose::Remove ? document.say(sentence) : mUi->mTimeField->setText(sentence);
+    }
+    switch (run.purpose) {
+    case Purpose::Fill:
+        if (mUi->mProgressBar->percent() >= 100.0) mWindow->hide();
+        document.perform(kSmartFill, [&run, filled](Edit& edit) {
+            if (!filled) return; // the step is left all the same
+            const PixelBox box = run.area.work.united(run.area.selection).intersected(edit.picture().box());
+            writeBackSmartFill(edit.write(box), run.picture, run.area);
+        });
+        break;
+    case Purpose::Preview:
+        if (filled) mStudio->add(run.picture, run.area, run.seed);
+        break;
+    case Purpose::Remove:
+        if (filled) leaveInPicture(document, kRemove, previewOfFill(run.picture, run.area));
+        break;
+    }
 }

@@ -121,6 +121,8 @@ inline SmartFillStatus fill(SmartFillPicture& picture, std::uint64_t seed, const
     for (int y = 0; y < h; ++y)
         for (int x = 0; x < w; ++x) {
             s.sourceMask.at(x, y, 0) = 255 - s.sourceMask.at(x, y, 0);
+            if (!picture.sources.empty() && !picture.sources[std::size_t(y) * std::size_t(w) + std::size_t(x)])
+                s.sourceMask.at(x, y, 0) = 0;
             if (s.sourceMask.at(x, y, 0)) s.sourceList.push_back({x, y});
         }
     if (!s.fillList.empty() && s.sourceList.empty()) return SmartFillStatus::NoSource;

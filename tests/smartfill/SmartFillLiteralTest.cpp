@@ -21,7 +21,7 @@ struct Case {
 SmartFillPicture pictureOf(const Case& c, unsigned seed)
 {
     std::mt19937 random(seed);
-    SmartFillPicture p{c.width, c.height, {}, {}};
+    SmartFillPicture p{c.width, c.height, {}, {}, {}};
     for (int y = 0; y < c.height; ++y)
         for (int x = 0; x < c.width; ++x) {
             std::uint32_t word = 0xFF808080;
@@ -96,6 +96,8 @@ TEST(SmartFillLiteralRandom, ScatteredMasksOfManySizes)
                                               : random() % 3 * 0x40404040u);
             before.mask.push_back(random() % 100 < hole ? 255 : random() % 100 < soft ? std::uint8_t(random()) : 0);
         }
+        if (round % 4 == 1) // some sources are forbidden
+            for (std::size_t i = 0; i < before.mask.size(); ++i) before.sources.push_back(random() % 3 ? 255 : 0);
         SmartFillPicture expected = before, fast = before, portable = before;
         const auto status = literal::fill(expected, unsigned(round), {});
         ASSERT_EQ(fillSmartFillPicture(fast, unsigned(round), {}), status);
