@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Fills a hole in a picture file and, beside it, lets OpenCV's inpainting fill the same hole.
 ///
-///     smartfill_looks PICTURE.ppm MASK.pgm RADIUS [faster|normal] OUTPUT-PREFIX
+///     smartfill_looks PICTURE.ppm MASK.pgm RADIUS [faster|normal] OUTPUT-PREFIX [NAME=RESULT.ppm…]
 ///
-/// The mask is white where the hole is. Writes PREFIX-smart.ppm, PREFIX-telea.ppm and PREFIX-ns.ppm, and prints
-/// seconds, PSNR and SSIM over the hole's pixels, for which the picture itself is the truth.
+/// The mask is white where the hole is. Writes PREFIX-smart.ppm, PREFIX-telea.ppm, PREFIX-ns.ppm and, where OpenCV's
+/// xphoto is installed, PREFIX-shiftmap.ppm, and prints seconds, PSNR and SSIM over the hole's pixels, for which the
+/// picture itself is the truth. What others made of the same hole is judged by the same measures.
 #include "Pnm.h"
 #include "smartfill/SmartFill.h"
 #include <chrono>
@@ -15,6 +16,9 @@
 #include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 #include <opencv2/photo.hpp>
+#ifdef ZP_XPHOTO
+#include <opencv2/xphoto.hpp>
+#endif
 #include <string>
 
 namespace
@@ -77,8 +81,9 @@ double seconds(F&& work)
 
 int main(int argc, char** argv)
 try {
-    if (argc != 6) {
-        std::fputs("smartfill_looks PICTURE.ppm MASK.pgm RADIUS faster|normal OUTPUT-PREFIX\n", stderr);
+    if (argc < 6) {
+        std::fputs("smartfill_looks PICTURE.ppm MASK.pgm RADIUS faster|normal OUTPUT-PREFIX [NAME=RESULT.ppm…]\n",
+                   stderr);
         return 2;
     }
     const cv::Mat truth = readPicture(argv[1]), hole = readPicture(argv[2]);
@@ -112,6 +117,24 @@ try {
     report("smart", smart, smartSeconds);
     report("telea", telea, teleaSeconds);
     report("ns", ns, nsSeconds);
+#ifdef ZP_XPHOTO
+    // Its mask is 0 where the hole is, and it works in Lab, as its makers advise.
+    cv::Mat lab, filled, shiftMap, kept;
+    cv::bitwise_not(hole, kept);
+    const double shiftSeconds = seconds([&] {
+        cv::cvtColor(truth, lab, cv::COLOR_RGB2Lab);
+        cv::xphoto::inpaint(lab, kept, filled, cv::xphoto::INPAINT_SHIFTMAP);
+        cv::cvtColor(filled, shiftMap, cv::COLOR_Lab2RGB);
+    });
+    report("shiftmap", shiftMap, shiftSeconds);
+#endif
+    for (int i = 6; i < argc; ++i) {
+        const std::string word = argv[i];
+        const std::size_t equals = word.find('=');
+        const cv::Mat result = readPicture(word.substr(equals + 1));
+        std::printf("%s PSNR %.2f SSIM %.3f  ", word.substr(0, equals).c_str(), psnr(truth, result, hole),
+                    ssim(truth, result, hole));
+    }
     std::puts("");
 } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());

@@ -90,6 +90,7 @@ SmartFillStudio::SmartFillStudio(Ui::SmartFill& ui)
         connect(mButtons[i], &QToolButton::clicked, this, [this, i] { choose(i); });
     connect(ui.mRadiusSlider, &QSlider::valueChanged, this, &SmartFillStudio::settingsChanged);
     connect(ui.mFasterCheckbox, &QCheckBox::toggled, this, &SmartFillStudio::settingsChanged);
+    connect(ui.mLinesCheckbox, &QCheckBox::toggled, this, &SmartFillStudio::settingsChanged);
     connect(ui.mFromButton, &QAbstractButton::clicked, this,
             [this] { mark(*mUi.mFromButton, *mUi.mFromField, mSources.from, tr("anywhere")); });
     connect(ui.mNeverButton, &QAbstractButton::clicked, this,

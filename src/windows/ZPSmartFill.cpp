@@ -13,6 +13,7 @@
 #include "document/Preview.h"
 #include "operations/Files.h"
 #include "operations/SmartFillHook.h"
+#include "smartfill/SmartFillLines.h"
 #include "ui_SmartFill.h"
 #include "windows/FineProgressBar.h"
 #include "windows/SmartFillStudio.h"
@@ -87,6 +88,7 @@ struct ZPSmartFill::Run {
     SmartFillArea area;
     SmartFillPicture picture;
     std::uint64_t seed = 0;
+    bool keepsLines = false;
     SmartFillStatus status = SmartFillStatus::Cancelled;
     bool outOfMemory = false;
 };
@@ -215,6 +217,7 @@ void ZPSmartFill::startForWindow(Purpose purpose, std::uint64_t seed)
     run->document = mDocument;
     run->generation = mGeneration;
     run->seed = seed;
+    run->keepsLines = mUi->mLinesCheckbox->isChecked();
     run->area = areaWithSources(smartFillArea(mSelRect, picture.width(), picture.height(), mUi->mRadiusSlider->value(),
                                               mUi->mFasterCheckbox->isChecked()),
                                 mStudio->sources());
@@ -283,7 +286,15 @@ void ZPSmartFill::calcThread(Run& run)
     };
     hooks.cancelled = [this] { return mCancel.load(std::memory_order_acquire); };
     try {
-        run.status = fillSmartFillPicture(run.picture, run.seed, hooks);
+        if (run.keepsLines) {
+            // What is drawn is no hole to the fill, but to whoever writes the result back.
+            const std::vector<std::uint8_t> hole = run.picture.mask;
+            keepLines(run.picture);
+            run.status = fillSmartFillPicture(run.picture, run.seed, hooks);
+            run.picture.mask = hole;
+        } else {
+            run.status = fillSmartFillPicture(run.picture, run.seed, hooks);
+        }
     } catch (const std::exception& error) {
         logLine("smart fill: %s", error.what());
         run.outOfMemory = true;

@@ -30,6 +30,7 @@ protected:
         mFill->window()->hide();
         outlet<QSlider>("mRadiusSlider")->setValue(50);
         outlet<QCheckBox>("mFasterCheckbox")->setChecked(false);
+        outlet<QCheckBox>("mLinesCheckbox")->setChecked(false);
         takeSounds();
     }
     void TearDown() override
@@ -233,6 +234,28 @@ TEST_F(SmartFillStudioWindow, ASecondSelectionIsWhereColoursAreTakenFromOrNever)
     EXPECT_EQ(takeSounds(), test::Lines{"beep"});
     EXPECT_FALSE(outlet<QPushButton>("mFromButton")->isChecked());
     EXPECT_EQ(label("mFromField"), "select the place in the picture first");
+}
+
+TEST_F(SmartFillStudioWindow, LinesAreKeptWhenAskedFor)
+{
+    const auto darkInHole = [this](bool keeping) {
+        makeImage(200, 150);
+        paintImage([](int, int y) { return y == 74 || y == 75 ? test::kBlackWord : test::kWhiteWord; });
+        fillBox({70, 50, 130, 100}, test::kRedWord);
+        select(makeRect(70, 50, 60, 50));
+        outlet<QCheckBox>("mLinesCheckbox")->setChecked(keeping);
+        perform("smartFill:");
+        click("mPreviewButton");
+        EXPECT_EQ(shown()->box, (PixelBox{70, 50, 130, 100}));
+        EXPECT_TRUE(std::ranges::all_of(shown()->covers, [](auto covered) { return covered != 0; }));
+        click("mRunButton");
+        EXPECT_EQ(countPixels(test::kRedWord), 0u);
+        int dark = 0;
+        for (int x = 70; x < 130; ++x) dark += pixel(x, 74) == test::kBlackWord && pixel(x, 75) == test::kBlackWord;
+        return dark;
+    };
+    darkInHole(false);
+    EXPECT_EQ(darkInHole(true), 60) << "the line goes through unbroken";
 }
 
 TEST_F(SmartFillStudioWindow, AnotherPictureForgetsTheResults)
