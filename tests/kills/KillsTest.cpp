@@ -93,23 +93,23 @@ TEST_P(Kills, LeaveOneOfTheTwoFiles)
     std::set<QByteArray> met;
     for (int round = 0; round < rounds(); ++round) {
         const auto s = start();
-        const QByteArray before = contents(file);
-        if (QByteArray(w.file).endsWith("conf")) right.insert(before);
         for (int i = 0; i < 40; ++i) write(*s, i % 2, false);
-        usleep(useconds_t(upTo(60'000)));
+        // In the midst of any of them, however slow the machine: answers are what tells how far it came.
+        for (int i = upTo(60); i > 0; --i) s->takeAnswer();
+        usleep(useconds_t(upTo(5'000)));
         s->kill();
         const QByteArray now = contents(file);
         EXPECT_TRUE(right.count(now)) << "round " << round << ": " << now.size() << " bytes";
         met.insert(now);
         if (HasFailure()) break;
     }
-    EXPECT_GE(met.size(), 1u);
+    EXPECT_GE(met.size(), 2u) << "the moments are all the same";
     // What the kills left beside the file goes when the next program writes there.
     const auto s = start();
     write(*s, false, true);
     s->must("sleep 0.05");
     EXPECT_EQ(s->end(), 0);
-    EXPECT_EQ(leftovers(QFileInfo(file).path()), QStringList());
+    EXPECT_EQ(QFileInfo(file).dir().entryList({".zelpane-*"}, QDir::Files | QDir::Hidden), QStringList());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -123,10 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Writing{"Selection", "chosen", "send saveSelection: HOME/chosen", "send saveSelection: HOME/chosen",
                             "menu selectAll:", "press 10 10;drag 200 150;release 200 150"},
                     Writing{"QuickSave", "b.tiff", "send quickSave: HOME/b.tiff", "send quickSave: HOME/b.tiff",
-                            "menu rotateCW:", "menu rotateCCW:"},
-                    Writing{"Preferences", ".config/zelpane/zelpane.conf", "sleep 0.001", "sleep 0.001",
-                            "set mUnitPopUp #1", "set mUnitPopUp #2",
-                            "menu prefs:;set mPageField https://example.org/kept;key Return"}),
+                            "menu rotateCW:", "menu rotateCCW:"}),
     [](const auto& one) { return std::string(one.param.name); });
 
 /// The picture is filled with one colour after the other, each a step, until the kill; the next start offers one of
