@@ -2504,7 +2504,7 @@
     </message>
     <message>
         <source>&amp;Take From…</source>
-        <translation>Füllen &amp;aus …</translation>
+        <translation>Füllen a&amp;us …</translation>
     </message>
     <message>
         <source>Takes colours only from what is selected in the image now; pressed again, from anywhere</source>

@@ -2552,7 +2552,7 @@
     </message>
     <message>
         <source>Re&amp;move Brush</source>
-        <translation>Pincel de eli&amp;minación</translation>
+        <translation>Pincel de el&amp;iminación</translation>
     </message>
     <message>
         <source>Paint over a thing in the image and let go: it is gone</source>

@@ -2504,7 +2504,7 @@
     </message>
     <message>
         <source>&amp;Take From…</source>
-        <translation>&amp;Prendre dans…</translation>
+        <translation>Prendre &amp;dans…</translation>
     </message>
     <message>
         <source>Takes colours only from what is selected in the image now; pressed again, from anywhere</source>
@@ -2536,7 +2536,7 @@
     </message>
     <message>
         <source>&amp;Preview</source>
-        <translation>A&amp;perçu</translation>
+        <translation>Aperç&amp;u</translation>
     </message>
     <message>
         <source>Shows the fill over the image; Run then leaves it there</source>
@@ -2544,7 +2544,7 @@
     </message>
     <message>
         <source>&amp;Another Result</source>
-        <translation>&amp;Autre résultat</translation>
+        <translation>Autr&amp;e résultat</translation>
     </message>
     <message>
         <source>Shows what other random numbers make of it</source>
