@@ -7,6 +7,7 @@
 #include "undo/SnapshotStore.h"
 #include "undo/TestPictures.h"
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -229,7 +230,8 @@ TEST_F(LeftWork, OfAProgramKilledAtAnyMomentIsAWholePairOfOneNumber)
     const auto alphaOf = [](int number) { return std::uint8_t(number * 7); };
     const auto greyOf = [](int number) { return number * 11 % 256; };
     std::minstd_rand random(5);
-    for (int round = 0; round < 40; ++round) {
+    const int rounds = std::getenv("ZP_LONG") ? 500 : 40;
+    for (int round = 0; round < rounds; ++round) {
         int whole[2]; // a byte comes through when the first step stands, however slow the machine
         ASSERT_EQ(pipe(whole), 0);
         const pid_t child = fork();
