@@ -240,9 +240,10 @@ TEST_F(LeftWork, OfAProgramKilledAtAnyMomentIsAWholePairOfOneNumber)
             SnapshotEncoder encoder;
             Picture picture(60, 50);
             std::string error;
-            // Up and down the numbers, as after undos: most steps replace older ones.
+            // Up and down the numbers, as after undos: most steps replace older ones. Zero, the picture as it was
+            // opened, is written once.
             for (int i = 0;; ++i) {
-                const int number = i % 20 < 12 ? i % 20 : i % 20 - 6;
+                const int number = i == 0 ? 0 : 1 + (i % 20 < 12 ? i % 20 : i % 20 - 6);
                 for (int y = 0; y < 50; ++y)
                     for (int x = 0; x < 60; ++x) {
                         std::uint8_t* const p = picture.view().pixel(x, y);
@@ -264,10 +265,14 @@ TEST_F(LeftWork, OfAProgramKilledAtAnyMomentIsAWholePairOfOneNumber)
         usleep(useconds_t(500 + random() % 15000));
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
+        std::string there; // what the killed one left
+        for (const auto& entry : fs::recursive_directory_iterator(temporary))
+            there += entry.path().filename().string() + " " +
+                     (entry.is_regular_file() ? std::to_string(entry.file_size()) : "") + "\n";
         SnapshotStore store;
         store.reset();
         const auto left = leftPictures();
-        ASSERT_FALSE(left.empty()) << "round " << round;
+        ASSERT_FALSE(left.empty()) << "round " << round << "\n" << there;
         const auto aside = takeOver(store, left[0]);
         ASSERT_TRUE(aside && store.bringBack(*aside));
         for (int number = left[0].work.number; number <= left[0].work.newest; ++number) {
