@@ -16,6 +16,7 @@
 #include <fstream>
 #include <iostream>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 using namespace zp;
@@ -64,12 +65,17 @@ bool ScriptDriver::isReadable(const std::string& script)
 void ScriptDriver::start()
 {
     if (mScript == "-") {
-        mReader = std::thread([this] {
-            std::string line;
-            while (std::getline(std::cin, line)) addLine(line);
-            const std::lock_guard lock(mLinesLock);
-            mEnded = true;
-        });
+        try {
+            mReader = std::thread([this] {
+                std::string line;
+                while (std::getline(std::cin, line)) addLine(line);
+                const std::lock_guard lock(mLinesLock);
+                mEnded = true;
+            });
+        } catch (const std::system_error& error) { // nobody would ever hear a command
+            std::fprintf(stderr, "zelpane: there is not enough memory (%s)\n", error.what());
+            return QCoreApplication::exit(1);
+        }
     } else {
         std::ifstream file(mScript, std::ios::binary);
         std::string line;

@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <algorithm>
+#include <system_error>
 
 using namespace zp;
 
@@ -50,7 +51,6 @@ try {
 StepThumbnails::StepThumbnails(int side, QObject* parent)
     : QObject(parent), mSide(side), mReady([this] { emit made(); })
 {
-    mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
 }
 
 StepThumbnails::~StepThumbnails() = default;
@@ -60,6 +60,13 @@ QImage StepThumbnails::of(std::int32_t number, std::int64_t time)
     const Wish wish{number, time};
     const std::lock_guard lock(mMutex);
     if (const auto made = mMade.find(wish); made != mMade.end()) return made->second;
+    if (!mWorker.joinable()) {
+        try {
+            mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
+        } catch (const std::system_error&) {
+            return {}; // the list does without; the next look tries again
+        }
+    }
     std::erase(mWishes, wish);
     mWishes.push_back(wish);
     mWake.notify_one();
