@@ -6,6 +6,7 @@
 #include "desktop/ElidedLabel.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Pasteboard.h"
+#include "desktop/QtColor.h"
 #include "document/Document.h"
 #include "document/Gesture.h"
 #include "document/Picture.h"
@@ -216,8 +217,7 @@ void StatusLine::showPointer()
     if (color.isValid()) {
         QPainter painter(&swatch);
         painter.setPen(mSwatch->palette().color(QPalette::Mid));
-        const Color shown = mLook({float(color.redF()), float(color.greenF()), float(color.blueF()), 1});
-        painter.setBrush(QColor::fromRgbF(shown.red, shown.green, shown.blue, float(color.alphaF())));
+        painter.setBrush(toQt(mLook(fromQt(color))));
         painter.drawRect(QRectF(0.5, 0.5, kSwatch - 1, kSwatch - 1));
     }
     mSwatch->setPixmap(swatch);

@@ -22,6 +22,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Panels.h"
+#include "desktop/QtColor.h"
 #include "desktop/Settings.h"
 #include "desktop/Sounds.h"
 #include "desktop/SystemProbes.h"
@@ -57,13 +58,13 @@ const char* const kRetinaFile = "2xRetina.txt";
 /// The launch begins with an empty history.
 constexpr Command kBegin{.action = "launch", .effect = Effect::Replace};
 
-QString colorText(Color c) { return QColor::fromRgbF(c.red, c.green, c.blue, c.alpha).name(QColor::HexArgb); }
+QString colorText(Color c) { return toQt(c).name(QColor::HexArgb); }
 
 std::optional<Color> colorOf(const QString& text)
 {
     const QColor c(text);
     if (!c.isValid()) return std::nullopt;
-    return Color{float(c.redF()), float(c.greenF()), float(c.blueF()), float(c.alphaF())};
+    return fromQt(c);
 }
 
 QString toText(const std::string& path) { return QString::fromStdString(displayName(path)); }
@@ -268,11 +269,8 @@ void ZPAppController::applicationWillTerminate()
 void ZPAppController::bringWindowToFront()
 {
     mWindow->show();
-    // What asks keeps the keyboard: in the window behind it the keys would go nowhere.
-    QWidget* const asks = QApplication::activeModalWidget();
-    QWidget* const front = asks != nullptr ? asks : mWindow.get();
-    front->raise();
-    front->activateWindow();
+    mWindow->raise();
+    mWindow->activateWindow();
 }
 
 void ZPAppController::openPath(const std::string& path)

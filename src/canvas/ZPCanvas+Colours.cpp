@@ -77,8 +77,8 @@ Color ZPCanvas::asShown(Color color)
 {
     const ScreenColours* const conversion = colours();
     if (!conversion) return color;
-    const auto byte = [](float value) { return std::uint32_t(std::lround(std::clamp(value, 0.0f, 1.0f) * 255)); };
-    std::uint32_t word = 0xFF000000u | byte(color.red) << 16 | byte(color.green) << 8 | byte(color.blue);
+    std::uint32_t word = 0xFF000000u | std::uint32_t(colorByte(color.red)) << 16 |
+                         std::uint32_t(colorByte(color.green)) << 8 | colorByte(color.blue);
     convert(*conversion, &word, 1, 1, 1);
     const auto part = [word](unsigned shift) { return float(word >> shift & 255u) / 255; };
     return {part(16), part(8), part(0), color.alpha};

@@ -2,6 +2,7 @@
 /// The colour well and the one colour panel that all wells share.
 #include "desktop/ColorWell.h"
 #include "desktop/ColorPanel.h"
+#include "desktop/QtColor.h"
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -32,8 +33,6 @@ void noteRecent(const QColor& color, bool insteadOfNewest)
     colors.insert(colors.begin(), color);
     if (colors.size() > kRecentColors) colors.pop_back();
 }
-
-QColor toQt(zp::Color c) { return QColor::fromRgbF(c.red, c.green, c.blue, c.alpha); }
 
 } // namespace
 
@@ -69,7 +68,7 @@ void ColorWell::chooseColor(zp::Color color) { choose(color, false); }
 
 void ColorWell::choose(zp::Color color, bool goesOn)
 {
-    noteRecent(toQt(color), goesOn);
+    noteRecent(zp::toQt(color), goesOn);
     setColor(color);
     emit colorChosen(color, goesOn);
 }
@@ -83,13 +82,13 @@ void ColorWell::openPanel()
     static QMetaObject::Connection answer; // of the well that opened the panel last
     disconnect(answer);
     panel->setOption(QColorDialog::ShowAlphaChannel, panelShowsAlpha);
-    panel->setCurrentColor(toQt(mColor));
+    panel->setCurrentColor(zp::toQt(mColor));
     answer = connect(panel, &QColorDialog::currentColorChanged, this, [this](const QColor& c) {
         if (!c.isValid()) return;
         // A drag through the panel is one choice, however many colours it passes.
         const bool goesOn = mHandWatch.isActive();
         if (QGuiApplication::mouseButtons() != Qt::NoButton) mHandWatch.start();
-        choose({float(c.redF()), float(c.greenF()), float(c.blueF()), float(c.alphaF())}, goesOn);
+        choose(zp::fromQt(c), goesOn);
     });
     // The colours chosen last stand where the panel keeps a person's own.
     for (int i = 0; i < int(recentColors().size()) && i < QColorDialog::customCount(); ++i)
@@ -108,7 +107,7 @@ void ColorWell::paintEvent(QPaintEvent*)
     outline.addRoundedRect(frame, 4, 4);
     painter.save();
     painter.setClipPath(outline);
-    const QColor color = toQt(mLook ? mLook(mColor) : mColor);
+    const QColor color = zp::toQt(mLook ? mLook(mColor) : mColor);
     paintColor(painter, rect(), color);
     painter.restore();
     const QColor edge = hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::PlaceholderText);

@@ -140,7 +140,7 @@ void Document::say(const QString& message)
     emit changed();
 }
 
-void Document::pictureIsAnother()
+void Document::dropNoticesOfFile()
 {
     mNotices.dropThoseOfPicture();
     emit noticed();

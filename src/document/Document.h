@@ -10,7 +10,6 @@
 #include "document/UnusedFields.h"
 #include <QObject>
 #include <QTimer>
-#include <algorithm>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -73,8 +72,9 @@ public:
     const QString& message() const { return mMessage; }
     /// Says it there for a while.
     void say(const QString& message);
-    /// Another picture is about to be told of: what was said of the old one is over.
-    void pictureIsAnother();
+    /// Another picture, another file, or a file that was just written: what was said of the one that was opened is
+    /// over.
+    void dropNoticesOfFile();
 
     // ---- commands ------------------------------------------------------------------------------------------------
 

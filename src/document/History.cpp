@@ -142,6 +142,16 @@ StepJob History::makeJob(const Picture& picture, std::int32_t number, const Step
     return job;
 }
 
+void History::handOver(const Picture& picture, std::int32_t number, const StepNote& note)
+{
+    mWriter.add(makeJob(picture, number, note));
+    mBase.reset();
+    if (picture.bitmap()) mBase = number;
+    mTouchedTiles.clear();
+    mStale.clear();
+    mWriterKnows = true;
+}
+
 void History::record(const Picture& picture, const char* name)
 {
     if (mDontTakeSnapshot) return;
@@ -152,12 +162,7 @@ void History::record(const Picture& picture, const char* name)
     const StepNote note{name ? name : "", now()};
     std::erase_if(mSteps, [number](const Step& step) { return step.number >= number; });
     mSteps.push_back({number, note.name, note.time});
-    mWriter.add(makeJob(picture, number, note));
-    mBase.reset();
-    if (picture.bitmap()) mBase = number;
-    mTouchedTiles.clear();
-    mStale.clear();
-    mWriterKnows = true;
+    handOver(picture, number, note);
     mLoose = false;
     mUndoThreadRunning.store(false, std::memory_order_release);
     mChangedSignal();
@@ -236,11 +241,7 @@ bool History::keepsPresent(const Picture& picture)
         std::find_if(mSteps.begin(), mSteps.end(), [this](const Step& each) { return each.number == mUndoRedoIndex; });
     if (step == mSteps.end()) return true; // there was none to begin with
     lostTrack();
-    mWriter.add(makeJob(picture, mUndoRedoIndex, {step->name, step->time}));
-    mBase = mUndoRedoIndex;
-    mTouchedTiles.clear();
-    mStale.clear();
-    mWriterKnows = true;
+    handOver(picture, mUndoRedoIndex, {step->name, step->time});
     waitForWriter();
     if (isKept()) return true;
     say(tr("Nothing was undone: what is on screen could be kept neither on the disk nor in memory."));

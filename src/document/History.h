@@ -122,6 +122,8 @@ public:
 
 private:
     StepJob makeJob(const Picture& picture, std::int32_t number, const StepNote& note);
+    /// To the writer, which knows these pixels from here on.
+    void handOver(const Picture& picture, std::int32_t number, const StepNote& note);
     void takeResults();
     bool keepsPresent(const Picture& picture);
     bool restore(std::int32_t number, Picture& picture, const Resize& resize);

@@ -61,7 +61,7 @@ void install(Edit& edit, std::shared_ptr<BitmapRep> rep, const std::string& path
     edit.gesture().openPolygon(false);
     edit.history().reset();
     edit.picture().setFiles({});
-    edit.document().pictureIsAnother();
+    edit.document().dropNoticesOfFile();
     edit.document().say({});
 }
 

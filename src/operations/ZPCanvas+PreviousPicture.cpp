@@ -36,7 +36,7 @@ try {
         return false;
     edit.picture().setPath(std::move(shelved.path));
     edit.picture().setFiles(std::move(shelved.files));
-    edit.document().pictureIsAnother();
+    edit.document().dropNoticesOfFile();
     edit.gesture().openPolygon(false);
     edit.history().notePosition(edit.picture());
     edit.redraw();

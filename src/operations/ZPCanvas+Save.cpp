@@ -139,7 +139,7 @@ bool save(Edit& edit, const std::string& path, SaveFormat format, int quality)
     if (!writeAndTell(edit, *shown, shown->properties, path, format, quality)) return false;
     edit.picture().setJPEGQuality(path, quality);
     edit.history().noteSaved(edit.picture());
-    if (path == edit.picture().path()) edit.document().pictureIsAnother(); // the file holds what the screen shows now
+    if (path == edit.picture().path()) edit.document().dropNoticesOfFile(); // the file holds what the screen shows now
     return true;
 }
 
@@ -154,7 +154,7 @@ void saveAs(Edit& edit, const Arguments& to, SaveFormat format, bool exact = fal
     if (!save(edit, exact ? path : writtenPath(path, format), format, quality))
         edit.picture().setPath(before);
     else if (path != before)
-        edit.document().pictureIsAnother(); // what was said of the old file is over
+        edit.document().dropNoticesOfFile(); // what was said of the old file is over
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Panels.h"
+#include "desktop/QtColor.h"
 #include "ui_TextEditor.h"
 #include "windows/TextEditorOutline.h"
 #include <QCoreApplication>
@@ -165,7 +166,7 @@ void ZPTextEditor::set(int tag)
     view->selectAll();
     view->setCurrentFont(font);
     const Color color = mUi->fontColor->color();
-    view->setTextColor(QColor::fromRgbF(color.red, color.green, color.blue, color.alpha));
+    view->setTextColor(toQt(color));
     Qt::Alignment alignment = Qt::AlignLeft;
     if (mUi->alignCenter->isChecked()) alignment = Qt::AlignHCenter;
     if (mUi->alignRight->isChecked()) alignment = Qt::AlignRight;
