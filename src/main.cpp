@@ -6,11 +6,14 @@
 #include "base/Folders.h"
 #include "base/Log.h"
 #include "batch/BatchCommandLine.h"
+#include "batch/Thumbnail.h"
+#include "desktop/Appearance.h"
 #include "desktop/Application.h"
 #include "desktop/EndSignals.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Languages.h"
 #include "desktop/Panels.h"
+#include "desktop/Portal.h"
 #include "desktop/SingleInstance.h"
 #include "script/ScriptDriver.h"
 #include <QApplication>
@@ -38,6 +41,7 @@ static void carryOut(ZPAppController& controller, const std::string& request)
 static int run(int argc, char** argv)
 {
     if (argc > 1 && std::string(argv[1]) == "--batch") return runBatchCommandLine(argc, argv);
+    if (argc > 1 && std::string(argv[1]) == "--thumbnail") return runThumbnailCommandLine(argc, argv);
     CommandLine line = parseCommandLine(argc, argv);
     if (!line.error.empty()) {
         std::fprintf(stderr, "zelpane: %s\nTry \"zelpane --help\".\n", line.error.c_str());
@@ -64,14 +68,17 @@ static int run(int argc, char** argv)
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setApplicationName("zelpane");
     QCoreApplication::setOrganizationName("zelpane");
-    QGuiApplication::setDesktopFileName("zelpane");
+    QGuiApplication::setDesktopFileName(kDesktopName);
     QGuiApplication::setApplicationDisplayName("Zelpane");
     // One home for Qt's files and our own.
     if (qEnvironmentVariableIsEmpty("HOME")) qputenv("HOME", QByteArray::fromStdString(homeFolder()));
+    const bool portalPanels = !scripted && usePortalPanels();
     Application application(argc, argv);
     scripted ? speakAsScripts() : speakAsDesktop();
     QApplication::setStyle("fusion"); // the same on every desktop and platform plug-in
     applyColorScheme();
+    if (!scripted) followDesktopAppearance(applyColorScheme);
+    if (portalPanels) askForPortalPanels();
     QApplication::setQuitOnLastWindowClosed(false);
 
     // What to begin with goes behind the files, in the words of the command line: a path that is absolute is never one.

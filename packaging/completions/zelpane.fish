@@ -13,6 +13,7 @@ complete -c zelpane -n 'not __zelpane_batch' -l show -d 'Show the windows of a s
 complete -c zelpane -n 'not __zelpane_batch' -l offscreen -d 'Need no display'
 complete -c zelpane -n 'not __zelpane_batch' -l offer-recovery -d 'Ask about work that a crash left'
 complete -c zelpane -n 'not __zelpane_batch' -l no-start-choice -d 'Do not ask at the start'
+complete -c zelpane -n 'not __zelpane_batch' -l thumbnail -d 'Write a small PNG picture'
 complete -c zelpane -n 'not __zelpane_batch' -l version -d 'Print the version'
 complete -c zelpane -s h -l help -d 'Print a summary of the options'
 complete -c zelpane -n __zelpane_batch -f -a '(__fish_complete_directories)'

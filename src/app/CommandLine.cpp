@@ -2,6 +2,7 @@
 /// The command line and the colour scheme.
 #include "app/CommandLine.h"
 #include "base/Simd.h"
+#include "desktop/Appearance.h"
 #include "desktop/Settings.h"
 #include <QApplication>
 #include <QPalette>
@@ -15,6 +16,7 @@ namespace
 
 const char* const kHelp = R"(Usage: zelpane [OPTION…] [FILE…]
        zelpane --script FILE [--show | --offscreen] [--no-start-choice] [--offer-recovery] [IMAGE]
+       zelpane --thumbnail SIZE SRC DST
        zelpane --batch SRC DST [OPTION…]     (zelpane --batch --help says more)
 
 A bitmap image editor.
@@ -27,6 +29,7 @@ A bitmap image editor.
   --offscreen         needs no display
   --no-start-choice   do not ask for a new or an existing image at the start
   --offer-recovery    ask about work that a crash left also when a script is played
+  --thumbnail         write SRC as a PNG picture of at most SIZE pixels a side into DST
   --help              this text
   --version           the version, the libraries and the vector instructions in use
 )";
@@ -100,7 +103,8 @@ void applyColorScheme()
     // A desktop that brings a dark palette of its own is left alone.
     // Asked once: later the palette is our own.
     static const bool desktopIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
-    const bool dark = scheme == "dark" || (scheme != "light" && desktopIsDark);
+    const Appearance& desktop = desktopAppearance();
+    const bool dark = scheme == "dark" || (scheme != "light" && desktop.dark.value_or(desktopIsDark));
     QPalette p;
     const auto set = [&p](QPalette::ColorRole role, const char* colour, const char* disabled = nullptr) {
         p.setColor(role, QColor(colour));
@@ -124,6 +128,14 @@ void applyColorScheme()
     set(QPalette::Shadow, dark ? "#0c0c0d" : "#77777d");
     set(QPalette::Highlight, dark ? "#4f8ef7" : "#2f6fe4", dark ? "#4a4a4f" : "#d4d4d9");
     set(QPalette::HighlightedText, "#ffffff", dark ? "#77777d" : "#7d7d84");
+    if (desktop.accent) {
+        p.setColor(QPalette::Highlight, *desktop.accent);
+        p.setColor(QPalette::Disabled, QPalette::Highlight, QColor(dark ? "#4a4a4f" : "#d4d4d9"));
+        // The letters on it are of what stands out more.
+        const bool light = qGray(desktop.accent->rgb()) > 150;
+        p.setColor(QPalette::HighlightedText, QColor(light ? "#1f1f23" : "#ffffff"));
+        p.setColor(QPalette::Disabled, QPalette::HighlightedText, QColor(dark ? "#77777d" : "#7d7d84"));
+    }
     set(QPalette::Link, dark ? "#7fb0ff" : "#2160d0");
     set(QPalette::LinkVisited, dark ? "#b79bff" : "#6c4bb8");
     QApplication::setPalette(p);

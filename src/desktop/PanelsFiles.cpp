@@ -5,6 +5,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/PanelsState.h"
+#include "desktop/Portal.h"
 #include "desktop/Settings.h"
 #include <QApplication>
 #include <QFileDialog>
@@ -60,7 +61,8 @@ void prepare(QFileDialog& dialog, const PanelRequest& request)
     if (!request.directory.empty()) folder = textFromPath(request.directory);
     if (folder.isEmpty() || !QFileInfo(folder).isDir()) folder = textFromPath(homeFolder());
     dialog.setDirectory(folder);
-    if (QGuiApplication::platformName() == "offscreen") dialog.setOption(QFileDialog::DontUseNativeDialog);
+    if (QGuiApplication::platformName() == "offscreen" || !desktopHasFilePanels())
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
 }
 
 std::optional<std::string> run(QFileDialog& dialog, const PanelRequest& request)

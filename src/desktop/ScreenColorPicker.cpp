@@ -2,8 +2,8 @@
 /// The portal's side of picking a colour.
 #include "desktop/ScreenColorPicker.h"
 #include "base/Log.h"
+#include "desktop/Portal.h"
 #include <QCoreApplication>
-#include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -16,8 +16,7 @@ namespace zp
 namespace
 {
 
-const QString kService = "org.freedesktop.portal.Desktop", kDesktop = "/org/freedesktop/portal/desktop",
-              kRequestInterface = "org.freedesktop.portal.Request";
+const QString kRequestInterface = "org.freedesktop.portal.Request";
 
 } // namespace
 
@@ -26,18 +25,18 @@ ScreenColorPicker::ScreenColorPicker(const QDBusConnection& bus, QObject* parent
 bool ScreenColorPicker::isAvailable() const
 {
     if (!mBus.isConnected() || !mBus.interface()) return false;
-    if (mBus.interface()->isServiceRegistered(kService)) return true;
+    if (mBus.interface()->isServiceRegistered(kPortalName)) return true;
     const QDBusReply<QStringList> startable = mBus.interface()->activatableServiceNames();
-    return startable.isValid() && startable.value().contains(kService);
+    return startable.isValid() && startable.value().contains(kPortalName);
 }
 
 void ScreenColorPicker::listen(bool on)
 {
     const char* slot = SLOT(takeResponse(uint, QVariantMap));
     if (on)
-        mBus.connect(kService, mRequest, kRequestInterface, "Response", this, slot);
+        mBus.connect(kPortalName, mRequest, kRequestInterface, "Response", this, slot);
     else
-        mBus.disconnect(kService, mRequest, kRequestInterface, "Response", this, slot);
+        mBus.disconnect(kPortalName, mRequest, kRequestInterface, "Response", this, slot);
 }
 
 void ScreenColorPicker::pick()
@@ -46,10 +45,10 @@ void ScreenColorPicker::pick()
     // The answer may come before the call returns: its address is agreed on beforehand.
     const QString token = QString("zelpane%1_%2").arg(QCoreApplication::applicationPid()).arg(++mRequests);
     const QString sender = mBus.baseService().mid(1).replace('.', '_');
-    mRequest = QString("%1/request/%2/%3").arg(kDesktop, sender, token);
+    mRequest = QString("%1/request/%2/%3").arg(kPortalObject, sender, token);
     listen(true);
     QDBusMessage call =
-        QDBusMessage::createMethodCall(kService, kDesktop, "org.freedesktop.portal.Screenshot", "PickColor");
+        QDBusMessage::createMethodCall(kPortalName, kPortalObject, "org.freedesktop.portal.Screenshot", "PickColor");
     call << QString() << QVariantMap{{"handle_token", token}};
     auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
@@ -66,16 +65,12 @@ void ScreenColorPicker::takeResponse(uint response, const QVariantMap& results)
     if (mRequest.isEmpty()) return;
     listen(false);
     mRequest.clear();
-    const QVariant stated = results.value("color");
-    if (response != 0 || !stated.canConvert<QDBusArgument>()) {
+    const auto stated = portalColor(results.value("color"));
+    if (response != 0 || !stated) {
         emit gaveUp();
         return;
     }
-    double red = 0, green = 0, blue = 0;
-    const auto structure = stated.value<QDBusArgument>();
-    structure.beginStructure();
-    structure >> red >> green >> blue;
-    structure.endStructure();
+    const auto [red, green, blue] = *stated;
     const auto bounded = [](double c) { return float(std::clamp(c, 0.0, 1.0)); };
     emit picked(QColor::fromRgbF(bounded(red), bounded(green), bounded(blue)));
 }

@@ -3,6 +3,7 @@
 #include "desktop/SingleInstance.h"
 #include "base/Folders.h"
 #include "base/Log.h"
+#include "desktop/BusInstance.h"
 #include <QFile>
 #include <QLocalSocket>
 #include <fcntl.h>
@@ -56,6 +57,7 @@ private:
 } // namespace
 
 SingleInstance::SingleInstance()
+    : mBus(std::make_unique<zp::BusInstance>(QDBusConnection::sessionBus(), zp::homeFolder()))
 {
     // With the user's number in it: the fallback folder is shared by all users. A home folder of its own is a user of
     // its own, so that tests and sandboxes do not meet.
@@ -67,12 +69,15 @@ SingleInstance::SingleInstance()
     connect(&mServer, &QLocalServer::newConnection, this, &SingleInstance::take);
 }
 
+SingleInstance::~SingleInstance() = default;
+
 bool SingleInstance::handOver(const std::vector<std::string>& files)
 {
     if (askRunning(files)) return true;
     const QString place = mName.startsWith('/') ? mName : "/tmp/" + mName;
     const StartLock alone(place + ".lock");
     if (askRunning(files)) return true; // another start came first
+    mBus->claim();
     if (mServer.listen(mName)) return false;
     QLocalServer::removeServer(mName); // left by a program that is gone
     if (!mServer.listen(mName))
@@ -82,6 +87,8 @@ bool SingleInstance::handOver(const std::vector<std::string>& files)
 
 bool SingleInstance::askRunning(const std::vector<std::string>& files) const
 {
+    if (mBus->handOver(files)) return true;
+    // The other may have no bus, and ours may know one of another home alone.
     QLocalSocket socket;
     socket.connectToServer(mName);
     if (!socket.waitForConnected(kPatience) || !isOwn(socket)) return false;
@@ -97,6 +104,7 @@ bool SingleInstance::askRunning(const std::vector<std::string>& files) const
 void SingleInstance::listen(std::function<void(const std::vector<std::string>&)> open)
 {
     mOpen = std::move(open);
+    mBus->listen(mOpen);
     take();
 }
 

@@ -1,45 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The colour panel shows opacity, and picks from the screen through a portal.
 #include "desktop/ColorPanel.h"
+#include "desktop/Portal.h"
 #include "desktop/ScreenColorPicker.h"
-#include <QDBusArgument>
+#include "support/MessageBus.h"
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QImage>
 #include <QLineEdit>
 #include <QPainter>
-#include <QProcess>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <optional>
 #include <set>
 
 namespace
 {
-
-struct Rgb {
-    double red = 0, green = 0, blue = 0;
-};
-
-QDBusArgument& operator<<(QDBusArgument& out, const Rgb& color)
-{
-    out.beginStructure();
-    out << color.red << color.green << color.blue;
-    out.endStructure();
-    return out;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& in, Rgb& color)
-{
-    in.beginStructure();
-    in >> color.red >> color.green >> color.blue;
-    in.endStructure();
-    return in;
-}
 
 /// What a desktop's portal does when it is asked for a colour.
 class Portal : public QObject, protected QDBusContext
@@ -63,47 +42,35 @@ public slots:
                                     .arg(sender, options.value("handle_token").toString());
         QDBusMessage response = QDBusMessage::createSignal(request, "org.freedesktop.portal.Request", "Response");
         response << answer
-                 << (answer == 0 ? QVariantMap{{"color", QVariant::fromValue(Rgb{1, 0.5, 0})}} : QVariantMap());
+                 << (answer == 0 ? QVariantMap{{"color", zp::test::portalColorValue(1, 0.5, 0)}} : QVariantMap());
         connection().send(response);
         return QDBusObjectPath(request);
     }
 };
 
-class ScreenColor : public testing::Test
+class ScreenColor : public zp::test::MessageBus
 {
 protected:
+    void startPortal()
+    {
+        ASSERT_TRUE(mPortalSide->registerObject(zp::kPortalObject, &portal, QDBusConnection::ExportAllSlots));
+        ASSERT_TRUE(mPortalSide->registerService(zp::kPortalName));
+    }
     void SetUp() override
     {
-        qDBusRegisterMetaType<Rgb>();
-        const QString program = QStandardPaths::findExecutable("dbus-daemon");
-        if (program.isEmpty()) GTEST_SKIP() << "there is no message bus";
-        mDaemon.start(program, {"--session", "--nofork", "--print-address"});
-        ASSERT_TRUE(mDaemon.waitForReadyRead());
-        const QString address = QString::fromUtf8(mDaemon.readLine()).trimmed();
-        mPortalSide = QDBusConnection::connectToBus(address, "portal");
-        mProgramSide = QDBusConnection::connectToBus(address, "program");
-        ASSERT_TRUE(mPortalSide.isConnected() && mProgramSide.isConnected());
-        ASSERT_TRUE(
-            mPortalSide.registerObject("/org/freedesktop/portal/desktop", &portal, QDBusConnection::ExportAllSlots));
+        MessageBus::SetUp();
+        if (!IsSkipped() && !HasFatalFailure()) mPortalSide = connection(), mProgramSide = connection();
     }
-    void TearDown() override
-    {
-        for (const char* name : {"portal", "program"}) QDBusConnection::disconnectFromBus(name);
-        mDaemon.kill();
-        mDaemon.waitForFinished();
-    }
-    void startPortal() { ASSERT_TRUE(mPortalSide.registerService("org.freedesktop.portal.Desktop")); }
 
     Portal portal;
-    QProcess mDaemon;
-    QDBusConnection mPortalSide{"none"}, mProgramSide{"none"};
+    std::optional<QDBusConnection> mPortalSide, mProgramSide;
 };
 
 } // namespace
 
 TEST_F(ScreenColor, IsPickedByThePortal)
 {
-    zp::ScreenColorPicker picker(mProgramSide);
+    zp::ScreenColorPicker picker(*mProgramSide);
     EXPECT_FALSE(picker.isAvailable());
     startPortal();
     EXPECT_TRUE(picker.isAvailable());
@@ -118,7 +85,7 @@ TEST_F(ScreenColor, IsPickedByThePortal)
 TEST_F(ScreenColor, LeavesTheColourWhenThePersonOrThePortalGivesUp)
 {
     startPortal();
-    zp::ScreenColorPicker picker(mProgramSide);
+    zp::ScreenColorPicker picker(*mProgramSide);
     QSignalSpy picked(&picker, &zp::ScreenColorPicker::picked), gaveUp(&picker, &zp::ScreenColorPicker::gaveUp);
     portal.answer = 1;
     picker.pick();

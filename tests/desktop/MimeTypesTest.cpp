@@ -11,7 +11,7 @@ namespace
 
 QStringList promised()
 {
-    QFile entry(ZP_SOURCE "/packaging/zelpane.desktop");
+    QFile entry(ZP_SOURCE "/packaging/com.orvanta.zelpane.desktop");
     EXPECT_TRUE(entry.open(QIODevice::ReadOnly));
     for (const QByteArray& line : entry.readAll().split('\n'))
         if (line.startsWith("MimeType=")) return QString(line.mid(9)).split(';', Qt::SkipEmptyParts);

@@ -8,11 +8,14 @@ share=$tree/usr/share
 [ -x "$tree/usr/bin/zelpane" ] || fail "there is no program"
 [ -d "$share/zelpane/resources/icons" ] && [ ! -e "$share/zelpane/resources/make" ] || fail "the resources are not right"
 
-desktop-file-validate "$share/applications/zelpane.desktop" >"$work/said" 2>&1 || fail "$(cat "$work/said")"
+desktop-file-validate "$share/applications/com.orvanta.zelpane.desktop" >"$work/said" 2>&1 || fail "$(cat "$work/said")"
 [ ! -s "$work/said" ] || fail "$(cat "$work/said")"
 for action in new-image open-image image-processor; do
-    grep -q "^\[Desktop Action $action\]" "$share/applications/zelpane.desktop" || fail "there is no action $action"
+    grep -q "^\[Desktop Action $action\]" "$share/applications/com.orvanta.zelpane.desktop" || fail "there is no action $action"
 done
+grep -qx 'Exec=/usr/bin/zelpane --no-start-choice' "$share/dbus-1/services/com.orvanta.zelpane.service" || fail "the bus cannot start it"
+thumbnailer=$(sed -n 's/^Exec=zelpane \(.*\) %s %i %o$/\1/p' "$share/thumbnailers/zelpane.thumbnailer")
+"$tree/usr/bin/zelpane" "$thumbnailer" 64 "$ROOT/resources/B1.png" "$work/small.png" && [ -s "$work/small.png" ] || fail "no thumbnail was made"
 for language in de es fr ja pt_BR zh_CN; do
     [ -s "$share/zelpane/translations/zelpane_$language.qm" ] || fail "$language is missing"
 done

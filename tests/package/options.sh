@@ -29,6 +29,6 @@ grep -q -- --skip-existing "$work/completed" || fail "fish completed $(cat "$wor
 zsh -n "$ROOT/packaging/completions/_zelpane" || fail "zsh does not understand its completion"
 
 # The actions of the menu entry start with options that exist.
-sed -n 's/^Exec=zelpane \(--[a-z-]*\).*/\1/p' "$ROOT/packaging/zelpane.desktop" >"$work/actions"
+sed -n 's/^Exec=zelpane \(--[a-z-]*\).*/\1/p' "$ROOT/packaging/com.orvanta.zelpane.desktop" >"$work/actions"
 [ "$(wc -l <"$work/actions")" -eq 3 ] || fail "the menu entry has other than three actions"
 while read -r option; do grep -qx -- "$option" "$work/told" || fail "there is no option $option"; done <"$work/actions"

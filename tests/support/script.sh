@@ -19,7 +19,7 @@ need() { command -v "$1" >/dev/null || skip "$1 is not installed"; }
 mkdir -p "$work/home" "$work/runtime" "$work/tmp"
 chmod 700 "$work/runtime"
 export HOME=$work/home XDG_RUNTIME_DIR=$work/runtime ZELPANE_TMP=$work/tmp QT_QPA_PLATFORM=offscreen
-unset XDG_DATA_HOME XDG_CONFIG_HOME DISPLAY WAYLAND_DISPLAY
+unset XDG_DATA_HOME XDG_CONFIG_HOME DISPLAY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
 for variable in $(compgen -e SLURM_) JOB_COMPLETION_INDEX; do unset "$variable"; done
 
 # sources FOLDER COUNT: that many pictures to convert, of several kinds, none equal to its neighbour by name.
