@@ -509,6 +509,13 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>The file is too large for a small picture of it.</source>
+        <translation>Le fichier est trop volumineux pour une vignette.</translation>
+    </message>
+</context>
+<context>
     <name>Document</name>
     <message>
         <source>There is not enough memory.</source>

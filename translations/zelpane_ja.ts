@@ -500,6 +500,13 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>The file is too large for a small picture of it.</source>
+        <translation>ファイルが大きすぎるため、縮小画像を作れません。</translation>
+    </message>
+</context>
+<context>
     <name>Document</name>
     <message>
         <source>There is not enough memory.</source>

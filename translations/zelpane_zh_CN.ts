@@ -500,6 +500,13 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>The file is too large for a small picture of it.</source>
+        <translation>文件太大，无法生成缩略图。</translation>
+    </message>
+</context>
+<context>
     <name>Document</name>
     <message>
         <source>There is not enough memory.</source>

@@ -3,8 +3,8 @@
 #include "app/EmptyView.h"
 #include "app/RecentFiles.h"
 #include "base/Folders.h"
-#include "codecs/ImageImporter.h"
 #include "desktop/Desktop.h"
+#include "desktop/Thumbnails.h"
 #include "document/Document.h"
 #include "document/Picture.h"
 #include <QEvent>
@@ -16,9 +16,7 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <QtEndian>
 #include <algorithm>
-#include <filesystem>
 
 using namespace zp;
 
@@ -31,21 +29,6 @@ constexpr int kThumbnailSide = 96, kMargin = 28;
 /// Bytes of a file beyond which its thumbnail would keep the window waiting.
 constexpr std::uintmax_t kLargestThumbnailed = std::uintmax_t{40} << 20;
 constexpr const char* kSample = "Hibiskus.jpg";
-
-QImage thumbnailOf(const std::string& path, int side)
-{
-    std::error_code failed;
-    if (std::filesystem::file_size(path, failed) > kLargestThumbnailed || failed) return {};
-    const ImportedImage picture =
-        importImageFile(path, {.atLeastWidth = side, .atLeastHeight = side, .properties = false});
-    if (!picture.bitmap) return {};
-    const ConstBitmapView pixels = std::as_const(*picture.bitmap).view();
-    QImage whole(pixels.width, pixels.height, QImage::Format_ARGB32_Premultiplied);
-    if (whole.isNull()) return {};
-    for (int y = 0; y < pixels.height; ++y)
-        qFromBigEndian<quint32>(pixels.data + pixels.rowBytes * y, pixels.width, whole.scanLine(y));
-    return whole.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-}
 
 } // namespace
 
@@ -128,7 +111,8 @@ void EmptyView::fill()
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setIconSize({kThumbnailSide, kThumbnailSide});
         button->setText(shortName(path, button->fontMetrics()));
-        button->setToolTip(textFromPath(path).toHtmlEscaped());
+        button->setToolTip(
+            QString("<span>%1</span>").arg(textFromPath(path).toHtmlEscaped())); // markup in names is text
         button->setAccessibleName(textFromPath(lastPathComponent(path)));
         QPixmap blank(kThumbnailSide, kThumbnailSide);
         blank.fill(Qt::transparent);
@@ -147,8 +131,10 @@ void EmptyView::showNextThumbnail()
     const Waiting next = mWaiting.front();
     mWaiting.pop_front();
     const qreal ratio = devicePixelRatioF();
-    QImage image = thumbnailOf(next.path, qRound(kThumbnailSide * ratio));
-    if (image.isNull()) return;
+    const int side = qRound(kThumbnailSide * ratio);
+    const QImage whole = thumbnailOf(next.path, side, kLargestThumbnailed).image;
+    if (whole.isNull()) return;
+    QImage image = whole.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     image.setDevicePixelRatio(ratio);
     next.button->setIcon(QPixmap::fromImage(image));
 }

@@ -95,7 +95,9 @@ std::string pathFromUrl(const QUrl& url)
 
 QUrl urlFromPath(const std::string& path)
 {
-    return QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"), QUrl::StrictMode);
+    // As the other programs of a desktop spell it: lists and caches that are shared are searched for these very bytes.
+    static const QByteArray kAsItIs = "/!$&'()*+,:=@";
+    return QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding(kAsItIs), QUrl::StrictMode);
 }
 
 bool hasPaths(const QMimeData* data) { return data && data->hasUrls() && !pathsFromMimeData(data).empty(); }

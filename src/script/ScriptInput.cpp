@@ -60,9 +60,21 @@ void ScriptDriver::sendKey(const std::string& key)
         const char* text;
     };
     static const Named kNamed[] = {
-        {"Return", Qt::Key_Return, "\r"}, {"Escape", Qt::Key_Escape, "\x1b"}, {"Up", Qt::Key_Up, ""},
-        {"Down", Qt::Key_Down, ""},       {"Left", Qt::Key_Left, ""},         {"Right", Qt::Key_Right, ""},
-        {"Tab", Qt::Key_Tab, "\t"},       {"Space", Qt::Key_Space, " "},      {"Delete", Qt::Key_Delete, "\x7f"},
+        {"Return", Qt::Key_Return, "\r"},
+        {"Escape", Qt::Key_Escape, "\x1b"},
+        {"Up", Qt::Key_Up, ""},
+        {"Down", Qt::Key_Down, ""},
+        {"Left", Qt::Key_Left, ""},
+        {"Right", Qt::Key_Right, ""},
+        {"Tab", Qt::Key_Tab, "\t"},
+        {"Space", Qt::Key_Space, " "},
+        {"Delete", Qt::Key_Delete, "\x7f"},
+        {"Backspace", Qt::Key_Backspace, "\b"},
+        {"Home", Qt::Key_Home, ""},
+        {"End", Qt::Key_End, ""},
+        {"PageUp", Qt::Key_PageUp, ""},
+        {"PageDown", Qt::Key_PageDown, ""},
+        {"F2", Qt::Key_F2, ""},
     };
     int code = 0;
     QString typed;

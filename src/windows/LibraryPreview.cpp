@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The library's preview and its worker.
 #include "windows/LibraryPreview.h"
-#include "codecs/ImageImporter.h"
+#include "desktop/Thumbnails.h"
 #include <QPainter>
 #include <algorithm>
 #include <system_error>
@@ -13,31 +13,6 @@ namespace
 {
 
 constexpr int kPollMilliseconds = 16; // a frame; looked only while a picture is on its way
-
-/// The picture near @p side in size, in a format that the screen takes.
-QImage reduced(const BitmapRep& bitmap, int side)
-{
-    const int w = bitmap.pixelsWide(), h = bitmap.pixelsHigh();
-    // By a whole factor, averaging, straight from the picture's rows: what is left is less than twice too large.
-    const int factor = std::max(1, std::max(w, h) / side);
-    const int rw = w / factor, rh = h / factor;
-    QImage half(std::max(rw, 1), std::max(rh, 1), QImage::Format_ARGB32_Premultiplied);
-    if (half.isNull()) return {};
-    for (int y = 0; y < rh; ++y) {
-        auto* out = reinterpret_cast<QRgb*>(half.scanLine(y));
-        for (int x = 0; x < rw; ++x) {
-            unsigned sum[4] = {};
-            for (int dy = 0; dy < factor; ++dy) {
-                const std::uint8_t* p = bitmap.bitmapData() + (std::ptrdiff_t(y) * factor + dy) * bitmap.bytesPerRow() +
-                                        std::ptrdiff_t{4} * x * factor;
-                for (int i = 0; i < 4 * factor; ++i) sum[i & 3] += p[i];
-            }
-            const unsigned n = unsigned(factor * factor);
-            out[x] = sum[0] / n << 24 | sum[1] / n << 16 | sum[2] / n << 8 | sum[3] / n;
-        }
-    }
-    return half; // less than twice too large: painting does the rest
-}
 
 } // namespace
 
@@ -89,15 +64,9 @@ void LibraryPreview::work(const std::stop_token& stop)
             wanted = std::move(*mWanted);
             mWanted.reset();
         }
-        ImportOptions options;
-        options.atLeastWidth = options.atLeastHeight = wanted.side;
-        options.properties = false;
-        ImportedImage read = importImageFile(wanted.path, options);
-        QImage picture;
-        if (read.bitmap) picture = reduced(*read.bitmap, wanted.side);
-        if (read.bitmap && picture.isNull()) read.error = "There is not enough memory for this picture.";
+        Thumbnail made = thumbnailOf(wanted.path, wanted.side);
         const std::lock_guard hold(mGuard);
-        mDone = Done{wanted.request, std::move(picture), std::move(read.error)};
+        mDone = Done{wanted.request, std::move(made.image), std::move(made.error)};
     }
 }
 

@@ -9,6 +9,7 @@
 #include "library/LibraryListing.h"
 #include "ui_FileManager.h"
 #include "ui_Rename.h"
+#include "windows/LibraryDelegate.h"
 #include "windows/LibraryModel.h"
 #include <QCoreApplication>
 #include <QDialog>
@@ -16,6 +17,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QProxyStyle>
 #include <QShortcut>
 #include <algorithm>
 
@@ -25,7 +27,20 @@ namespace
 {
 
 ZPFileManager* shared = nullptr;
-constexpr int kColumnWidths[] = {200, 56, 72, 96, 132, 120};
+/// What the columns but the first and the last have room for.
+constexpr const char* kWidestTexts[] = {"", "TIFF", "00000 KB", "00000 x 00000", "00:00 - 00/00/00"};
+constexpr int kNameWidth = 200;
+
+/// Titles begin and end where the texts below them do.
+class HeaderMargins : public QProxyStyle
+{
+public:
+    explicit HeaderMargins(QObject* parent) { setParent(parent); }
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+    {
+        return metric == PM_HeaderMargin ? LibraryDelegate::kMargin : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 } // namespace
 
@@ -47,7 +62,13 @@ ZPFileManager::ZPFileManager() : mUi(std::make_unique<Ui::FileManager>()), mRena
     mModel = new LibraryModel(this);
     mTableView->setModel(mModel);
     QHeaderView* header = mTableView->horizontalHeader();
-    for (int i = 0; i < int(std::size(kColumnWidths)); ++i) header->resizeSection(i, kColumnWidths[i]);
+    for (int i = 1; i < int(std::size(kWidestTexts)); ++i) {
+        const int text = mTableView->fontMetrics().horizontalAdvance(QString::fromLatin1(kWidestTexts[i]));
+        header->resizeSection(i, std::max(text + 3 * LibraryDelegate::kMargin, header->sectionSizeHint(i)));
+    }
+    header->resizeSection(0, kNameWidth);
+    header->setStyle(new HeaderMargins(header));
+    mTableView->setItemDelegate(new LibraryDelegate(int(kLibraryColumns.size()) - 1, this));
     header->setStretchLastSection(true);
     header->setHighlightSections(false);
     mTableView->verticalHeader()->hide();
@@ -225,9 +246,7 @@ void ZPFileManager::deleteSelected()
     if (const auto name = selectedName()) removeItem(pathByAppending(libraryFolder(), *name));
     reload();
     // The next entry takes its place, so that a row of them can be deleted from the keyboard.
-    if (mModel->rowCount() > 0 && row >= 0)
-        mTableView->setCurrentIndex(mModel->index(std::min(row, mModel->rowCount() - 1), 0));
-    mTableView->clearSelection();
+    if (mModel->rowCount() > 0 && row >= 0) mTableView->selectRow(std::min(row, mModel->rowCount() - 1));
 }
 
 void ZPFileManager::renameSelected()

@@ -5,6 +5,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
+#include "windows/LibraryDelegate.h"
 #include "windows/LibraryPreview.h"
 #include "windows/ZPFileManager.h"
 #include <QApplication>
@@ -175,6 +176,53 @@ TEST_F(FileManager, DeletingAsksAndLeavesTheTarget)
     QTest::keyClick(table(), Qt::Key_Delete);
     EXPECT_TRUE(names().isEmpty());
     EXPECT_TRUE(fileExists(file));
+}
+
+TEST_F(FileManager, DeletingKeepsThePlaceInTheList)
+{
+    mWindow->dropFiles({photo("a.jpg"), photo("b.jpg"), photo("c.jpg")});
+    mWindow->selectRow(1);
+    whenModal([](QWidget*) { answerAlert("Delete"); });
+    QTest::keyClick(table(), Qt::Key_Delete);
+    EXPECT_EQ(names(), (QStringList{"a.jpg •", "c.jpg •"}));
+    EXPECT_EQ(mWindow->selectedRow(), 1) << "what came after it";
+    whenModal([](QWidget*) { answerAlert("Delete"); });
+    QTest::keyClick(table(), Qt::Key_Delete);
+    EXPECT_EQ(mWindow->selectedRow(), 0) << "the last one is gone: the one before it";
+}
+
+TEST(LibraryPaths, LoseFoldersOfTheirMiddleAndKeepTheirOwn)
+{
+    const QFontMetrics font{QFont()};
+    const QString path = "/home/anna/Pictures/2026/Holidays in the mountains/IMG_0001.jpg [alias •]";
+    const QString last = "Holidays in the mountains/IMG_0001.jpg [alias •]";
+    const auto at = [&](const QString& text) { return elidedPath(path, font, font.horizontalAdvance(text)); };
+    EXPECT_EQ(at(path), path);
+    for (const QString& wanted :
+         {"/home/anna/Pictures/…/" + last, "/home/anna/…/" + last, "/home/…/" + last, "…/" + last})
+        EXPECT_EQ(at(wanted), wanted);
+    const QString narrow = at("…/Holidays in the mountains/IMG_0.jpg");
+    EXPECT_TRUE(narrow.startsWith("…/Holidays in the mountains/")) << narrow.toStdString();
+    for (int width = 40; width < 600; width += 7)
+        EXPECT_LE(font.horizontalAdvance(elidedPath(path, font, width)), width);
+}
+
+TEST_F(FileManager, TextsOfNeighbouringCellsKeepApart)
+{
+    mWindow->dropFiles({photo("a.jpg")});
+    mWindow->show();
+    const QImage shown = table()->grab().toImage();
+    const QRect first = table()->visualRect(table()->model()->index(0, 0));
+    const QPoint corner = table()->viewport()->pos();
+    // The columns on both sides of every edge between cells are empty: paper from top to bottom.
+    for (int column = 1; column < table()->model()->columnCount(); ++column) {
+        const int edge = table()->visualRect(table()->model()->index(0, column)).left() + corner.x();
+        if (edge >= shown.width()) break;
+        const QRgb paper = shown.pixel(edge, first.top() + corner.y() + 1);
+        for (int x = edge - 4; x < edge + 4; ++x)
+            for (int y = first.top() + 1; y < first.bottom() - 1; ++y)
+                ASSERT_EQ(shown.pixel(x, y + corner.y()), paper) << "column " << column;
+    }
 }
 
 TEST_F(FileManager, RenamingKeepsTheOldExtension)
