@@ -1207,68 +1207,80 @@
         <translation>Quadrat</translation>
     </message>
     <message>
-        <source>As if Command were held: the marquee becomes a square</source>
-        <translation>Als wäre Command gedrückt: Der Auswahlrahmen wird quadratisch</translation>
-    </message>
-    <message>
         <source>Oval</source>
         <translation>Oval</translation>
-    </message>
-    <message>
-        <source>As if Control were held: the marquee becomes an oval</source>
-        <translation>Als wäre Control gedrückt: Der Auswahlrahmen wird oval</translation>
     </message>
     <message>
         <source>Polygon</source>
         <translation>Vieleck</translation>
     </message>
     <message>
-        <source>As if Control were held: click corners, Return ends</source>
-        <translation>Als wäre Control gedrückt: Ecken anklicken, Eingabetaste beendet</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Hinzufügen</translation>
-    </message>
-    <message>
-        <source>As if Shift were held: the new shape joins the selection</source>
-        <translation>Als wäre die Umschalttaste gedrückt: Die neue Form kommt zur Auswahl hinzu</translation>
     </message>
     <message>
         <source>Subtract</source>
         <translation>Abziehen</translation>
     </message>
     <message>
-        <source>As if Option were held: the new shape is cut from the selection</source>
-        <translation>Als wäre Option gedrückt: Die neue Form wird aus der Auswahl geschnitten</translation>
-    </message>
-    <message>
         <source>Float</source>
         <translation>Schweben</translation>
-    </message>
-    <message>
-        <source>As if Command were held: dragging the selection lifts its pixels</source>
-        <translation>Als wäre Command gedrückt: Ziehen an der Auswahl hebt ihre Pixel ab</translation>
     </message>
     <message>
         <source>Straight</source>
         <translation>Gerade</translation>
     </message>
     <message>
-        <source>As if Shift were held: one straight line from press to release</source>
-        <translation>Als wäre die Umschalttaste gedrückt: eine gerade Linie vom Drücken bis zum Loslassen</translation>
-    </message>
-    <message>
         <source>Set source</source>
         <translation>Quelle setzen</translation>
     </message>
     <message>
-        <source>As if Option were held: the click sets where pixels come from</source>
-        <translation>Als wäre Option gedrückt: Der Klick legt fest, woher die Pixel kommen</translation>
-    </message>
-    <message>
         <source>Untitled[*] — Zelpane</source>
         <translation>Unbenannt[*] — Zelpane</translation>
+    </message>
+    <message>
+        <source>The marquee becomes a square</source>
+        <translation>Der Auswahlrahmen wird quadratisch</translation>
+    </message>
+    <message>
+        <source>The marquee becomes an oval</source>
+        <translation>Der Auswahlrahmen wird oval</translation>
+    </message>
+    <message>
+        <source>Click corners, Return ends</source>
+        <translation>Ecken anklicken, Eingabetaste beendet</translation>
+    </message>
+    <message>
+        <source>The new shape joins the selection</source>
+        <translation>Die neue Form kommt zur Auswahl hinzu</translation>
+    </message>
+    <message>
+        <source>The new shape is cut from the selection</source>
+        <translation>Die neue Form wird aus der Auswahl geschnitten</translation>
+    </message>
+    <message>
+        <source>Dragging the selection lifts its pixels</source>
+        <translation>Ziehen an der Auswahl hebt ihre Pixel ab</translation>
+    </message>
+    <message>
+        <source>One straight line from press to release</source>
+        <translation>Eine gerade Linie vom Drücken bis zum Loslassen</translation>
+    </message>
+    <message>
+        <source>The click sets where pixels come from</source>
+        <translation>Der Klick legt fest, woher die Pixel kommen</translation>
+    </message>
+    <message>
+        <source>%1 (as if %2 were held)</source>
+        <translation>%1 (als wäre %2 gedrückt)</translation>
+    </message>
+    <message>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <translation>Die Fensterverwaltung verschiebt Fenster mit %1 und der Maus, deshalb erreicht %1 das Bild nie. Die Schalter oben tun dasselbe.</translation>
+    </message>
+    <message>
+        <source>Use %1 instead</source>
+        <translation>Stattdessen %1 verwenden</translation>
     </message>
 </context>
 <context>
@@ -2790,10 +2802,6 @@
         <translation>&amp;Links</translation>
     </message>
     <message>
-        <source>Alignment of the preview</source>
-        <translation>Ausrichtung der Vorschau</translation>
-    </message>
-    <message>
         <source>&amp;Center</source>
         <translation>&amp;Zentriert</translation>
     </message>
@@ -2816,6 +2824,22 @@
     <message>
         <source>Keeps the text as the selection</source>
         <translation>Behält den Text als Auswahl</translation>
+    </message>
+    <message>
+        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <translation>Was hier getippt wird, steht sofort auf dem Bild; Strg+Eingabe ist OK</translation>
+    </message>
+    <message>
+        <source>&amp;Several lines</source>
+        <translation>&amp;Mehrere Zeilen</translation>
+    </message>
+    <message>
+        <source>Return begins another line, which stands below</source>
+        <translation>Die Eingabetaste beginnt eine neue Zeile darunter</translation>
+    </message>
+    <message>
+        <source>Alignment of the preview, and of several lines</source>
+        <translation>Ausrichtung der Vorschau und mehrerer Zeilen</translation>
     </message>
 </context>
 <context>
@@ -2865,10 +2889,6 @@
         <translation>Malt mit einer Pinselspitze</translation>
     </message>
     <message>
-        <source>Drag to paint · [ and ] change the size, X the colour · Escape takes the stroke back</source>
-        <translation>Ziehen malt · [ und ] ändern die Größe, X die Farbe · Escape nimmt den Strich zurück</translation>
-    </message>
-    <message>
         <source>Pencil</source>
         <translation>Stift</translation>
     </message>
@@ -2913,10 +2933,6 @@
         <translation>Nimmt die Farbe unter dem Zeiger auf</translation>
     </message>
     <message>
-        <source>Click or drag to pick the paint colour · X goes back to the one before</source>
-        <translation>Klicken oder ziehen, um die Malfarbe aufzunehmen · X geht zur vorigen zurück</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Text</translation>
     </message>
@@ -2951,6 +2967,14 @@
     <message>
         <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
         <translation>Übermalen, was verschwinden soll, und loslassen · jedes Werkzeug beendet dies · Escape nimmt den Strich zurück</translation>
+    </message>
+    <message>
+        <source>Drag to paint · {smallerBrush:} and {largerBrush:} change the size, {swapColours:} the colour · Escape takes the stroke back</source>
+        <translation>Ziehen malt · {smallerBrush:} und {largerBrush:} ändern die Größe, {swapColours:} die Farbe · Escape nimmt den Strich zurück</translation>
+    </message>
+    <message>
+        <source>Click or drag to pick the paint colour · {swapColours:} goes back to the one before</source>
+        <translation>Klicken oder ziehen, um die Malfarbe aufzunehmen · {swapColours:} geht zur vorigen zurück</translation>
     </message>
 </context>
 <context>
@@ -3204,6 +3228,10 @@
     <message>
         <source>Needs the main window.</source>
         <translation>Braucht das Hauptfenster.</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Erledigt: %1</translation>
     </message>
 </context>
 <context>

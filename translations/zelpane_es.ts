@@ -1207,68 +1207,80 @@
         <translation>Cuadrado</translation>
     </message>
     <message>
-        <source>As if Command were held: the marquee becomes a square</source>
-        <translation>Como si se pulsara Command: el marco se hace cuadrado</translation>
-    </message>
-    <message>
         <source>Oval</source>
         <translation>Óvalo</translation>
-    </message>
-    <message>
-        <source>As if Control were held: the marquee becomes an oval</source>
-        <translation>Como si se pulsara Control: el marco se hace ovalado</translation>
     </message>
     <message>
         <source>Polygon</source>
         <translation>Polígono</translation>
     </message>
     <message>
-        <source>As if Control were held: click corners, Return ends</source>
-        <translation>Como si se pulsara Control: pulse las esquinas, Intro termina</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Añadir</translation>
-    </message>
-    <message>
-        <source>As if Shift were held: the new shape joins the selection</source>
-        <translation>Como si se pulsara Mayús: la forma nueva se suma a la selección</translation>
     </message>
     <message>
         <source>Subtract</source>
         <translation>Restar</translation>
     </message>
     <message>
-        <source>As if Option were held: the new shape is cut from the selection</source>
-        <translation>Como si se pulsara Option: la forma nueva se recorta de la selección</translation>
-    </message>
-    <message>
         <source>Float</source>
         <translation>Flotar</translation>
-    </message>
-    <message>
-        <source>As if Command were held: dragging the selection lifts its pixels</source>
-        <translation>Como si se pulsara Command: al arrastrar la selección se levantan sus píxeles</translation>
     </message>
     <message>
         <source>Straight</source>
         <translation>Recto</translation>
     </message>
     <message>
-        <source>As if Shift were held: one straight line from press to release</source>
-        <translation>Como si se pulsara Mayús: una línea recta desde que se pulsa hasta que se suelta</translation>
-    </message>
-    <message>
         <source>Set source</source>
         <translation>Fijar origen</translation>
     </message>
     <message>
-        <source>As if Option were held: the click sets where pixels come from</source>
-        <translation>Como si se pulsara Option: el clic fija de dónde vienen los píxeles</translation>
-    </message>
-    <message>
         <source>Untitled[*] — Zelpane</source>
         <translation>Sin título[*] — Zelpane</translation>
+    </message>
+    <message>
+        <source>The marquee becomes a square</source>
+        <translation>El marco se hace cuadrado</translation>
+    </message>
+    <message>
+        <source>The marquee becomes an oval</source>
+        <translation>El marco se hace ovalado</translation>
+    </message>
+    <message>
+        <source>Click corners, Return ends</source>
+        <translation>Pulse las esquinas, Intro termina</translation>
+    </message>
+    <message>
+        <source>The new shape joins the selection</source>
+        <translation>La forma nueva se suma a la selección</translation>
+    </message>
+    <message>
+        <source>The new shape is cut from the selection</source>
+        <translation>La forma nueva se recorta de la selección</translation>
+    </message>
+    <message>
+        <source>Dragging the selection lifts its pixels</source>
+        <translation>Al arrastrar la selección se levantan sus píxeles</translation>
+    </message>
+    <message>
+        <source>One straight line from press to release</source>
+        <translation>Una línea recta desde que se pulsa hasta que se suelta</translation>
+    </message>
+    <message>
+        <source>The click sets where pixels come from</source>
+        <translation>El clic fija de dónde vienen los píxeles</translation>
+    </message>
+    <message>
+        <source>%1 (as if %2 were held)</source>
+        <translation>%1 (como si se pulsara %2)</translation>
+    </message>
+    <message>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <translation>El gestor de ventanas mueve las ventanas con %1 y el ratón, así que %1 nunca llega a la imagen. Los botones de arriba hacen lo mismo.</translation>
+    </message>
+    <message>
+        <source>Use %1 instead</source>
+        <translation>Usar %1 en su lugar</translation>
     </message>
 </context>
 <context>
@@ -2790,10 +2802,6 @@
         <translation>&amp;Izquierda</translation>
     </message>
     <message>
-        <source>Alignment of the preview</source>
-        <translation>Alineación de la vista previa</translation>
-    </message>
-    <message>
         <source>&amp;Center</source>
         <translation>C&amp;entrado</translation>
     </message>
@@ -2816,6 +2824,22 @@
     <message>
         <source>Keeps the text as the selection</source>
         <translation>Conserva el texto como selección</translation>
+    </message>
+    <message>
+        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <translation>Lo que se escribe aquí aparece enseguida en la imagen; Ctrl+Intro equivale a OK</translation>
+    </message>
+    <message>
+        <source>&amp;Several lines</source>
+        <translation>&amp;Varias líneas</translation>
+    </message>
+    <message>
+        <source>Return begins another line, which stands below</source>
+        <translation>Intro comienza otra línea debajo</translation>
+    </message>
+    <message>
+        <source>Alignment of the preview, and of several lines</source>
+        <translation>Alineación de la vista previa y de varias líneas</translation>
     </message>
 </context>
 <context>
@@ -2865,10 +2889,6 @@
         <translation>Pinta con una punta de pincel</translation>
     </message>
     <message>
-        <source>Drag to paint · [ and ] change the size, X the colour · Escape takes the stroke back</source>
-        <translation>Arrastrar pinta · [ y ] cambian el tamaño, X el color · Escape retira el trazo</translation>
-    </message>
-    <message>
         <source>Pencil</source>
         <translation>Lápiz</translation>
     </message>
@@ -2913,10 +2933,6 @@
         <translation>Toma el color que está bajo el puntero</translation>
     </message>
     <message>
-        <source>Click or drag to pick the paint colour · X goes back to the one before</source>
-        <translation>Pulse o arrastre para tomar el color de pintura · X vuelve al anterior</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Texto</translation>
     </message>
@@ -2951,6 +2967,14 @@
     <message>
         <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
         <translation>Pinte sobre lo que deba desaparecer y suelte · cualquier herramienta lo termina · Escape retira el trazo</translation>
+    </message>
+    <message>
+        <source>Drag to paint · {smallerBrush:} and {largerBrush:} change the size, {swapColours:} the colour · Escape takes the stroke back</source>
+        <translation>Arrastrar pinta · {smallerBrush:} y {largerBrush:} cambian el tamaño, {swapColours:} el color · Escape retira el trazo</translation>
+    </message>
+    <message>
+        <source>Click or drag to pick the paint colour · {swapColours:} goes back to the one before</source>
+        <translation>Pulse o arrastre para tomar el color de pintura · {swapColours:} vuelve al anterior</translation>
     </message>
 </context>
 <context>
@@ -3204,6 +3228,10 @@
     <message>
         <source>Needs the main window.</source>
         <translation>Necesita la ventana principal.</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Hecho: %1</translation>
     </message>
 </context>
 <context>

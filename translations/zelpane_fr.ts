@@ -1207,68 +1207,80 @@
         <translation>Carré</translation>
     </message>
     <message>
-        <source>As if Command were held: the marquee becomes a square</source>
-        <translation>Comme si Command était enfoncée : le cadre devient un carré</translation>
-    </message>
-    <message>
         <source>Oval</source>
         <translation>Ovale</translation>
-    </message>
-    <message>
-        <source>As if Control were held: the marquee becomes an oval</source>
-        <translation>Comme si Control était enfoncée : le cadre devient un ovale</translation>
     </message>
     <message>
         <source>Polygon</source>
         <translation>Polygone</translation>
     </message>
     <message>
-        <source>As if Control were held: click corners, Return ends</source>
-        <translation>Comme si Control était enfoncée : cliquez les coins, Entrée termine</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Ajouter</translation>
-    </message>
-    <message>
-        <source>As if Shift were held: the new shape joins the selection</source>
-        <translation>Comme si Maj était enfoncée : la nouvelle forme s’ajoute à la sélection</translation>
     </message>
     <message>
         <source>Subtract</source>
         <translation>Soustraire</translation>
     </message>
     <message>
-        <source>As if Option were held: the new shape is cut from the selection</source>
-        <translation>Comme si Option était enfoncée : la nouvelle forme est retirée de la sélection</translation>
-    </message>
-    <message>
         <source>Float</source>
         <translation>Flotter</translation>
-    </message>
-    <message>
-        <source>As if Command were held: dragging the selection lifts its pixels</source>
-        <translation>Comme si Command était enfoncée : faire glisser la sélection soulève ses pixels</translation>
     </message>
     <message>
         <source>Straight</source>
         <translation>Droit</translation>
     </message>
     <message>
-        <source>As if Shift were held: one straight line from press to release</source>
-        <translation>Comme si Maj était enfoncée : une ligne droite de l’appui au relâchement</translation>
-    </message>
-    <message>
         <source>Set source</source>
         <translation>Définir la source</translation>
     </message>
     <message>
-        <source>As if Option were held: the click sets where pixels come from</source>
-        <translation>Comme si Option était enfoncée : le clic fixe d’où viennent les pixels</translation>
-    </message>
-    <message>
         <source>Untitled[*] — Zelpane</source>
         <translation>Sans titre[*] — Zelpane</translation>
+    </message>
+    <message>
+        <source>The marquee becomes a square</source>
+        <translation>Le cadre devient un carré</translation>
+    </message>
+    <message>
+        <source>The marquee becomes an oval</source>
+        <translation>Le cadre devient un ovale</translation>
+    </message>
+    <message>
+        <source>Click corners, Return ends</source>
+        <translation>Cliquez les coins, Entrée termine</translation>
+    </message>
+    <message>
+        <source>The new shape joins the selection</source>
+        <translation>La nouvelle forme s’ajoute à la sélection</translation>
+    </message>
+    <message>
+        <source>The new shape is cut from the selection</source>
+        <translation>La nouvelle forme est retirée de la sélection</translation>
+    </message>
+    <message>
+        <source>Dragging the selection lifts its pixels</source>
+        <translation>Faire glisser la sélection soulève ses pixels</translation>
+    </message>
+    <message>
+        <source>One straight line from press to release</source>
+        <translation>Une ligne droite de l’appui au relâchement</translation>
+    </message>
+    <message>
+        <source>The click sets where pixels come from</source>
+        <translation>Le clic fixe d’où viennent les pixels</translation>
+    </message>
+    <message>
+        <source>%1 (as if %2 were held)</source>
+        <translation>%1 (comme si %2 était enfoncée)</translation>
+    </message>
+    <message>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <translation>Le gestionnaire de fenêtres déplace les fenêtres avec %1 et la souris : %1 n’atteint donc jamais l’image. Les boutons ci-dessus font la même chose.</translation>
+    </message>
+    <message>
+        <source>Use %1 instead</source>
+        <translation>Utiliser %1 à la place</translation>
     </message>
 </context>
 <context>
@@ -2790,10 +2802,6 @@
         <translation>G&amp;auche</translation>
     </message>
     <message>
-        <source>Alignment of the preview</source>
-        <translation>Alignement de l’aperçu</translation>
-    </message>
-    <message>
         <source>&amp;Center</source>
         <translation>&amp;Centré</translation>
     </message>
@@ -2816,6 +2824,22 @@
     <message>
         <source>Keeps the text as the selection</source>
         <translation>Garde le texte comme sélection</translation>
+    </message>
+    <message>
+        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <translation>Ce qui est tapé ici apparaît aussitôt sur l’image ; Ctrl+Entrée vaut OK</translation>
+    </message>
+    <message>
+        <source>&amp;Several lines</source>
+        <translation>P&amp;lusieurs lignes</translation>
+    </message>
+    <message>
+        <source>Return begins another line, which stands below</source>
+        <translation>Entrée commence une nouvelle ligne en dessous</translation>
+    </message>
+    <message>
+        <source>Alignment of the preview, and of several lines</source>
+        <translation>Alignement de l’aperçu et de plusieurs lignes</translation>
     </message>
 </context>
 <context>
@@ -2865,10 +2889,6 @@
         <translation>Peint avec une pointe de pinceau</translation>
     </message>
     <message>
-        <source>Drag to paint · [ and ] change the size, X the colour · Escape takes the stroke back</source>
-        <translation>Glisser peint · [ et ] changent la taille, X la couleur · Échap reprend le trait</translation>
-    </message>
-    <message>
         <source>Pencil</source>
         <translation>Crayon</translation>
     </message>
@@ -2913,10 +2933,6 @@
         <translation>Prélève la couleur sous le pointeur</translation>
     </message>
     <message>
-        <source>Click or drag to pick the paint colour · X goes back to the one before</source>
-        <translation>Cliquez ou glissez pour prélever la couleur de peinture · X revient à la précédente</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Texte</translation>
     </message>
@@ -2951,6 +2967,14 @@
     <message>
         <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
         <translation>Peignez sur ce qui doit disparaître et relâchez · tout outil termine · Échap reprend le trait</translation>
+    </message>
+    <message>
+        <source>Drag to paint · {smallerBrush:} and {largerBrush:} change the size, {swapColours:} the colour · Escape takes the stroke back</source>
+        <translation>Glisser peint · {smallerBrush:} et {largerBrush:} changent la taille, {swapColours:} la couleur · Échap reprend le trait</translation>
+    </message>
+    <message>
+        <source>Click or drag to pick the paint colour · {swapColours:} goes back to the one before</source>
+        <translation>Cliquez ou glissez pour prélever la couleur de peinture · {swapColours:} revient à la précédente</translation>
     </message>
 </context>
 <context>
@@ -3204,6 +3228,10 @@
     <message>
         <source>Needs the main window.</source>
         <translation>Il faut la fenêtre principale.</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Fait : %1</translation>
     </message>
 </context>
 <context>

@@ -1197,68 +1197,80 @@
         <translation>正方形</translation>
     </message>
     <message>
-        <source>As if Command were held: the marquee becomes a square</source>
-        <translation>Command を押したときと同じ: 選択枠が正方形になります</translation>
-    </message>
-    <message>
         <source>Oval</source>
         <translation>楕円</translation>
-    </message>
-    <message>
-        <source>As if Control were held: the marquee becomes an oval</source>
-        <translation>Control を押したときと同じ: 選択枠が楕円になります</translation>
     </message>
     <message>
         <source>Polygon</source>
         <translation>多角形</translation>
     </message>
     <message>
-        <source>As if Control were held: click corners, Return ends</source>
-        <translation>Control を押したときと同じ: 角をクリックし、Return で終了</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>追加</translation>
-    </message>
-    <message>
-        <source>As if Shift were held: the new shape joins the selection</source>
-        <translation>Shift を押したときと同じ: 新しい形を選択範囲に加えます</translation>
     </message>
     <message>
         <source>Subtract</source>
         <translation>減算</translation>
     </message>
     <message>
-        <source>As if Option were held: the new shape is cut from the selection</source>
-        <translation>Option を押したときと同じ: 新しい形を選択範囲から除きます</translation>
-    </message>
-    <message>
         <source>Float</source>
         <translation>フロート</translation>
-    </message>
-    <message>
-        <source>As if Command were held: dragging the selection lifts its pixels</source>
-        <translation>Command を押したときと同じ: 選択範囲をドラッグするとピクセルが浮き上がります</translation>
     </message>
     <message>
         <source>Straight</source>
         <translation>直線</translation>
     </message>
     <message>
-        <source>As if Shift were held: one straight line from press to release</source>
-        <translation>Shift を押したときと同じ: 押した点から離した点まで 1 本の直線</translation>
-    </message>
-    <message>
         <source>Set source</source>
         <translation>元の位置</translation>
     </message>
     <message>
-        <source>As if Option were held: the click sets where pixels come from</source>
-        <translation>Option を押したときと同じ: クリックでピクセルの元の位置を決めます</translation>
-    </message>
-    <message>
         <source>Untitled[*] — Zelpane</source>
         <translation>無題[*] — Zelpane</translation>
+    </message>
+    <message>
+        <source>The marquee becomes a square</source>
+        <translation>選択枠が正方形になります</translation>
+    </message>
+    <message>
+        <source>The marquee becomes an oval</source>
+        <translation>選択枠が楕円になります</translation>
+    </message>
+    <message>
+        <source>Click corners, Return ends</source>
+        <translation>角をクリックし、Return で終了</translation>
+    </message>
+    <message>
+        <source>The new shape joins the selection</source>
+        <translation>新しい形を選択範囲に加えます</translation>
+    </message>
+    <message>
+        <source>The new shape is cut from the selection</source>
+        <translation>新しい形を選択範囲から除きます</translation>
+    </message>
+    <message>
+        <source>Dragging the selection lifts its pixels</source>
+        <translation>選択範囲をドラッグするとピクセルが浮き上がります</translation>
+    </message>
+    <message>
+        <source>One straight line from press to release</source>
+        <translation>押した点から離した点まで 1 本の直線</translation>
+    </message>
+    <message>
+        <source>The click sets where pixels come from</source>
+        <translation>クリックでピクセルの元の位置を決めます</translation>
+    </message>
+    <message>
+        <source>%1 (as if %2 were held)</source>
+        <translation>%1（%2 を押したときと同じ）</translation>
+    </message>
+    <message>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <translation>ウィンドウマネージャーが %1 とマウスでウィンドウを動かすため、%1 は画像に届きません。上のスイッチで同じことができます。</translation>
+    </message>
+    <message>
+        <source>Use %1 instead</source>
+        <translation>代わりに %1 を使う</translation>
     </message>
 </context>
 <context>
@@ -2780,10 +2792,6 @@
         <translation>左揃え(&amp;L)</translation>
     </message>
     <message>
-        <source>Alignment of the preview</source>
-        <translation>プレビューの行揃え</translation>
-    </message>
-    <message>
         <source>&amp;Center</source>
         <translation>中央揃え(&amp;C)</translation>
     </message>
@@ -2806,6 +2814,22 @@
     <message>
         <source>Keeps the text as the selection</source>
         <translation>テキストを選択範囲として残します</translation>
+    </message>
+    <message>
+        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <translation>ここに入力した文字はすぐに画像に現れます。Ctrl+Return で OK</translation>
+    </message>
+    <message>
+        <source>&amp;Several lines</source>
+        <translation>複数行(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Return begins another line, which stands below</source>
+        <translation>Return で下に新しい行を始めます</translation>
+    </message>
+    <message>
+        <source>Alignment of the preview, and of several lines</source>
+        <translation>プレビューと複数行の行揃え</translation>
     </message>
 </context>
 <context>
@@ -2855,10 +2879,6 @@
         <translation>ブラシの先端で描きます</translation>
     </message>
     <message>
-        <source>Drag to paint · [ and ] change the size, X the colour · Escape takes the stroke back</source>
-        <translation>ドラッグで描画 · [ と ] で大きさ、X で色を変更 · Escape で取り消し</translation>
-    </message>
-    <message>
         <source>Pencil</source>
         <translation>鉛筆</translation>
     </message>
@@ -2903,10 +2923,6 @@
         <translation>ポインターの下の色を取ります</translation>
     </message>
     <message>
-        <source>Click or drag to pick the paint colour · X goes back to the one before</source>
-        <translation>クリックまたはドラッグで描画色を取ります · X で前の色に戻ります</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>テキスト</translation>
     </message>
@@ -2941,6 +2957,14 @@
     <message>
         <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
         <translation>消したいものを塗って離す · どのツールでも終了 · Esc で線を取り消す</translation>
+    </message>
+    <message>
+        <source>Drag to paint · {smallerBrush:} and {largerBrush:} change the size, {swapColours:} the colour · Escape takes the stroke back</source>
+        <translation>ドラッグで描画 · {smallerBrush:} と {largerBrush:} で大きさ、{swapColours:} で色を変更 · Escape で取り消し</translation>
+    </message>
+    <message>
+        <source>Click or drag to pick the paint colour · {swapColours:} goes back to the one before</source>
+        <translation>クリックまたはドラッグで描画色を取ります · {swapColours:} で前の色に戻ります</translation>
     </message>
 </context>
 <context>
@@ -3194,6 +3218,10 @@
     <message>
         <source>Needs the main window.</source>
         <translation>メインウィンドウが必要です。</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>完了: %1</translation>
     </message>
 </context>
 <context>

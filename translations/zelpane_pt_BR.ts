@@ -1207,68 +1207,80 @@
         <translation>Quadrado</translation>
     </message>
     <message>
-        <source>As if Command were held: the marquee becomes a square</source>
-        <translation>Como se Command estivesse pressionada: a moldura vira um quadrado</translation>
-    </message>
-    <message>
         <source>Oval</source>
         <translation>Oval</translation>
-    </message>
-    <message>
-        <source>As if Control were held: the marquee becomes an oval</source>
-        <translation>Como se Control estivesse pressionada: a moldura vira um oval</translation>
     </message>
     <message>
         <source>Polygon</source>
         <translation>Polígono</translation>
     </message>
     <message>
-        <source>As if Control were held: click corners, Return ends</source>
-        <translation>Como se Control estivesse pressionada: clique nos cantos, Enter termina</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Adicionar</translation>
-    </message>
-    <message>
-        <source>As if Shift were held: the new shape joins the selection</source>
-        <translation>Como se Shift estivesse pressionada: a nova forma se soma à seleção</translation>
     </message>
     <message>
         <source>Subtract</source>
         <translation>Subtrair</translation>
     </message>
     <message>
-        <source>As if Option were held: the new shape is cut from the selection</source>
-        <translation>Como se Option estivesse pressionada: a nova forma é recortada da seleção</translation>
-    </message>
-    <message>
         <source>Float</source>
         <translation>Flutuar</translation>
-    </message>
-    <message>
-        <source>As if Command were held: dragging the selection lifts its pixels</source>
-        <translation>Como se Command estivesse pressionada: arrastar a seleção levanta seus pixels</translation>
     </message>
     <message>
         <source>Straight</source>
         <translation>Reto</translation>
     </message>
     <message>
-        <source>As if Shift were held: one straight line from press to release</source>
-        <translation>Como se Shift estivesse pressionada: uma linha reta do apertar ao soltar</translation>
-    </message>
-    <message>
         <source>Set source</source>
         <translation>Definir origem</translation>
     </message>
     <message>
-        <source>As if Option were held: the click sets where pixels come from</source>
-        <translation>Como se Option estivesse pressionada: o clique define de onde vêm os pixels</translation>
-    </message>
-    <message>
         <source>Untitled[*] — Zelpane</source>
         <translation>Sem título[*] — Zelpane</translation>
+    </message>
+    <message>
+        <source>The marquee becomes a square</source>
+        <translation>A moldura vira um quadrado</translation>
+    </message>
+    <message>
+        <source>The marquee becomes an oval</source>
+        <translation>A moldura vira um oval</translation>
+    </message>
+    <message>
+        <source>Click corners, Return ends</source>
+        <translation>Clique nos cantos, Enter termina</translation>
+    </message>
+    <message>
+        <source>The new shape joins the selection</source>
+        <translation>A nova forma se soma à seleção</translation>
+    </message>
+    <message>
+        <source>The new shape is cut from the selection</source>
+        <translation>A nova forma é recortada da seleção</translation>
+    </message>
+    <message>
+        <source>Dragging the selection lifts its pixels</source>
+        <translation>Arrastar a seleção levanta seus pixels</translation>
+    </message>
+    <message>
+        <source>One straight line from press to release</source>
+        <translation>Uma linha reta do apertar ao soltar</translation>
+    </message>
+    <message>
+        <source>The click sets where pixels come from</source>
+        <translation>O clique define de onde vêm os pixels</translation>
+    </message>
+    <message>
+        <source>%1 (as if %2 were held)</source>
+        <translation>%1 (como se %2 estivesse pressionada)</translation>
+    </message>
+    <message>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <translation>O gerenciador de janelas move janelas com %1 e o mouse; por isso %1 nunca chega à imagem. Os botões acima fazem o mesmo.</translation>
+    </message>
+    <message>
+        <source>Use %1 instead</source>
+        <translation>Usar %1 no lugar</translation>
     </message>
 </context>
 <context>
@@ -2790,10 +2802,6 @@
         <translation>&amp;Esquerda</translation>
     </message>
     <message>
-        <source>Alignment of the preview</source>
-        <translation>Alinhamento da visualização</translation>
-    </message>
-    <message>
         <source>&amp;Center</source>
         <translation>&amp;Centro</translation>
     </message>
@@ -2816,6 +2824,22 @@
     <message>
         <source>Keeps the text as the selection</source>
         <translation>Guarda o texto como seleção</translation>
+    </message>
+    <message>
+        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <translation>O que se digita aqui aparece logo na imagem; Ctrl+Enter equivale a OK</translation>
+    </message>
+    <message>
+        <source>&amp;Several lines</source>
+        <translation>&amp;Várias linhas</translation>
+    </message>
+    <message>
+        <source>Return begins another line, which stands below</source>
+        <translation>Enter começa outra linha abaixo</translation>
+    </message>
+    <message>
+        <source>Alignment of the preview, and of several lines</source>
+        <translation>Alinhamento da visualização e de várias linhas</translation>
     </message>
 </context>
 <context>
@@ -2865,10 +2889,6 @@
         <translation>Pinta com uma ponta de pincel</translation>
     </message>
     <message>
-        <source>Drag to paint · [ and ] change the size, X the colour · Escape takes the stroke back</source>
-        <translation>Arrastar pinta · [ e ] mudam o tamanho, X a cor · Escape retira o traço</translation>
-    </message>
-    <message>
         <source>Pencil</source>
         <translation>Lápis</translation>
     </message>
@@ -2913,10 +2933,6 @@
         <translation>Pega a cor sob o ponteiro</translation>
     </message>
     <message>
-        <source>Click or drag to pick the paint colour · X goes back to the one before</source>
-        <translation>Clique ou arraste para pegar a cor de pintura · X volta à anterior</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Texto</translation>
     </message>
@@ -2951,6 +2967,14 @@
     <message>
         <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
         <translation>Pinte sobre o que deve sumir e solte · qualquer ferramenta encerra · Escape desfaz o traço</translation>
+    </message>
+    <message>
+        <source>Drag to paint · {smallerBrush:} and {largerBrush:} change the size, {swapColours:} the colour · Escape takes the stroke back</source>
+        <translation>Arrastar pinta · {smallerBrush:} e {largerBrush:} mudam o tamanho, {swapColours:} a cor · Escape retira o traço</translation>
+    </message>
+    <message>
+        <source>Click or drag to pick the paint colour · {swapColours:} goes back to the one before</source>
+        <translation>Clique ou arraste para pegar a cor de pintura · {swapColours:} volta à anterior</translation>
     </message>
 </context>
 <context>
@@ -3204,6 +3228,10 @@
     <message>
         <source>Needs the main window.</source>
         <translation>Precisa da janela principal.</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Feito: %1</translation>
     </message>
 </context>
 <context>

@@ -1197,68 +1197,80 @@
         <translation>正方形</translation>
     </message>
     <message>
-        <source>As if Command were held: the marquee becomes a square</source>
-        <translation>如同按住 Command：选框变为正方形</translation>
-    </message>
-    <message>
         <source>Oval</source>
         <translation>椭圆</translation>
-    </message>
-    <message>
-        <source>As if Control were held: the marquee becomes an oval</source>
-        <translation>如同按住 Control：选框变为椭圆</translation>
     </message>
     <message>
         <source>Polygon</source>
         <translation>多边形</translation>
     </message>
     <message>
-        <source>As if Control were held: click corners, Return ends</source>
-        <translation>如同按住 Control：单击各角，回车结束</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>添加</translation>
-    </message>
-    <message>
-        <source>As if Shift were held: the new shape joins the selection</source>
-        <translation>如同按住 Shift：新形状加入选区</translation>
     </message>
     <message>
         <source>Subtract</source>
         <translation>减去</translation>
     </message>
     <message>
-        <source>As if Option were held: the new shape is cut from the selection</source>
-        <translation>如同按住 Option：从选区中减去新形状</translation>
-    </message>
-    <message>
         <source>Float</source>
         <translation>浮动</translation>
-    </message>
-    <message>
-        <source>As if Command were held: dragging the selection lifts its pixels</source>
-        <translation>如同按住 Command：拖动选区会提起其像素</translation>
     </message>
     <message>
         <source>Straight</source>
         <translation>直线</translation>
     </message>
     <message>
-        <source>As if Shift were held: one straight line from press to release</source>
-        <translation>如同按住 Shift：从按下到松开画一条直线</translation>
-    </message>
-    <message>
         <source>Set source</source>
         <translation>设置来源</translation>
     </message>
     <message>
-        <source>As if Option were held: the click sets where pixels come from</source>
-        <translation>如同按住 Option：单击设定像素的来源</translation>
-    </message>
-    <message>
         <source>Untitled[*] — Zelpane</source>
         <translation>未命名[*] — Zelpane</translation>
+    </message>
+    <message>
+        <source>The marquee becomes a square</source>
+        <translation>选框变为正方形</translation>
+    </message>
+    <message>
+        <source>The marquee becomes an oval</source>
+        <translation>选框变为椭圆</translation>
+    </message>
+    <message>
+        <source>Click corners, Return ends</source>
+        <translation>单击各角，回车结束</translation>
+    </message>
+    <message>
+        <source>The new shape joins the selection</source>
+        <translation>新形状加入选区</translation>
+    </message>
+    <message>
+        <source>The new shape is cut from the selection</source>
+        <translation>从选区中减去新形状</translation>
+    </message>
+    <message>
+        <source>Dragging the selection lifts its pixels</source>
+        <translation>拖动选区会提起其像素</translation>
+    </message>
+    <message>
+        <source>One straight line from press to release</source>
+        <translation>从按下到松开画一条直线</translation>
+    </message>
+    <message>
+        <source>The click sets where pixels come from</source>
+        <translation>单击设定像素的来源</translation>
+    </message>
+    <message>
+        <source>%1 (as if %2 were held)</source>
+        <translation>%1（如同按住 %2）</translation>
+    </message>
+    <message>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <translation>窗口管理器用 %1 加鼠标移动窗口，因此 %1 无法传到图像。上方的开关作用相同。</translation>
+    </message>
+    <message>
+        <source>Use %1 instead</source>
+        <translation>改用 %1</translation>
     </message>
 </context>
 <context>
@@ -2780,10 +2792,6 @@
         <translation>左对齐(&amp;L)</translation>
     </message>
     <message>
-        <source>Alignment of the preview</source>
-        <translation>预览的对齐方式</translation>
-    </message>
-    <message>
         <source>&amp;Center</source>
         <translation>居中(&amp;C)</translation>
     </message>
@@ -2806,6 +2814,22 @@
     <message>
         <source>Keeps the text as the selection</source>
         <translation>将文字保留为选区</translation>
+    </message>
+    <message>
+        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <translation>在此输入的内容会立即显示在图片上；Ctrl+回车相当于“确定”</translation>
+    </message>
+    <message>
+        <source>&amp;Several lines</source>
+        <translation>多行(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Return begins another line, which stands below</source>
+        <translation>回车在下方另起一行</translation>
+    </message>
+    <message>
+        <source>Alignment of the preview, and of several lines</source>
+        <translation>预览和多行文字的对齐方式</translation>
     </message>
 </context>
 <context>
@@ -2855,10 +2879,6 @@
         <translation>用画笔笔尖绘画</translation>
     </message>
     <message>
-        <source>Drag to paint · [ and ] change the size, X the colour · Escape takes the stroke back</source>
-        <translation>拖动以绘画 · [ 和 ] 改变大小，X 改变颜色 · Esc 撤回这一笔</translation>
-    </message>
-    <message>
         <source>Pencil</source>
         <translation>铅笔</translation>
     </message>
@@ -2903,10 +2923,6 @@
         <translation>拾取指针下的颜色</translation>
     </message>
     <message>
-        <source>Click or drag to pick the paint colour · X goes back to the one before</source>
-        <translation>单击或拖动以拾取绘画颜色 · X 换回之前的颜色</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>文字</translation>
     </message>
@@ -2941,6 +2957,14 @@
     <message>
         <source>Paint over what should vanish and let go · any tool ends this · Escape takes the stroke back</source>
         <translation>涂抹要消失的部分后松开 · 选择任一工具即结束 · Esc 撤回笔画</translation>
+    </message>
+    <message>
+        <source>Drag to paint · {smallerBrush:} and {largerBrush:} change the size, {swapColours:} the colour · Escape takes the stroke back</source>
+        <translation>拖动以绘画 · {smallerBrush:} 和 {largerBrush:} 改变大小，{swapColours:} 改变颜色 · Esc 撤回这一笔</translation>
+    </message>
+    <message>
+        <source>Click or drag to pick the paint colour · {swapColours:} goes back to the one before</source>
+        <translation>单击或拖动以拾取绘画颜色 · {swapColours:} 换回之前的颜色</translation>
     </message>
 </context>
 <context>
@@ -3194,6 +3218,10 @@
     <message>
         <source>Needs the main window.</source>
         <translation>需要主窗口。</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>已完成：%1</translation>
     </message>
 </context>
 <context>

@@ -20,6 +20,8 @@ namespace
 {
 
 constexpr const char* kToolBar = "accessibleToolBar";
+constexpr const char* kToldMessage = "accessibleToldMessage";
+constexpr const char* kToldValue = "accessibleToldValue";
 
 class AccessibleCanvas : public QAccessibleWidget
 {
@@ -31,20 +33,26 @@ public:
         const auto* canvas = static_cast<const ZPCanvas*>(widget());
         const auto* window = qobject_cast<const MainWindow*>(canvas->window());
         const Document& document = canvas->document();
-        if (kind == QAccessible::Value) {
-            if (!document.picture().isLoaded()) return QCoreApplication::translate("Accessible", "No picture");
-            QStringList parts{
-                QCoreApplication::translate("Accessible", "%1 by %2 pixels")
-                    .arg(document.picture().width())
-                    .arg(document.picture().height()),
-                QCoreApplication::translate("Accessible", "zoom %1").arg(zoomInWords(document.view().zoom())),
-                QCoreApplication::translate("Tools", rowOf(document.gesture()).title)};
-            const QString selection = window ? window->statusLine().selectionInWords() : QString();
-            if (!selection.isEmpty()) parts << QCoreApplication::translate("Accessible", "selected: %1").arg(selection);
-            return parts.join(", ");
-        }
-        if (kind == QAccessible::Description && window) return window->statusLine().hint();
-        return QAccessibleWidget::text(kind);
+        if (kind == QAccessible::Value) return value(document, window);
+        if (kind != QAccessible::Description || !window) return QAccessibleWidget::text(kind);
+        // A change of the description is what screen readers speak: what was just done stands alone. Readers have no
+        // way to a value that is words, so that it stands here as well.
+        if (!document.message().isEmpty()) return document.message();
+        return value(document, window) + ". " + window->statusLine().hint();
+    }
+
+private:
+    static QString value(const Document& document, const MainWindow* window)
+    {
+        if (!document.picture().isLoaded()) return QCoreApplication::translate("Accessible", "No picture");
+        QStringList parts{QCoreApplication::translate("Accessible", "%1 by %2 pixels")
+                              .arg(document.picture().width())
+                              .arg(document.picture().height()),
+                          QCoreApplication::translate("Accessible", "zoom %1").arg(zoomInWords(document.view().zoom())),
+                          QCoreApplication::translate("Tools", rowOf(document.gesture()).title)};
+        const QString selection = window ? window->statusLine().selectionInWords() : QString();
+        if (!selection.isEmpty()) parts << QCoreApplication::translate("Accessible", "selected: %1").arg(selection);
+        return parts.join(", ");
     }
 };
 
@@ -96,11 +104,24 @@ void installAccessibleWidgets()
 
 void makeAccessibleToolBar(QWidget& bar) { bar.setProperty(kToolBar, true); }
 
-void announce(QWidget& canvas)
+void announceMessage(QWidget& canvas)
 {
     if (!QAccessible::isActive()) return;
-    QAccessibleEvent value(&canvas, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&value);
+    const QString message = static_cast<ZPCanvas&>(canvas).document().message();
+    if (message == canvas.property(kToldMessage).toString()) return;
+    canvas.setProperty(kToldMessage, message);
+    if (message.isEmpty()) return; // its end is not worth a word
     QAccessibleEvent description(&canvas, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&description);
+}
+
+void announceValue(QWidget& canvas)
+{
+    if (!QAccessible::isActive()) return;
+    QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(&canvas);
+    const QString now = picture ? picture->text(QAccessible::Value) : QString();
+    if (now == canvas.property(kToldValue).toString()) return;
+    canvas.setProperty(kToldValue, now);
+    QAccessibleValueChangeEvent value(&canvas, now);
+    QAccessible::updateAccessibility(&value);
 }

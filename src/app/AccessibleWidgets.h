@@ -9,5 +9,7 @@ class QWidget;
 void installAccessibleWidgets();
 /// The widget is a tool bar for screen readers.
 void makeAccessibleToolBar(QWidget& bar);
-/// The picture's value, its selection or what was said last is another now. Costs nothing when nobody listens.
-void announce(QWidget& canvas);
+/// A command may have said what it did: those who listen to the screen are told once. Costs nothing when nobody does.
+void announceMessage(QWidget& canvas);
+/// Size, zoom, tool or selection may be others now; told when they are. Costs nothing when nobody listens.
+void announceValue(QWidget& canvas);

@@ -95,6 +95,12 @@ void MainMenu::addRow(QMenu& menu, const Command& row)
     connect(item, &QAction::triggered, this, [this, item] { choose(item); });
 }
 
+QString MainMenu::keyNameOf(const QString& action) const
+{
+    const QAction* item = mItems.value(action);
+    return item ? item->shortcut().toString(QKeySequence::NativeText) : QString();
+}
+
 QAction* MainMenu::itemOfKeys(const QKeySequence& keys) const
 {
     for (QAction* item : mOrder)
@@ -169,6 +175,7 @@ void MainMenu::setKeys(const QString& action, const QList<QKeySequence>& keys)
     for (const QKeySequence& chord : keys) words << chord.toString(QKeySequence::PortableText);
     settings().setValue(kKeySettings + action, words.join(' '));
     applyKeys(item);
+    emit keysChanged();
 }
 
 void MainMenu::giveKeysBack(const QString& action)
@@ -185,12 +192,14 @@ void MainMenu::giveKeysBack(const QString& action)
     settings().remove(kKeySettings + action);
     if (free.join(' ') != item->property("keys").toString()) settings().setValue(kKeySettings + action, free.join(' '));
     applyKeys(item);
+    emit keysChanged();
 }
 
 void MainMenu::giveAllKeysBack()
 {
     for (QAction* item : mOrder) settings().remove(kKeySettings + item->property("action").toString());
     for (QAction* item : mOrder) applyKeys(item);
+    emit keysChanged();
 }
 
 // ---- other menus ----------------------------------------------------------------------------------------------------

@@ -28,6 +28,8 @@ public:
     MainMenu(QMenuBar* bar, Validator validate, Performer prepare, Performer perform);
 
     QAction* item(const QString& action) const { return mItems.value(action); }
+    /// The first of its keys as text; empty for none.
+    QString keyNameOf(const QString& action) const;
     /// The item that has that shortcut; null for none.
     QAction* itemOfKeys(const QKeySequence& keys) const;
     const QList<QAction*>& items() const { return mOrder; }
@@ -52,6 +54,9 @@ public:
     /// The commands of the table that belong over the picture, validated. The caller shows and deletes it.
     QMenu* makePictureMenu(QWidget* parent);
     QMenu* recentMenu() const { return mRecent; }
+
+signals:
+    void keysChanged();
 
 private:
     void validate(QAction* item);

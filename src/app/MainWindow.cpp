@@ -7,12 +7,14 @@
 #include "app/SelectionChip.h"
 #include "app/StatusLine.h"
 #include "base/Folders.h"
+#include "base/NotificationCenter.h"
 #include "canvas/HandlesOverlay.h"
 #include "canvas/ToolTable.h"
 #include "canvas/ZPCanvas.h"
 #include "codecs/ImageImporter.h"
 #include "desktop/ColorWell.h"
 #include "desktop/KeyModifiers.h"
+#include "desktop/KeyRoles.h"
 #include "desktop/NoticeBar.h"
 #include "desktop/ScreenProfile.h"
 #include "desktop/ScrollView.h"
@@ -27,10 +29,13 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QCursor>
 #include <QDragEnterEvent>
 #include <QFile>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QMoveEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
@@ -47,6 +52,9 @@ namespace
 
 constexpr const char* kZoomTitles[] = {"6.25%", "12.5%", "25%", "50%", "100%", "200%", "400%", "800%", "1600%"};
 static_assert(std::size(kZoomTitles) == kZoomLevels.size());
+
+/// What the notice's button about a key does; no menu has these.
+const QString kControlForOption = "controlForOption:", kControlForCommand = "controlForCommand:";
 
 QString tool(const char* text) { return QCoreApplication::translate("Tools", text); }
 
@@ -91,6 +99,7 @@ MainWindow::MainWindow(Document& document)
     auto* menuKey = new QShortcut(QKeySequence(Qt::Key_F10), this);
     connect(menuKey, &QShortcut::activated, this,
             [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
+    showKeys({}, [](const QKeySequence&) { return false; });
     setUpNotices();
 
     connect(&mDocument, &Document::toolChosen, this, &MainWindow::showTool);
@@ -117,7 +126,7 @@ MainWindow::MainWindow(Document& document)
     mCanvas->setFocus(); // single keys are commands of the canvas
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() { NotificationCenter::defaultCenter().removeObserver(this); }
 
 void MainWindow::setUpHistory()
 {
@@ -139,18 +148,15 @@ void MainWindow::setUpTools()
 {
     auto* group = new QButtonGroup(this);
     for (const ToolRow& row : toolTable()) {
-        const QString title = tool(row.title), tip = tool(row.tip), key(row.key);
+        const QString title = tool(row.title);
         mUi->mToolPopUp->addItem(title);
-        mUi->mToolPopUp->setItemData(int(row.tool), QString("%1 (%2)").arg(tip, key), Qt::ToolTipRole);
         auto* button = new QToolButton(mUi->toolStrip);
         button->setCheckable(true);
         button->setAutoExclusive(true); // one of several, a screen reader says
         button->setAutoRaise(true);
         button->setIconSize({22, 22});
         button->setFocusPolicy(Qt::TabFocus);
-        button->setToolTip(QString("<b>%1</b> (%2)<br>%3").arg(title, key, tip));
         button->setAccessibleName(title);
-        button->setAccessibleDescription(QString("%1 (%2)").arg(tip, key)); // the tool tip's markup is for the eye
         group->addButton(button, int(row.tool));
         mUi->toolColumn->addWidget(button);
         mToolButtons.push_back(button);
@@ -233,32 +239,23 @@ void MainWindow::setUpSwitches()
         unsigned bit, option;
     };
     const Role roles[] = {
-        {QT_TR_NOOP("Square"), QT_TR_NOOP("As if Command were held: the marquee becomes a square"), kCommandKey,
-         options::Square},
-        {QT_TR_NOOP("Oval"), QT_TR_NOOP("As if Control were held: the marquee becomes an oval"), kControlKey,
-         options::Oval},
-        {QT_TR_NOOP("Polygon"), QT_TR_NOOP("As if Control were held: click corners, Return ends"), kControlKey,
-         options::Polygon},
-        {QT_TR_NOOP("Add"), QT_TR_NOOP("As if Shift were held: the new shape joins the selection"), kShiftKey,
-         options::Add},
-        {QT_TR_NOOP("Subtract"), QT_TR_NOOP("As if Option were held: the new shape is cut from the selection"),
-         kOptionKey, options::Subtract},
-        {QT_TR_NOOP("Float"), QT_TR_NOOP("As if Command were held: dragging the selection lifts its pixels"),
-         kCommandKey, options::Float},
-        {QT_TR_NOOP("Straight"), QT_TR_NOOP("As if Shift were held: one straight line from press to release"),
-         kShiftKey, options::Straight},
-        {QT_TR_NOOP("Set source"), QT_TR_NOOP("As if Option were held: the click sets where pixels come from"),
-         kOptionKey, options::SetSource},
+        {QT_TR_NOOP("Square"), QT_TR_NOOP("The marquee becomes a square"), kCommandKey, options::Square},
+        {QT_TR_NOOP("Oval"), QT_TR_NOOP("The marquee becomes an oval"), kControlKey, options::Oval},
+        {QT_TR_NOOP("Polygon"), QT_TR_NOOP("Click corners, Return ends"), kControlKey, options::Polygon},
+        {QT_TR_NOOP("Add"), QT_TR_NOOP("The new shape joins the selection"), kShiftKey, options::Add},
+        {QT_TR_NOOP("Subtract"), QT_TR_NOOP("The new shape is cut from the selection"), kOptionKey, options::Subtract},
+        {QT_TR_NOOP("Float"), QT_TR_NOOP("Dragging the selection lifts its pixels"), kCommandKey, options::Float},
+        {QT_TR_NOOP("Straight"), QT_TR_NOOP("One straight line from press to release"), kShiftKey, options::Straight},
+        {QT_TR_NOOP("Set source"), QT_TR_NOOP("The click sets where pixels come from"), kOptionKey, options::SetSource},
     };
     for (const Role& role : roles) {
         auto* button = new QToolButton(mUi->switches);
         button->setText(tr(role.title));
-        button->setToolTip(tr(role.tip));
         button->setCheckable(true);
         button->setFocusPolicy(Qt::TabFocus);
         button->setObjectName(QString("mSwitch_%1").arg(QString(role.title).remove(' ')));
         mUi->switchRow->addWidget(button);
-        mSwitches.push_back({button, role.bit, role.option});
+        mSwitches.push_back({button, role.tip, role.bit, role.option});
         connect(button, &QToolButton::toggled, this, [this] {
             unsigned bits = 0;
             for (const Switch& s : mSwitches)
@@ -267,6 +264,58 @@ void MainWindow::setUpSwitches()
         });
         connect(button, &QToolButton::clicked, this, &MainWindow::giveFocusBack);
     }
+    NotificationCenter::defaultCenter().addObserver(this, "KeyRolesNotif",
+                                                    [this](const Notification&) { showKeysOfRoles(); });
+    showKeysOfRoles();
+}
+
+void MainWindow::showKeysOfRoles()
+{
+    for (const Switch& s : mSwitches)
+        s.button->setToolTip(tr("%1 (as if %2 were held)").arg(tr(s.tip), keyNameOf(s.keyBit)));
+    if (mStatus) mStatus->show();
+}
+
+void MainWindow::showKeys(std::function<QString(const QString& action)> keyNameOfCommand,
+                          const std::function<bool(const QKeySequence&)>& belongsToCommand)
+{
+    mStatus->setKeyNames(std::move(keyNameOfCommand));
+    for (const ToolRow& row : toolTable()) {
+        const QString title = tool(row.title), tip = tool(row.tip), key(row.key);
+        const QString inBrackets = belongsToCommand(QKeySequence(key)) ? QString() : QString(" (%1)").arg(key);
+        QToolButton* button = mToolButtons[std::size_t(row.tool)];
+        mUi->mToolPopUp->setItemData(int(row.tool), tip + inBrackets, Qt::ToolTipRole);
+        button->setToolTip(QString("<b>%1</b>%2<br>%3").arg(title, inBrackets, tip));
+        button->setAccessibleDescription(tip + inBrackets); // the tool tip's markup is for the eye
+    }
+}
+
+void MainWindow::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    if (mTakenKeySaid || !isActiveWindow() || scriptedKeyModifiers()) return;
+    // A press that the program saw is a drag of its own, whatever moves the window meanwhile.
+    if (QGuiApplication::mouseButtons() != Qt::NoButton || mDocument.gesture().isMouseDown()) return;
+    const QWidget* view = mUi->mScrollView->viewport();
+    if (!view->rect().contains(view->mapFromGlobal(QCursor::pos()))) return;
+    const std::uint32_t held = currentKeyModifiers() & ~switchedKeyModifiers();
+    for (const std::uint32_t role : {kOptionKey, kCommandKey, kControlKey})
+        if (held == role) noteTakenKey(role);
+}
+
+void MainWindow::noteTakenKey(std::uint32_t role)
+{
+    mTakenKeySaid = true;
+    const QString key = keyNameOf(role);
+    QString sentence =
+        tr("The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The "
+           "switches above do the same.")
+            .arg(key);
+    // Control's shapes have switches of their own, so that its key can be spared; it has none to spare for itself.
+    if (role == kControlKey) return mDocument.notice(sentence);
+    mDocument.notice({.text = sentence,
+                      .button = tr("Use %1 instead").arg(keyNameOf(kControlKey)),
+                      .action = role == kOptionKey ? kControlForOption : kControlForCommand});
 }
 
 void MainWindow::setUpNotices()
@@ -281,7 +330,10 @@ void MainWindow::setUpNotices()
         const QString action = mDocument.notices().front()->action;
         mDocument.closeNotice();
         giveFocusBack();
-        if (performAction) performAction(action);
+        if (action == kControlForOption || action == kControlForCommand)
+            exchangeKeyRoles(kControlKey, action == kControlForOption ? kOptionKey : kCommandKey);
+        else if (performAction)
+            performAction(action);
     });
 }
 
@@ -362,7 +414,8 @@ void MainWindow::giveFocusBack() { mCanvas->setFocus(); }
 void MainWindow::showStatus()
 {
     mStatus->show();
-    announce(*mCanvas);
+    announceValue(*mCanvas);
+    announceMessage(*mCanvas);
     mChip->show(mDocument);
     const Picture& picture = mDocument.picture();
     if (!picture.isLoaded()) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 class EmptyView;
+class QKeySequence;
 class HistoryPanel;
 class QToolButton;
 class NoticeBar;
@@ -33,7 +34,7 @@ public:
     explicit MainWindow(zp::Document& document);
     ~MainWindow() override;
     ZPCanvas* canvas() const { return mCanvas; }
-    const StatusLine& statusLine() const { return *mStatus; }
+    StatusLine& statusLine() const { return *mStatus; }
     /// Sets every item of the tool pop-up and of the strip to the image named like it.
     void setToolImages();
     void toggleFullScreen();
@@ -48,6 +49,9 @@ public:
     std::function<bool()> mayClose; ///< asked before the window closes
     std::function<void(const std::string&)> openDroppedFile;
     std::function<void(const QString&)> performAction; ///< a menu command, by its action
+    /// The keys that the menu commands have now: tips and hints name them. Called again whenever they change.
+    void showKeys(std::function<QString(const QString& action)> keyNameOfCommand,
+                  const std::function<bool(const QKeySequence&)>& belongsToCommand);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -56,6 +60,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
 
 private:
     void setUpHistory();
@@ -69,21 +74,26 @@ private:
     void showZoom();   ///< the level nearest to the zoom, and on the closed pop-up the zoom itself
     void showStatus(); ///< status line and title, all of it from the document
     void showNotice();
+    void showKeysOfRoles(); ///< in the tips of the switches, and in the hint
     void giveFocusBack();
+    /// The window moves while a key is held over the picture: the window manager has taken key and drag for itself.
+    void noteTakenKey(std::uint32_t role);
 
     std::unique_ptr<Ui::Main> mUi;
     zp::Document& mDocument;
     ZPCanvas* mCanvas;
     SelectionChip* mChip;
     EmptyView* mEmpty;
-    StatusLine* mStatus;
+    StatusLine* mStatus = nullptr;
     HistoryPanel* mHistoryPanel;
     NoticeBar* mNoticeBar;
     std::vector<QToolButton*> mToolButtons;
     struct Switch {
         QToolButton* button;
+        const char* tip; ///< what it does, to be translated
         unsigned keyBit;
         unsigned option; ///< the bit of a tool's row that shows it
     };
     std::vector<Switch> mSwitches;
+    bool mTakenKeySaid = false;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Position and size of the selection in pixels.
 #include "app/SelectionByNumber.h"
+#include "app/StatusLine.h"
+#include "app/ZPPrefs.h"
 #include "desktop/Panels.h"
 #include "document/Document.h"
 #include "document/Gesture.h"
@@ -9,8 +11,9 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -34,6 +37,10 @@ void runSelectionByNumber(Document& document, QWidget* parent)
     dialog.setObjectName("SelectByNumber");
     dialog.setWindowTitle(Texts::tr("Position and Size"));
     auto* form = new QFormLayout(&dialog);
+    form->setContentsMargins(20, 20, 20, 16);
+    form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    form->setHorizontalSpacing(10);
+    form->setVerticalSpacing(8);
     const auto field = [&](const char* label, const char* name, int least, int value) {
         auto* box = new QSpinBox(&dialog);
         box->setObjectName(name);
@@ -52,20 +59,39 @@ void runSelectionByNumber(Document& document, QWidget* parent)
         field(QT_TRANSLATE_NOOP("SelectionByNumber", "&Width:"), "mSelect_Width", 1, std::max(1, int(now.size.width)));
     auto* height = field(QT_TRANSLATE_NOOP("SelectionByNumber", "&Height:"), "mSelect_Height", 1,
                          std::max(1, int(now.size.height)));
+    auto* inUnit = new QLabel(&dialog);
+    inUnit->setObjectName("mSelect_InUnit");
+    inUnit->setTextFormat(Qt::PlainText);
+    inUnit->setVisible(ZPPrefs::unit() != ZPPrefs::Pixels);
+    const auto bitmap = document.picture().bitmap();
+    const double xDpi = bitmap ? bitmap->properties.xDpi : 0, yDpi = bitmap ? bitmap->properties.yDpi : 0;
+    const auto tell = [=] {
+        inUnit->setText(sizeInWords(
+            makeRect(float(left->value()), float(top->value()), float(width->value()), float(height->value())), xDpi,
+            yDpi));
+    };
+    for (const QSpinBox* box : {left, top, width, height}) QObject::connect(box, &QSpinBox::valueChanged, inUnit, tell);
+    tell();
+    form->addRow(inUnit);
     auto* rule = new QComboBox(&dialog);
     rule->setObjectName("mSelect_Rule");
     rule->addItems({Texts::tr("Any size"), Texts::tr("This ratio of width to height"), Texts::tr("This size")});
     rule->setCurrentIndex(int(document.gesture().marqueeRule().kind));
     rule->setToolTip(Texts::tr("What a rectangle or oval keeps to while it is dragged with the mouse"));
     form->addRow(Texts::tr("New &marquees:"), rule);
-    auto* buttons = new QDialogButtonBox(&dialog);
-    auto* select = buttons->addButton(Texts::tr("Select"), QDialogButtonBox::AcceptRole);
+    auto* buttons = new QHBoxLayout; // the default last, as in every dialog
+    buttons->addStretch(1);
+    auto* cancel = new QPushButton(Texts::tr("Cancel"), &dialog);
+    cancel->setObjectName("mSelect_CancelButton");
+    cancel->setAutoDefault(false);
+    auto* select = new QPushButton(Texts::tr("Select"), &dialog);
     select->setObjectName("mSelect_OKButton");
     select->setDefault(true);
-    buttons->addButton(Texts::tr("Cancel"), QDialogButtonBox::RejectRole)->setObjectName("mSelect_CancelButton");
+    buttons->addWidget(cancel);
+    buttons->addWidget(select);
     form->addRow(buttons);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    QObject::connect(select, &QPushButton::clicked, &dialog, &QDialog::accept);
+    QObject::connect(cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
     left->selectAll();
     centerWindow(&dialog, parent);
     if (dialog.exec() != QDialog::Accepted) return;

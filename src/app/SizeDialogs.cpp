@@ -35,8 +35,9 @@ public:
     explicit NewDialog(QWidget* parent) : QDialog(parent)
     {
         ui.setupUi(this);
-        for (QSpinBox* field : {ui.mNew_Width, ui.mNew_Height})
+        for (QSpinBox* field : {ui.mNew_Width, ui.mNew_Height, ui.mNew_Resolution})
             connect(field, &QSpinBox::valueChanged, this, [this] { updateFileSize(); });
+        ui.mNew_InUnit->setVisible(ZPPrefs::unit() != ZPPrefs::Pixels);
         connect(ui.mNew_NewButton, &QPushButton::clicked, this, [this] {
             // Refused, it stays open with its numbers.
             if (make({float(ui.mNew_Width->value()), float(ui.mNew_Height->value())})) accept();
@@ -47,6 +48,9 @@ public:
     {
         ui.mNew_FileSize->setText(
             QString::fromStdString(fileSizeEstimate(ui.mNew_Width->value(), ui.mNew_Height->value())));
+        const double dpi = ui.mNew_Resolution->value();
+        ui.mNew_InUnit->setText(
+            extentInWords({float(ui.mNew_Width->value()), float(ui.mNew_Height->value())}, dpi, dpi));
     }
     Ui::New ui;
     std::function<bool(Size)> make; ///< @return whether the picture was made

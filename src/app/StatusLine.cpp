@@ -14,12 +14,14 @@
 #include "document/View.h"
 #include "operations/Files.h"
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDrag>
 #include <QLabel>
 #include <QLocale>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <algorithm>
 #include <cmath>
@@ -127,6 +129,7 @@ StatusLine::StatusLine(QStatusBar& bar, Document& document) : QObject(&bar), mDo
     add(mMiddle, "mMessageField", {}, "", 1);
     mSwatch = add(new QLabel, "mSwatch", tr("Colour under the pointer"), "", 0);
     mSwatch->setContentsMargins(0, 0, 0, 0);
+    mSwatch->setAccessibleName(mSwatch->toolTip());
     mPointerField =
         add(new QLabel, "mPointerField", tr("Position and colour under the pointer"), "00000, 00000   #000000 00 %", 0);
     mImageField = add(new QLabel, "mImageField", tr("Size of the image and zoom"), "00000 × 00000 · 100 %", 0);
@@ -139,6 +142,26 @@ void StatusLine::setPassingHint(const QString& text)
     showMiddle();
 }
 
+void StatusLine::setKeyNames(std::function<QString(const QString& action)> keyNameOfCommand)
+{
+    mKeyNameOfCommand = std::move(keyNameOfCommand);
+    showMiddle();
+}
+
+QString StatusLine::withKeys(QString hint) const
+{
+    static const QRegularExpression kCommandInBraces("\\{(\\w+:)\\}");
+    for (auto found = kCommandInBraces.match(hint); found.hasMatch(); found = kCommandInBraces.match(hint)) {
+        const QString action = found.captured(1);
+        const Command* command = mDocument.menuCommand(action.toStdString());
+        QString name = mKeyNameOfCommand ? mKeyNameOfCommand(action) : QString(command ? command->shortcut : "");
+        // Without a key the menu's title says what to look for.
+        if (name.isEmpty() && command) name = QCoreApplication::translate("Menu", command->title);
+        hint.replace(found.captured(0), name);
+    }
+    return hint;
+}
+
 QString StatusLine::hint() const
 {
     const Selection& selection = mDocument.selection();
@@ -149,13 +172,15 @@ QString StatusLine::hint() const
     if (selection.floating() && row.actions.moves)
         return tr("Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops")
             .arg(keyNameOf(kShiftKey));
-    return hintOf(row);
+    return withKeys(hintOf(row));
 }
 
 void StatusLine::showMiddle()
 {
     const QString& message = mDocument.message();
-    mMiddle->setText(!message.isEmpty() ? message : !mPassingHint.isEmpty() ? mPassingHint : hint());
+    if (message != mSaid && !message.isEmpty()) mPassingHint.clear();
+    mSaid = message;
+    mMiddle->setText(!mPassingHint.isEmpty() ? mPassingHint : !message.isEmpty() ? message : hint());
 }
 
 QString StatusLine::selectionInWords() const

@@ -32,8 +32,11 @@ public:
     void setLook(std::function<zp::Color(zp::Color)> look) { mLook = std::move(look); }
     void show();
     void showPointer();
-    /// What the pointer rests on explains itself; empty: the tool's hint again.
+    /// What the pointer rests on explains itself before all else, until it leaves or a command says what it did; empty:
+    /// that again, or the tool's hint.
     void setPassingHint(const QString& text);
+    /// Where the keys are known that a person gave to the menu commands: as text, empty for none.
+    void setKeyNames(std::function<QString(const QString& action)> keyNameOfCommand);
     /// Empty without a selection.
     QString selectionInWords() const;
     /// What can be done now and with which keys.
@@ -41,10 +44,12 @@ public:
 
 private:
     void showMiddle();
+    QString withKeys(QString hint) const;
 
     zp::Document& mDocument;
     QLabel *mInfoField, *mSelectionField, *mSwatch, *mPointerField, *mImageField;
     ElidedLabel* mMiddle;
-    QString mPassingHint;
+    QString mPassingHint, mSaid;
     std::function<zp::Color(zp::Color)> mLook = [](zp::Color color) { return color; };
+    std::function<QString(const QString&)> mKeyNameOfCommand;
 };

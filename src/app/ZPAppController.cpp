@@ -11,6 +11,7 @@
 #include "app/SelectionByNumber.h"
 #include "app/ShortcutsWindow.h"
 #include "app/SizeDialogs.h"
+#include "app/StatusLine.h"
 #include "app/TransformDialog.h"
 #include "app/ZPAboutBox.h"
 #include "app/ZPPrefs.h"
@@ -21,6 +22,7 @@
 #include "desktop/ColorWell.h"
 #include "desktop/Desktop.h"
 #include "desktop/KeyModifiers.h"
+#include "desktop/Mnemonics.h"
 #include "desktop/Panels.h"
 #include "desktop/QtColor.h"
 #include "desktop/Settings.h"
@@ -92,10 +94,21 @@ ZPAppController::ZPAppController()
     mMenu->setState("removeBrush:", [this] { return mDocument->gesture().removes(); });
     mMenu->setState("pixelGrid:", [this] { return mDocument->view().hasGrid(); });
     mMenu->setState("keyboardPointer:", [this] { return mCanvas->hasKeyboardPointer(); });
+    const auto showKeys = [this] {
+        mWindow->showKeys([this](const QString& action) { return mMenu->keyNameOf(action); },
+                          [this](const QKeySequence& keys) { return mMenu->itemOfKeys(keys) != nullptr; });
+    };
+    connect(mMenu, &MainMenu::keysChanged, this, showKeys);
+    showKeys();
     mMenu->setReason([this](const QString& action) { return whyNot(action); });
     // Windows stand above the canvas: it reaches the text editor through these.
     setTextToolHooks({[](int size) { ZPTextEditor::sharedInstance()->setFontSize(size); },
-                      [] { ZPTextEditor::sharedInstance()->showWindow(); },
+                      [this] {
+                          const Point at = mDocument->gesture().pt1();
+                          const double z = mDocument->view().effectiveZoom();
+                          const QPointF local(double(at.x) * z, double(at.y) * z);
+                          ZPTextEditor::sharedInstance()->showWindow(mCanvas->mapToGlobal(local).toPoint());
+                      },
                       [] { ZPTextEditor::sharedInstance()->run(); },
                       [](Point start) { return ZPTextEditor::sharedInstance()->textPathAtPoint(start); },
                       [] { return ZPTextEditor::sharedInstance()->isValid(); }});
@@ -233,12 +246,14 @@ void ZPAppController::remember()
     kept.setValue("last/otherColor", colorText(mDocument->paint().otherColor()));
     kept.setValue("last/chequered", mDocument->view().isChequered());
     kept.setValue("last/grid", mDocument->view().hasGrid());
+    kept.setValue("last/font", ZPTextEditor::lastFamily());
     kept.setValue("last/docks", mWindow->saveState());
 }
 
 void ZPAppController::bringBackChoices()
 {
     const Settings& kept = settings();
+    ZPTextEditor::setLastFamily(kept.value("last/font").toString());
     mWindow->restoreState(kept.value("last/docks").toByteArray());
     if (const std::optional<Color> other = colorOf(kept.value("last/otherColor").toString()))
         mDocument->setPaintColor(*other);
@@ -329,6 +344,8 @@ void ZPAppController::about() { ZPAboutBox::show(); }
 void ZPAppController::prefs()
 {
     connect(ZPPrefs::sharedPrefs(), &ZPPrefs::shortcutsWanted, this, &ZPAppController::keyboardShortcuts,
+            Qt::UniqueConnection);
+    connect(ZPPrefs::sharedPrefs(), &ZPPrefs::unitChanged, &mWindow->statusLine(), &StatusLine::show,
             Qt::UniqueConnection);
     ZPPrefs::sharedPrefs()->showWindow();
 }
@@ -458,7 +475,12 @@ void ZPAppController::perform(const QString& action)
     const Command* command = mDocument->menuCommand(action.toStdString());
     if (!command) return;
     if (command->run) {
-        mDocument->perform(*command);
+        QString title = withoutMnemonic(mMenu->item(action)->text());
+        validateMenuItem(action, &title); // as it is now: "Undo Fill" is another afterwards
+        mDocument->say({});
+        // An operation that knows more says it itself; a window that it opened speaks for itself.
+        if (mDocument->perform(*command) && mDocument->message().isEmpty() && !title.endsWith(QChar(0x2026)))
+            mDocument->say(tr("Done: %1").arg(title));
         return;
     }
     if (const auto shell = mShell.find(action); shell != mShell.end()) shell->second();

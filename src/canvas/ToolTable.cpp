@@ -78,8 +78,9 @@ constexpr std::array<ToolRow, kToolCount> kTools{{
      .title = QT_TRANSLATE_NOOP("Tools", "Brush"),
      .tip = QT_TRANSLATE_NOOP("Tools", "Paints with a brush tip"),
      .key = '4',
-     .hint = QT_TRANSLATE_NOOP("Tools",
-                               "Drag to paint · [ and ] change the size, X the colour · Escape takes the stroke back"),
+     .hint = QT_TRANSLATE_NOOP(
+         "Tools", "Drag to paint · {smallerBrush:} and {largerBrush:} change the size, {swapColours:} the colour · "
+                  "Escape takes the stroke back"),
      .options = options::Size | options::BrushShape,
      .actions = refusingOpenStroke(painting(QT_TRANSLATE_NOOP("Steps", "Brush"), pressBrush, nullptr, nullptr)),
      .outline = true},
@@ -115,7 +116,8 @@ constexpr std::array<ToolRow, kToolCount> kTools{{
      .title = QT_TRANSLATE_NOOP("Tools", "Eyedropper"),
      .tip = QT_TRANSLATE_NOOP("Tools", "Picks the colour under the pointer"),
      .key = '8',
-     .hint = QT_TRANSLATE_NOOP("Tools", "Click or drag to pick the paint colour · X goes back to the one before"),
+     .hint = QT_TRANSLATE_NOOP("Tools",
+                               "Click or drag to pick the paint colour · {swapColours:} goes back to the one before"),
      .actions = {.press = pickColor, .drag = pickColor, .scrolls = true}},
     {.tool = Tool::Text,
      .title = QT_TRANSLATE_NOOP("Tools", "Text"),

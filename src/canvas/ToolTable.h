@@ -37,7 +37,7 @@ struct ToolRow {
     const char* tip;   ///< one sentence
     char key;          ///< that chooses it on the canvas
     /// What it does with which key held, {Shift}, {Option}, {Control} and {Command} standing for the keys that have
-    /// these roles now.
+    /// these roles now, and a menu command's action in braces for its key.
     const char* hint;
     unsigned options = options::Nothing;
     ToolActions actions;
@@ -53,7 +53,7 @@ std::span<const ToolRow> toolTable();
 const ToolRow& rowOf(Tool tool);
 /// The row of what the hand holds: the chosen tool's, or that of the brush that removes.
 const ToolRow& rowOf(const Gesture& gesture);
-/// The tool's hint for the person, with the keys that are in force.
+/// The tool's hint for the person, with the role's keys that are in force.
 QString hintOf(const ToolRow& row);
 
 } // namespace zp

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The held modifier keys: from the keyboard, from a script, or from switches on screen.
 #include "desktop/KeyModifiers.h"
+#include "base/NotificationCenter.h"
 #include "desktop/Desktop.h"
+#include "desktop/KeyRoles.h"
 #include "desktop/Settings.h"
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -39,6 +41,11 @@ Qt::KeyboardModifiers keyNamed(const QString& name)
     if (name == "ctrl") return Qt::ControlModifier;
     if (name == "meta") return Qt::MetaModifier;
     return Qt::NoModifier;
+}
+
+const char* settingOf(Qt::KeyboardModifiers key)
+{
+    return key == Qt::AltModifier ? "alt" : key == Qt::ControlModifier ? "ctrl" : "meta";
 }
 
 void readRoles()
@@ -152,6 +159,19 @@ void setKeyRoles(const char* option, const char* control, const char* command)
         if (keyNamed(names[i]) != Qt::NoModifier) settings().setValue(kRoles[i].setting, QString::fromLatin1(names[i]));
     readRoles();
     currentKeyModifiers();
+    NotificationCenter::defaultCenter().post("KeyRolesNotif");
+}
+
+void exchangeKeyRoles(std::uint32_t one, std::uint32_t other)
+{
+    if (!rolesRead) readRoles();
+    std::array<const char*, 3> names{};
+    for (std::size_t i = 0; i < kRoles.size(); ++i) {
+        const std::uint32_t takenFrom = kRoles[i].bit == one ? other : kRoles[i].bit == other ? one : kRoles[i].bit;
+        for (std::size_t j = 0; j < kRoles.size(); ++j)
+            if (kRoles[j].bit == takenFrom) names[i] = settingOf(roleKeys[j]);
+    }
+    setKeyRoles(names[0], names[1], names[2]);
 }
 
 QString keyNameOf(std::uint32_t bit)

@@ -90,6 +90,8 @@ void ScriptDriver::sendKey(const std::string& key)
     }
     QWidget* window = QApplication::activeModalWidget();
     if (!window) window = QApplication::activeWindow();
+    // Without a window manager none is active again once a dialog is closed: the front one is the person's.
+    if (const std::vector<QWidget*> front = windowsInFront(); !window && !front.empty()) window = front.front();
     QWidget* target = window ? window->focusWidget() : nullptr;
     if (!target) target = window && window->isModal() ? window : &mCanvas;
     const std::uint32_t bits = currentKeyModifiers();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Shaping by QTextLayout, outlines by QRawFont, overlaps taken out.
 #include "windows/TextEditorOutline.h"
+#include "base/AffineTransform.h"
+#include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPainterPath>
 #include <QRawFont>
@@ -156,6 +158,36 @@ TextOutline outlineOfText(const QString& text, const QFont& font, Point start)
     for (const QPainterPath& shape : shapes)
         append(outline.path, QTransform::fromScale(scale, scale).map(shape), start);
     return outline;
+}
+
+TextOutline outlineOfLines(const QString& text, const QFont& font, Point start, Qt::Alignment alignment)
+{
+    TextOutline whole = outlineOfText({}, font, start);
+    QFont large = font;
+    large.setPixelSize(int(kCutSize));
+    const double spacing = QFontMetricsF(large).lineSpacing() * font.pixelSize() / kCutSize;
+    struct Line {
+        TextOutline outline;
+        double width;
+    };
+    std::vector<Line> lines;
+    double widest = 0;
+    for (const QString& each : text.split('\n')) {
+        Line line{outlineOfText(each, font, {0, 0}), 0};
+        if (!line.outline.path.isEmpty()) line.width = double(line.outline.path.bounds().maxX());
+        widest = std::max(widest, line.width);
+        lines.push_back(std::move(line));
+    }
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const double room = widest - lines[i].width;
+        const double indent = alignment & Qt::AlignHCenter ? room / 2 : alignment & Qt::AlignRight ? room : 0;
+        AffineTransform place;
+        place.translate(double(start.x) + indent, double(start.y) - double(i) * spacing);
+        lines[i].outline.path.transform(place);
+        whole.path.append(lines[i].outline.path);
+        whole.outlineless |= lines[i].outline.outlineless;
+    }
+    return whole;
 }
 
 bool hasOutlines(const QFont& font)

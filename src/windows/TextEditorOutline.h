@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// One line of text as an outline: shaped by the platform, so that ligatures, marks and right-to-left text come out
+/// Text as an outline: shaped by the platform, so that ligatures, marks and right-to-left text come out
 /// right.
 #pragma once
 #include "base/BezierPath.h"
@@ -19,6 +19,11 @@ struct TextOutline {
 /// @param start the left end of the base line; y grows upwards from there, as in a glyph's own coordinates
 /// Main thread. Costs some 20 microseconds a glyph.
 TextOutline outlineOfText(const QString& text, const QFont& font, Point start);
+
+/// Lines, parted by line feeds, below each other at the font's own distance.
+/// @param start      the left end of the first base line, as above
+/// @param alignment  of the lines among themselves, within the widest; justified is left
+TextOutline outlineOfLines(const QString& text, const QFont& font, Point start, Qt::Alignment alignment);
 
 /// Whether the family's letters have outlines at all.
 bool hasOutlines(const QFont& font);

@@ -6,6 +6,7 @@
 #include "desktop/KeyModifiers.h"
 #include "desktop/Panels.h"
 #include "desktop/QtColor.h"
+#include "desktop/WindowPlaces.h"
 #include "ui_TextEditor.h"
 #include "windows/TextEditorOutline.h"
 #include <QCoreApplication>
@@ -13,6 +14,9 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QIntValidator>
+#include <QScreen>
+#include <QShortcut>
+#include <QSignalBlocker>
 #include <algorithm>
 
 using namespace zp;
@@ -21,6 +25,7 @@ namespace
 {
 
 ZPTextEditor* shared = nullptr;
+QString familyUsedLast; ///< of a text that was placed; the main thread's
 constexpr int kFirstSize = 36, kLargestSize = 10000;
 constexpr int kTagPlus = 100, kTagMinus = 101;
 
@@ -47,8 +52,11 @@ ZPTextEditor::ZPTextEditor() : mUi(std::make_unique<Ui::TextEditor>()), mFontSiz
     QPalette paper = mUi->textView->palette();
     paper.setColor(QPalette::Base, Qt::white);
     mUi->textView->setPalette(paper);
+    mUi->textLines->hide();
     fillFamilies();
 
+    connect(mUi->severalLines, &QCheckBox::toggled, this, &ZPTextEditor::takeSeveralLines);
+    connect(mUi->textLines, &QPlainTextEdit::textChanged, this, [this] { set(); });
     connect(mUi->textEditor, &QLineEdit::textChanged, this, [this] { set(); });
     connect(mUi->fontPopUp, &QComboBox::currentIndexChanged, this, [this] { set(); });
     for (QPushButton* step : {mUi->sizePlus, mUi->sizeMinus})
@@ -65,6 +73,10 @@ ZPTextEditor::ZPTextEditor() : mUi(std::make_unique<Ui::TextEditor>()), mFontSiz
         set();
     });
     connect(mUi->okButton, &QPushButton::clicked, this, &ZPTextEditor::ok);
+    // Return belongs to the text where there are several lines of it.
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter})
+        connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(key)), this), &QShortcut::activated, this,
+                &ZPTextEditor::ok);
     connect(mUi->cancelButton, &QPushButton::clicked, this, &ZPTextEditor::cancel);
     setFrameAutosaveName(this, "TextEditor");
 
@@ -100,21 +112,79 @@ void ZPTextEditor::fillFamilies()
     }
 }
 
+QString ZPTextEditor::lastFamily() { return familyUsedLast; }
+void ZPTextEditor::setLastFamily(const QString& family) { familyUsedLast = family; }
+
+void ZPTextEditor::putLastFamilyFirst()
+{
+    QComboBox& families = *mUi->fontPopUp;
+    const QString chosen = families.currentText();
+    const bool hasFirst = families.itemData(0).toBool();
+    if (familyUsedLast.isEmpty() || (hasFirst && families.itemText(0) == familyUsedLast)) return;
+    const QSignalBlocker quiet(families);
+    for (int rows = hasFirst ? 2 : 0; rows > 0; --rows) families.removeItem(0); // the row and its line
+    if (families.findText(familyUsedLast) < 0) return;                          // not installed any more
+    families.insertItem(0, familyUsedLast, true);
+    families.insertSeparator(1);
+    families.setCurrentIndex(families.findText(chosen));
+}
+
+QString ZPTextEditor::typedText() const
+{
+    return mUi->severalLines->isChecked() ? mUi->textLines->toPlainText() : mUi->textEditor->text();
+}
+
+void ZPTextEditor::takeSeveralLines(bool several)
+{
+    {
+        const QSignalBlocker quietLine(mUi->textEditor), quietLines(mUi->textLines);
+        if (several)
+            mUi->textLines->setPlainText(mUi->textEditor->text());
+        else
+            mUi->textEditor->setText(mUi->textLines->toPlainText().simplified());
+    }
+    mUi->textEditor->setVisible(!several);
+    mUi->textLines->setVisible(several);
+    mUi->textLabel->setBuddy(several ? static_cast<QWidget*>(mUi->textLines) : mUi->textEditor);
+    mUi->textLabel->buddy()->setFocus();
+    set();
+}
+
+Qt::Alignment ZPTextEditor::chosenAlignment() const
+{
+    Qt::Alignment alignment = Qt::AlignLeft;
+    if (mUi->alignCenter->isChecked()) alignment = Qt::AlignHCenter;
+    if (mUi->alignRight->isChecked()) alignment = Qt::AlignRight;
+    if (mUi->alignJustify->isChecked()) alignment = Qt::AlignJustify;
+    return alignment;
+}
+
 void ZPTextEditor::setFontSize(int size)
 {
     mFontSize = std::clamp(size, 1, kLargestSize);
     mUi->sizeField->setText(QString::number(mFontSize));
 }
 
-void ZPTextEditor::showWindow()
+void ZPTextEditor::showWindow(std::optional<QPoint> keepClear)
 {
     setFontSize(mFontSize);
+    putLastFamilyFirst();
     centerWindow(this);
+    if (keepClear && screen()) {
+        const QRect frame(pos(), size());
+        const QPoint corner = cornerClearOf(frame, *keepClear, screen()->availableGeometry());
+        if (corner != frame.topLeft()) move(corner);
+    }
     show();
     raise();
     activateWindow();
-    mUi->textEditor->setFocus();
-    mUi->textEditor->selectAll();
+    if (mUi->severalLines->isChecked()) {
+        mUi->textLines->setFocus();
+        mUi->textLines->selectAll();
+    } else {
+        mUi->textEditor->setFocus();
+        mUi->textEditor->selectAll();
+    }
     set();
 }
 
@@ -138,7 +208,8 @@ void ZPTextEditor::stop(bool valid)
 
 void ZPTextEditor::ok()
 {
-    mUi->textView->setPlainText(mUi->textEditor->text());
+    mUi->textView->setPlainText(typedText());
+    familyUsedLast = mUi->fontPopUp->currentText();
     stop(true);
 }
 
@@ -162,16 +233,12 @@ void ZPTextEditor::set(int tag)
     }
     const QFont font = chosenFont();
     QTextEdit* view = mUi->textView;
-    view->setPlainText(mUi->textEditor->text());
+    view->setPlainText(typedText());
     view->selectAll();
     view->setCurrentFont(font);
     const Color color = mUi->fontColor->color();
     view->setTextColor(toQt(color));
-    Qt::Alignment alignment = Qt::AlignLeft;
-    if (mUi->alignCenter->isChecked()) alignment = Qt::AlignHCenter;
-    if (mUi->alignRight->isChecked()) alignment = Qt::AlignRight;
-    if (mUi->alignJustify->isChecked()) alignment = Qt::AlignJustify;
-    view->setAlignment(alignment);
+    view->setAlignment(chosenAlignment());
     QTextCursor start = view->textCursor();
     start.clearSelection();
     view->setTextCursor(start);
@@ -188,5 +255,7 @@ void ZPTextEditor::set(int tag)
 
 std::optional<BezierPath> ZPTextEditor::textPathAtPoint(Point point) const
 {
-    return outlineOfText(mUi->textView->toPlainText(), chosenFont(), point).path;
+    const QString text = mUi->textView->toPlainText();
+    return mUi->severalLines->isChecked() ? outlineOfLines(text, chosenFont(), point, chosenAlignment()).path
+                                          : outlineOfText(text, chosenFont(), point).path;
 }

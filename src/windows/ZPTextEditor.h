@@ -21,20 +21,26 @@ class ZPTextEditor : public QDialog
 
 public:
     static ZPTextEditor* sharedInstance();
+    /// The family that the last text was set in stands first in the pop-up, at the next start too when it is given
+    /// back.
+    static QString lastFamily();
+    static void setLastFamily(const QString& family);
     ~ZPTextEditor() override;
 
     /// Pixels; at least 1.
     void setFontSize(int size);
     int fontSize() const { return mFontSize; }
     /// Shows and centres the window and previews what it holds.
-    void showWindow();
+    /// @param keepClear  a point of the screen; where the window would cover it, it stands beside it
+    void showWindow(std::optional<QPoint> keepClear = std::nullopt);
     /// Modal until OK or Cancel. The window is shown if it is not yet.
     void run();
     /// Whether the last run ended with OK.
     bool isValid() const { return mValid; }
     /// The text's outline with the left end of its base line at @p point and y upwards: a letter stands at larger y
     /// than the point, a descender at smaller. For a view whose y grows downwards mirror it about the point's height.
-    /// Even-odd, line width 1; the empty path for an empty text. Always a path: the optional is the canvas's.
+    /// Several lines stand below each other, aligned as chosen. Even-odd, line width 1; the empty path for an empty
+    /// text. Always a path: the optional is the canvas's.
     std::optional<zp::BezierPath> textPathAtPoint(zp::Point point) const;
 
 public slots:
@@ -45,6 +51,10 @@ public slots:
 private:
     ZPTextEditor();
     void fillFamilies();
+    void putLastFamilyFirst();
+    QString typedText() const;
+    void takeSeveralLines(bool several);
+    Qt::Alignment chosenAlignment() const;
     /// @param tag of the sender; 100 and 101 step the size
     void set(int tag = 0);
     QFont chosenFont() const;

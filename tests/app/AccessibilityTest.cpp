@@ -34,6 +34,16 @@ TEST_F(Accessibility, ThePictureIsAGraphicWithAValue)
     EXPECT_FALSE(picture.text(QAccessible::Description).isEmpty());
 }
 
+TEST_F(Accessibility, WhatWasDoneIsThePicturesDescriptionForAWhile)
+{
+    makeImage(40, 30);
+    EXPECT_TRUE(interface(window.canvas()).text(QAccessible::Description).startsWith("40 by 30 pixels, "));
+    document->say("Filled");
+    EXPECT_EQ(interface(window.canvas()).text(QAccessible::Description), "Filled");
+    document->say({});
+    EXPECT_TRUE(interface(window.canvas()).text(QAccessible::Description).startsWith("40 by 30 pixels, "));
+}
+
 TEST_F(Accessibility, ToolsAreRadioButtonsOfAToolBarInPlainText)
 {
     auto* strip = window.findChild<QWidget*>("toolStrip");

@@ -1,14 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The commands that the application carries out itself, and the titles of the menu.
 #include "app/MainMenu.h"
+#include "app/MainWindow.h"
 #include "app/ZPAppController.h"
 #include "base/Folders.h"
 #include "canvas/ZPCanvas.h"
+#include "desktop/Desktop.h"
+#include "desktop/Settings.h"
 #include "document/Document.h"
+#include "document/Gesture.h"
+#include "document/Paint.h"
 #include "document/View.h"
 #include "support/AlertWatch.h"
 #include "support/Samples.h"
 #include <QAction>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QTextBrowser>
 #include <QUrl>
@@ -109,6 +115,67 @@ TEST(RetinaFlag, IsTheWholeFile)
     }
     removeItem(path);
     expectAtStart(false);
+}
+
+TEST(RememberedChoices, ComeBackAtTheNextStart)
+{
+    settings().remove("last/tool");
+    const Color colour{0.25f, 0.5f, 0.75f, 0.5f};
+    {
+        ZPAppController first;
+        first.rememberChoices(true);
+        first.document().setBrushSize(63);
+        first.document().setPaintColor(colour);
+        first.document().setChequered(true);
+        first.document().setGrid(true);
+        first.window().chooseBrush(2, 41);
+        first.canvas().setTool(int(Tool::CloneStamp));
+        first.applicationWillTerminate();
+    }
+    struct Case {
+        bool remembers;
+    };
+    for (const Case& c : {Case{true}, {false}}) {
+        ZPAppController next;
+        next.rememberChoices(c.remembers);
+        next.applicationWillFinishLaunching(false);
+        next.applicationDidFinishLaunching(false);
+        const Paint& paint = next.document().paint();
+        EXPECT_EQ(next.document().gesture().tool() == Tool::CloneStamp, c.remembers);
+        EXPECT_EQ(paint.size() == 63, c.remembers);
+        EXPECT_EQ(paint.brushShape() == 2, c.remembers);
+        EXPECT_EQ(paint.toleranceSetting() == 41, c.remembers);
+        EXPECT_EQ(next.document().view().isChequered(), c.remembers);
+        EXPECT_EQ(next.document().view().hasGrid(), c.remembers);
+        EXPECT_EQ(std::abs(paint.color().blue - colour.blue) < 0.01f &&
+                      std::abs(paint.color().alpha - colour.alpha) < 0.01f,
+                  c.remembers);
+    }
+    for (const char* key :
+         {"tool", "size", "brush", "tolerance", "color", "otherColor", "chequered", "grid", "font", "docks"})
+        settings().remove(QString("last/%1").arg(key));
+}
+
+TEST(RememberedWindows, AreCentredUntilAPersonWantsThemKept)
+{
+    for (const bool kept : {false, true}) {
+        setWindowsKept(kept);
+        QPoint put;
+        {
+            ZPAppController first;
+            first.window().show();
+            first.window().move(37, 41);
+            QApplication::processEvents();
+            put = first.window().pos();
+            first.window().hide();
+        }
+        ZPAppController next;
+        next.window().show();
+        next.imageEditor(); // which centres it as given
+        QApplication::processEvents();
+        EXPECT_EQ(next.window().pos() == put, kept) << kept;
+    }
+    setWindowsKept(false);
 }
 
 } // namespace

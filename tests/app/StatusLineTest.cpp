@@ -6,10 +6,15 @@
 #include "app/ZPAppController.h"
 #include "app/ZPPrefs.h"
 #include "canvas/ToolTable.h"
+#include "desktop/KeyRoles.h"
+#include "desktop/NoticeBar.h"
 #include "desktop/Settings.h"
 #include "support/DocumentFixture.h"
+#include <QCursor>
+#include <QKeySequence>
 #include <QLabel>
 #include <QStatusTipEvent>
+#include <QTest>
 #include <QToolButton>
 
 using namespace zp;
@@ -117,6 +122,84 @@ TEST_F(StatusLineTest, WhatThePointerRestsOnExplainsItself)
     QStatusTipEvent leaves("");
     QApplication::sendEvent(&window, &leaves);
     EXPECT_EQ(text("mMessageField"), hint);
+}
+
+TEST_F(StatusLineTest, WhatThePointerRestsOnComesBeforeWhatWasDoneUntilTheNextCommand)
+{
+    makeImage(40, 30);
+    perform("selectAll:");
+    QStatusTipEvent rests("Needs a selection.");
+    QApplication::sendEvent(&window, &rests);
+    EXPECT_EQ(text("mMessageField"), "Needs a selection.");
+    document->say("Turned clockwise");
+    EXPECT_EQ(text("mMessageField"), "Turned clockwise");
+}
+
+TEST_F(StatusLineTest, HintsNameTheKeysThatCommandsHaveNow)
+{
+    makeImage(40, 30);
+    canvas->setTool(int(Tool::Brush));
+    EXPECT_TRUE(window.statusLine().hint().contains("[ and ] change the size, X the colour"));
+    window.statusLine().setKeyNames([](const QString& action) {
+        return action == "swapColours:" ? QString("F7") : action == "largerBrush:" ? QString() : QString("Ctrl+J");
+    });
+    EXPECT_TRUE(window.statusLine().hint().contains("Ctrl+J and Larger Brush change the size, F7 the colour"))
+        << window.statusLine().hint().toStdString();
+}
+
+TEST_F(StatusLineTest, SwitchesNameTheKeyThatWorksNow)
+{
+    const auto tip = [this](const char* name) { return window.findChild<QToolButton*>(name)->toolTip(); };
+    EXPECT_EQ(tip("mSwitch_Subtract"), "The new shape is cut from the selection (as if Alt were held)");
+    EXPECT_EQ(tip("mSwitch_Oval"), "The marquee becomes an oval (as if Ctrl were held)");
+    exchangeKeyRoles(kControlKey, kOptionKey);
+    EXPECT_EQ(tip("mSwitch_Subtract"), "The new shape is cut from the selection (as if Ctrl were held)");
+    EXPECT_EQ(tip("mSwitch_Oval"), "The marquee becomes an oval (as if Alt were held)");
+    EXPECT_EQ(tip("mSwitch_Square"), "The marquee becomes a square (as if Super were held)");
+    EXPECT_EQ(keyModifiersFromQt(Qt::ControlModifier), kOptionKey);
+}
+
+TEST_F(StatusLineTest, ToolTipsLeaveOutAKeyThatACommandHasTaken)
+{
+    const auto tip = [this] {
+        return window.findChild<QWidget*>("toolStrip")->findChildren<QToolButton*>().at(3)->toolTip();
+    };
+    EXPECT_TRUE(tip().startsWith("<b>Brush</b> (4)<br>")) << tip().toStdString();
+    window.showKeys({}, [](const QKeySequence& keys) { return keys == QKeySequence("4"); });
+    EXPECT_TRUE(tip().startsWith("<b>Brush</b><br>")) << tip().toStdString();
+}
+
+TEST_F(StatusLineTest, AWindowThatMovesUnderAHeldKeyProposesAnother)
+{
+    struct Case {
+        Qt::KeyboardModifier key;
+        bool overPicture;
+        const char* button; ///< null: nothing is said
+    };
+    for (const Case& c : {Case{Qt::AltModifier, true, "Use Ctrl instead"},
+                          {Qt::MetaModifier, true, "Use Ctrl instead"},
+                          {Qt::NoModifier, true, nullptr},
+                          {Qt::AltModifier, false, nullptr}}) {
+        setScriptedKeyModifiers(std::nullopt);
+        MainWindow moved(*document);
+        moved.show();
+        moved.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&moved));
+        const QWidget* view = moved.canvas()->parentWidget();
+        QCursor::setPos(c.overPicture ? view->mapToGlobal(view->rect().center()) : QPoint(0, 0));
+        QTest::keyPress(&moved, Qt::Key_Alt, c.key); // the platform without a keyboard knows what was sent
+        moved.move(moved.pos() + QPoint(40, 20));
+        QApplication::processEvents();
+        const Notice* notice = document->notices().front();
+        ASSERT_EQ(notice != nullptr, c.button != nullptr) << int(c.key);
+        if (notice) {
+            EXPECT_EQ(notice->button, c.button);
+            moved.findChild<NoticeBar*>()->press(notice->button);
+            EXPECT_EQ(keyModifiersFromQt(Qt::ControlModifier), c.key == Qt::AltModifier ? kOptionKey : kCommandKey);
+        }
+        setKeyRoles("alt", "ctrl", "meta");
+        QTest::keyRelease(&moved, Qt::Key_Alt, Qt::NoModifier);
+    }
 }
 
 TEST_F(StatusLineTest, TheChipSaysWhatFloatsAndWhatToDo)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Alerts as a person at the keyboard and as a driver meet them; file panels answered from a queue.
 #include "desktop/Panels.h"
+#include "desktop/WindowPlaces.h"
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -326,4 +327,25 @@ TEST(Alert, ReadsNamesAsNamesAndNotAsMarkup)
         answerAlert("OK");
     });
     runAlert("<b>bold</b>.jpg", "<img src=x>", {"OK"});
+}
+
+TEST(Windows, StandClearOfAPointOnlyWhenTheyWouldCoverIt)
+{
+    const QRect room(0, 0, 1000, 800);
+    struct Case {
+        QRect frame;
+        QPoint point;
+        bool moves;
+    };
+    for (const Case& c : {Case{{200, 200, 400, 300}, {50, 50}, false},
+                          {{200, 200, 400, 300}, {700, 700}, false},
+                          {{200, 200, 400, 300}, {400, 350}, true},
+                          {{200, 200, 400, 300}, {210, 480}, true},
+                          {{0, 0, 1000, 700}, {400, 350}, false}}) { // nowhere to go
+        const QPoint corner = cornerClearOf(c.frame, c.point, room);
+        EXPECT_EQ(corner != c.frame.topLeft(), c.moves) << c.point.x();
+        if (!c.moves) continue;
+        EXPECT_FALSE(QRect(corner, c.frame.size()).contains(c.point));
+        EXPECT_TRUE(room.contains(QRect(corner, c.frame.size())));
+    }
 }

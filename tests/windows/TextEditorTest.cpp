@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRawFont>
@@ -201,6 +202,69 @@ TEST_F(TextEditor, RunsUntilOKOrCancel)
     find<QLineEdit>("textEditor")->clear();
     EXPECT_TRUE(runWith([&] { mEditor->ok(); }));
     EXPECT_TRUE(mEditor->textPathAtPoint({})->isEmpty());
+}
+
+TEST_F(TextEditor, TheFamilyOfTheLastTextStandsFirst)
+{
+    auto* families = find<QComboBox>("fontPopUp");
+    const int before = families->count();
+    const QString first = families->itemText(0), last = families->itemText(before - 1);
+    ASSERT_NE(first, last);
+    families->setCurrentText(last);
+    mEditor->showWindow();
+    EXPECT_EQ(families->itemText(0), first) << "nothing was placed yet";
+    mEditor->ok();
+    mEditor->showWindow();
+    EXPECT_EQ(families->itemText(0), last);
+    EXPECT_EQ(families->count(), before + 2) << "the row and a line below it";
+    EXPECT_EQ(families->currentText(), last);
+    mEditor->cancel();
+    families->setCurrentText(first);
+    mEditor->ok();
+    mEditor->showWindow();
+    EXPECT_EQ(families->itemText(0), first);
+    EXPECT_EQ(families->count(), before + 2);
+    EXPECT_EQ(ZPTextEditor::lastFamily(), first);
+}
+
+TEST_F(TextEditor, SeveralLinesStandBelowEachOther)
+{
+    auto* several = find<QCheckBox>("severalLines");
+    EXPECT_FALSE(several->isChecked()) << "as given";
+    find<QLineEdit>("textEditor")->setText("WWW");
+    const Rect one = mEditor->textPathAtPoint({100, 200})->bounds();
+    several->setChecked(true);
+    auto* lines = find<QPlainTextEdit>("textLines");
+    EXPECT_EQ(lines->toPlainText(), "WWW");
+    EXPECT_NEAR(mEditor->textPathAtPoint({100, 200})->bounds().maxY(), one.maxY(), 0.01);
+    lines->setPlainText("WWW\n\nW");
+    const Rect three = mEditor->textPathAtPoint({100, 200})->bounds();
+    EXPECT_NEAR(three.maxY(), one.maxY(), 0.01) << "the first stays where it was, y upwards";
+    EXPECT_NEAR(three.size.width, one.size.width, 0.1);
+    EXPECT_GT(three.size.height, 2.5f * one.size.height);
+    several->setChecked(false);
+    EXPECT_EQ(find<QLineEdit>("textEditor")->text(), "WWW W");
+}
+
+TEST(TextOutline, LinesAreAlignedWithinTheWidest)
+{
+    const QFont font = fontOf("DejaVu Sans", 40);
+    const auto lastLine = [&](Qt::Alignment alignment) {
+        Rect box{};
+        bool any = false;
+        outlineOfLines("WWWW\nI", font, {10, 100}, alignment).path.forEach([&](PathElement kind, const Point* p) {
+            if (kind == PathElement::ClosePath || p->y >= 95) return; // of the first line
+            box = any ? unionRect(box, makeRect(p->x, p->y, 0.01f, 0.01f)) : makeRect(p->x, p->y, 0.01f, 0.01f);
+            any = true;
+        });
+        return box;
+    };
+    const float left = lastLine(Qt::AlignLeft).minX(), middle = lastLine(Qt::AlignHCenter).minX(),
+                right = lastLine(Qt::AlignRight).minX();
+    const Rect widest = outlineOfText("WWWW", font, {10, 100}).path.bounds();
+    EXPECT_NEAR(middle - left, right - middle, 0.2);
+    EXPECT_NEAR(lastLine(Qt::AlignRight).maxX(), widest.maxX(), 0.2);
+    EXPECT_EQ(lastLine(Qt::AlignJustify), lastLine(Qt::AlignLeft));
 }
 
 TEST_F(TextEditor, PreviewsQuicklyEnoughForTyping)
