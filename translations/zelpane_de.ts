@@ -1183,6 +1183,14 @@
         <source>Zoom</source>
         <translation>Zoom</translation>
     </message>
+    <message>
+        <source>What the pressure of a pen changes</source>
+        <translation>Was der Druck eines Stifts ändert</translation>
+    </message>
+    <message>
+        <source>Pen pressure</source>
+        <translation>Stiftdruck</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1281,6 +1289,18 @@
     <message>
         <source>Use %1 instead</source>
         <translation>Stattdessen %1 verwenden</translation>
+    </message>
+    <message>
+        <source>Even pressure</source>
+        <translation>Gleicher Druck</translation>
+    </message>
+    <message>
+        <source>Pressure: size</source>
+        <translation>Druck: Größe</translation>
+    </message>
+    <message>
+        <source>Pressure: opacity</source>
+        <translation>Druck: Deckkraft</translation>
     </message>
 </context>
 <context>

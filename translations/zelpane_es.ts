@@ -1183,6 +1183,14 @@
         <source>Zoom</source>
         <translation>Ampliación</translation>
     </message>
+    <message>
+        <source>What the pressure of a pen changes</source>
+        <translation>Lo que cambia la presión de un lápiz óptico</translation>
+    </message>
+    <message>
+        <source>Pen pressure</source>
+        <translation>Presión del lápiz</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1281,6 +1289,18 @@
     <message>
         <source>Use %1 instead</source>
         <translation>Usar %1 en su lugar</translation>
+    </message>
+    <message>
+        <source>Even pressure</source>
+        <translation>Presión igual</translation>
+    </message>
+    <message>
+        <source>Pressure: size</source>
+        <translation>Presión: tamaño</translation>
+    </message>
+    <message>
+        <source>Pressure: opacity</source>
+        <translation>Presión: opacidad</translation>
     </message>
 </context>
 <context>

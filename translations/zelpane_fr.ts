@@ -1183,6 +1183,14 @@
         <source>Zoom</source>
         <translation>Zoom</translation>
     </message>
+    <message>
+        <source>What the pressure of a pen changes</source>
+        <translation>Ce que change la pression d’un stylet</translation>
+    </message>
+    <message>
+        <source>Pen pressure</source>
+        <translation>Pression du stylet</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1281,6 +1289,18 @@
     <message>
         <source>Use %1 instead</source>
         <translation>Utiliser %1 à la place</translation>
+    </message>
+    <message>
+        <source>Even pressure</source>
+        <translation>Pression égale</translation>
+    </message>
+    <message>
+        <source>Pressure: size</source>
+        <translation>Pression : taille</translation>
+    </message>
+    <message>
+        <source>Pressure: opacity</source>
+        <translation>Pression : opacité</translation>
     </message>
 </context>
 <context>

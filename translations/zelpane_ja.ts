@@ -1173,6 +1173,14 @@
         <source>Zoom</source>
         <translation>ズーム</translation>
     </message>
+    <message>
+        <source>What the pressure of a pen changes</source>
+        <translation>ペンの筆圧で変わるもの</translation>
+    </message>
+    <message>
+        <source>Pen pressure</source>
+        <translation>筆圧</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1271,6 +1279,18 @@
     <message>
         <source>Use %1 instead</source>
         <translation>代わりに %1 を使う</translation>
+    </message>
+    <message>
+        <source>Even pressure</source>
+        <translation>筆圧なし</translation>
+    </message>
+    <message>
+        <source>Pressure: size</source>
+        <translation>筆圧: 大きさ</translation>
+    </message>
+    <message>
+        <source>Pressure: opacity</source>
+        <translation>筆圧: 不透明度</translation>
     </message>
 </context>
 <context>

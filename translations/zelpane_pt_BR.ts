@@ -1183,6 +1183,14 @@
         <source>Zoom</source>
         <translation>Zoom</translation>
     </message>
+    <message>
+        <source>What the pressure of a pen changes</source>
+        <translation>O que a pressão de uma caneta altera</translation>
+    </message>
+    <message>
+        <source>Pen pressure</source>
+        <translation>Pressão da caneta</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1281,6 +1289,18 @@
     <message>
         <source>Use %1 instead</source>
         <translation>Usar %1 no lugar</translation>
+    </message>
+    <message>
+        <source>Even pressure</source>
+        <translation>Pressão igual</translation>
+    </message>
+    <message>
+        <source>Pressure: size</source>
+        <translation>Pressão: tamanho</translation>
+    </message>
+    <message>
+        <source>Pressure: opacity</source>
+        <translation>Pressão: opacidade</translation>
     </message>
 </context>
 <context>

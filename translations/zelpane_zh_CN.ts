@@ -1173,6 +1173,14 @@
         <source>Zoom</source>
         <translation>缩放</translation>
     </message>
+    <message>
+        <source>What the pressure of a pen changes</source>
+        <translation>画笔压力所改变的内容</translation>
+    </message>
+    <message>
+        <source>Pen pressure</source>
+        <translation>笔压</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1271,6 +1279,18 @@
     <message>
         <source>Use %1 instead</source>
         <translation>改用 %1</translation>
+    </message>
+    <message>
+        <source>Even pressure</source>
+        <translation>忽略笔压</translation>
+    </message>
+    <message>
+        <source>Pressure: size</source>
+        <translation>笔压：大小</translation>
+    </message>
+    <message>
+        <source>Pressure: opacity</source>
+        <translation>笔压：不透明度</translation>
     </message>
 </context>
 <context>

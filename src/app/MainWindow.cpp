@@ -116,7 +116,7 @@ MainWindow::MainWindow(Document& document)
     // Tool, colour, size, its options, zoom, picture.
     QWidget* last = nullptr;
     for (QWidget* next : std::initializer_list<QWidget*>{
-             mUi->mToolPopUp, mUi->mColorWell, mUi->mSizeSlider, mUi->mSizeField, mUi->mBrushPopUp,
+             mUi->mToolPopUp, mUi->mColorWell, mUi->mSizeSlider, mUi->mSizeField, mUi->mBrushPopUp, mUi->mPressurePopUp,
              mUi->mToleranceSlider, mUi->mToleranceField, mUi->switches, mChip, mUi->mZoomPopUp, mCanvas}) {
         if (last) setTabOrder(last, next);
         last = next;
@@ -194,6 +194,12 @@ void MainWindow::setUpToolOptions()
     connect(mUi->mBrushPopUp, &QComboBox::currentIndexChanged, this,
             [this](int index) { mDocument.setBrushShape(std::max(0, index)); });
     connect(mUi->mBrushPopUp, &QComboBox::activated, this, &MainWindow::giveFocusBack);
+
+    // In the order of PenPressure.
+    mUi->mPressurePopUp->addItems({tr("Even pressure"), tr("Pressure: size"), tr("Pressure: opacity")});
+    connect(mUi->mPressurePopUp, &QComboBox::currentIndexChanged, this,
+            [this](int index) { mDocument.setPenPressure(PenPressure(index)); });
+    connect(mUi->mPressurePopUp, &QComboBox::activated, this, &MainWindow::giveFocusBack);
 
     connect(mUi->mToleranceSlider, &QSlider::valueChanged, this, [this](int value) {
         mUi->mToleranceField->setValue(value);
@@ -378,7 +384,7 @@ void MainWindow::showTool()
         w->setVisible(has(options::Tolerance));
     for (QWidget* w : std::initializer_list<QWidget*>{mUi->sizeLabel, mUi->mSizeSlider, mUi->mSizeField})
         w->setVisible(has(options::Size));
-    mUi->mBrushPopUp->setVisible(has(options::BrushShape));
+    for (QWidget* w : {mUi->mBrushPopUp, mUi->mPressurePopUp}) w->setVisible(has(options::BrushShape));
     for (const Switch& s : mSwitches) {
         s.button->setVisible(has(s.option));
         if (!has(s.option)) s.button->setChecked(false);
@@ -395,6 +401,8 @@ void MainWindow::showPaint()
     const QSignalBlocker quietSlider(mUi->mSizeSlider), quietField(mUi->mSizeField);
     mUi->mSizeSlider->setValue(size);
     mUi->mSizeField->setValue(size);
+    const QSignalBlocker quietPressure(mUi->mPressurePopUp);
+    mUi->mPressurePopUp->setCurrentIndex(int(mDocument.paint().penPressure()));
 }
 
 void MainWindow::showZoom()

@@ -241,6 +241,7 @@ void ZPAppController::remember()
     kept.setValue("last/tool", int(mDocument->gesture().tool()));
     kept.setValue("last/size", double(mDocument->paint().size()));
     kept.setValue("last/brush", mDocument->paint().brushShape());
+    kept.setValue("last/pressure", int(mDocument->paint().penPressure()));
     kept.setValue("last/tolerance", mDocument->paint().toleranceSetting());
     kept.setValue("last/color", colorText(color));
     kept.setValue("last/otherColor", colorText(mDocument->paint().otherColor()));
@@ -262,6 +263,8 @@ void ZPAppController::bringBackChoices()
     mDocument->setChequered(kept.value("last/chequered").toBool());
     mDocument->setGrid(kept.value("last/grid").toBool());
     if (kept.value("last/size").isValid()) mDocument->setBrushSize(kept.value("last/size").toFloat());
+    const int pressure = kept.value("last/pressure").toInt();
+    if (pressure >= 0 && pressure <= int(PenPressure::Opacity)) mDocument->setPenPressure(PenPressure(pressure));
     mWindow->chooseBrush(kept.value("last/brush").toInt(), kept.value("last/tolerance", -1).toInt());
     mCanvas->setTool(kept.value("last/tool").toInt());
 }

@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabletEvent>
 #include <chrono>
 
 using namespace zp;
@@ -36,6 +37,15 @@ Point ZPCanvas::imagePoint(QPointF position)
     if (mExactPointer) return *std::exchange(mExactPointer, std::nullopt);
     const double zoom = mDocument.view().effectiveZoom();
     return {float(position.x() / zoom), float(position.y() / zoom)};
+}
+
+void ZPCanvas::tabletEvent(QTabletEvent* event)
+{
+    // Only the pressure is taken; the pen's movements follow as the mouse's. That of the release is nothing: the stroke
+    // ends as hard as its last movement pressed.
+    if (event->type() == QEvent::TabletPress || (event->type() == QEvent::TabletMove && event->buttons()))
+        mDocument.setPressure(float(event->pressure()));
+    event->ignore();
 }
 
 void ZPCanvas::mousePressEvent(QMouseEvent* event)
@@ -75,6 +85,7 @@ void ZPCanvas::mouseReleaseEvent(QMouseEvent* event)
     mDocument.setPointer(imagePoint(event->position()), mDocument.view().pointerInside());
     if (std::exchange(mButtonDown, false) || mDocument.gesture().isMouseDown())
         mDocument.release(mDocument.view().pointer());
+    mDocument.setPressure(1); // a mouse may come next
 }
 
 void ZPCanvas::contextMenuEvent(QContextMenuEvent* event)

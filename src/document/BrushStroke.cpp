@@ -8,6 +8,7 @@
 #include "tools/MaskMix.h"
 #include "tools/StrokeGeometry.h"
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <exception>
 #include <limits>
@@ -26,6 +27,8 @@ constexpr int kUndoMargin = 10;
 constexpr int kSegmentsPerUnion = 5;
 /// How long the capture thread sleeps at most without looking whether the button is up.
 constexpr auto kCaptureNap = 2ms;
+/// Side of the tips that are kept for every pressure; all of them take 35 MB then.
+constexpr int kLargestKeptTip = 256;
 /// The brush never paints fuller than this in one stamp.
 constexpr float kStampOpacity = 0.7f;
 
@@ -65,6 +68,7 @@ BrushStroke::BrushStroke(std::uint32_t capacity, std::function<void(Rect)> paint
     : mCapacity(capacity),
       _ptArray(new StrokePoint[std::size_t(capacity) +
                                2]), // undefined on purpose: pages that no stroke reaches cost nothing
+      mPressures(new std::uint8_t[std::size_t(capacity) + 2]), // the same
       mPainted(std::move(painted)),
       mEnded([this, ended = std::move(ended)] {
           // A late call may find the stroke joined already, or another one in progress.
@@ -96,7 +100,7 @@ void BrushStroke::begin(Start start, Point first)
     mSegmentsDrawn = 0;
     _ptIndex = 0; // before either thread runs: the drawing thread must not see the last stroke's points
     mPointerFeed = std::make_unique<PointerFeed>();
-    mPointerFeed->push(first);
+    mPointerFeed->push(first, mPressureNow);
     mDrawFinishedFlag = 0;
     mStrokeOpen = true;
     try {
@@ -112,7 +116,12 @@ void BrushStroke::begin(Start start, Point first)
 
 void BrushStroke::push(Point position)
 {
-    if (mStrokeOpen) mPointerFeed->push(position);
+    if (mStrokeOpen) mPointerFeed->push(position, mPressureNow);
+}
+
+void BrushStroke::setPressure(float pressure)
+{
+    mPressureNow = std::uint8_t(std::lround(std::clamp(pressure, 0.0f, 1.0f) * 255));
 }
 
 void BrushStroke::close()
@@ -128,6 +137,7 @@ void BrushStroke::join()
     mStrokeOpen = false;
     mStrokeStart.bitmap.reset();
     mStrokeStart.clip = {};
+    mStamps = {};
     mDrawFinishedFlag = 1;
 }
 
@@ -141,7 +151,8 @@ void BrushStroke::pollThread()
         // Looked at before the queue: what was pushed before the button went up is in it.
         const bool ending = feed.isClosed();
         Point position;
-        if (!feed.pop(position)) {
+        std::uint8_t pressure = 255;
+        if (!feed.pop(position, pressure)) {
             if (ending) break;
             feed.waitForNews(kCaptureNap);
             continue;
@@ -150,6 +161,7 @@ void BrushStroke::pollThread()
         if (stored == last) continue;
         ++count;
         _ptArray[count] = {stored.x, stored.y};
+        if (mStrokeStart.pressure != PenPressure::Nothing) mPressures[count] = pressure;
         _ptIndex.store(count, std::memory_order_release);
         mPointNews.notify();
         logLine("pollThread         %i", int(count));
@@ -159,6 +171,24 @@ void BrushStroke::pollThread()
     logLine("pollThread finish");
     mCaptureDone.store(true, std::memory_order_release);
     mPointNews.notify();
+}
+
+const BrushStamp& BrushStroke::stampOf(std::uint8_t pressure)
+{
+    const int level = (pressure * kPressureLevels + 127) / 255;
+    std::unique_ptr<const BrushStamp>& made = mStamps[std::size_t(level)];
+    if (made) return *made;
+    // Of large tips only the one in use is kept: each takes tens of megabytes.
+    if (mBrushImage->side() > kLargestKeptTip)
+        for (std::unique_ptr<const BrushStamp>& other : mStamps) other.reset();
+    const float fraction = float(level) / kPressureLevels, opacity = mStrokeStart.color.alpha * kStampOpacity;
+    if (mStrokeStart.pressure == PenPressure::Opacity)
+        made = std::make_unique<const BrushStamp>(*mBrushImage, opacity * fraction);
+    else if (level == kPressureLevels)
+        made = std::make_unique<const BrushStamp>(*mBrushImage, opacity);
+    else
+        made = std::make_unique<const BrushStamp>(mStrokeStart.tipOfSize(mStrokeStart.size * fraction), opacity);
+    return *made;
 }
 
 void BrushStroke::announce(PixelBox box, BitmapView pixels)
@@ -213,6 +243,14 @@ void BrushStroke::drawPoints()
         measures.spacing > 0 ? PixelBox{-tip.side(), -tip.side(), pixels.width + tip.side(), pixels.height + tip.side()}
                              : PixelBox{}; // a brush this small leaves no stamp
 
+    const bool heedsPressure = mStrokeStart.pressure != PenPressure::Nothing;
+    // By how far the walk has come between two samples.
+    const auto pressureBetween = [this](std::uint32_t index, PixelPoint begin, PixelPoint end, PixelPoint at) {
+        const int way = std::max(std::abs(end.x - begin.x), std::abs(end.y - begin.y));
+        const int gone = std::max(std::abs(at.x - begin.x), std::abs(at.y - begin.y));
+        const float share = way > 0 ? std::min(1.0f, float(gone) / float(way)) : 1.0f;
+        return std::uint8_t(std::lround(std::lerp(float(mPressures[index]), float(mPressures[index + 1]), share)));
+    };
     const auto available = [&](std::uint32_t i) { return i < _ptIndex.load(std::memory_order_acquire); };
     std::uint32_t i = 1;
     int steps = 0, segmentsInUnion = 0;
@@ -234,12 +272,21 @@ void BrushStroke::drawPoints()
         const Point from = pointAt(i), to = pointAt(i + 1);
         {
             const std::lock_guard lock(*mStrokeStart.pixelLock);
+            const PixelPoint begin = measures.corner(from), end = measures.corner(to);
             walkLine(
-                measures.corner(from), measures.corner(to), reach,
+                begin, end, reach,
                 [&](PixelPoint corner) {
-                    if (++steps != measures.spacing) return;
+                    const BrushStamp* now = &tip;
+                    int spacing = measures.spacing, inset = 0;
+                    if (heedsPressure) {
+                        now = &stampOf(pressureBetween(i, begin, end, corner));
+                        inset = (tip.side() - now->side()) / 2; // about the same middle
+                        if (mStrokeStart.pressure == PenPressure::Size)
+                            spacing = std::max(1, StrokeMeasures(float(now->side())).spacing);
+                    }
+                    if (++steps < spacing) return;
                     steps = 0;
-                    stamp(tip, pixels, {corner.x, pixels.height - corner.y - tip.side()},
+                    stamp(*now, pixels, {corner.x + inset, pixels.height - corner.y - tip.side() + inset},
                           mStampScratch ? mStampScratch->view() : BitmapView{});
                 },
                 [&](std::int64_t pixelsSkipped) {

@@ -5,9 +5,11 @@
 #include "base/BitmapRep.h"
 #include "base/Color.h"
 #include "desktop/MainThreadWake.h"
+#include "document/Paint.h"
 #include "tools/BrushTip.h"
 #include "tools/PointerFeed.h"
 #include "undo/TileJournal.h"
+#include <array>
 #include <atomic>
 #include <cstdint>
 #include <functional>
@@ -47,9 +49,15 @@ public:
         std::shared_ptr<const BrushTip> tip;
         float size = 0;
         Color color;
+        /// What a pen's pressure changes, and how a smaller tip is made; drawing thread.
+        PenPressure pressure = PenPressure::Nothing;
+        std::function<BrushTip(float size)> tipOfSize = {};
         ConstMaskView clip; ///< 0 paints, 255 does not; empty: everywhere
     };
     static constexpr std::uint32_t kCapacity = 3'200'000;
+    /// As many sizes or opacities a pen's pressure makes: a difference of less than two pixels of a tip of 128, and
+    /// of four grey levels of a stamp.
+    static constexpr int kPressureLevels = 64;
 
     /// @param capacity  points a stroke can have; then its capture ends, though the button is still down
     /// @param painted   any thread: this part of the picture shows something new
@@ -79,7 +87,9 @@ public:
     /// @throws std::system_error when there are no threads: nothing has begun then
     void begin(Start start, Point first);
     void push(Point position); ///< the pointer is here now; nothing when no stroke is open
-    void close();              ///< the button went up
+    /// Of the positions from here on, 0 to 1.
+    void setPressure(float pressure);
+    void close(); ///< the button went up
     /// Waits until all points are painted, and lets go of the picture. Nothing when no stroke is open.
     void join();
     /// What the stroke has written, and how it was before; after join().
@@ -91,11 +101,17 @@ private:
     void pollThread(); ///< body of the capture thread
     void drawThread(); ///< body of the drawing thread
     void drawPoints();
+    /// The stamp of a pressure, made when it is first asked for.
+    const BrushStamp& stampOf(std::uint8_t pressure);
     void announce(PixelBox box, BitmapView pixels);
     void stamp(const BrushStamp& stamp, BitmapView pixels, PixelPoint corner, BitmapView scratch);
 
     const std::uint32_t mCapacity;
-    std::unique_ptr<StrokePoint[]> _ptArray; ///< slots 1 to _ptIndex; slot 0 is never written
+    std::unique_ptr<StrokePoint[]> _ptArray;    ///< slots 1 to _ptIndex; slot 0 is never written
+    std::unique_ptr<std::uint8_t[]> mPressures; ///< the same slots, written only for a stroke that heeds them
+    std::uint8_t mPressureNow = 255;            ///< main thread
+    /// By level of pressure; the drawing thread's.
+    std::array<std::unique_ptr<const BrushStamp>, kPressureLevels + 1> mStamps;
     std::atomic<std::uint32_t> _ptIndex{0};
     std::atomic<std::uint8_t> mDrawFinishedFlag{1};
     UndoRect mUndoRect;

@@ -103,6 +103,8 @@ bool Document::firstStepPending() const { return mHistory.firstStepPending(); }
 
 bool Document::strokeIsOpen() const { return mGesture.stroke().isOpen(); }
 
+void Document::setPressure(float pressure) { mGesture.stroke().setPressure(pressure); }
+
 void Document::samplePointer(Point point) { mGesture.stroke().push(point); }
 
 void Document::setOnScreen(bool on) { mView.setOnScreen(on); }
@@ -206,6 +208,13 @@ void Document::setPointer(Point point, bool inside)
     mView.setPointer(point);
     mView.setPointerInside(inside);
     emit pointerMoved();
+}
+
+void Document::setPenPressure(PenPressure what)
+{
+    if (what == mPaint.penPressure()) return;
+    mPaint.setPenPressure(what);
+    emit paintChanged();
 }
 
 void Document::setPaintColor(Color color)

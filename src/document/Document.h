@@ -20,6 +20,7 @@ namespace zp
 {
 
 class TileJournal;
+enum class PenPressure;
 struct MarqueeRule;
 struct Preview;
 struct ToolActions;
@@ -108,6 +109,8 @@ public:
     /// Escape: pixels, outline and numbers as before the press; no step. @return false when no gesture can be taken
     /// back
     bool cancelGesture();
+    /// How hard the pen presses from the next position on, 0 to 1; a mouse always by 1.
+    void setPressure(float pressure);
     /// Another position of the pointer while a brush stroke is open.
     void samplePointer(Point point);
     void chooseTool(Tool tool);
@@ -143,6 +146,7 @@ public:
     /// A step larger (+1) or smaller (-1): about a tenth, at least a pixel.
     void stepBrushSize(int step);
     void setBrushShape(int index);
+    void setPenPressure(PenPressure what);
     void setToleranceSetting(int setting);
 
     // ---- workers ---------------------------------------------------------------------------------------------------

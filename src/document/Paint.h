@@ -6,6 +6,9 @@
 namespace zp
 {
 
+/// What a pen's pressure makes smaller of a brush stamp; a mouse presses with all of it.
+enum class PenPressure { Nothing, Size, Opacity };
+
 /// Main thread.
 class Paint
 {
@@ -16,6 +19,7 @@ public:
     float opacity() const { return mColor.alpha; }
     float size() const { return mSize; } ///< brush diameter, stroke width, tolerance of the older fills, in pixels
     int brushShape() const { return mBrushShape; } ///< 0 for the first
+    PenPressure penPressure() const { return mPenPressure; }
     const Color& oldColor() const { return mOldColor; }
     const Color& newColor() const { return mNewColor; }
     int toleranceSetting() const { return mToleranceSetting; } ///< as the slider shows it, 0 to 100
@@ -32,6 +36,7 @@ public:
     }
     void setSize(float size) { mSize = size; }
     void setBrushShape(int index) { mBrushShape = index; }
+    void setPenPressure(PenPressure what) { mPenPressure = what; }
     void setToleranceSetting(int setting) { mToleranceSetting = setting; }
     /// A fill or wand asks: from now on comparisons use what the slider says. @return the tolerance
     int refreshTolerance();
@@ -44,6 +49,7 @@ private:
     Color mColor = kBlack, mOtherColor = kWhite;
     float mSize = 20;
     int mBrushShape = 0;
+    PenPressure mPenPressure = PenPressure::Nothing;
     Color mOldColor, mNewColor;
     int mToleranceSetting = 0, mTolerance = 0;
 };

@@ -15,8 +15,8 @@ namespace zp
 namespace
 {
 
-/// The picture of a brush shape, read once; empty when there is none.
-ConstBitmapView brushShape(int index)
+/// The picture of a brush shape, read once; null when there is none.
+std::shared_ptr<const BitmapRep> brushShape(int index)
 {
     static int kept = -1;
     static std::shared_ptr<const BitmapRep> shape;
@@ -27,6 +27,11 @@ ConstBitmapView brushShape(int index)
         shape = importImageFile(readableResourcePath(name), options).bitmap;
         kept = index;
     }
+    return shape;
+}
+
+ConstBitmapView viewOf(const std::shared_ptr<const BitmapRep>& shape)
+{
     return shape ? shape->view() : ConstBitmapView{};
 }
 
@@ -44,7 +49,10 @@ void tool::pressBrush(Edit& edit, Point point)
     start.bitmap = bitmap;
     start.pixelLock = &edit.picture().pixelLock();
     start.beforeWrite = [&history = edit.history()](PixelBox box) { history.beforeWrite(box); };
-    start.tip = std::make_shared<const BrushTip>(brushShape(paint.brushShape()), paint.size(), paint.color());
+    const std::shared_ptr<const BitmapRep> shape = brushShape(paint.brushShape());
+    start.tip = std::make_shared<const BrushTip>(viewOf(shape), paint.size(), paint.color());
+    start.pressure = paint.penPressure();
+    start.tipOfSize = [shape, color = paint.color()](float size) { return BrushTip(viewOf(shape), size, color); };
     start.size = paint.size();
     start.color = paint.color();
     start.clip = edit.selection().clipMask();

@@ -14,7 +14,7 @@ void Wakeup::notify()
     mNews.notify_one();
 }
 
-void PointerFeed::push(Point position)
+void PointerFeed::push(Point position, std::uint8_t pressure)
 {
     if (mClosed.load(std::memory_order_relaxed)) return;
     struct Cell {
@@ -27,6 +27,7 @@ void PointerFeed::push(Point position)
         std::this_thread::yield();
     }
     mSlots[written % kSlots] = position;
+    mPressures[written % kSlots] = pressure;
     mPushed.store(written + 1, std::memory_order_release);
     mNews.notify();
 }
@@ -46,11 +47,12 @@ Point PointerFeed::latest() const
     return {cell.x, cell.y};
 }
 
-bool PointerFeed::pop(Point& position)
+bool PointerFeed::pop(Point& position, std::uint8_t& pressure)
 {
     const std::uint32_t read = mRead.load(std::memory_order_relaxed);
     if (read == mPushed.load(std::memory_order_acquire)) return false;
     position = mSlots[read % kSlots];
+    pressure = mPressures[read % kSlots];
     mRead.store(read + 1, std::memory_order_release);
     return true;
 }

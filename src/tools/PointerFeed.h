@@ -45,14 +45,20 @@ class PointerFeed
 {
 public:
     /// Writer (the main thread): the pointer is here now. After close() nothing is taken any more.
-    void push(Point position);
+    /// @param pressure  of a pen, 255 for the whole of it
+    void push(Point position, std::uint8_t pressure = 255);
     /// Writer: no more positions will come. The reader still gets those pushed before.
     void close();
     /// The last position pushed, whoever reads the queue.
     Point latest() const;
 
     /// Reader (the capture thread): the next position. @return false when there is none yet, or none any more
-    bool pop(Point& position);
+    bool pop(Point& position, std::uint8_t& pressure);
+    bool pop(Point& position)
+    {
+        std::uint8_t unused = 0;
+        return pop(position, unused);
+    }
     /// Reader: whether close() was called. When it answers true and pop() then finds nothing, nothing will ever come.
     bool isClosed() const { return mClosed.load(std::memory_order_acquire); }
     /// Reader: sleeps until there is a position, the feed is closed, or the time is over.
@@ -63,6 +69,7 @@ public:
 private:
     static constexpr std::uint32_t kSlots = 65'536;
     std::array<Point, kSlots> mSlots{};
+    std::array<std::uint8_t, kSlots> mPressures{};
     alignas(64) std::atomic<std::uint32_t> mPushed{0}; ///< positions pushed in all; the writer's
     alignas(64) std::atomic<std::uint32_t> mRead{0};   ///< positions taken in all; the reader's
     alignas(64) std::atomic<std::uint64_t> mLatest{0}; ///< the cell: both coordinates in one word

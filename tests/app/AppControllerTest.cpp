@@ -129,6 +129,7 @@ TEST(RememberedChoices, ComeBackAtTheNextStart)
         first.document().setChequered(true);
         first.document().setGrid(true);
         first.window().chooseBrush(2, 41);
+        first.document().setPenPressure(PenPressure::Opacity);
         first.canvas().setTool(int(Tool::CloneStamp));
         first.applicationWillTerminate();
     }
@@ -145,14 +146,15 @@ TEST(RememberedChoices, ComeBackAtTheNextStart)
         EXPECT_EQ(paint.size() == 63, c.remembers);
         EXPECT_EQ(paint.brushShape() == 2, c.remembers);
         EXPECT_EQ(paint.toleranceSetting() == 41, c.remembers);
+        EXPECT_EQ(paint.penPressure() == PenPressure::Opacity, c.remembers);
         EXPECT_EQ(next.document().view().isChequered(), c.remembers);
         EXPECT_EQ(next.document().view().hasGrid(), c.remembers);
         EXPECT_EQ(std::abs(paint.color().blue - colour.blue) < 0.01f &&
                       std::abs(paint.color().alpha - colour.alpha) < 0.01f,
                   c.remembers);
     }
-    for (const char* key :
-         {"tool", "size", "brush", "tolerance", "color", "otherColor", "chequered", "grid", "font", "docks"})
+    for (const char* key : {"tool", "size", "brush", "tolerance", "pressure", "color", "otherColor", "chequered",
+                            "grid", "font", "docks"})
         settings().remove(QString("last/%1").arg(key));
 }
 

@@ -52,6 +52,7 @@ TEST_F(MainWindowControls, TheOptionsAreThoseOfTheToolsRow)
                                  {"mSizeSlider", options::Size},
                                  {"mSizeField", options::Size},
                                  {"mBrushPopUp", options::BrushShape},
+                                 {"mPressurePopUp", options::BrushShape},
                                  {"mSwitch_Square", options::Square},
                                  {"mSwitch_Polygon", options::Polygon},
                                  {"mSwitch_Setsource", options::SetSource}})

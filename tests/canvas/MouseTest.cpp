@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The mouse over the canvas: coordinates, lost releases, scrolling along.
 #include "support/ToolFixture.h"
+#include <QPointingDevice>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabletEvent>
 
 namespace
 {
@@ -47,6 +49,37 @@ TEST_F(Mouse, AnExactPointerHoldsForOneEvent)
     drag(64, 48);
     EXPECT_EQ(gesture().pt2(), (Point{64, 48}));
     release(64, 48);
+}
+
+TEST_F(Mouse, APenPressesAsHardAsItSaysUntilItIsLifted)
+{
+    choose(Tool::Brush);
+    document->setPaintColor({1, 0, 0, 1});
+    document->setBrushSize(20);
+    document->setPenPressure(PenPressure::Size);
+    const auto pen = [this](QEvent::Type type, double pressure, Qt::MouseButtons buttons) {
+        QTabletEvent event(type, QPointingDevice::primaryPointingDevice(), {}, {}, pressure, 0, 0, 0, 0, 0,
+                           Qt::NoModifier, Qt::LeftButton, buttons);
+        QApplication::sendEvent(canvas.get(), &event);
+        EXPECT_FALSE(event.isAccepted()) << "its movements come as the mouse's";
+    };
+    const auto heightAt = [this](int x) {
+        int count = 0;
+        for (int y = 0; y < picture().height(); ++y) count += pixel(x, y) != kWhiteWord;
+        return count;
+    };
+    pen(QEvent::TabletPress, 0.5, Qt::LeftButton);
+    press(20, 50);
+    pen(QEvent::TabletMove, 0.5, Qt::LeftButton);
+    drag(180, 50);
+    pen(QEvent::TabletRelease, 0, Qt::NoButton);
+    release(180, 50);
+    settle();
+    EXPECT_NEAR(heightAt(100), 10, 2);
+    fillImage(kWhiteWord);
+    gestureThrough({{20, 50}, {180, 50}});
+    settle();
+    EXPECT_NEAR(heightAt(100), 20, 2) << "a mouse after it";
 }
 
 TEST_F(Mouse, WithoutAnImageNoToolDoesHarm)

@@ -95,6 +95,65 @@ TEST_F(Stroke, PressAndReleaseWithoutMovementCapturesOnePointAndTakesASnapshot)
     EXPECT_TRUE(has(lines, "draw thread finish"));
 }
 
+TEST_F(Stroke, APensPressureSetsSizeOrOpacityWhereItIsAskedTo)
+{
+    const auto lineWith = [this](PenPressure what, float first, float last) {
+        fillImage(kWhiteWord);
+        document->setPenPressure(what);
+        document->setPressure(first);
+        press(20, 50);
+        document->setPressure(last);
+        for (int x = 25; x <= 180; x += 5) drag(float(x), 50);
+        release(180, 50);
+        settle();
+        document->setPressure(1);
+    };
+    const auto heightAt = [this](int x) {
+        int count = 0;
+        for (int y = 0; y < picture().height(); ++y) count += painted(x, y);
+        return count;
+    };
+    const auto darknessAt = [this](int x) { return 255 - channelOf(pixel(x, 50), 2); };
+    lineWith(PenPressure::Nothing, 1, 1);
+    const std::vector<std::uint32_t> mouse = allPixels();
+    const int height = heightAt(100), darkness = darknessAt(100);
+    lineWith(PenPressure::Nothing, 0.2f, 0.4f);
+    EXPECT_EQ(allPixels(), mouse) << "as given a pen paints as a mouse does";
+    lineWith(PenPressure::Size, 1, 1);
+    EXPECT_EQ(allPixels(), mouse) << "the whole pressure is the whole size";
+    lineWith(PenPressure::Opacity, 1, 1);
+    EXPECT_EQ(allPixels(), mouse);
+    lineWith(PenPressure::Size, 0.5f, 0.5f);
+    EXPECT_NEAR(heightAt(100), height / 2, 2);
+    EXPECT_TRUE(painted(100, 50)) << "about the same middle";
+    lineWith(PenPressure::Opacity, 0.25f, 0.25f);
+    EXPECT_LE(std::abs(heightAt(100) - height), 2);
+    EXPECT_LT(darknessAt(100), darkness);
+    EXPECT_GT(darknessAt(100), 0);
+    lineWith(PenPressure::Size, 0, 0);
+    EXPECT_FALSE(anythingPainted());
+}
+
+TEST_F(Stroke, PressureChangesBetweenTwoSamplesLittleByLittle)
+{
+    document->setBrushSize(40);
+    document->setPenPressure(PenPressure::Size);
+    document->setPressure(0.1f);
+    press(20, 50);
+    document->setPressure(1);
+    drag(180, 50);
+    release(180, 50);
+    settle();
+    const auto heightAt = [this](int x) {
+        int count = 0;
+        for (int y = 0; y < picture().height(); ++y) count += painted(x, y);
+        return count;
+    };
+    EXPECT_LT(heightAt(40), heightAt(100));
+    EXPECT_LT(heightAt(100), heightAt(160));
+    document->setPressure(1);
+}
+
 TEST_F(Stroke, APointerThatStandsStillAddsNoPoints)
 {
     press(50, 50);
