@@ -729,6 +729,10 @@
         <source>Its steps could not be read.</source>
         <translation>Seine Schritte konnten nicht gelesen werden.</translation>
     </message>
+    <message>
+        <source>It will be offered again at the next start.</source>
+        <translation>Es wird beim nächsten Start wieder angeboten.</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>

@@ -729,6 +729,10 @@
         <source>Its steps could not be read.</source>
         <translation>No se pudieron leer sus pasos.</translation>
     </message>
+    <message>
+        <source>It will be offered again at the next start.</source>
+        <translation>Se volverá a ofrecer en el próximo inicio.</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>

@@ -729,6 +729,10 @@
         <source>Its steps could not be read.</source>
         <translation>Ses étapes n’ont pas pu être lues.</translation>
     </message>
+    <message>
+        <source>It will be offered again at the next start.</source>
+        <translation>Elle sera proposée de nouveau au prochain démarrage.</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>

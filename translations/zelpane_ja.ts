@@ -719,6 +719,10 @@
         <source>Its steps could not be read.</source>
         <translation>手順を読み込めませんでした。</translation>
     </message>
+    <message>
+        <source>It will be offered again at the next start.</source>
+        <translation>次回の起動時にもう一度提示されます。</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>

@@ -729,6 +729,10 @@
         <source>Its steps could not be read.</source>
         <translation>Não foi possível ler os passos dela.</translation>
     </message>
+    <message>
+        <source>It will be offered again at the next start.</source>
+        <translation>Ela será oferecida novamente na próxima inicialização.</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>

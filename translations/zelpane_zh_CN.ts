@@ -719,6 +719,10 @@
         <source>Its steps could not be read.</source>
         <translation>无法读取其步骤。</translation>
     </message>
+    <message>
+        <source>It will be offered again at the next start.</source>
+        <translation>下次启动时会再次提供。</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>

@@ -437,6 +437,8 @@ void History::drop(const Aside& aside)
     if (aside.folder) store().dropAside(*aside.folder);
 }
 
+bool History::leaveBehind(const Aside& aside) { return aside.folder && store().leaveBehind(*aside.folder); }
+
 bool History::isThere(const Aside& aside)
 {
     if (!aside.folder) return true; // in memory

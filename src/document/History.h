@@ -116,6 +116,8 @@ public:
     /// As much of @p aside's as can be known of steps that another run of the program wrote.
     static Aside readAside(int folder, const RecoverableWork& work);
     static void drop(const Aside& aside);
+    /// The next start offers them. @return false when they stay, and go with the program
+    static bool leaveBehind(const Aside& aside);
     static bool isThere(const Aside& aside);
     /// The program quits: the folder goes.
     void close();

@@ -14,8 +14,8 @@ class Edit;
 /// Nothing for the empty picture. The caller replaces the bitmap afterwards.
 void shelvePicture(Edit& edit);
 /// Makes what another run of the program left the document's picture: its pixels, its path and both numbers, with the
-/// steps as they were, so that undo and redo go on from there. Refused when the steps are gone meanwhile: the document
-/// is as it was. Main thread.
+/// steps as they were, so that undo and redo go on from there. Refused with a sentence when that cannot be: the
+/// document is as it was, and what is still there is left for the next start. Main thread.
 Outcome recover(Document& document, const LeftPicture& left);
 
 } // namespace zp

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Pictures that make room for another one, and come back.
+#include "base/Folders.h"
 #include "codecs/FileNames.h"
 #include "document/Document.h"
 #include "document/Gesture.h"
@@ -19,23 +20,33 @@ namespace
 
 constexpr const char* kAnchorSelection = QT_TRANSLATE_NOOP("Steps", "Anchor Selection");
 
-/// A shelved picture becomes the current one; nothing may be there to be lost.
-bool show(Edit& edit, ShelvedPicture shelved)
+QString couldNotBeBroughtBack()
+{
+    return QCoreApplication::translate("Files", "The picture could not be brought back.");
+}
+QString stepsAreGone()
+{
+    return QCoreApplication::translate("Files", "Its steps are gone from the folder of temporary files.");
+}
+QString offeredAgain() { return QCoreApplication::translate("Files", "It will be offered again at the next start."); }
+
+/// A shelved picture becomes the current one; nothing may be there to be lost. @return false when its pixels cannot be
+/// had: its steps may have become the current ones all the same
+bool install(Edit& edit, ShelvedPicture& shelved)
 try {
-    const std::int32_t position = shelved.steps.position;
-    const bool hasSteps = edit.history().bringBack(std::move(shelved.steps));
-    std::shared_ptr<BitmapRep> first = std::move(shelved.pixels);
-    const auto install = [&](std::shared_ptr<BitmapRep> rep) {
+    const bool hasSteps = edit.history().bringBack(shelved.steps);
+    std::shared_ptr<BitmapRep> first = shelved.pixels;
+    const auto put = [&](std::shared_ptr<BitmapRep> rep) {
         rep->properties.userComment = kEditedComment;
         edit.replacePicture(std::move(rep), kOpenedPicture);
     };
     edit.replacePicture(nullptr, kInternalPicture);
     if (first)
-        install(std::move(first));
-    else if (!hasSteps || !edit.history().goTo(position, edit.picture(), install))
+        put(std::move(first));
+    else if (!hasSteps || !edit.history().goTo(shelved.steps.position, edit.picture(), put))
         return false;
-    edit.picture().setPath(std::move(shelved.path));
-    edit.picture().setFiles(std::move(shelved.files));
+    edit.picture().setPath(shelved.path);
+    edit.picture().setFiles(shelved.files);
     edit.document().dropNoticesOfFile();
     edit.gesture().openPolygon(false);
     edit.history().notePosition(edit.picture());
@@ -44,6 +55,29 @@ try {
     return true;
 } catch (const std::bad_alloc&) {
     return false;
+}
+
+/// The same, all or nothing: what cannot be shown is aside again.
+bool show(Edit& edit, ShelvedPicture& shelved)
+{
+    if (install(edit, shelved)) return true;
+    edit.replacePicture(nullptr, kInternalPicture);
+    if (edit.history().newest() >= 0) shelved.steps = edit.history().putAside();
+    return false;
+}
+
+/// The picture that made room for one that cannot be shown is there again.
+void showAgain(Edit& edit, std::uint64_t order)
+{
+    edit.shelf().broughtBack(order);
+    if (auto before = edit.shelf().take(order)) show(edit, *before);
+}
+
+/// Nothing is thrown away because it could not be read once: memory may have been short.
+void refuseToShow(Edit& edit, const ShelvedPicture& shelved)
+{
+    const QString why = QCoreApplication::translate("Files", "Its steps could not be read.");
+    edit.refuse(couldNotBeBroughtBack(), History::leaveBehind(shelved.steps) ? why + ' ' + offeredAgain() : why);
 }
 
 } // namespace
@@ -72,36 +106,43 @@ void operations::previousPicture(Edit& edit, const Arguments&)
     auto previous = edit.shelf().takePrevious();
     if (!previous) return edit.refuse();
     const std::uint64_t order = edit.shelf().order(), orderOfPrevious = previous->order;
-    const bool isThere = History::isThere(previous->steps) || previous->pixels;
-    if (isThere) {
-        shelvePicture(edit);
-        edit.shelf().broughtBack(orderOfPrevious);
-        if (show(edit, std::move(*previous))) return;
-        edit.shelf().broughtBack(order);
-        if (auto current = edit.shelf().take(order)) show(edit, std::move(*current));
+    if (!History::isThere(previous->steps) && !previous->pixels)
+        return edit.refuse(couldNotBeBroughtBack(), stepsAreGone());
+    shelvePicture(edit);
+    edit.shelf().broughtBack(orderOfPrevious);
+    if (show(edit, *previous)) return;
+    if (previous->pixels) { // nothing but memory can be missing for these
+        edit.shelf().put(std::move(*previous));
+        showAgain(edit, order);
+        return edit.refuse(QCoreApplication::translate("Document", "There is not enough memory."), {});
     }
-    edit.refuse(QCoreApplication::translate("Files", "The picture could not be brought back."),
-                QCoreApplication::translate("Files", "Its steps are gone from the folder of temporary files."));
+    showAgain(edit, order);
+    refuseToShow(edit, *previous);
 }
 
 Outcome recover(Document& document, const LeftPicture& left)
 {
     static constexpr Command kRecover{.action = "recover", .effect = Effect::Replace, .onFloat = OnFloat::Settle};
-    bool recovered = false;
-    const Outcome outcome = document.perform(kRecover, [&](Edit& edit) {
+    return document.perform(kRecover, [&](Edit& edit) {
         const auto number = takeOver(SnapshotStore::shared(), left);
-        if (!number) return;
+        if (!number)
+            return edit.refuse(couldNotBeBroughtBack(),
+                               isFolder(pathByAppending(left.folder, left.name)) ? offeredAgain() : stepsAreGone());
         ShelvedPicture shelved;
-        shelved.path = left.work.imagePath;
-        shelved.steps = History::readAside(*number, left.work);
-        shelvePicture(edit);
+        const std::uint64_t order = edit.shelf().order();
+        try {
+            shelved.path = left.work.imagePath;
+            shelved.steps = History::readAside(*number, left.work);
+            shelvePicture(edit);
+        } catch (const std::bad_alloc&) {
+            SnapshotStore::shared().leaveBehind(*number);
+            throw;
+        }
         edit.shelf().opened();
-        recovered = show(edit, std::move(shelved));
-        if (!recovered)
-            edit.alert(QCoreApplication::translate("Files", "The picture could not be brought back."),
-                       QCoreApplication::translate("Files", "Its steps could not be read."));
+        if (show(edit, shelved)) return;
+        showAgain(edit, order);
+        refuseToShow(edit, shelved);
     });
-    return recovered ? outcome : Outcome{Outcome::Refused, {}};
 }
 
 } // namespace zp

@@ -6,6 +6,7 @@
 #include "undo/PicturesAside.h"
 #include "undo/SnapshotStore.h"
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -38,6 +39,8 @@ private:
 
 int openFolder(const std::string& path) { return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }
 
+std::string leftName(int number) { return std::string(kUndoFolderName) + ".left-" + std::to_string(number); }
+
 /// The left folder goes when nothing is left in it.
 void removeIfEmpty(int parent, const std::string& name, int folder)
 {
@@ -59,11 +62,27 @@ bool hasLeftWork(int folder) { return hasRecoveryRecord(folder) || !aside::numbe
 bool moveLeftFolderAside(int parent, const std::string& name)
 {
     for (int i = 1; i <= kMostLeft; ++i) {
-        const std::string to = std::string(kUndoFolderName) + ".left-" + std::to_string(i);
+        const std::string to = leftName(i);
         struct stat there {
         };
         if (fstatat(parent, to.c_str(), &there, AT_SYMLINK_NOFOLLOW) == 0) continue;
         if (renameat(parent, name.c_str(), parent, to.c_str()) == 0) return true;
+    }
+    return false;
+}
+
+bool leaveBehind(int parent, int from, const std::string& picture)
+{
+    for (int i = 1; i <= kMostLeft; ++i) {
+        const std::string to = leftName(i);
+        if (mkdirat(parent, to.c_str(), 0700) != 0) {
+            if (errno == EEXIST) continue;
+            return false;
+        }
+        const Handle left(folder::openExistingInner(parent, to));
+        if (left >= 0 && renameat(from, picture.c_str(), left, picture.c_str()) == 0) return true;
+        unlinkat(parent, to.c_str(), AT_REMOVEDIR);
+        return false;
     }
     return false;
 }

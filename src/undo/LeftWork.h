@@ -26,6 +26,10 @@ bool hasLeftWork(int folder);
 /// Moves a folder with left work out of the way of its name, the lock with it. @return false when it stays
 bool moveLeftFolderAside(int parent, const std::string& name);
 
+/// A picture's folder @p picture in the open folder @p from becomes left work in @p parent, as if its program had died:
+/// the next start offers it. @return false when it stays where it is
+bool leaveBehind(int parent, int from, const std::string& picture);
+
 /// All pictures that were left, the newest first; what belongs to running programs is not among them. Main thread;
 /// time: a read of each one's last step.
 std::vector<LeftPicture> leftPictures();

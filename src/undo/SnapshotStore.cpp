@@ -276,4 +276,10 @@ std::optional<int> SnapshotStore::takeOver(int parent, const std::string& name)
     return number;
 }
 
+bool SnapshotStore::leaveBehind(int number)
+{
+    const std::lock_guard lock(mMutex);
+    return mFolder >= 0 && zp::leaveBehind(mParent, mFolder, aside::folderName(number));
+}
+
 } // namespace zp

@@ -92,6 +92,8 @@ public:
     /// A whole picture's folder that was left by another run becomes one of these: @p name in the folder @p parent.
     /// @return its number; nothing when it cannot be moved here
     std::optional<int> takeOver(int parent, const std::string& name);
+    /// The way back: what cannot be shown now is left for the next start. @return false when it stays here
+    bool leaveBehind(int number);
 
 private:
     bool open();
