@@ -13,6 +13,7 @@
 #include "canvas/ZPCanvas.h"
 #include "codecs/ImageImporter.h"
 #include "desktop/ColorWell.h"
+#include "desktop/Desktop.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/KeyRoles.h"
 #include "desktop/NoticeBar.h"
@@ -50,6 +51,7 @@ using namespace zp;
 namespace
 {
 
+constexpr QSize kWindowSize{1180, 780};
 constexpr const char* kZoomTitles[] = {"6.25%", "12.5%", "25%", "50%", "100%", "200%", "400%", "800%", "1600%"};
 static_assert(std::size(kZoomTitles) == kZoomLevels.size());
 
@@ -121,7 +123,7 @@ MainWindow::MainWindow(Document& document)
         if (last) setTabOrder(last, next);
         last = next;
     }
-    resize(1180, 780);
+    resize(sizeOnScreen(this, kWindowSize));
     setUpHistory();
     mCanvas->setFocus(); // single keys are commands of the canvas
 }
@@ -163,6 +165,7 @@ void MainWindow::setUpTools()
     }
     mUi->toolColumn->addStretch();
     mUi->mToolPopUp->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    mUi->mToolPopUp->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); // the sliders give way, not the name
     const auto choose = [this](int index) {
         mCanvas->setTool(index);
         giveFocusBack();

@@ -41,6 +41,9 @@ private:
     QString mKey;
 };
 
+constexpr int kTitleBar = 40; ///< the highest that desktops draw, in pixels before scaling
+constexpr int kPanels = 64;   ///< one at the top and one at the bottom, or a large one
+
 bool liesOnAScreen(const QRect& frame)
 {
     for (const QScreen* screen : QGuiApplication::screens()) {
@@ -66,6 +69,16 @@ bool setFrameAutosaveName(QWidget* window, const QString& name)
     new FrameKeeper(window, key);
     window->setProperty(kKeptProperty, restored || window->property(kKeptProperty).toBool());
     return restored;
+}
+
+QSize sizeOnScreen(const QWidget* window, QSize wanted)
+{
+    // Without a screen there is nothing to leave room for, and pictures of windows must be the same everywhere.
+    if (QGuiApplication::platformName() == "offscreen" || !window->screen()) return wanted;
+    // Where a compositor places windows the panels of the desktop are in what it calls the screen.
+    const bool panelsToo = QGuiApplication::platformName().startsWith("wayland");
+    const QSize taken(0, panelsToo ? kTitleBar + kPanels : kTitleBar);
+    return wanted.boundedTo(window->screen()->availableSize() - taken);
 }
 
 bool windowsAreKept() { return settings().value(kKeptSetting, false).toBool(); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Small services of the desktop for windows: remembered frames, and paths that cross between Qt and bytes.
 #pragma once
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <string>
@@ -22,6 +23,9 @@ void setWindowsKept(bool on);
 /// When windows are kept: brings the window's last frame back, known by its object name, and keeps it from now on.
 /// @return whether it stands where it was put
 bool placeWhereKept(QWidget* window);
+
+/// @return the size, lowered where the window's screen is smaller than it with a title bar and the desktop's panels
+QSize sizeOnScreen(const QWidget* window, QSize wanted);
 
 /// A path for Qt and for people; bytes that are not UTF-8 are shown as replacements, so it may not lead back.
 QString textFromPath(const std::string& path);

@@ -23,4 +23,7 @@ objdump -p "$work/tree/usr/bin/zelpane" | sed -n 's/^ *NEEDED *//p' | while read
 done | sort -u >"$work/linked"
 dpkg-deb -f "$package" Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//' | sort -u >"$work/depends"
 diff "$work/linked" "$work/depends" >&2 || fail "the package depends on other packages than those that the program links"
-[ "$(dpkg-deb -f "$package" Recommends)" = "fonts-ebgaramond, qt6-wayland" ] || fail "the package recommends something else"
+# What it only loads is recommended, and no more.
+recommended=$(dpkg-deb -f "$package" Recommends | tr -d '\n' | tr -s ' ')
+[ "$recommended" = "fonts-ebgaramond, qt6-translations-l10n, qt6-wayland, qt6-xdgdesktopportal-platformtheme" ] ||
+    fail "the package recommends $recommended"
