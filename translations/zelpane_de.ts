@@ -1988,6 +1988,18 @@
         <source>No</source>
         <translation>Nein</translation>
     </message>
+    <message>
+        <source>Save Image</source>
+        <translation>Bild sichern</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Bild öffnen</translation>
+    </message>
 </context>
 <context>
     <name>Prefs</name>
@@ -3379,6 +3391,10 @@
             <numerusform>%n Datei konnte nicht verarbeitet werden.</numerusform>
             <numerusform>%n Dateien konnten nicht verarbeitet werden.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keins</translation>
     </message>
 </context>
 <context>

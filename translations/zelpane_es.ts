@@ -1988,6 +1988,18 @@
         <source>No</source>
         <translation>No</translation>
     </message>
+    <message>
+        <source>Save Image</source>
+        <translation>Guardar imagen</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Elegir carpeta</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Abrir imagen</translation>
+    </message>
 </context>
 <context>
     <name>Prefs</name>
@@ -3379,6 +3391,10 @@
             <numerusform>%n archivo no se pudo procesar.</numerusform>
             <numerusform>%n archivos no se pudieron procesar.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
     </message>
 </context>
 <context>

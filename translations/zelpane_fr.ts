@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>selected: %1</source>
-        <translation>sélection : %1</translation>
+        <translation>sélection&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -47,11 +47,11 @@
     </message>
     <message>
         <source>&amp;Hue:</source>
-        <translation>&amp;Teinte :</translation>
+        <translation>&amp;Teinte&#xa0;:</translation>
     </message>
     <message>
         <source>Turns all colours about the grey axis, in hundredths of a radian; 0 leaves them as they are</source>
-        <translation>Fait tourner toutes les couleurs autour de l’axe des gris, en centièmes de radian ; 0 les laisse telles quelles</translation>
+        <translation>Fait tourner toutes les couleurs autour de l’axe des gris, en centièmes de radian&#x202f;; 0 les laisse telles quelles</translation>
     </message>
     <message>
         <source>Hue slider</source>
@@ -63,11 +63,11 @@
     </message>
     <message>
         <source>Sa&amp;turation:</source>
-        <translation>&amp;Saturation :</translation>
+        <translation>&amp;Saturation&#xa0;:</translation>
     </message>
     <message>
         <source>Strength of the colours: 0 is grey, 100 leaves them as they are</source>
-        <translation>Force des couleurs : 0 donne du gris, 100 les laisse telles quelles</translation>
+        <translation>Force des couleurs&#xa0;: 0 donne du gris, 100 les laisse telles quelles</translation>
     </message>
     <message>
         <source>Saturation slider</source>
@@ -83,11 +83,11 @@
     </message>
     <message>
         <source>&amp;Brightness:</source>
-        <translation>&amp;Luminosité :</translation>
+        <translation>&amp;Luminosité&#xa0;:</translation>
     </message>
     <message>
         <source>Added to every colour; 0 leaves them as they are</source>
-        <translation>S’ajoute à chaque couleur ; 0 les laisse telles quelles</translation>
+        <translation>S’ajoute à chaque couleur&#x202f;; 0 les laisse telles quelles</translation>
     </message>
     <message>
         <source>Brightness slider</source>
@@ -99,11 +99,11 @@
     </message>
     <message>
         <source>&amp;Contrast:</source>
-        <translation>&amp;Contraste :</translation>
+        <translation>&amp;Contraste&#xa0;:</translation>
     </message>
     <message>
         <source>Distance from mid grey; 100 leaves it as it is</source>
-        <translation>Distance au gris moyen ; 100 la laisse telle quelle</translation>
+        <translation>Distance au gris moyen&#x202f;; 100 la laisse telle quelle</translation>
     </message>
     <message>
         <source>Contrast slider</source>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>&amp;Sharpness:</source>
-        <translation>&amp;Netteté :</translation>
+        <translation>&amp;Netteté&#xa0;:</translation>
     </message>
     <message>
         <source>Above 0 sharpens, below 0 blurs</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>Closes the dialog; the adjustment shown stays and can be undone once anchored</source>
-        <translation>Ferme le dialogue ; l’ajustement affiché reste et peut être annulé une fois ancré</translation>
+        <translation>Ferme le dialogue&#x202f;; l’ajustement affiché reste et peut être annulé une fois ancré</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>Closes the dialog; the adjustment shown stays</source>
-        <translation>Ferme le dialogue ; l’ajustement affiché reste</translation>
+        <translation>Ferme le dialogue&#x202f;; l’ajustement affiché reste</translation>
     </message>
     <message>
         <source>The selection could not be adjusted.</source>
@@ -192,7 +192,7 @@
     </message>
     <message>
         <source>The picture is too large: %1 x %2 pixels.</source>
-        <translation>L’image est trop grande : %1 × %2 pixels.</translation>
+        <translation>L’image est trop grande&#xa0;: %1 × %2 pixels.</translation>
     </message>
     <message>
         <source>The file is far too small for the %1 x %2 pixels it claims to hold.</source>
@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>The file cannot be read: %1.</source>
-        <translation>Le fichier est illisible : %1.</translation>
+        <translation>Le fichier est illisible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>There is not enough memory to read the file.</source>
@@ -244,7 +244,7 @@
     </message>
     <message>
         <source>The picture cannot be read: %1.</source>
-        <translation>L’image est illisible : %1.</translation>
+        <translation>L’image est illisible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The picture cannot be read.</source>
@@ -272,7 +272,7 @@
     </message>
     <message>
         <source>The JPEG data cannot be read: %1.</source>
-        <translation>Les données JPEG sont illisibles : %1.</translation>
+        <translation>Les données JPEG sont illisibles&#xa0;: %1.</translation>
     </message>
     <message>
         <source>JPEG pictures with two components cannot be read.</source>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>The JPEG data is damaged; what could be read is shown.</source>
-        <translation>Les données JPEG sont endommagées ; ce qui a pu être lu est affiché.</translation>
+        <translation>Les données JPEG sont endommagées&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
     <message>
         <source>The %1 picture is larger than the limits of this machine allow.</source>
@@ -288,17 +288,17 @@
     </message>
     <message>
         <source>The %1 data cannot be read: %2.</source>
-        <translation>Les données %1 sont illisibles : %2.</translation>
+        <translation>Les données %1 sont illisibles&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The picture&apos;s data is damaged; what could be read is shown.</source>
-        <translation>Les données de l’image sont endommagées ; ce qui a pu être lu est affiché.</translation>
+        <translation>Les données de l’image sont endommagées&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
     <message numerus="yes">
         <source>The picture had %n bits a colour; it was reduced to 8.</source>
         <translation>
-            <numerusform>L’image avait %n bit par couleur ; elle a été réduite à 8.</numerusform>
-            <numerusform>L’image avait %n bits par couleur ; elle a été réduite à 8.</numerusform>
+            <numerusform>L’image avait %n bit par couleur&#x202f;; elle a été réduite à 8.</numerusform>
+            <numerusform>L’image avait %n bits par couleur&#x202f;; elle a été réduite à 8.</numerusform>
         </translation>
     </message>
     <message>
@@ -319,7 +319,7 @@
     </message>
     <message>
         <source>The picture was converted to RGB; its colour profile was left out.</source>
-        <translation>L’image a été convertie en RVB ; son profil de couleur a été laissé de côté.</translation>
+        <translation>L’image a été convertie en RVB&#x202f;; son profil de couleur a été laissé de côté.</translation>
     </message>
     <message>
         <source>The colour profile does not fit the picture and was left out.</source>
@@ -331,43 +331,43 @@
     </message>
     <message>
         <source>The file is damaged or ended too early; what could be read is shown.</source>
-        <translation>Le fichier est endommagé ou s’arrête trop tôt ; ce qui a pu être lu est affiché.</translation>
+        <translation>Le fichier est endommagé ou s’arrête trop tôt&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
     <message numerus="yes">
         <source>The file has %n page(s); this is the first.</source>
         <translation>
-            <numerusform>Le fichier a %n page ; voici la première.</numerusform>
-            <numerusform>Le fichier a %n pages ; voici la première.</numerusform>
+            <numerusform>Le fichier a %n page&#x202f;; voici la première.</numerusform>
+            <numerusform>Le fichier a %n pages&#x202f;; voici la première.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The file has %n frame(s); this is the first.</source>
         <translation>
-            <numerusform>Le fichier a %n trame ; voici la première.</numerusform>
-            <numerusform>Le fichier a %n trames ; voici la première.</numerusform>
+            <numerusform>Le fichier a %n trame&#x202f;; voici la première.</numerusform>
+            <numerusform>Le fichier a %n trames&#x202f;; voici la première.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The file has %n layer(s); this is what they make together.</source>
         <translation>
-            <numerusform>Le fichier a %n calque ; voici ce qu’il donne.</numerusform>
-            <numerusform>Le fichier a %n calques ; voici ce qu’ils donnent ensemble.</numerusform>
+            <numerusform>Le fichier a %n calque&#x202f;; voici ce qu’il donne.</numerusform>
+            <numerusform>Le fichier a %n calques&#x202f;; voici ce qu’ils donnent ensemble.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The file has %n bits a colour; the picture has 8.</source>
         <translation>
-            <numerusform>Le fichier a %n bit par couleur ; l’image en a 8.</numerusform>
-            <numerusform>Le fichier a %n bits par couleur ; l’image en a 8.</numerusform>
+            <numerusform>Le fichier a %n bit par couleur&#x202f;; l’image en a 8.</numerusform>
+            <numerusform>Le fichier a %n bits par couleur&#x202f;; l’image en a 8.</numerusform>
         </translation>
     </message>
     <message>
         <source>The file is in printing inks; the picture is in red, green and blue.</source>
-        <translation>Le fichier est en encres d’impression ; l’image est en rouge, vert et bleu.</translation>
+        <translation>Le fichier est en encres d’impression&#x202f;; l’image est en rouge, vert et bleu.</translation>
     </message>
     <message>
         <source>Save writes quality %1; this file has %2.</source>
-        <translation>Enregistrer écrit la qualité %1 ; ce fichier a %2.</translation>
+        <translation>Enregistrer écrit la qualité %1&#x202f;; ce fichier a %2.</translation>
     </message>
     <message numerus="yes">
         <source>%n page(s)</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>The PNG data cannot be read: %1.</source>
-        <translation>Les données PNG sont illisibles : %1.</translation>
+        <translation>Les données PNG sont illisibles&#xa0;: %1.</translation>
     </message>
     <message>
         <source>its header is damaged</source>
@@ -431,23 +431,23 @@
     </message>
     <message>
         <source>The PNG data cannot be read: a checksum of its pixels is wrong.</source>
-        <translation>Les données PNG sont illisibles : une somme de contrôle de leurs pixels est fausse.</translation>
+        <translation>Les données PNG sont illisibles&#xa0;: une somme de contrôle de leurs pixels est fausse.</translation>
     </message>
     <message>
         <source>The PNG data cannot be read: not one row of its pixels is whole.</source>
-        <translation>Les données PNG sont illisibles : pas une ligne de pixels n’est entière.</translation>
+        <translation>Les données PNG sont illisibles&#xa0;: pas une ligne de pixels n’est entière.</translation>
     </message>
     <message>
         <source>The PNG data is damaged; what could be read is shown.</source>
-        <translation>Les données PNG sont endommagées ; ce qui a pu être lu est affiché.</translation>
+        <translation>Les données PNG sont endommagées&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
     <message>
         <source>The PSD data cannot be read: its palette is damaged.</source>
-        <translation>Les données PSD sont illisibles : leur palette est endommagée.</translation>
+        <translation>Les données PSD sont illisibles&#xa0;: leur palette est endommagée.</translation>
     </message>
     <message>
         <source>The PSD data is damaged; what could be read is shown.</source>
-        <translation>Les données PSD sont endommagées ; ce qui a pu être lu est affiché.</translation>
+        <translation>Les données PSD sont endommagées&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
     <message>
         <source>The TIFF structure is damaged.</source>
@@ -463,27 +463,27 @@
     </message>
     <message>
         <source>The TIFF structure is damaged: its strips or tiles have no size.</source>
-        <translation>La structure du fichier TIFF est endommagée : ses bandes ou tuiles n’ont pas de taille.</translation>
+        <translation>La structure du fichier TIFF est endommagée&#xa0;: ses bandes ou tuiles n’ont pas de taille.</translation>
     </message>
     <message>
         <source>The TIFF structure is damaged: its strips or tiles are too large.</source>
-        <translation>La structure du fichier TIFF est endommagée : ses bandes ou tuiles sont trop grandes.</translation>
+        <translation>La structure du fichier TIFF est endommagée&#xa0;: ses bandes ou tuiles sont trop grandes.</translation>
     </message>
     <message>
         <source>The TIFF structure is damaged: it has too many strips or tiles.</source>
-        <translation>La structure du fichier TIFF est endommagée : il a trop de bandes ou de tuiles.</translation>
+        <translation>La structure du fichier TIFF est endommagée&#xa0;: il a trop de bandes ou de tuiles.</translation>
     </message>
     <message>
         <source>The TIFF data cannot be read: %1.</source>
-        <translation>Les données TIFF sont illisibles : %1.</translation>
+        <translation>Les données TIFF sont illisibles&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The TIFF data is damaged: %1.</source>
-        <translation>Les données TIFF sont endommagées : %1.</translation>
+        <translation>Les données TIFF sont endommagées&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The TIFF data is damaged; what could be read is shown.</source>
-        <translation>Les données TIFF sont endommagées ; ce qui a pu être lu est affiché.</translation>
+        <translation>Les données TIFF sont endommagées&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
 </context>
 <context>
@@ -632,7 +632,7 @@
     </message>
     <message>
         <source>Not opened: %1</source>
-        <translation>Non ouvert : %1</translation>
+        <translation>Non ouvert&#xa0;: %1</translation>
     </message>
     <message>
         <source>OK</source>
@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>Not saved: %1</source>
-        <translation>Non enregistré : %1</translation>
+        <translation>Non enregistré&#xa0;: %1</translation>
     </message>
     <message>
         <source>The file could not be saved.</source>
@@ -687,7 +687,7 @@
     </message>
     <message>
         <source>Choose &apos;File&apos; &gt; &apos;Save as TIFF…&apos; or &apos;File&apos; &gt; &apos;Save as JPEG…&apos; to save the image in another image format.</source>
-        <translation>Choisissez « Fichier » &gt; « Enregistrer en TIFF… » ou « Fichier » &gt; « Enregistrer en JPEG… » pour enregistrer l’image dans un autre format.</translation>
+        <translation>Choisissez «&#xa0;Fichier&#xa0;» &gt; «&#xa0;Enregistrer en TIFF…&#xa0;» ou «&#xa0;Fichier&#xa0;» &gt; «&#xa0;Enregistrer en JPEG…&#xa0;» pour enregistrer l’image dans un autre format.</translation>
     </message>
     <message>
         <source>The file holds more than the picture.</source>
@@ -715,7 +715,7 @@
     </message>
     <message>
         <source>Do you want to overwrite the existing file?</source>
-        <translation>Voulez-vous remplacer le fichier existant ?</translation>
+        <translation>Voulez-vous remplacer le fichier existant&#x202f;?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Nothing was undone: what is on screen could be kept neither on the disk nor in memory.</source>
-        <translation>Rien n’a été annulé : ce qui est à l’écran n’a pu être gardé ni sur le disque ni en mémoire.</translation>
+        <translation>Rien n’a été annulé&#xa0;: ce qui est à l’écran n’a pu être gardé ni sur le disque ni en mémoire.</translation>
     </message>
     <message>
         <source>there is no undo folder</source>
@@ -825,11 +825,11 @@
     </message>
     <message>
         <source>The very pixels of the last change could not be kept (%1). Undo brings them back from a JPEG copy: colours may differ a little.</source>
-        <translation>Les pixels exacts de la dernière modification n’ont pas pu être conservés (%1). L’annulation les reprend d’une copie JPEG : les couleurs peuvent différer légèrement.</translation>
+        <translation>Les pixels exacts de la dernière modification n’ont pas pu être conservés (%1). L’annulation les reprend d’une copie JPEG&#xa0;: les couleurs peuvent différer légèrement.</translation>
     </message>
     <message>
         <source>The very pixels of this step could not be read. What is shown comes from its JPEG copy: colours may differ a little.</source>
-        <translation>Les pixels exacts de cette étape n’ont pas pu être lus. L’image affichée vient de sa copie JPEG : les couleurs peuvent différer légèrement.</translation>
+        <translation>Les pixels exacts de cette étape n’ont pas pu être lus. L’image affichée vient de sa copie JPEG&#xa0;: les couleurs peuvent différer légèrement.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
     </message>
     <message>
         <source>There is no room for the very pixels of this step: it comes back as its files hold it, nearly the same.</source>
-        <translation>Il n’y a pas de place pour les pixels exacts de cette étape : elle revient telle que ses fichiers la gardent, presque pareille.</translation>
+        <translation>Il n’y a pas de place pour les pixels exacts de cette étape&#xa0;: elle revient telle que ses fichiers la gardent, presque pareille.</translation>
     </message>
     <message>
         <source>This step could not be kept.</source>
@@ -867,7 +867,7 @@
     </message>
     <message>
         <source>&amp;Source folder:</source>
-        <translation>&amp;Dossier source :</translation>
+        <translation>&amp;Dossier source&#xa0;:</translation>
     </message>
     <message>
         <source>Every .tiff and .jpg image in it</source>
@@ -879,11 +879,11 @@
     </message>
     <message>
         <source>&amp;Destination folder:</source>
-        <translation>D&amp;ossier de destination :</translation>
+        <translation>D&amp;ossier de destination&#xa0;:</translation>
     </message>
     <message>
         <source>Save as:</source>
-        <translation>Enregistrer en :</translation>
+        <translation>Enregistrer en&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;TIFF</source>
@@ -895,7 +895,7 @@
     </message>
     <message>
         <source>Size:</source>
-        <translation>Taille :</translation>
+        <translation>Taille&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Fit into</source>
@@ -919,7 +919,7 @@
     </message>
     <message>
         <source>&amp;Watermark:</source>
-        <translation>&amp;Filigrane :</translation>
+        <translation>&amp;Filigrane&#xa0;:</translation>
     </message>
     <message>
         <source>None</source>
@@ -931,7 +931,7 @@
     </message>
     <message>
         <source>&amp;Position:</source>
-        <translation>&amp;Position :</translation>
+        <translation>&amp;Position&#xa0;:</translation>
     </message>
     <message>
         <source>Fills in the position for images as large as the box</source>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>&amp;Opacity:</source>
-        <translation>Opac&amp;ité :</translation>
+        <translation>Opac&amp;ité&#xa0;:</translation>
     </message>
     <message>
         <source> %</source>
@@ -1075,11 +1075,11 @@
     </message>
     <message>
         <source>&amp;Saved selection:</source>
-        <translation>&amp;Sélection enregistrée :</translation>
+        <translation>&amp;Sélection enregistrée&#xa0;:</translation>
     </message>
     <message>
         <source>The outline to use; it lands where it was drawn</source>
-        <translation>Le contour à utiliser ; il se place là où il a été dessiné</translation>
+        <translation>Le contour à utiliser&#x202f;; il se place là où il a été dessiné</translation>
     </message>
     <message>
         <source>The selection that there is now is dropped, a floating one with its pixels.</source>
@@ -1114,7 +1114,7 @@
     <name>LoadSelectionDialog</name>
     <message>
         <source>Do you wish to delete the folder with all that is in it?</source>
-        <translation>Voulez-vous supprimer le dossier avec tout ce qu’il contient ?</translation>
+        <translation>Voulez-vous supprimer le dossier avec tout ce qu’il contient&#x202f;?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>Diameter of brush, pencil, eraser and clone stamp in pixels; also the text size and the width of strokes</source>
-        <translation>Diamètre du pinceau, du crayon, de la gomme et du clonage en pixels ; aussi la taille du texte et l’épaisseur des contours</translation>
+        <translation>Diamètre du pinceau, du crayon, de la gomme et du clonage en pixels&#x202f;; aussi la taille du texte et l’épaisseur des contours</translation>
     </message>
     <message>
         <source>Size in pixels</source>
@@ -1288,7 +1288,7 @@
     </message>
     <message>
         <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
-        <translation>Le gestionnaire de fenêtres déplace les fenêtres avec %1 et la souris : %1 n’atteint donc jamais l’image. Les boutons ci-dessus font la même chose.</translation>
+        <translation>Le gestionnaire de fenêtres déplace les fenêtres avec %1 et la souris&#xa0;: %1 n’atteint donc jamais l’image. Les boutons ci-dessus font la même chose.</translation>
     </message>
     <message>
         <source>Use %1 instead</source>
@@ -1375,7 +1375,7 @@
     </message>
     <message>
         <source>Writes a TIFF file; transparency is kept</source>
-        <translation>Écrit un fichier TIFF ; la transparence est gardée</translation>
+        <translation>Écrit un fichier TIFF&#x202f;; la transparence est gardée</translation>
     </message>
     <message>
         <source>Save as JPEG…</source>
@@ -1383,7 +1383,7 @@
     </message>
     <message>
         <source>Writes a JPEG file; transparent areas become white</source>
-        <translation>Écrit un fichier JPEG ; les parties transparentes deviennent blanches</translation>
+        <translation>Écrit un fichier JPEG&#x202f;; les parties transparentes deviennent blanches</translation>
     </message>
     <message>
         <source>Save as PNG…</source>
@@ -1391,7 +1391,7 @@
     </message>
     <message>
         <source>Writes a PNG file; transparency is kept</source>
-        <translation>Écrit un fichier PNG ; la transparence est gardée</translation>
+        <translation>Écrit un fichier PNG&#x202f;; la transparence est gardée</translation>
     </message>
     <message>
         <source>Save without Private Data…</source>
@@ -1639,7 +1639,7 @@
     </message>
     <message>
         <source>Keeps the outline under a name (key s: the default name)</source>
-        <translation>Garde le contour sous un nom (touche s : le nom par défaut)</translation>
+        <translation>Garde le contour sous un nom (touche s&#xa0;: le nom par défaut)</translation>
     </message>
     <message>
         <source>Load Selection…</source>
@@ -1703,7 +1703,7 @@
     </message>
     <message>
         <source>A crosshair that the numeric pad or Ctrl+arrows move; Ctrl+Space presses the button and lets it go</source>
-        <translation>Un réticule que déplacent le pavé numérique ou Ctrl+flèches ; Ctrl+Espace enfonce le bouton et le relâche</translation>
+        <translation>Un réticule que déplacent le pavé numérique ou Ctrl+flèches&#x202f;; Ctrl+Espace enfonce le bouton et le relâche</translation>
     </message>
     <message>
         <source>History</source>
@@ -1727,7 +1727,7 @@
     </message>
     <message>
         <source>The size of brush, pencil, eraser, text and strokes: a tenth more</source>
-        <translation>Taille du pinceau, du crayon, de la gomme, du texte et des contours : un dixième de plus</translation>
+        <translation>Taille du pinceau, du crayon, de la gomme, du texte et des contours&#xa0;: un dixième de plus</translation>
     </message>
     <message>
         <source>Smaller Brush</source>
@@ -1735,7 +1735,7 @@
     </message>
     <message>
         <source>The size of brush, pencil, eraser, text and strokes: a tenth less</source>
-        <translation>Taille du pinceau, du crayon, de la gomme, du texte et des contours : un dixième de moins</translation>
+        <translation>Taille du pinceau, du crayon, de la gomme, du texte et des contours&#xa0;: un dixième de moins</translation>
     </message>
     <message>
         <source>Swap Colours</source>
@@ -1843,7 +1843,7 @@
     </message>
     <message>
         <source>Paint over a thing and let go: it is filled from its surroundings</source>
-        <translation>Peignez sur un objet et relâchez : il est comblé d’après son entourage</translation>
+        <translation>Peignez sur un objet et relâchez&#xa0;: il est comblé d’après son entourage</translation>
     </message>
 </context>
 <context>
@@ -1854,7 +1854,7 @@
     </message>
     <message>
         <source>&amp;Name of the image in the library:</source>
-        <translation>&amp;Nom de l’image dans la photothèque :</translation>
+        <translation>&amp;Nom de l’image dans la photothèque&#xa0;:</translation>
     </message>
     <message>
         <source>The image is saved as TIFF in the image library</source>
@@ -1892,7 +1892,7 @@
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation>&amp;Largeur :</translation>
+        <translation>&amp;Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>Width of the new image in pixels</source>
@@ -1904,7 +1904,7 @@
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation>&amp;Hauteur :</translation>
+        <translation>&amp;Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source>Height of the new image in pixels</source>
@@ -1912,11 +1912,11 @@
     </message>
     <message>
         <source>&amp;Resolution:</source>
-        <translation>&amp;Résolution :</translation>
+        <translation>&amp;Résolution&#xa0;:</translation>
     </message>
     <message>
         <source>For information; the image is measured in pixels</source>
-        <translation>Pour information ; l’image se mesure en pixels</translation>
+        <translation>Pour information&#x202f;; l’image se mesure en pixels</translation>
     </message>
     <message>
         <source>pixels/inch</source>
@@ -1924,7 +1924,7 @@
     </message>
     <message>
         <source>File size:</source>
-        <translation>Taille du fichier :</translation>
+        <translation>Taille du fichier&#xa0;:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1970,7 +1970,7 @@
     </message>
     <message>
         <source>Quality:</source>
-        <translation>Qualité :</translation>
+        <translation>Qualité&#xa0;:</translation>
     </message>
     <message>
         <source>File already exists</source>
@@ -1978,7 +1978,7 @@
     </message>
     <message>
         <source>Do you want to overwrite the existing file?</source>
-        <translation>Voulez-vous remplacer le fichier existant ?</translation>
+        <translation>Voulez-vous remplacer le fichier existant&#x202f;?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -1987,6 +1987,18 @@
     <message>
         <source>No</source>
         <translation>Non</translation>
+    </message>
+    <message>
+        <source>Save Image</source>
+        <translation>Enregistrer l’image</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Ouvrir une image</translation>
     </message>
 </context>
 <context>
@@ -2001,7 +2013,7 @@
     </message>
     <message>
         <source>&amp;Unit:</source>
-        <translation>&amp;Unité :</translation>
+        <translation>&amp;Unité&#xa0;:</translation>
     </message>
     <message>
         <source>The unit that lengths are shown in</source>
@@ -2025,7 +2037,7 @@
     </message>
     <message>
         <source>&amp;Appearance:</source>
-        <translation>&amp;Apparence :</translation>
+        <translation>&amp;Apparence&#xa0;:</translation>
     </message>
     <message>
         <source>Light or dark windows</source>
@@ -2057,19 +2069,19 @@
     </message>
     <message>
         <source>Some desktops take a key for themselves. Each role can be given to another one; Shift always adds and draws straight.</source>
-        <translation>Certains bureaux prennent une touche pour eux. Chaque rôle peut en recevoir une autre ; Maj ajoute et trace droit toujours.</translation>
+        <translation>Certains bureaux prennent une touche pour eux. Chaque rôle peut en recevoir une autre&#x202f;; Maj ajoute et trace droit toujours.</translation>
     </message>
     <message>
         <source>&amp;Option (subtract, set source):</source>
-        <translation>&amp;Option (soustraire, définir la source) :</translation>
+        <translation>&amp;Option (soustraire, définir la source)&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Control (oval, polygon):</source>
-        <translation>&amp;Control (ovale, polygone) :</translation>
+        <translation>&amp;Control (ovale, polygone)&#xa0;:</translation>
     </message>
     <message>
         <source>Co&amp;mmand (square, float):</source>
-        <translation>Command (carré, &amp;flotter) :</translation>
+        <translation>Command (carré, &amp;flotter)&#xa0;:</translation>
     </message>
     <message>
         <source>Windows</source>
@@ -2101,7 +2113,7 @@
     </message>
     <message>
         <source>Project &amp;page:</source>
-        <translation>&amp;Page du projet :</translation>
+        <translation>&amp;Page du projet&#xa0;:</translation>
     </message>
     <message>
         <source>The page that the About box opens</source>
@@ -2131,7 +2143,7 @@
     </message>
     <message>
         <source>&amp;New name (the extension stays as it is):</source>
-        <translation>&amp;Nouveau nom (l’extension reste la même) :</translation>
+        <translation>&amp;Nouveau nom (l’extension reste la même)&#xa0;:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2146,7 +2158,7 @@
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation>&amp;Largeur :</translation>
+        <translation>&amp;Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>New width in pixels</source>
@@ -2166,7 +2178,7 @@
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation>&amp;Hauteur :</translation>
+        <translation>&amp;Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source>New height in pixels</source>
@@ -2182,7 +2194,7 @@
     </message>
     <message>
         <source>File size:</source>
-        <translation>Taille du fichier :</translation>
+        <translation>Taille du fichier&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Scale image</source>
@@ -2190,7 +2202,7 @@
     </message>
     <message>
         <source>On: the picture is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
-        <translation>Activé : l’image est rééchantillonnée à la nouvelle taille. Désactivé : elle garde ses pixels à l’emplacement ci-dessous et elle est coupée ou étendue</translation>
+        <translation>Activé&#xa0;: l’image est rééchantillonnée à la nouvelle taille. Désactivé&#xa0;: elle garde ses pixels à l’emplacement ci-dessous et elle est coupée ou étendue</translation>
     </message>
     <message>
         <source>&amp;Keep aspect ratio</source>
@@ -2202,7 +2214,7 @@
     </message>
     <message>
         <source>&amp;Place:</source>
-        <translation>&amp;Emplacement :</translation>
+        <translation>&amp;Emplacement&#xa0;:</translation>
     </message>
     <message>
         <source>Where the picture sits in the new size, when it is not scaled</source>
@@ -2281,11 +2293,11 @@
     </message>
     <message>
         <source>&amp;Name of the selection:</source>
-        <translation>&amp;Nom de la sélection :</translation>
+        <translation>&amp;Nom de la sélection&#xa0;:</translation>
     </message>
     <message>
         <source>The outline is kept under this name; a selection of the same name is replaced</source>
-        <translation>Le contour est gardé sous ce nom ; une sélection du même nom est remplacée</translation>
+        <translation>Le contour est gardé sous ce nom&#x202f;; une sélection du même nom est remplacée</translation>
     </message>
     <message>
         <source>Only the outline is kept. It can be loaded into any image.</source>
@@ -2334,19 +2346,19 @@
     </message>
     <message>
         <source>&amp;Left:</source>
-        <translation>&amp;Gauche :</translation>
+        <translation>&amp;Gauche&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Top:</source>
-        <translation>&amp;Haut :</translation>
+        <translation>&amp;Haut&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation>&amp;Largeur :</translation>
+        <translation>&amp;Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation>H&amp;auteur :</translation>
+        <translation>H&amp;auteur&#xa0;:</translation>
     </message>
     <message>
         <source>Any size</source>
@@ -2366,7 +2378,7 @@
     </message>
     <message>
         <source>New &amp;marquees:</source>
-        <translation>&amp;Nouveaux cadres :</translation>
+        <translation>&amp;Nouveaux cadres&#xa0;:</translation>
     </message>
     <message>
         <source>Select</source>
@@ -2432,7 +2444,7 @@
     </message>
     <message>
         <source>New &amp;keys:</source>
-        <translation>&amp;Nouvelles touches :</translation>
+        <translation>&amp;Nouvelles touches&#xa0;:</translation>
     </message>
     <message>
         <source>New keys</source>
@@ -2444,7 +2456,7 @@
     </message>
     <message>
         <source>The chosen command gets these keys; without keys it has none</source>
-        <translation>La commande choisie reçoit ces touches ; sans touches, elle n’en a aucune</translation>
+        <translation>La commande choisie reçoit ces touches&#x202f;; sans touches, elle n’en a aucune</translation>
     </message>
     <message>
         <source>As &amp;Given</source>
@@ -2468,11 +2480,11 @@
     </message>
     <message>
         <source>%1 belongs to %2 now, which would lose it.</source>
-        <translation>%1 appartient maintenant à « %2 », qui le perdrait.</translation>
+        <translation>%1 appartient maintenant à «&#xa0;%2&#xa0;», qui le perdrait.</translation>
     </message>
     <message>
         <source>%1 chooses the tool %2, which would not hear it any more.</source>
-        <translation>%1 choisit l’outil « %2 », qui ne l’entendrait plus.</translation>
+        <translation>%1 choisit l’outil «&#xa0;%2&#xa0;», qui ne l’entendrait plus.</translation>
     </message>
 </context>
 <context>
@@ -2483,7 +2495,7 @@
     </message>
     <message>
         <source>&amp;Radius:</source>
-        <translation>&amp;Rayon :</translation>
+        <translation>&amp;Rayon&#xa0;:</translation>
     </message>
     <message>
         <source>How far around the selection to look for texture, in percent of its width and height</source>
@@ -2503,11 +2515,11 @@
     </message>
     <message>
         <source>Works on every second pixel; the selection&apos;s whole box becomes coarser</source>
-        <translation>Travaille sur un pixel sur deux ; tout le cadre de la sélection devient plus grossier</translation>
+        <translation>Travaille sur un pixel sur deux&#x202f;; tout le cadre de la sélection devient plus grossier</translation>
     </message>
     <message>
         <source>Time:</source>
-        <translation>Temps :</translation>
+        <translation>Temps&#xa0;:</translation>
     </message>
     <message>
         <source>0.0 sec</source>
@@ -2551,7 +2563,7 @@
     </message>
     <message>
         <source>Takes colours only from what is selected in the image now; pressed again, from anywhere</source>
-        <translation>Ne prend les couleurs que dans ce qui est sélectionné maintenant ; pressé de nouveau, partout</translation>
+        <translation>Ne prend les couleurs que dans ce qui est sélectionné maintenant&#x202f;; pressé de nouveau, partout</translation>
     </message>
     <message>
         <source>anywhere</source>
@@ -2567,7 +2579,7 @@
     </message>
     <message>
         <source>Takes no colour from what is selected in the image now; pressed again, from anywhere</source>
-        <translation>Ne prend aucune couleur dans ce qui est sélectionné maintenant ; pressé de nouveau, partout</translation>
+        <translation>Ne prend aucune couleur dans ce qui est sélectionné maintenant&#x202f;; pressé de nouveau, partout</translation>
     </message>
     <message>
         <source>nowhere</source>
@@ -2583,7 +2595,7 @@
     </message>
     <message>
         <source>Shows the fill over the image; Run then leaves it there</source>
-        <translation>Montre le remplissage sur l’image ; Lancer l’y laisse ensuite</translation>
+        <translation>Montre le remplissage sur l’image&#x202f;; Lancer l’y laisse ensuite</translation>
     </message>
     <message>
         <source>&amp;Another Result</source>
@@ -2599,11 +2611,11 @@
     </message>
     <message>
         <source>Paint over a thing in the image and let go: it is gone</source>
-        <translation>Peignez sur un objet de l’image et relâchez : il disparaît</translation>
+        <translation>Peignez sur un objet de l’image et relâchez&#xa0;: il disparaît</translation>
     </message>
     <message>
         <source>One of the last four results: shows it over the image; pressed again, the image without it</source>
-        <translation>L’un des quatre derniers résultats : le montre sur l’image ; pressé de nouveau, l’image sans lui</translation>
+        <translation>L’un des quatre derniers résultats&#xa0;: le montre sur l’image&#x202f;; pressé de nouveau, l’image sans lui</translation>
     </message>
     <message>
         <source>Result 1</source>
@@ -2649,7 +2661,7 @@
     </message>
     <message>
         <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG picture.</source>
-        <translation>La sélection : son coin et sa taille. Faites glisser ceci vers un autre programme pour la lui donner comme image PNG.</translation>
+        <translation>La sélection&#xa0;: son coin et sa taille. Faites glisser ceci vers un autre programme pour la lui donner comme image PNG.</translation>
     </message>
     <message>
         <source>Colour under the pointer</source>
@@ -2673,7 +2685,7 @@
     </message>
     <message>
         <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
-        <translation>Glisser déplace · les poignées mettent à l’échelle et tournent, %1 : par 15° · Entrée ancre, Échap abandonne</translation>
+        <translation>Glisser déplace · les poignées mettent à l’échelle et tournent, %1&#xa0;: par 15° · Entrée ancre, Échap abandonne</translation>
     </message>
 </context>
 <context>
@@ -2771,7 +2783,7 @@
     </message>
     <message>
         <source>&amp;Text:</source>
-        <translation>&amp;Texte :</translation>
+        <translation>&amp;Texte&#xa0;:</translation>
     </message>
     <message>
         <source>What is typed here stands on the picture at once</source>
@@ -2783,7 +2795,7 @@
     </message>
     <message>
         <source>Smaller; with Shift by ten</source>
-        <translation>Plus petit ; avec Maj, de dix</translation>
+        <translation>Plus petit&#x202f;; avec Maj, de dix</translation>
     </message>
     <message>
         <source>Smaller</source>
@@ -2795,7 +2807,7 @@
     </message>
     <message>
         <source>Larger; with Shift by ten</source>
-        <translation>Plus grand ; avec Maj, de dix</translation>
+        <translation>Plus grand&#x202f;; avec Maj, de dix</translation>
     </message>
     <message>
         <source>Larger</source>
@@ -2811,7 +2823,7 @@
     </message>
     <message>
         <source>Colour of the preview below; the selection takes none</source>
-        <translation>Couleur de l’aperçu ci-dessous ; la sélection n’en prend pas</translation>
+        <translation>Couleur de l’aperçu ci-dessous&#x202f;; la sélection n’en prend pas</translation>
     </message>
     <message>
         <source>Colour of the preview</source>
@@ -2851,7 +2863,7 @@
     </message>
     <message>
         <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
-        <translation>Ce qui est tapé ici apparaît aussitôt sur l’image ; Ctrl+Entrée vaut OK</translation>
+        <translation>Ce qui est tapé ici apparaît aussitôt sur l’image&#x202f;; Ctrl+Entrée vaut OK</translation>
     </message>
     <message>
         <source>&amp;Several lines</source>
@@ -2874,11 +2886,11 @@
     </message>
     <message>
         <source>Selects a rectangle; square and oval by switch or key</source>
-        <translation>Sélectionne un rectangle ; carré et ovale par bouton ou touche</translation>
+        <translation>Sélectionne un rectangle&#x202f;; carré et ovale par bouton ou touche</translation>
     </message>
     <message>
         <source>Drag to select; inside the selection it moves · {Shift} adds, {Option} subtracts · {Command}: square, {Control}: oval</source>
-        <translation>Glisser sélectionne ; dans la sélection, déplace · {Shift} ajoute, {Option} soustrait · {Command} : carré, {Control} : ovale</translation>
+        <translation>Glisser sélectionne&#x202f;; dans la sélection, déplace · {Shift} ajoute, {Option} soustrait · {Command}&#xa0;: carré, {Control}&#xa0;: ovale</translation>
     </message>
     <message>
         <source>Lasso</source>
@@ -2886,11 +2898,11 @@
     </message>
     <message>
         <source>Selects by a drawn outline; polygon by switch or key, ended with Return</source>
-        <translation>Sélectionne selon un contour dessiné ; polygone par bouton ou touche, terminé par Entrée</translation>
+        <translation>Sélectionne selon un contour dessiné&#x202f;; polygone par bouton ou touche, terminé par Entrée</translation>
     </message>
     <message>
         <source>Draw around what you want · {Shift} adds, {Option} subtracts · {Control}: corner by corner, Return ends</source>
-        <translation>Entourez ce que vous voulez · {Shift} ajoute, {Option} soustrait · {Control} : coin par coin, Entrée termine</translation>
+        <translation>Entourez ce que vous voulez · {Shift} ajoute, {Option} soustrait · {Control}&#xa0;: coin par coin, Entrée termine</translation>
     </message>
     <message>
         <source>Magic Wand</source>
@@ -2918,11 +2930,11 @@
     </message>
     <message>
         <source>Draws a line; straight with Shift</source>
-        <translation>Trace une ligne ; droite avec Maj</translation>
+        <translation>Trace une ligne&#x202f;; droite avec Maj</translation>
     </message>
     <message>
         <source>Drag to draw · {Shift}: one straight line · Escape takes it back</source>
-        <translation>Glisser trace · {Shift} : une ligne droite · Échap la reprend</translation>
+        <translation>Glisser trace · {Shift}&#xa0;: une ligne droite · Échap la reprend</translation>
     </message>
     <message>
         <source>Eraser</source>
@@ -2930,11 +2942,11 @@
     </message>
     <message>
         <source>Makes pixels transparent; straight with Shift</source>
-        <translation>Rend des pixels transparents ; droit avec Maj</translation>
+        <translation>Rend des pixels transparents&#x202f;; droit avec Maj</translation>
     </message>
     <message>
         <source>Drag to make transparent · {Shift}: one straight line · Escape takes it back</source>
-        <translation>Glisser rend transparent · {Shift} : une ligne droite · Échap la reprend</translation>
+        <translation>Glisser rend transparent · {Shift}&#xa0;: une ligne droite · Échap la reprend</translation>
     </message>
     <message>
         <source>Paint Bucket</source>
@@ -2974,7 +2986,7 @@
     </message>
     <message>
         <source>Paints with pixels from elsewhere; Option-click sets the source</source>
-        <translation>Peint avec des pixels venus d’ailleurs ; un clic avec Option fixe la source</translation>
+        <translation>Peint avec des pixels venus d’ailleurs&#x202f;; un clic avec Option fixe la source</translation>
     </message>
     <message>
         <source>{Option}+click says where pixels come from, then paint</source>
@@ -3009,11 +3021,11 @@
     </message>
     <message>
         <source>&amp;Scale:</source>
-        <translation>É&amp;chelle :</translation>
+        <translation>É&amp;chelle&#xa0;:</translation>
     </message>
     <message>
         <source>Size of the selected pixels in percent; 100 is their own size</source>
-        <translation>Taille des pixels sélectionnés en pour cent ; 100 est leur propre taille</translation>
+        <translation>Taille des pixels sélectionnés en pour cent&#x202f;; 100 est leur propre taille</translation>
     </message>
     <message>
         <source>Scale slider</source>
@@ -3029,7 +3041,7 @@
     </message>
     <message>
         <source>R&amp;otate:</source>
-        <translation>&amp;Rotation :</translation>
+        <translation>&amp;Rotation&#xa0;:</translation>
     </message>
     <message>
         <source>Turns the selected pixels about their centre, in degrees</source>
@@ -3057,7 +3069,7 @@
     </message>
     <message>
         <source>Closes the dialog; the selection keeps floating as shown</source>
-        <translation>Ferme le dialogue ; la sélection continue de flotter comme affiché</translation>
+        <translation>Ferme le dialogue&#x202f;; la sélection continue de flotter comme affiché</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -3079,7 +3091,7 @@
     </message>
     <message>
         <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert pictures, one at a time or by the folder.</source>
-        <translation>Retouche d’images simple et pourtant puissante : peindre, sélectionner, retoucher, ajuster et convertir des images, une à une ou par dossier.</translation>
+        <translation>Retouche d’images simple et pourtant puissante&#xa0;: peindre, sélectionner, retoucher, ajuster et convertir des images, une à une ou par dossier.</translation>
     </message>
     <message>
         <source>Free software under the GNU General Public License, version 3 or later. It comes with no warranty, to the extent that the law permits.</source>
@@ -3098,7 +3110,7 @@
     </message>
     <message>
         <source>Zelpane ended unexpectedly. Do you want to recover your last image?</source>
-        <translation>Zelpane s’est arrêté de façon inattendue. Voulez-vous récupérer votre dernière image ?</translation>
+        <translation>Zelpane s’est arrêté de façon inattendue. Voulez-vous récupérer votre dernière image&#x202f;?</translation>
     </message>
     <message>
         <source>Recover</source>
@@ -3114,11 +3126,11 @@
     </message>
     <message>
         <source>Changed and never saved: %1.</source>
-        <translation>Modifiée et jamais enregistrée : %1.</translation>
+        <translation>Modifiée et jamais enregistrée&#xa0;: %1.</translation>
     </message>
     <message>
         <source>This is a (Snow) Leopard-only product!</source>
-        <translation>Ce produit est réservé à (Snow) Leopard !</translation>
+        <translation>Ce produit est réservé à (Snow) Leopard&#x202f;!</translation>
     </message>
     <message>
         <source>Mac OS X 10.5 or later is required.</source>
@@ -3130,7 +3142,7 @@
     </message>
     <message>
         <source>What would you like to do? Create a new image or open an existing image.</source>
-        <translation>Que voulez-vous faire ? Créez une nouvelle image ou ouvrez-en une.</translation>
+        <translation>Que voulez-vous faire&#x202f;? Créez une nouvelle image ou ouvrez-en une.</translation>
     </message>
     <message>
         <source>New…</source>
@@ -3146,7 +3158,7 @@
     </message>
     <message>
         <source>Do you really want to quit?</source>
-        <translation>Voulez-vous vraiment quitter ?</translation>
+        <translation>Voulez-vous vraiment quitter&#x202f;?</translation>
     </message>
     <message>
         <source>Make sure that the image is saved to disk.</source>
@@ -3174,7 +3186,7 @@
     </message>
     <message>
         <source>Do you really want to use the image processor?</source>
-        <translation>Voulez-vous vraiment utiliser le traitement par lots ?</translation>
+        <translation>Voulez-vous vraiment utiliser le traitement par lots&#x202f;?</translation>
     </message>
     <message>
         <source>Make sure that the current image is saved to disk.</source>
@@ -3199,7 +3211,7 @@
     <message>
         <source>%1 %2</source>
         <comment>verb and name of a step: Undo Fill</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Anchor Selection</source>
@@ -3219,7 +3231,7 @@
     </message>
     <message>
         <source>Needs an image: open one or make a new one.</source>
-        <translation>Il faut une image : ouvrez-en une ou créez-en une.</translation>
+        <translation>Il faut une image&#xa0;: ouvrez-en une ou créez-en une.</translation>
     </message>
     <message>
         <source>Needs a selection.</source>
@@ -3231,7 +3243,7 @@
     </message>
     <message>
         <source>Needs an image that has a file: save it first.</source>
-        <translation>Il faut une image qui a un fichier : enregistrez-la d’abord.</translation>
+        <translation>Il faut une image qui a un fichier&#xa0;: enregistrez-la d’abord.</translation>
     </message>
     <message>
         <source>There is nothing to undo.</source>
@@ -3255,7 +3267,7 @@
     </message>
     <message>
         <source>Done: %1</source>
-        <translation>Fait : %1</translation>
+        <translation>Fait&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -3296,7 +3308,7 @@
     </message>
     <message>
         <source>Do you wish to delete the selected file?</source>
-        <translation>Voulez-vous supprimer le fichier choisi ?</translation>
+        <translation>Voulez-vous supprimer le fichier choisi&#x202f;?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -3335,7 +3347,7 @@
     </message>
     <message>
         <source>Error: Source or destination folder does not exist.</source>
-        <translation>Erreur : le dossier source ou destination n’existe pas.</translation>
+        <translation>Erreur&#xa0;: le dossier source ou destination n’existe pas.</translation>
     </message>
     <message>
         <source>Ending after this image…</source>
@@ -3363,7 +3375,7 @@
     </message>
     <message>
         <source>%1 of %2: %3</source>
-        <translation>%1 sur %2 : %3</translation>
+        <translation>%1 sur %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>There is no canvas to work on.</source>
@@ -3379,6 +3391,10 @@
             <numerusform>%n fichier n’a pas pu être traité.</numerusform>
             <numerusform>%n fichiers n’ont pas pu être traités.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
     </message>
 </context>
 <context>
@@ -3420,7 +3436,7 @@
     </message>
     <message>
         <source>The picture changed meanwhile; the fill was dropped.</source>
-        <translation>L’image a changé entre-temps ; le remplissage a été abandonné.</translation>
+        <translation>L’image a changé entre-temps&#x202f;; le remplissage a été abandonné.</translation>
     </message>
 </context>
 <context>

@@ -1978,6 +1978,18 @@
         <source>No</source>
         <translation>いいえ</translation>
     </message>
+    <message>
+        <source>Save Image</source>
+        <translation>画像を保存</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>画像を開く</translation>
+    </message>
 </context>
 <context>
     <name>Prefs</name>
@@ -3367,6 +3379,10 @@
         <translation>
             <numerusform>%n 個のファイルを処理できませんでした。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
     </message>
 </context>
 <context>

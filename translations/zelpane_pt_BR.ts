@@ -1988,6 +1988,18 @@
         <source>No</source>
         <translation>Não</translation>
     </message>
+    <message>
+        <source>Save Image</source>
+        <translation>Salvar imagem</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Escolher pasta</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Abrir imagem</translation>
+    </message>
 </context>
 <context>
     <name>Prefs</name>
@@ -3379,6 +3391,10 @@
             <numerusform>%n arquivo não pôde ser processado.</numerusform>
             <numerusform>%n arquivos não puderam ser processados.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nenhuma</translation>
     </message>
 </context>
 <context>

@@ -1978,6 +1978,18 @@
         <source>No</source>
         <translation>否</translation>
     </message>
+    <message>
+        <source>Save Image</source>
+        <translation>保存图像</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>打开图像</translation>
+    </message>
 </context>
 <context>
     <name>Prefs</name>
@@ -3367,6 +3379,10 @@
         <translation>
             <numerusform>%n 个文件无法处理。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
     </message>
 </context>
 <context>

@@ -22,6 +22,7 @@ namespace
 
 constexpr int kActionRole = Qt::UserRole;
 constexpr QSize kWindowSize{560, 640};
+constexpr int kFieldFrame = 24; ///< around the words in a field
 
 /// One chord: a second one would never be waited for.
 QKeySequence firstChord(const QKeySequence& keys) { return keys.isEmpty() ? QKeySequence() : QKeySequence(keys[0]); }
@@ -66,6 +67,8 @@ ShortcutsWindow::ShortcutsWindow(MainMenu& menu, QWidget* parent) : QWidget(pare
     mKeys->setObjectName("mShortcutKeys");
     mKeys->setAccessibleName(tr("New keys"));
     label->setBuddy(mKeys);
+    if (const auto* field = mKeys->findChild<QLineEdit*>()) // as wide as what the toolkit says in it
+        mKeys->setMinimumWidth(field->fontMetrics().horizontalAdvance(field->placeholderText()) + kFieldFrame);
     const auto button = [this, row](const QString& title, const char* name, const QString& tip) {
         auto* b = new QPushButton(title, this);
         b->setObjectName(name);

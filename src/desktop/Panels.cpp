@@ -36,15 +36,6 @@ constexpr QSize kLongTextSize(kTextWidth + 160, 220);
 
 int silencers = 0;
 
-/// The button that Escape stands for, or -1.
-int cancelIndex(const QStringList& buttons)
-{
-    if (buttons.size() == 1) return 0;
-    for (const char* title : {"Cancel", "No", "Later"})
-        if (const int i = int(buttons.indexOf(QString::fromLatin1(title))); i >= 0) return i;
-    return -1;
-}
-
 bool hasWordBeyondLine(const QString& text, const QFontMetrics& font)
 {
     for (const QString& line : text.split('\n'))
@@ -83,7 +74,6 @@ public:
         setAccessibleName(title);
         setAccessibleDescription(message);
         mState = {title, message, buttons};
-        mCancel = cancelIndex(buttons);
 
         auto* columns = new QHBoxLayout(this);
         columns->setContentsMargins(22, 20, 20, 18);
@@ -118,10 +108,7 @@ public:
         return i < 0 ? nullptr : mButtons[i];
     }
     /// Escape and the window's close button.
-    void reject() override
-    {
-        if (mCancel >= 0) choose(mCancel);
-    }
+    void reject() override { choose(int(mState.buttons.size()) - 1); }
 
 private:
     QLabel* textLabel(const QString& text, bool bold)
@@ -189,7 +176,7 @@ private:
 
     AlertState mState;
     QList<QPushButton*> mButtons;
-    int mAnswer = kNoAnswer, mCancel = -1;
+    int mAnswer = kNoAnswer;
 };
 
 /// Those on screen, the front one last.

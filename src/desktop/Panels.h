@@ -21,9 +21,10 @@ namespace zp
 /// What runAlert() gives when the alert went away without a button: the program ends, a script is over.
 inline constexpr int kNoAnswer = -1;
 
-/// Shows a window-modal alert over the active window and waits. Escape is the button titled "Cancel", "No" or "Later",
-/// or the only button. While Panels are silenced (a batch run) nothing is shown and the default button is the answer.
-/// @param buttons titles, the default first, one to three
+/// Shows a window-modal alert over the active window and waits. Escape is the last button: of several the one that
+/// refuses, whatever language it speaks. While Panels are silenced (a batch run) nothing is shown and the default
+/// button is the answer.
+/// @param buttons titles, the default first, the one that refuses last, one to three
 /// @return the index of the button pressed, or kNoAnswer
 int runAlert(const QString& title, const QString& message, const QStringList& buttons);
 

@@ -54,7 +54,11 @@ QStringList nameFilters(const QStringList& types)
 void prepare(QFileDialog& dialog, const PanelRequest& request)
 {
     dialog.setObjectName("FilePanel");
-    if (!request.title.isEmpty()) dialog.setWindowTitle(request.title);
+    // The toolkit names its own panels alone; those of a desktop would have no title.
+    dialog.setWindowTitle(!request.title.isEmpty()   ? request.title
+                          : request.kind == "save"   ? QCoreApplication::translate("Panels", "Save Image")
+                          : request.kind == "folder" ? QCoreApplication::translate("Panels", "Choose Folder")
+                                                     : QCoreApplication::translate("Panels", "Open Image"));
     if (!request.prompt.isEmpty()) dialog.setLabelText(QFileDialog::Accept, request.prompt);
     // Where the user was last with this kind of panel, unless the caller knows better.
     QString folder = settings().value("panels/" + request.kind).toString();

@@ -86,7 +86,7 @@ void ZPImageProcessor::close() { mWindow->done(0); }
 void ZPImageProcessor::fillWatermarks()
 {
     mUi->mWatermark->clear();
-    mUi->mWatermark->addItem("None");
+    mUi->mWatermark->addItem(tr("None"));
     for (const std::string& name : watermarkNames())
         mUi->mWatermark->addItem(textFromPath(name), QByteArray::fromStdString(name));
     mUi->mWatermark->setCurrentIndex(0);
