@@ -5,6 +5,7 @@
 #include "app/MainMenu.h"
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
+#include "canvas/ZPCanvas.h"
 #include "desktop/Desktop.h"
 #include "desktop/ElidedLabel.h"
 #include "document/Document.h"
@@ -218,6 +219,11 @@ TEST(LongTexts, AreCutInNoWindow)
     controller.window().show();
     QCoreApplication::processEvents();
     EXPECT_GT(expectWholeTexts("the main window"), 30);
+    controller.document().perform("floatSelection");
+    QCoreApplication::processEvents();
+    EXPECT_GT(expectWholeTexts("what floats"), 30);
+    controller.document().perform("anchorSelection:");
+    controller.document().perform("selectRectangle:", {{10, 10, 200, 100}, {}});
     for (const char* action :
          {"newDocument:", "resize:", "prefs:", "about:", "quickSave:", "transform:", "adjust:", "saveSelection:",
           "selectByNumber:", "fileManager:", "keyboardShortcuts:", "smartFill:", "history:"}) {
@@ -230,6 +236,45 @@ TEST(LongTexts, AreCutInNoWindow)
         while (looked == 0) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         EXPECT_GT(looked, 30) << action;
     }
+}
+
+TEST_P(LanguageTest, TheWindowWithWhatFloatsIsWholeOnASmallScreen)
+{
+    ZPAppController controller;
+    controller.document().perform("newImageWithSize:", {{400, 300}, {}});
+    controller.window().show();
+    controller.document().perform("selectAll:");
+    controller.document().perform("floatSelection");
+    QCoreApplication::processEvents();
+    EXPECT_GT(expectWholeTexts("what floats"), 30);
+}
+
+TEST(RightToLeft, TheWindowIsMirroredAndThePictureIsNot)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    {
+        ZPAppController controller;
+        Document& document = controller.document();
+        document.perform("newImageWithSize:", {{100, 100}, {}});
+        document.setPaintColor({1, 0, 0, 1});
+        document.perform("selectRectangle:", {{0, 0, 50, 100}, {}});
+        document.perform("fill:");
+        document.perform("selectNone:");
+        controller.window().show();
+        QCoreApplication::processEvents();
+        const auto x = [&controller](const char* name) {
+            const auto* widget = controller.window().findChild<QWidget*>(name);
+            return widget ? widget->mapTo(&controller.window(), QPoint(widget->width() / 2, 0)).x() : -1;
+        };
+        EXPECT_GT(x("toolStrip"), x("mScrollView"));
+        EXPECT_GT(x("mToolPopUp"), x("mSizeField"));
+        EXPECT_GT(x("mSizeField"), x("mZoomPopUp"));
+        const QImage canvas = controller.canvas().grab().toImage();
+        const int width = canvas.width(), middle = canvas.height() / 2;
+        EXPECT_EQ(canvas.pixelColor(width / 4, middle).name(), "#ff0000");
+        EXPECT_NE(canvas.pixelColor(3 * width / 4, middle).name(), "#ff0000");
+    }
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 } // namespace
