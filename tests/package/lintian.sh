@@ -22,8 +22,10 @@ objdump -p "$work/tree/usr/bin/zelpane" | sed -n 's/^ *NEEDED *//p' | while read
     { dpkg-query -S "$path" || dpkg-query -S "/usr$path" || dpkg-query -S "$(readlink -f "$path")"; } 2>/dev/null | sed 's/:.*//' | head -n 1
 done | sort -u >"$work/linked"
 dpkg-deb -f "$package" Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//' | sort -u >"$work/depends"
+"$ROOT/packaging/deb/foreign-depends.sh" "$work/tree/usr/bin/zelpane" | tr ',' '\n' | sed 's/^ *//; s/ .*//' | sort -u >"$work/foreign"
+diff "$work/linked" "$work/foreign" >&2 || fail "for another architecture the package would depend on other packages"
 diff "$work/linked" "$work/depends" >&2 || fail "the package depends on other packages than those that the program links"
 # What it only loads is recommended, and no more.
-recommended=$(dpkg-deb -f "$package" Recommends | tr -d '\n' | tr -s ' ')
+recommended=$(dpkg-deb -f "$package" Recommends)
 [ "$recommended" = "fonts-ebgaramond, qt6-translations-l10n, qt6-wayland, qt6-xdgdesktopportal-platformtheme" ] ||
     fail "the package recommends $recommended"
