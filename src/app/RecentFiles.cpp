@@ -2,6 +2,7 @@
 /// Recent files in the settings, and as bookmarks in recently-used.xbel, which other programs read and write too: what
 /// is not ours there is copied as it stands.
 #include "app/RecentFiles.h"
+#include "base/Folders.h"
 #include "desktop/Desktop.h"
 #include "desktop/Settings.h"
 #include <QDateTime>
@@ -57,17 +58,18 @@ QString sharedListPath()
 /// @return nothing when there is a file that is not such a list: it is left alone
 std::optional<SharedList> readSharedList()
 {
-    QFile file(sharedListPath());
     SharedList list;
-    if (!file.exists()) {
+    if (!QFile::exists(sharedListPath())) {
         list.head =
             QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<xbel version=\"1.0\"\n      xmlns:bookmark=\"") +
             kBookmarkSpace + "\"\n      xmlns:mime=\"" + kMimeSpace + "\"\n>";
         list.tail = "\n</xbel>\n";
         return list;
     }
-    if (file.size() > kLargestSharedList || !file.open(QIODevice::ReadOnly)) return std::nullopt;
-    const QString text = QString::fromUtf8(file.readAll());
+    // Never a pipe, whose opening would wait for its writer.
+    const std::optional<std::string> bytes = readWholeFile(pathFromText(sharedListPath()), kLargestSharedList);
+    if (!bytes) return std::nullopt;
+    const QString text = QString::fromStdString(*bytes);
     QXmlStreamReader xml(text);
     qint64 copied = 0, before = 0;
     const auto piece = [&](qint64 to) { return text.mid(std::exchange(copied, to), to - copied).toUtf8(); };

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <csignal>
 #include <fcntl.h>
+#include <map>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -124,9 +125,15 @@ TEST(Surroundings, EightStartsAtOnceGiveOneProgram)
 
 TEST(Surroundings, ThingsInPlaceOfItsFilesHangNeitherStartNorEnd)
 {
-    const QStringList places = {".config/zelpane/zelpane.conf", ".config/zelpane/zelpane.conf.lock",
+    const QStringList places = {".config/zelpane/zelpane.conf",
+                                ".config/zelpane/zelpane.conf.lock",
                                 ".local/share/zelpane/Contents/Resources/2xRetina.txt",
-                                "Library/Application Support/Zelpane", "runtime/zelpane-x"};
+                                "Library/Application Support/Zelpane",
+                                "runtime/zelpane-x",
+                                ".local/share/recently-used.xbel",
+                                "Zelpane Undo Support",
+                                ".cache/thumbnails",
+                                "Pictures/Zelpane Image Library"};
     struct Thing {
         const char* name;
         std::function<void(const QByteArray&)> put;
@@ -137,6 +144,11 @@ TEST(Surroundings, ThingsInPlaceOfItsFilesHangNeitherStartNorEnd)
         {"a link to a device", [](const QByteArray& path) { (void)!::symlink("/dev/full", path); }},
         {"a link round in a circle", [](const QByteArray& path) { (void)!::symlink(path, path); }},
         {"a file without rights", [](const QByteArray& path) { ::close(::open(path, O_CREAT | O_WRONLY, 0)); }},
+        {"another user's file", // where the test may make one; else a file of one's own
+         [](const QByteArray& path) {
+             ::close(::open(path, O_CREAT | O_WRONLY, 0600));
+             (void)!::chown(path, 65534, 65534);
+         }},
     };
     const bool all = qEnvironmentVariableIsSet("ZP_LONG");
     for (const QString& place : places)
@@ -154,9 +166,64 @@ TEST(Surroundings, ThingsInPlaceOfItsFilesHangNeitherStartNorEnd)
             Session s({"--no-start-choice"}, home.path());
             s.must("menu prefs:");
             s.must("set mUnitPopUp #1");
-            s.must("sleep 0.01");
+            s.must("open " + QString::fromStdString(zp::test::sample("made/valid/base.png")));
+            s.play({"menu rotateCW:", "wait", "menu undo:", "menu fileManager:", "sleep 0.01"});
             EXPECT_EQ(s.end(), 0);
         }
+}
+
+/// What a script leaves in a home folder: by name, the bytes.
+std::map<QString, QByteArray> whatAScriptWrites(const std::map<QString, QString>& variables)
+{
+    QTemporaryDir home;
+    const QString in = home.filePath("in"), out = home.filePath("out");
+    QDir().mkpath(in);
+    QDir().mkpath(out);
+    QFile::copy(QString::fromStdString(zp::test::sample("photos/seeding-600-grey.jpg")), in + "/title.jpg");
+    {
+        Session s({"--no-start-choice"}, home.path(), variables);
+        s.must("open " + in + "/title.jpg");
+        s.play({"menu prefs:", "set mUnitPopUp #2", "menu resize:", "set mResize_Width_P 37.5",
+                "click resize_ok:", "wait", "menu selectAll:"});
+        s.must("send saveSelection: " + out + "/chosen");
+        s.must("send saveImageAsTIFF: " + out + "/a.tiff");
+        s.must("send saveImageAsPNG: " + out + "/a.png");
+        EXPECT_EQ(s.end(), 0);
+    }
+    QProcess batch;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto& [name, value] : variables) environment.insert(name, value);
+    batch.setProcessEnvironment(environment);
+    batch.start(ZP_PROGRAM, {"--batch", in, out, "--tiff", "--fit", "100x100"});
+    EXPECT_TRUE(batch.waitForFinished(60'000));
+    EXPECT_EQ(batch.exitCode(), 0) << batch.readAllStandardError().toStdString();
+    std::map<QString, QByteArray> all;
+    for (const QString& name : {QString("a.tiff"), QString("a.png"), QString("chosen"), QString("title.tiff"),
+                                QString("../.config/zelpane/zelpane.conf")}) {
+        QFile file(out + "/" + name);
+        EXPECT_TRUE(file.open(QFile::ReadOnly)) << name.toStdString();
+        all[name] = file.readAll().replace(home.path().toUtf8(), "HOME");
+        EXPECT_FALSE(all[name].isEmpty()) << name.toStdString();
+    }
+    return all;
+}
+
+TEST(Surroundings, CommaAndDotlessIInTheLocaleChangeNoFile)
+{
+    // Made here, since most machines have only a few: one with a decimal comma, one whose small I has no dot.
+    QTemporaryDir locales;
+    for (const QString& name : {QString("de_DE"), QString("tr_TR")}) {
+        QProcess make;
+        make.start("localedef", {"-i", name, "-f", "UTF-8", locales.filePath(name + ".UTF-8")});
+        if (!make.waitForStarted()) GTEST_SKIP() << "localedef is not here";
+        ASSERT_TRUE(make.waitForFinished(120'000));
+        if (make.exitCode() != 0) GTEST_SKIP() << "the locales' sources are not here";
+    }
+    const auto plain = whatAScriptWrites({{"LC_ALL", "C.UTF-8"}});
+    for (const char* name : {"de_DE.UTF-8", "tr_TR.UTF-8"}) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(whatAScriptWrites({{"LC_ALL", name}, {"LOCPATH", locales.path()}}), plain);
+    }
 }
 
 TEST(Surroundings, NamesAreShownAsTheyAre)
