@@ -7,6 +7,7 @@
 #include "base/Log.h"
 #include "batch/BatchCommandLine.h"
 #include "batch/Thumbnail.h"
+#include "codecs/ForeignDecoder.h"
 #include "desktop/Appearance.h"
 #include "desktop/Application.h"
 #include "desktop/EndSignals.h"
@@ -14,6 +15,7 @@
 #include "desktop/Languages.h"
 #include "desktop/Panels.h"
 #include "desktop/Portal.h"
+#include "desktop/ReadingWait.h"
 #include "desktop/SingleInstance.h"
 #include "script/ScriptDriver.h"
 #include <QApplication>
@@ -24,6 +26,8 @@
 #include <exception>
 
 using namespace zp;
+
+constexpr const char* kDecodeOption = "--decode";
 
 /// One word of a start: a file to open, or what to begin with.
 static void carryOut(ZPAppController& controller, const std::string& request)
@@ -38,8 +42,25 @@ static void carryOut(ZPAppController& controller, const std::string& request)
     if (request == "--image-processor") controller.imageProcessor();
 }
 
+/// Pictures of foreign kinds are read by another process of this very program, even if its file was replaced meanwhile.
+static void readForeignPicturesApart(const QString& language = {},
+                                     std::unique_ptr<codec::DecodingWait> (*wait)() = nullptr)
+{
+    std::vector<std::string> arguments{kDecodeOption};
+    if (!language.isEmpty()) arguments.push_back(language.toStdString());
+    codec::setForeignDecoding({.program = "/proc/self/exe", .arguments = std::move(arguments), .wait = wait});
+}
+
+static int decode(int argc, char** argv)
+{
+    if (argc > 2) speakWithoutApplication(QString::fromLocal8Bit(argv[2]));
+    return codec::runDecoder();
+}
+
 static int run(int argc, char** argv)
 {
+    if (argc > 1 && std::string(argv[1]) == kDecodeOption) std::_Exit(decode(argc, argv)); // nothing to put in order
+    readForeignPicturesApart();
     if (argc > 1 && std::string(argv[1]) == "--batch") return runBatchCommandLine(argc, argv);
     if (argc > 1 && std::string(argv[1]) == "--thumbnail") return runThumbnailCommandLine(argc, argv);
     CommandLine line = parseCommandLine(argc, argv);
@@ -75,6 +96,7 @@ static int run(int argc, char** argv)
     const bool portalPanels = !scripted && usePortalPanels();
     Application application(argc, argv);
     scripted ? speakAsScripts() : speakAsDesktop();
+    readForeignPicturesApart(spokenLanguage(), readingWait);
     QApplication::setStyle("fusion"); // the same on every desktop and platform plug-in
     applyColorScheme();
     if (!scripted) followDesktopAppearance(applyColorScheme);

@@ -485,6 +485,18 @@
         <source>The TIFF data is damaged; what could be read is shown.</source>
         <translation>Die TIFF-Daten sind beschädigt; gezeigt wird, was lesbar war.</translation>
     </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <translation>Das %1-Bild kann nicht gelesen werden: Sein Leser endete unerwartet.</translation>
+    </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <translation>Das %1-Bild kann nicht gelesen werden: Sein Leser kam zu keinem Ende.</translation>
+    </message>
+    <message>
+        <source>Reading was stopped.</source>
+        <translation>Das Lesen wurde abgebrochen.</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -732,6 +744,10 @@
     <message>
         <source>It will be offered again at the next start.</source>
         <translation>Es wird beim nächsten Start wieder angeboten.</translation>
+    </message>
+    <message>
+        <source>Reading the picture…</source>
+        <translation>Bild wird gelesen …</translation>
     </message>
 </context>
 <context>

@@ -485,6 +485,18 @@
         <source>The TIFF data is damaged; what could be read is shown.</source>
         <translation>Los datos TIFF están dañados; se muestra lo que se pudo leer.</translation>
     </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <translation>No se puede leer la imagen %1: su lector terminó de forma inesperada.</translation>
+    </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <translation>No se puede leer la imagen %1: su lector no llegó a terminar.</translation>
+    </message>
+    <message>
+        <source>Reading was stopped.</source>
+        <translation>Se detuvo la lectura.</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -732,6 +744,10 @@
     <message>
         <source>It will be offered again at the next start.</source>
         <translation>Se volverá a ofrecer en el próximo inicio.</translation>
+    </message>
+    <message>
+        <source>Reading the picture…</source>
+        <translation>Leyendo la imagen…</translation>
     </message>
 </context>
 <context>

@@ -485,6 +485,18 @@
         <source>The TIFF data is damaged; what could be read is shown.</source>
         <translation>Les données TIFF sont endommagées&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <translation>L’image %1 ne peut pas être lue : son lecteur s’est arrêté de façon inattendue.</translation>
+    </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <translation>L’image %1 ne peut pas être lue : son lecteur ne se termine pas.</translation>
+    </message>
+    <message>
+        <source>Reading was stopped.</source>
+        <translation>La lecture a été interrompue.</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -732,6 +744,10 @@
     <message>
         <source>It will be offered again at the next start.</source>
         <translation>Elle sera proposée de nouveau au prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>Reading the picture…</source>
+        <translation>Lecture de l’image…</translation>
     </message>
 </context>
 <context>

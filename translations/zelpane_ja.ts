@@ -476,6 +476,18 @@
         <source>The TIFF data is damaged; what could be read is shown.</source>
         <translation>TIFF データが壊れています。読み込めた部分を表示しています。</translation>
     </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <translation>%1 画像を読み込めません: 読み込み処理が予期せず終了しました。</translation>
+    </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <translation>%1 画像を読み込めません: 読み込み処理が終わりませんでした。</translation>
+    </message>
+    <message>
+        <source>Reading was stopped.</source>
+        <translation>読み込みを中止しました。</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -722,6 +734,10 @@
     <message>
         <source>It will be offered again at the next start.</source>
         <translation>次回の起動時にもう一度提示されます。</translation>
+    </message>
+    <message>
+        <source>Reading the picture…</source>
+        <translation>画像を読み込んでいます…</translation>
     </message>
 </context>
 <context>

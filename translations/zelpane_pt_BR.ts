@@ -485,6 +485,18 @@
         <source>The TIFF data is damaged; what could be read is shown.</source>
         <translation>Os dados TIFF estão danificados; mostra-se o que pôde ser lido.</translation>
     </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <translation>Não é possível ler a imagem %1: seu leitor terminou inesperadamente.</translation>
+    </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <translation>Não é possível ler a imagem %1: seu leitor não chegou ao fim.</translation>
+    </message>
+    <message>
+        <source>Reading was stopped.</source>
+        <translation>A leitura foi interrompida.</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -732,6 +744,10 @@
     <message>
         <source>It will be offered again at the next start.</source>
         <translation>Ela será oferecida novamente na próxima inicialização.</translation>
+    </message>
+    <message>
+        <source>Reading the picture…</source>
+        <translation>Lendo a imagem…</translation>
     </message>
 </context>
 <context>

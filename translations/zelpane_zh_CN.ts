@@ -476,6 +476,18 @@
         <source>The TIFF data is damaged; what could be read is shown.</source>
         <translation>TIFF 数据已损坏；显示的是能读取的部分。</translation>
     </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <translation>无法读取 %1 图片：读取程序意外结束。</translation>
+    </message>
+    <message>
+        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <translation>无法读取 %1 图片：读取程序没有结束。</translation>
+    </message>
+    <message>
+        <source>Reading was stopped.</source>
+        <translation>读取已停止。</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -722,6 +734,10 @@
     <message>
         <source>It will be offered again at the next start.</source>
         <translation>下次启动时会再次提供。</translation>
+    </message>
+    <message>
+        <source>Reading the picture…</source>
+        <translation>正在读取图片…</translation>
     </message>
 </context>
 <context>

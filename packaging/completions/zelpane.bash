@@ -26,7 +26,7 @@ _zelpane() {
         ;;
     esac
     local options='--new --open --image-processor --script --show --offscreen --no-start-choice --offer-recovery --help --version'
-    [ "$cword" -eq 1 ] && options+=' --batch --thumbnail'
+    [ "$cword" -eq 1 ] && options+=' --batch --thumbnail --decode'
     if [ "${words[1]}" = --batch ] && [ "$cword" -gt 1 ]; then
         options='--tiff --jpeg --fit --watermark --at --place --opacity --strip --jobs --shard --keep-damaged --skip-existing --dry-run --help'
     fi

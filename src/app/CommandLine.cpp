@@ -30,6 +30,7 @@ A bitmap image editor.
   --no-start-choice   do not ask for a new or an existing image at the start
   --offer-recovery    ask about work that a crash left also when a script is played
   --thumbnail         write SRC as a PNG picture of at most SIZE pixels a side into DST
+  --decode            read pictures for another process; the program starts itself with it
   --help              this text
   --version           the version, the libraries and the vector instructions in use
 )";

@@ -5,7 +5,7 @@
 #include "base/Translation.h"
 #include "codecs/Codec.h"
 #include "codecs/FileWindow.h"
-#include "codecs/MagickReader.h"
+#include "codecs/ForeignDecoder.h"
 #include <cerrno>
 #include <cstring>
 #include <exception>
@@ -44,7 +44,7 @@ Decoded decodeAs(Format format, Bytes bytes, const ImportOptions& options)
         if (codec::isIndexedPSD(bytes)) return codec::decodeIndexedPSD(bytes, options);
         [[fallthrough]];
     default:
-        return codec::decodeByMagick(bytes, format, options);
+        return codec::decodeForeign(bytes, format, options);
     }
 }
 

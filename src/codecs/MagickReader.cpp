@@ -12,11 +12,8 @@
 
 namespace zp::codec
 {
-namespace
-{
 
-/// The reader's name; null for what is not on the list.
-const char* readerFor(Format format)
+const char* magickName(Format format)
 {
     switch (format) {
     case Format::GIF:
@@ -50,6 +47,16 @@ const char* readerFor(Format format)
     }
 }
 
+namespace
+{
+
+DecodedRest failure(std::string sentence)
+{
+    DecodedRest rest;
+    rest.error = std::move(sentence);
+    return rest;
+}
+
 void initializeOnce()
 {
     static std::once_flag once;
@@ -71,9 +78,9 @@ std::string sentence(Format format, const Magick::Exception& e)
     if (const auto quote = text.find(" `"); quote != std::string::npos) text.erase(quote);
     if (dynamic_cast<const Magick::ErrorResourceLimit*>(&e))
         return filledIn(translated("Codecs", "The %1 picture is larger than the limits of this machine allow."),
-                        {readerFor(format)});
+                        {magickName(format)});
     return filledIn(translated("Codecs", "The %1 data cannot be read: %2."),
-                    {readerFor(format), tidyMessage(text.c_str())});
+                    {magickName(format), tidyMessage(text.c_str())});
 }
 
 std::vector<std::uint8_t> profileOf(Magick::Image& image, const char* name)
@@ -132,7 +139,7 @@ std::vector<std::uint8_t> withoutUnusedMap(Bytes tga)
     return out;
 }
 
-Decoded read(Bytes bytes, Format format, const ImportOptions& options)
+DecodedRest read(Bytes bytes, Format format, bool properties, RowTarget& target)
 {
     std::vector<std::uint8_t> changed;
     if (format == Format::TGA && bytes[1] == 1 && (bytes[2] & 7) != 1) changed = withoutUnusedMap(bytes);
@@ -140,11 +147,11 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
                             changed.empty() ? bytes.size() : changed.size());
     const auto prepare = [&](Magick::Image& image) {
         image.quiet(true); // warnings are no exceptions
-        image.magick(readerFor(format));
+        image.magick(magickName(format));
         image.subImage(0); // the first frame alone; of a PSD that is the merged picture
         image.subRange(1);
     };
-    Decoded result;
+    DecodedRest result;
     Magick::Image head;
     prepare(head);
     head.ping(blob);
@@ -159,7 +166,7 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
         result.damaged = true;
     } catch (const Magick::Warning&) {
     }
-    if (!image.isValid()) return Decoded::failure(translated("Codecs", "The picture has no pixels."));
+    if (!image.isValid()) return failure(translated("Codecs", "The picture has no pixels."));
     const bool inks = image.colorSpace() == Magick::CMYKColorspace;
     const bool deep = image.depth() > 8 && format != Format::GIF;
     if (inks && !profileOf(image, "icc").empty()) {
@@ -182,49 +189,48 @@ Decoded read(Bytes bytes, Format format, const ImportOptions& options)
             top = page.yNegative() ? -int(page.yOff()) : int(page.yOff());
         }
     }
-    auto bitmap = BitmapRep::create(width, height);
-    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
-    const BitmapView out = bitmap->view();
+    if (!target.begin(width, height))
+        return failure(translated("Codecs", "There is not enough memory for this picture."));
     const bool transparent = image.matte() && alphaCounts(format);
     const int columns = int(image.columns());
+    const int x0 = std::max(0, left), x1 = std::min(width, left + columns);
     std::vector<std::uint8_t> row(std::size_t(columns) * 4);
-    for (int y = 0; y < int(image.rows()); ++y) {
-        const int to = y + top;
-        if (to < 0 || to >= height) continue;
+    for (int to = 0; to < height; ++to) {
+        std::uint8_t* const out = target.row(to);
+        const int y = to - top;
+        if (y < 0 || y >= int(image.rows())) continue;
         image.write(0, y, std::size_t(columns), 1, "ARGB", Magick::CharPixel, row.data());
         if (!transparent)
             for (std::size_t x = 0; x < row.size(); x += 4) row[x] = 255;
         else
             premultiplyRow(row.data(), std::size_t(columns));
-        const int x0 = std::max(0, left), x1 = std::min(width, left + columns);
-        if (x0 < x1) std::memcpy(out.pixel(x0, to), &row[std::size_t(x0 - left) * 4], std::size_t(x1 - x0) * 4);
+        if (x0 < x1) std::memcpy(out + std::size_t(x0) * 4, &row[std::size_t(x0 - left) * 4], std::size_t(x1 - x0) * 4);
     }
-    ImageProperties& properties = bitmap->properties;
     if (result.damaged)
-        properties.warnings.emplace_back(
+        result.properties.warnings.emplace_back(
             translated("Codecs", "The picture's data is damaged; what could be read is shown."));
-    if (deep) result.facts.bits = 16;
-    result.facts.inks = inks;
+    if (deep) result.bits = 16;
+    result.inks = inks;
     if (deep)
-        properties.warnings.emplace_back(
+        result.properties.warnings.emplace_back(
             translated("Codecs", "The picture had %n bits a colour; it was reduced to 8.", nullptr, 16));
     result.orientation = format == Format::TGA ? orientationOfTGA(bytes) : orientationOf(image);
-    if (options.properties) collectProperties(image, inks, properties);
-    result.bitmap = std::move(bitmap);
+    if (properties) collectProperties(image, inks, result.properties);
     return result;
 }
 
 } // namespace
 
-Decoded decodeByMagick(Bytes bytes, Format format, const ImportOptions& options)
+void prepareMagick() { initializeOnce(); }
+
+DecodedRest readByMagick(Bytes bytes, Format format, bool properties, RowTarget& target)
 {
-    if (!readerFor(format))
-        return Decoded::failure(translated("Codecs", "It is not a picture of a kind that can be opened."));
+    if (!magickName(format)) return failure(translated("Codecs", "It is not a picture of a kind that can be opened."));
     initializeOnce();
     try {
-        return read(bytes, format, options);
+        return read(bytes, format, properties, target);
     } catch (const Magick::Exception& e) {
-        return Decoded::failure(sentence(format, e));
+        return failure(sentence(format, e));
     }
 }
 

@@ -22,6 +22,17 @@ std::string byQt(const char* context, const char* text, const char* comment, int
 
 /// Ours and that of Qt's own panels.
 QTranslator texts, panelTexts;
+QString spoken;
+
+bool loadTexts(const QString& language)
+{
+    const QString name = "zelpane_" + language;
+    bool ours = texts.load(name, QFile::decodeName((shippedResourcesFolder() + "/../translations").c_str()));
+#ifdef ZP_BUILD_TRANSLATIONS
+    ours = ours || texts.load(name, ZP_BUILD_TRANSLATIONS);
+#endif
+    return ours;
+}
 
 } // namespace
 
@@ -53,18 +64,27 @@ bool speakLanguage(const QString& language)
     QCoreApplication::removeTranslator(&texts);
     QCoreApplication::removeTranslator(&panelTexts);
     setTranslator(nullptr);
+    spoken.clear();
     if (language.isEmpty()) return true;
-    const QString name = "zelpane_" + language;
-    bool ours = texts.load(name, QFile::decodeName((shippedResourcesFolder() + "/../translations").c_str()));
-#ifdef ZP_BUILD_TRANSLATIONS
-    ours = ours || texts.load(name, ZP_BUILD_TRANSLATIONS);
-#endif
+    const bool ours = loadTexts(language);
     const bool panels = panelTexts.load("qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    if (!ours) logLine("the texts of %s are missing", qUtf8Printable(name));
+    if (!ours) logLine("the texts of %s are missing", qUtf8Printable(language));
     if (panels) QCoreApplication::installTranslator(&panelTexts);
     if (ours) QCoreApplication::installTranslator(&texts);
     if (ours) setTranslator(byQt);
+    if (ours) spoken = language;
     return ours;
+}
+
+QString spokenLanguage() { return spoken; }
+
+void speakWithoutApplication(const QString& language)
+{
+    if (!loadTexts(language)) return;
+    setTranslator([](const char* context, const char* text, const char* comment, int count) {
+        const QString said = texts.translate(context, text, comment, count);
+        return said.isEmpty() ? std::string(text) : said.toStdString();
+    });
 }
 
 void speakAsDesktop()

@@ -19,6 +19,12 @@ QString languageFor(const QStringList& wanted);
 /// @return whether all its texts were there
 bool speakLanguage(const QString& language);
 
+/// The one that is spoken; empty: English.
+QString spokenLanguage();
+
+/// The texts below Qt alone, in a process that has no application object.
+void speakWithoutApplication(const QString& language);
+
 /// Texts as the person reads, numbers as the person writes them. Thousands are never marked: who types a number does
 /// not.
 void speakAsDesktop();

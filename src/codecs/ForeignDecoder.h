@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Pictures of kinds that a foreign library reads, in a process of their own: whatever the library does there, the
+/// program goes on.
+#pragma once
+#include "codecs/Codec.h"
+#include <chrono>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zp::codec
+{
+
+/// Lives while a picture is waited for, in the thread that waits.
+class DecodingWait
+{
+public:
+    virtual ~DecodingWait() = default;
+    /// Asked some twenty times a second. @return false when the person does not want to wait any longer
+    virtual bool goOn() = 0;
+};
+
+struct ForeignDecoding {
+    /// A program that runs runDecoder() when it is started with these words. Empty: pictures are read in this very
+    /// process (tests, fuzzers, measurements).
+    std::string program{};
+    std::vector<std::string> arguments{};
+    /// How long the decoder may give no sign of life.
+    std::chrono::milliseconds patience{20'000};
+    std::unique_ptr<DecodingWait> (*wait)() = nullptr; ///< null: nobody interrupts
+};
+/// Before the first picture is read, and again when something of it becomes known. Main thread.
+void setForeignDecoding(ForeignDecoding how);
+
+/// As decodeByMagick() was: the picture, or a sentence why not, which also stands for a decoder that died, hung or was
+/// given up. Any thread.
+Decoded decodeForeign(Bytes bytes, Format format, const ImportOptions& options);
+
+/// What the decoder's program does: takes jobs from standard input, a local socket, and writes what becomes of them
+/// to standard output, behind walls (DecoderWalls.h), until the other side is gone or for some seconds has nothing to
+/// do. @return the exit status
+int runDecoder();
+
+} // namespace zp::codec

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// The program while the process that reads a picture for it dies or hangs.
+#include "support/Samples.h"
+#include "support/Session.h"
+#include <csignal>
+#include <unistd.h>
+
+using zp::test::sample;
+using zp::test::Session;
+
+namespace
+{
+
+/// The decoders that the program has started.
+QList<pid_t> decoders(Session& s)
+{
+    QList<pid_t> all;
+    for (const QString& process : QDir("/proc").entryList(QDir::Dirs)) {
+        QFile status("/proc/" + process + "/stat"), words("/proc/" + process + "/cmdline");
+        if (!process[0].isDigit() || !status.open(QFile::ReadOnly) || !words.open(QFile::ReadOnly)) continue;
+        const QByteArray fields = status.readAll();
+        const QList<QByteArray> behindName = fields.mid(fields.lastIndexOf(')') + 2).split(' ');
+        if (behindName.size() > 1 && behindName[1].toLongLong() == s.process().processId() &&
+            words.readAll().split('\0').contains("--decode"))
+            all << process.toInt();
+    }
+    return all;
+}
+
+QString openBase(const char* name) { return QString("open ") + QString::fromStdString(sample("made/valid/")) + name; }
+
+QString message(Session& s) { return s.must("alert")["alert"].toObject()["message"].toString(); }
+
+class Decoding : public testing::Test
+{
+protected:
+    Session s;
+    pid_t decoder = 0;
+
+    void SetUp() override
+    {
+        s.must(openBase("base.gif"));
+        const QList<pid_t> all = decoders(s);
+        ASSERT_EQ(all.size(), 1) << "it was not read in a process of its own";
+        decoder = all[0];
+    }
+    void expectGoesOn()
+    {
+        s.must("answer OK");
+        EXPECT_TRUE(s.must("state").contains("ok"));
+        s.must(openBase("base.bmp"));
+        EXPECT_TRUE(s.must("alert")["alert"].isNull());
+        EXPECT_EQ(s.end(), 0);
+    }
+};
+
+TEST_F(Decoding, IsDoneByOneProcessForOnePictureAfterTheOther)
+{
+    s.must(openBase("base.bmp"));
+    s.must(openBase("base.psd"));
+    EXPECT_EQ(decoders(s), QList<pid_t>{decoder});
+    EXPECT_EQ(s.end(), 0);
+    for (int i = 0; i < 100 && ::kill(decoder, 0) == 0; ++i) usleep(20'000);
+    EXPECT_NE(::kill(decoder, 0), 0) << "it outlives the program";
+}
+
+TEST_F(Decoding, ThatWasKilledWhileIdleIsStartedAnew)
+{
+    ::kill(decoder, SIGKILL);
+    s.must(openBase("base.bmp"));
+    EXPECT_TRUE(s.must("alert")["alert"].isNull());
+    EXPECT_EQ(s.end(), 0);
+}
+
+TEST_F(Decoding, ThatHangsIsEndedByEscape)
+{
+    ::kill(decoder, SIGSTOP);
+    s.must(openBase("base.bmp")); // answered when the window with Cancel comes up
+    s.must("key Escape");
+    s.must("sleep 0.2");
+    EXPECT_EQ(message(s), "base.bmp: Reading was stopped.");
+    expectGoesOn();
+}
+
+using DecodingLong = Decoding;
+TEST_F(DecodingLong, ThatHangsIsEndedAfterAWhile)
+{
+    ::kill(decoder, SIGSTOP);
+    s.must(openBase("base.bmp"));
+    s.must("sleep 22");
+    EXPECT_EQ(message(s), "base.bmp: The BMP picture cannot be read: its reader did not come to an end.");
+    expectGoesOn();
+}
+
+} // namespace
