@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Lines of scripts: the words of any line, quoted again, are the same words.
 #include "Fuzz.h"
-#include "script/ScriptWords.h"
+#include "base/ScriptWords.h"
 
 ZP_FUZZ(ScriptLine, "", bytes)
 {

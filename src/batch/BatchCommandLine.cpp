@@ -4,12 +4,14 @@
 #include "base/Folders.h"
 #include "base/WorkPool.h"
 #include "batch/BatchRules.h"
+#include "batch/BatchScript.h"
 #include "batch/Watermarks.h"
 #include "codecs/ImageImporter.h"
 #include <charconv>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <optional>
 #include <string_view>
 #include <unistd.h>
@@ -24,6 +26,9 @@ constexpr const char* kHelp = R"(Usage: zelpane --batch SRC DST [OPTION…]
 
 Converts every .tiff and .jpg image of the folder SRC into the folder DST.
 
+  --script FILE       play the automation commands of FILE on each image, in an
+                      editor of its own, before what follows
+  --set NAME=VALUE    what ${NAME} stands for in FILE; may be repeated
   --tiff              write NAME.tiff (LZW)
   --jpeg              write NAME.jpg (quality 70); one of the two is needed
   --fit WxH           resize to fit W by H pixels; smaller images are enlarged
@@ -102,6 +107,10 @@ std::string takeValue(BatchCommandLine& line, const std::string& option, const s
             return wrong;
         s.fitWidth = box->first;
         s.fitHeight = box->second;
+    } else if (option == "--script") {
+        line.scriptPath = value;
+    } else if (option == "--set") {
+        return takeScriptValue(value, line.scriptValues);
     } else if (option == "--watermark") {
         line.watermarkPath = value;
     } else if (option == "--at") {
@@ -134,7 +143,8 @@ std::string takeValue(BatchCommandLine& line, const std::string& option, const s
 
 bool hasValue(const std::string& option)
 {
-    for (const char* known : {"--fit", "--watermark", "--at", "--place", "--opacity", "--jobs", "--shard", "--strip"})
+    for (const char* known :
+         {"--script", "--set", "--fit", "--watermark", "--at", "--place", "--opacity", "--jobs", "--shard", "--strip"})
         if (option == known) return true;
     return false;
 }
@@ -223,6 +233,8 @@ BatchCommandLine parseBatchCommandLine(int argc, char** argv)
     if (line.error.empty() && !line.settings.tiff && !line.settings.jpeg) line.error = "choose --tiff, --jpeg or both.";
     if (line.error.empty() && pointGiven && line.settings.watermarkPlace != WatermarkPlace::Custom)
         line.error = "--at and --place say the same thing twice.";
+    if (line.error.empty() && line.scriptPath.empty() && !line.scriptValues.empty())
+        line.error = "--set is of use with --script only.";
     if (!jobsGiven) line.settings.jobs = 0; // as many as the machine has processors
     return line;
 }
@@ -235,6 +247,11 @@ int runBatchCommandLine(int argc, char** argv)
         return 0;
     }
     if (line.error.empty() && !line.watermarkPath.empty()) line.error = loadWatermark(line);
+    if (line.error.empty() && !line.scriptPath.empty()) {
+        std::error_code failed;
+        const std::string program = std::filesystem::read_symlink("/proc/self/exe", failed).string();
+        line.settings.script = BatchScript::read(line.scriptPath, line.scriptValues, program, line.error);
+    }
     if (!line.error.empty()) {
         std::fprintf(stderr, "zelpane: %s\nTry \"zelpane --batch --help\".\n", line.error.c_str());
         return 2;

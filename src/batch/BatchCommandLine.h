@@ -2,6 +2,7 @@
 /// The batch run as a command, for servers and timers: no window, no display.
 #pragma once
 #include "batch/BatchJob.h"
+#include "batch/BatchScript.h"
 #include <string>
 
 namespace zp
@@ -10,6 +11,8 @@ namespace zp
 struct BatchCommandLine {
     BatchSettings settings;
     std::string watermarkPath;
+    std::string scriptPath;
+    ScriptValues scriptValues;
     bool help = false;
     bool dryRun = false; ///< only say what would be written
     std::string error;   ///< what is wrong with the words; empty: nothing

@@ -71,6 +71,7 @@ std::string processBatchImage(const BatchSettings& settings, const std::string& 
 try {
     BatchPicture picture(settings, name);
     if (std::string why = picture.read(); !why.empty()) return why;
+    if (std::string why = picture.play(); !why.empty()) return why;
     if (std::string why = picture.fit(); !why.empty()) return why;
     picture.stamp();
     std::string sentences = picture.damage();

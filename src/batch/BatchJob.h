@@ -13,9 +13,12 @@
 namespace zp
 {
 
+class BatchScript;
+
 struct BatchSettings {
-    std::string source, destination; ///< folders
-    int fitWidth = 0, fitHeight = 0; ///< the box in pixels; 0: sizes stay
+    std::string source, destination;           ///< folders
+    std::shared_ptr<const BatchScript> script; ///< what each picture is put through first
+    int fitWidth = 0, fitHeight = 0;           ///< the box in pixels; 0: sizes stay
     std::shared_ptr<const BitmapRep> watermark;
     Point watermarkPoint; ///< lower-left corner, y upwards
     /// Where it sits in each picture, by that picture's size; Custom: at watermarkPoint.

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Read, fit, stamp, write.
+/// Read, play, fit, stamp, write.
 #include "batch/BatchPicture.h"
 #include "base/Folders.h"
 #include "batch/BatchRules.h"
+#include "batch/BatchScript.h"
 #include "batch/WatermarkDrawing.h"
 #include "codecs/FileNames.h"
 #include "codecs/ImageEncoder.h"
@@ -60,20 +61,22 @@ BatchPicture::BatchPicture(const BatchSettings& settings, std::string name)
 std::string BatchPicture::tiffPath() const { return batchOutput(mSettings.destination, mName, "tiff"); }
 std::string BatchPicture::jpegPath() const { return batchOutput(mSettings.destination, mName, "jpg"); }
 
+void BatchPicture::fitsTo(int width, int height)
+{
+    const Size whole =
+        wholePixels(fittedSize({float(width), float(height)}, float(mSettings.fitWidth), float(mSettings.fitHeight)));
+    mWidth = int(whole.width);
+    mHeight = int(whole.height);
+}
+
 std::string BatchPicture::read()
 {
-    const Size box{float(mSettings.fitWidth), float(mSettings.fitHeight)};
-    const auto fitsTo = [&](Size size) {
-        const Size whole = wholePixels(fittedSize(size, box.width, box.height));
-        mWidth = int(whole.width);
-        mHeight = int(whole.height);
-    };
     ImportOptions options;
-    if (mSettings.fits() && mSettings.reducedDecoding) {
+    if (mSettings.fits() && mSettings.reducedDecoding && !mSettings.script) {
         // The result's size follows from the file's own, so that a reduced decode changes no size by a rounding.
         const PixelDimensions size = imageFileDimensions(mFile);
         if (size.width > 0) {
-            fitsTo({float(size.width), float(size.height)});
+            fitsTo(size.width, size.height);
             const PixelDimensions least = leastSize(size, mWidth, mHeight);
             options.atLeastWidth = least.width;
             options.atLeastHeight = least.height;
@@ -89,12 +92,14 @@ std::string BatchPicture::read()
     mPixels = std::move(imported.bitmap);
     mPixels->properties.userComment = kEditedComment;
     if (mSettings.stripPrivate) removePrivateData(mPixels->properties);
-    if (mSettings.fits() && mWidth == 0) fitsTo({float(mPixels->pixelsWide()), float(mPixels->pixelsHigh())});
     return {};
 }
 
+std::string BatchPicture::play() { return mSettings.script ? mSettings.script->play(mFile, mPixels) : std::string(); }
+
 std::string BatchPicture::fit()
 {
+    if (mSettings.fits() && mWidth == 0) fitsTo(mPixels->pixelsWide(), mPixels->pixelsHigh());
     if (!mSettings.fits() || (mWidth == mPixels->pixelsWide() && mHeight == mPixels->pixelsHigh())) return {};
     auto fitted = BitmapRep::createUninitialized(mWidth, mHeight);
     if (!fitted) return kNoMemory;

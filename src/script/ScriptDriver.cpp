@@ -3,9 +3,9 @@
 #include "script/ScriptDriver.h"
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
+#include "base/ScriptWords.h"
 #include "canvas/ZPCanvas.h"
 #include "desktop/Panels.h"
-#include "script/ScriptWords.h"
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>

@@ -3,10 +3,10 @@
 #include "app/MainWindow.h"
 #include "app/StatusLine.h"
 #include "app/ZPAppController.h"
+#include "base/ScriptWords.h"
 #include "desktop/NoticeBar.h"
 #include "document/Document.h"
 #include "script/ScriptDriver.h"
-#include "script/ScriptWords.h"
 #include <QJsonArray>
 #include <QLabel>
 

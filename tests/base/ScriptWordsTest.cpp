@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Lines of the automation language, word by word.
-#include "script/ScriptWords.h"
+#include "base/ScriptWords.h"
 #include <gtest/gtest.h>
 
 using Words = std::vector<std::string>;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Words of the automation language.
-#include "script/ScriptWords.h"
+#include "base/ScriptWords.h"
 #include <cctype>
 
 namespace zp
