@@ -19,6 +19,7 @@
 #include "desktop/SingleInstance.h"
 #include "script/ScriptDriver.h"
 #include <QApplication>
+#include <QPointer>
 #include <QSessionManager>
 #include <QTimer>
 #include <csignal>
@@ -122,6 +123,14 @@ static int run(int argc, char** argv)
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &controller, [&controller](QSessionManager& m) {
         m.setRestartHint(QSessionManager::RestartNever);
         controller.endBySignal();
+    });
+    controller.setScriptPlayer([&controller](const std::string& path, const auto& ended) {
+        const QPointer<ScriptDriver> guest = new ScriptDriver(controller, path, ended); // ends itself
+        guest->setParent(&controller);
+        guest->start();
+        return [guest] {
+            if (guest) guest->stop();
+        };
     });
     controller.rememberChoices(!scripted);
     controller.applicationWillFinishLaunching(!scripted || line.offerRecovery);

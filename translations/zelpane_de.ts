@@ -1861,6 +1861,22 @@
         <source>Paint over a thing and let go: it is filled from its surroundings</source>
         <translation>Etwas übermalen und loslassen: Es wird aus seiner Umgebung gefüllt</translation>
     </message>
+    <message>
+        <source>Copy as Script</source>
+        <translation>Als Skript kopieren</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened, as a script that does it again</source>
+        <translation>Was seit dem Öffnen des Bildes getan wurde, als Skript, das es noch einmal tut</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>What is done to the image, written down as a script; plays scripts on it</source>
+        <translation>Was mit dem Bild getan wird, als Skript aufgeschrieben; spielt Skripte darauf ab</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2352,6 +2368,85 @@
     <message>
         <source>The selection could not be saved.</source>
         <translation>Die Auswahl konnte nicht gesichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptWindow</name>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened</source>
+        <translation>Was seit dem Öffnen des Bildes getan wurde</translation>
+    </message>
+    <message>
+        <source>What is done to the image is written down here.</source>
+        <translation>Was mit dem Bild getan wird, steht hier.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>The whole script on the clipboard</source>
+        <translation>Das ganze Skript in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Sichern …</translation>
+    </message>
+    <message>
+        <source>The whole script as a file</source>
+        <translation>Das ganze Skript als Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Play…</source>
+        <translation>&amp;Abspielen …</translation>
+    </message>
+    <message>
+        <source>Plays a script&apos;s file on the image</source>
+        <translation>Spielt eine Skriptdatei auf dem Bild ab</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>S&amp;topp</translation>
+    </message>
+    <message>
+        <source>Ends the script before its next command</source>
+        <translation>Beendet das Skript vor seinem nächsten Befehl</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>Skript sichern</translation>
+    </message>
+    <message>
+        <source>Saved %1.</source>
+        <translation>%1 gesichert.</translation>
+    </message>
+    <message>
+        <source>The script could not be saved.</source>
+        <translation>Das Skript konnte nicht gesichert werden.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Play a Script</source>
+        <translation>Ein Skript abspielen</translation>
+    </message>
+    <message>
+        <source>Playing %1…</source>
+        <translation>%1 läuft …</translation>
+    </message>
+    <message>
+        <source>The script is done.</source>
+        <translation>Das Skript ist fertig.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the script: %2.</source>
+        <translation>Zeile %1 des Skripts: %2.</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3379,10 @@
     <message>
         <source>Done: %1</source>
         <translation>Erledigt: %1</translation>
+    </message>
+    <message>
+        <source>Copied what was done as a script.</source>
+        <translation>Was getan wurde, ist als Skript kopiert.</translation>
     </message>
 </context>
 <context>

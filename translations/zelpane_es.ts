@@ -1861,6 +1861,22 @@
         <source>Paint over a thing and let go: it is filled from its surroundings</source>
         <translation>Pinte sobre un objeto y suelte: se rellena con su entorno</translation>
     </message>
+    <message>
+        <source>Copy as Script</source>
+        <translation>Copiar como script</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened, as a script that does it again</source>
+        <translation>Lo hecho desde que se abrió la imagen, como un script que lo repite</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>What is done to the image, written down as a script; plays scripts on it</source>
+        <translation>Lo que se hace con la imagen, anotado como script; ejecuta scripts en ella</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2352,6 +2368,85 @@
     <message>
         <source>The selection could not be saved.</source>
         <translation>No se pudo guardar la selección.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptWindow</name>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened</source>
+        <translation>Lo hecho desde que se abrió la imagen</translation>
+    </message>
+    <message>
+        <source>What is done to the image is written down here.</source>
+        <translation>Aquí se anota lo que se hace con la imagen.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>The whole script on the clipboard</source>
+        <translation>El script entero al portapapeles</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Guardar…</translation>
+    </message>
+    <message>
+        <source>The whole script as a file</source>
+        <translation>El script entero como archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Play…</source>
+        <translation>&amp;Ejecutar…</translation>
+    </message>
+    <message>
+        <source>Plays a script&apos;s file on the image</source>
+        <translation>Ejecuta un archivo de script en la imagen</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Parar</translation>
+    </message>
+    <message>
+        <source>Ends the script before its next command</source>
+        <translation>Termina el script antes de su siguiente orden</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>Guardar script</translation>
+    </message>
+    <message>
+        <source>Saved %1.</source>
+        <translation>%1 guardado.</translation>
+    </message>
+    <message>
+        <source>The script could not be saved.</source>
+        <translation>No se pudo guardar el script.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Play a Script</source>
+        <translation>Ejecutar un script</translation>
+    </message>
+    <message>
+        <source>Playing %1…</source>
+        <translation>Ejecutando %1…</translation>
+    </message>
+    <message>
+        <source>The script is done.</source>
+        <translation>El script ha terminado.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the script: %2.</source>
+        <translation>Línea %1 del script: %2.</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3379,10 @@
     <message>
         <source>Done: %1</source>
         <translation>Hecho: %1</translation>
+    </message>
+    <message>
+        <source>Copied what was done as a script.</source>
+        <translation>Se ha copiado lo hecho como script.</translation>
     </message>
 </context>
 <context>

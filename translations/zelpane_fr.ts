@@ -1861,6 +1861,22 @@
         <source>Paint over a thing and let go: it is filled from its surroundings</source>
         <translation>Peignez sur un objet et relâchez&#xa0;: il est comblé d’après son entourage</translation>
     </message>
+    <message>
+        <source>Copy as Script</source>
+        <translation>Copier comme script</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened, as a script that does it again</source>
+        <translation>Ce qui a été fait depuis l’ouverture de l’image, sous forme de script qui le refait</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>What is done to the image, written down as a script; plays scripts on it</source>
+        <translation>Ce qui est fait à l’image, noté sous forme de script ; y joue des scripts</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2352,6 +2368,85 @@
     <message>
         <source>The selection could not be saved.</source>
         <translation>La sélection n’a pas pu être enregistrée.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptWindow</name>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened</source>
+        <translation>Ce qui a été fait depuis l’ouverture de l’image</translation>
+    </message>
+    <message>
+        <source>What is done to the image is written down here.</source>
+        <translation>Ce qui est fait à l’image est noté ici.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>The whole script on the clipboard</source>
+        <translation>Le script entier dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Enregistrer…</translation>
+    </message>
+    <message>
+        <source>The whole script as a file</source>
+        <translation>Le script entier dans un fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Play…</source>
+        <translation>&amp;Jouer…</translation>
+    </message>
+    <message>
+        <source>Plays a script&apos;s file on the image</source>
+        <translation>Joue un fichier de script sur l’image</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>Ends the script before its next command</source>
+        <translation>Termine le script avant sa prochaine commande</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>Enregistrer le script</translation>
+    </message>
+    <message>
+        <source>Saved %1.</source>
+        <translation>%1 enregistré.</translation>
+    </message>
+    <message>
+        <source>The script could not be saved.</source>
+        <translation>Le script n’a pas pu être enregistré.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Play a Script</source>
+        <translation>Jouer un script</translation>
+    </message>
+    <message>
+        <source>Playing %1…</source>
+        <translation>Lecture de %1…</translation>
+    </message>
+    <message>
+        <source>The script is done.</source>
+        <translation>Le script est terminé.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the script: %2.</source>
+        <translation>Ligne %1 du script : %2.</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3379,10 @@
     <message>
         <source>Done: %1</source>
         <translation>Fait&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Copied what was done as a script.</source>
+        <translation>Ce qui a été fait est copié comme script.</translation>
     </message>
 </context>
 <context>

@@ -1851,6 +1851,22 @@
         <source>Paint over a thing and let go: it is filled from its surroundings</source>
         <translation>物の上を塗って離すと、周囲から塗りつぶされます</translation>
     </message>
+    <message>
+        <source>Copy as Script</source>
+        <translation>スクリプトとしてコピー</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened, as a script that does it again</source>
+        <translation>画像を開いてから行ったことを、もう一度行うスクリプトにします</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>スクリプト</translation>
+    </message>
+    <message>
+        <source>What is done to the image, written down as a script; plays scripts on it</source>
+        <translation>画像に行ったことをスクリプトとして記録し、スクリプトを実行します</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2342,6 +2358,85 @@
     <message>
         <source>The selection could not be saved.</source>
         <translation>選択範囲を保存できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptWindow</name>
+    <message>
+        <source>Script</source>
+        <translation>スクリプト</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened</source>
+        <translation>画像を開いてから行ったこと</translation>
+    </message>
+    <message>
+        <source>What is done to the image is written down here.</source>
+        <translation>画像に行ったことがここに記録されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The whole script on the clipboard</source>
+        <translation>スクリプト全体をクリップボードへ</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>The whole script as a file</source>
+        <translation>スクリプト全体をファイルへ</translation>
+    </message>
+    <message>
+        <source>&amp;Play…</source>
+        <translation>実行(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Plays a script&apos;s file on the image</source>
+        <translation>スクリプトのファイルを画像に対して実行します</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>停止(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Ends the script before its next command</source>
+        <translation>次のコマンドの前でスクリプトを終了します</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>スクリプトを保存</translation>
+    </message>
+    <message>
+        <source>Saved %1.</source>
+        <translation>%1 を保存しました。</translation>
+    </message>
+    <message>
+        <source>The script could not be saved.</source>
+        <translation>スクリプトを保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Play a Script</source>
+        <translation>スクリプトを実行</translation>
+    </message>
+    <message>
+        <source>Playing %1…</source>
+        <translation>%1 を実行中…</translation>
+    </message>
+    <message>
+        <source>The script is done.</source>
+        <translation>スクリプトが終わりました。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the script: %2.</source>
+        <translation>スクリプトの %1 行目: %2。</translation>
     </message>
 </context>
 <context>
@@ -3274,6 +3369,10 @@
     <message>
         <source>Done: %1</source>
         <translation>完了: %1</translation>
+    </message>
+    <message>
+        <source>Copied what was done as a script.</source>
+        <translation>行ったことをスクリプトとしてコピーしました。</translation>
     </message>
 </context>
 <context>

@@ -1861,6 +1861,22 @@
         <source>Paint over a thing and let go: it is filled from its surroundings</source>
         <translation>Pinte sobre um objeto e solte: ele é preenchido com o entorno</translation>
     </message>
+    <message>
+        <source>Copy as Script</source>
+        <translation>Copiar como script</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened, as a script that does it again</source>
+        <translation>O que foi feito desde que a imagem foi aberta, como um script que o repete</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>What is done to the image, written down as a script; plays scripts on it</source>
+        <translation>O que é feito na imagem, anotado como script; executa scripts nela</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2352,6 +2368,85 @@
     <message>
         <source>The selection could not be saved.</source>
         <translation>Não foi possível salvar a seleção.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptWindow</name>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened</source>
+        <translation>O que foi feito desde que a imagem foi aberta</translation>
+    </message>
+    <message>
+        <source>What is done to the image is written down here.</source>
+        <translation>O que é feito na imagem é anotado aqui.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>The whole script on the clipboard</source>
+        <translation>O script inteiro na área de transferência</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Salvar…</translation>
+    </message>
+    <message>
+        <source>The whole script as a file</source>
+        <translation>O script inteiro como arquivo</translation>
+    </message>
+    <message>
+        <source>&amp;Play…</source>
+        <translation>E&amp;xecutar…</translation>
+    </message>
+    <message>
+        <source>Plays a script&apos;s file on the image</source>
+        <translation>Executa um arquivo de script na imagem</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Parar</translation>
+    </message>
+    <message>
+        <source>Ends the script before its next command</source>
+        <translation>Termina o script antes do próximo comando</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>Salvar script</translation>
+    </message>
+    <message>
+        <source>Saved %1.</source>
+        <translation>%1 salvo.</translation>
+    </message>
+    <message>
+        <source>The script could not be saved.</source>
+        <translation>Não foi possível salvar o script.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Play a Script</source>
+        <translation>Executar um script</translation>
+    </message>
+    <message>
+        <source>Playing %1…</source>
+        <translation>Executando %1…</translation>
+    </message>
+    <message>
+        <source>The script is done.</source>
+        <translation>O script terminou.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the script: %2.</source>
+        <translation>Linha %1 do script: %2.</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3379,10 @@
     <message>
         <source>Done: %1</source>
         <translation>Feito: %1</translation>
+    </message>
+    <message>
+        <source>Copied what was done as a script.</source>
+        <translation>O que foi feito foi copiado como script.</translation>
     </message>
 </context>
 <context>

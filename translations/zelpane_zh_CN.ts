@@ -1851,6 +1851,22 @@
         <source>Paint over a thing and let go: it is filled from its surroundings</source>
         <translation>在物体上涂抹后松开：由其周围填充</translation>
     </message>
+    <message>
+        <source>Copy as Script</source>
+        <translation>拷贝为脚本</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened, as a script that does it again</source>
+        <translation>把打开图像后所做的操作写成可重做的脚本</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>脚本</translation>
+    </message>
+    <message>
+        <source>What is done to the image, written down as a script; plays scripts on it</source>
+        <translation>把对图像的操作记录为脚本，并可在图像上运行脚本</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2342,6 +2358,85 @@
     <message>
         <source>The selection could not be saved.</source>
         <translation>无法保存选区。</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptWindow</name>
+    <message>
+        <source>Script</source>
+        <translation>脚本</translation>
+    </message>
+    <message>
+        <source>What was done since the image was opened</source>
+        <translation>打开图像后所做的操作</translation>
+    </message>
+    <message>
+        <source>What is done to the image is written down here.</source>
+        <translation>对图像的操作会记录在这里。</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>拷贝(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The whole script on the clipboard</source>
+        <translation>把整个脚本放到剪贴板</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>The whole script as a file</source>
+        <translation>把整个脚本存为文件</translation>
+    </message>
+    <message>
+        <source>&amp;Play…</source>
+        <translation>运行(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Plays a script&apos;s file on the image</source>
+        <translation>在图像上运行脚本文件</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>停止(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Ends the script before its next command</source>
+        <translation>在下一条命令之前结束脚本</translation>
+    </message>
+    <message>
+        <source>Save Script</source>
+        <translation>保存脚本</translation>
+    </message>
+    <message>
+        <source>Saved %1.</source>
+        <translation>已保存 %1。</translation>
+    </message>
+    <message>
+        <source>The script could not be saved.</source>
+        <translation>无法保存脚本。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Play a Script</source>
+        <translation>运行脚本</translation>
+    </message>
+    <message>
+        <source>Playing %1…</source>
+        <translation>正在运行 %1…</translation>
+    </message>
+    <message>
+        <source>The script is done.</source>
+        <translation>脚本已完成。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the script: %2.</source>
+        <translation>脚本第 %1 行：%2。</translation>
     </message>
 </context>
 <context>
@@ -3274,6 +3369,10 @@
     <message>
         <source>Done: %1</source>
         <translation>已完成：%1</translation>
+    </message>
+    <message>
+        <source>Copied what was done as a script.</source>
+        <translation>已把所做的操作拷贝为脚本。</translation>
     </message>
 </context>
 <context>

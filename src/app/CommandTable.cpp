@@ -118,6 +118,13 @@ constexpr Command plain(const char* action, const char* parameters, Effect effec
     return {.action = action, .effect = effect, .run = run, .parameters = parameters};
 }
 
+/// Another picture is there from then on.
+constexpr Command begins(Command command)
+{
+    command.begins = true;
+    return command;
+}
+
 constexpr OnFloat kKeep = OnFloat::Keep, kSettle = OnFloat::Settle;
 constexpr Effect kRead = Effect::Read, kSelect = Effect::Select, kPaint = Effect::Paint, kReplace = Effect::Replace;
 
@@ -131,7 +138,8 @@ constexpr Command makesNew = {.action = "newImageWithSize:",
                               .name = ZP_TEXT("Steps", "New"),
                               .effect = Effect::Replace,
                               .step = StepRule::Always,
-                              .run = newImageWithSize};
+                              .run = newImageWithSize,
+                              .begins = true};
 
 // clang-format off: a table is read by its rows
 constexpr Command kCommands[] = {
@@ -149,7 +157,7 @@ constexpr Command kCommands[] = {
     item("File", ZP_TEXT("Menu", "Open Recent"), "", "", shell(kRecentMenu)),
     item("File", ZP_TEXT("Menu", "Previous Picture"), "Ctrl+Tab",
          ZP_TEXT("Menu", "Shows the image again that was open before this one"),
-         stepsTo("previousPicture:", ShelvedPicture, previousPicture)),
+         begins(stepsTo("previousPicture:", ShelvedPicture, previousPicture))),
     line("File"),
     item("File", ZP_TEXT("Menu", "Save"), "Ctrl+S", ZP_TEXT("Menu", "Writes the image into its file"),
          reads("save:", File, saveImage)),
@@ -207,6 +215,9 @@ constexpr Command kCommands[] = {
     onPicture(item("Edit", ZP_TEXT("Menu", "Transform…"), "Ctrl+T",
                    ZP_TEXT("Menu", "Scales and rotates the selected pixels"),
                    shell("transform:", PictureThere | Selected))),
+    item("Edit", ZP_TEXT("Menu", "Copy as Script"), "",
+         ZP_TEXT("Menu", "What was done since the image was opened, as a script that does it again"),
+         shell("copyAsScript:", PictureThere)),
     onPicture(item("Edit", ZP_TEXT("Menu", "Adjust…"), "Ctrl+U",
                    ZP_TEXT("Menu", "Hue, saturation, brightness, contrast and sharpness of the selection"),
                    shell("adjust:", PictureThere | Selected))),
@@ -287,6 +298,9 @@ constexpr Command kCommands[] = {
          shell("imageEditor:")),
     item("Window", ZP_TEXT("Menu", "Image Library"), "Ctrl+Shift+L", ZP_TEXT("Menu", "Your favourite images"),
          shell("fileManager:")),
+    item("Window", ZP_TEXT("Menu", "Script"), "",
+         ZP_TEXT("Menu", "What is done to the image, written down as a script; plays scripts on it"),
+         shell("showScript:")),
     item("Window", ZP_TEXT("Menu", "Show Windows"), "", ZP_TEXT("Menu", "Main window and image library"),
          shell("showWindows:")),
     line("Window"),
@@ -303,14 +317,15 @@ constexpr Command kCommands[] = {
 
     // What scripts reach by name, and the program by itself.
     sent("number number", makesNew),
-    plain("newImageForMeWithSize:", "number number", kReplace, newImageForMeWithSize),
-    sent("number number number", replaces("setImageSize:scale:", ZP_TEXT("Steps", "Resize"), Nothing, setImageSize)),
-    plain("setImagePath:", "path", kReplace, setImagePath),
+    begins(plain("newImageForMeWithSize:", "number number", kReplace, newImageForMeWithSize)),
+    sent("number number number [number] [number]",
+         replaces("setImageSize:scale:", ZP_TEXT("Steps", "Resize"), Nothing, setImageSize)),
+    begins(plain("setImagePath:", "path", kReplace, setImagePath)),
     plain("saveImageAsAsked", nullptr, kRead, saveImageAsAsked),
     plain("saveWithoutPrivateData", nullptr, kRead, saveWithoutPrivateData),
     plain("saveImageToPath:", "path", kRead, saveImageToPath),
     plain("saveImageAsTIFF:", "path", kRead, saveImageAsTIFF),
-    plain("saveImageAsJPEG:", "path", kRead, saveImageAsJPEG),
+    plain("saveImageAsJPEG:", "path [number]", kRead, saveImageAsJPEG),
     plain("saveImageAsPNG:", "path", kRead, saveImageAsPNG),
     plain("quickSave:", "path", kRead, quickSave),
     plain("saveSelection:", "path", kRead, saveSelection),
@@ -319,6 +334,8 @@ constexpr Command kCommands[] = {
     plain("magentaClear", "", kPaint, magentaClear),
     plain("makeSelection", "", kPaint, makeSelection),
     plain("selectRectangle:", "number number number number", kSelect, selectRectangle),
+    plain("selectOutline:", "text", kSelect, selectOutline),
+    plain("marqueeRule:", "number number number", Effect::View, marqueeRule),
     plain("inverseMask", "", kSelect, inverseMask),
     plain("clearSelectionMask", "", kSelect, clearSelectionMask),
     plain("clearSelectionMaskINVERT", "", kSelect, clearSelectionMaskINVERT),
@@ -343,12 +360,12 @@ constexpr Command kCommands[] = {
     plain("floodFillScanlineStack:", "nearest", kPaint, floodFillScanlineStack),
     plain("floodFill4Stack:", "nearest", kPaint, floodFill4Stack),
     plain("setColor:atPoint:", "word pixel", kPaint, setColorAtPoint),
-    plain("selectNone", nullptr, kSelect, selectNoneWithSound),
-    plain("nudge", nullptr, kSelect, nudge),
-    plain("endPolygon", nullptr, kSelect, endPolygon),
-    plain("dropPolygon", nullptr, kSelect, dropPolygon),
-    plain("transform", nullptr, kRead, transform),
-    plain("adjust", nullptr, kRead, adjust),
+    plain("selectNone", "", kSelect, selectNoneWithSound),
+    plain("nudge", "number number", kSelect, nudge),
+    plain("endPolygon", "", kSelect, endPolygon),
+    plain("dropPolygon", "", kSelect, dropPolygon),
+    plain("transform", "", kRead, transform),
+    plain("adjust", "", kRead, adjust),
 };
 // clang-format on
 

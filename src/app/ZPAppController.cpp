@@ -8,6 +8,7 @@
 #include "app/PicturePrinting.h"
 #include "app/RecentFiles.h"
 #include "app/SavedSelectionDialogs.h"
+#include "app/ScriptWindow.h"
 #include "app/SelectionByNumber.h"
 #include "app/ShortcutsWindow.h"
 #include "app/SizeDialogs.h"
@@ -36,6 +37,7 @@
 #include "document/Selection.h"
 #include "document/View.h"
 #include "operations/Files.h"
+#include "operations/SessionScript.h"
 #include "operations/TextToolHook.h"
 #include "windows/ZPFileManager.h"
 #include "windows/ZPImageProcessor.h"
@@ -43,6 +45,7 @@
 #include "windows/ZPTextEditor.h"
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QColor>
 #include <QDesktopServices>
 #include <QFile>
@@ -76,7 +79,8 @@ QString toText(const std::string& path) { return QString::fromStdString(displayN
 ZPAppController::ZPAppController()
     : mDocument(std::make_unique<Document>(commandTable())),
       mWindow(std::make_unique<MainWindow>(*mDocument)),
-      mCanvas(mWindow->canvas())
+      mCanvas(mWindow->canvas()),
+      mScript(std::make_unique<SessionScript>(*mDocument))
 {
     buildShell();
     mMenu = new MainMenu(
@@ -371,6 +375,18 @@ void ZPAppController::keyboardShortcuts()
     mShortcuts->showWindow();
 }
 
+void ZPAppController::copyAsScript()
+{
+    QGuiApplication::clipboard()->setText(QString::fromStdString(mScript->text()));
+    mDocument->say(tr("Copied what was done as a script."));
+}
+
+void ZPAppController::showScript()
+{
+    if (!mScriptWindow) mScriptWindow = std::make_unique<ScriptWindow>(*this);
+    mScriptWindow->showWindow();
+}
+
 void ZPAppController::showPictureMenu(QPoint position)
 {
     std::unique_ptr<QMenu> menu(mMenu->makePictureMenu(mWindow.get()));
@@ -511,6 +527,8 @@ void ZPAppController::buildShell()
     on("help:", &ZPAppController::help);
     on("usersGuide:", &ZPAppController::usersGuide);
     on("keyboardShortcuts:", &ZPAppController::keyboardShortcuts);
+    on("copyAsScript:", &ZPAppController::copyAsScript);
+    on("showScript:", &ZPAppController::showScript);
     mShell["print:"] = [this] { printPicture(*mDocument); };
     mShell["saveAsTIFF:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::TIFF); };
     mShell["saveAsJPEG:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::JPEG); };

@@ -11,13 +11,15 @@
 
 class MainMenu;
 class MainWindow;
+class ScriptWindow;
 class ShortcutsWindow;
 class QAction;
 class ZPCanvas;
 namespace zp
 {
 class Document;
-}
+class SessionScript;
+} // namespace zp
 
 /// Lives for the whole run, on the main thread.
 class ZPAppController : public QObject
@@ -55,6 +57,14 @@ public:
     /// Whether the application carries the command out itself: it has no operation of its own.
     bool carriesOut(const QString& action) const { return mShell.contains(action); }
 
+    /// Who can play scripts stands above the application: it plays the file on the picture that is open, and tells when
+    /// that has ended, with the line and what was wrong there. @return what stops it before that
+    using ScriptPlayer = std::function<std::function<void()>(
+        const std::string& path, std::function<void(int line, const QString& error)> ended)>;
+    void setScriptPlayer(ScriptPlayer player) { mScriptPlayer = std::move(player); }
+    const ScriptPlayer& scriptPlayer() const { return mScriptPlayer; }
+    const zp::SessionScript& sessionScript() const { return *mScript; }
+
     MainWindow& window() const { return *mWindow; }
     MainMenu& menu() const { return *mMenu; }
     ZPCanvas& canvas() const { return *mCanvas; }
@@ -77,6 +87,8 @@ public:
     void runPageLayout();
     void openWithPreview();
     void toggleRetina();
+    void copyAsScript();
+    void showScript();
 
     std::int32_t mWidthC = 0, mHeightC = 0;
     bool mLaunchFromDocument = false, mOffersRecovery = true;
@@ -103,5 +115,8 @@ private:
     ZPCanvas* mCanvas = nullptr;
     std::map<QString, std::function<void()>> mShell; ///< commands that the application carries out itself
     std::unique_ptr<ShortcutsWindow> mShortcuts;
+    std::unique_ptr<zp::SessionScript> mScript;
+    std::unique_ptr<ScriptWindow> mScriptWindow;
+    ScriptPlayer mScriptPlayer;
     bool mTerminated = false, mKeepsWork = false, mRemembers = false;
 };

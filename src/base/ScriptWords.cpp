@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Words of the automation language.
 #include "base/ScriptWords.h"
+#include <array>
 #include <cctype>
+#include <charconv>
+#include <cmath>
 
 namespace zp
 {
@@ -18,7 +21,7 @@ bool isNumberOrColour(const std::string& line, std::size_t at)
         decimal = decimal && std::isdigit(static_cast<unsigned char>(line[end]));
     if (end < line.size() && line[end] != ' ' && line[end] != '\t' && line[end] != '\r') return false;
     const std::size_t digits = end - at - 1;
-    return (decimal && digits > 0) || digits == 6 || digits == 8;
+    return (decimal && digits > 0) || digits == 6 || digits == 8 || digits == 12 || digits == 16;
 }
 
 } // namespace
@@ -51,5 +54,35 @@ std::optional<std::vector<std::string>> splitScriptLine(const std::string& line)
     }
     return words;
 }
+
+std::string scriptWord(const std::string& word)
+{
+    if (!word.empty() && word.find_first_of(" \t\r\"\\#") == std::string::npos) return word;
+    std::string out = "\"";
+    for (const char c : word) {
+        if (c == '"' || c == '\\') out += '\\';
+        out += c;
+    }
+    return out + "\"";
+}
+
+namespace
+{
+
+template <class Number>
+std::string shortest(Number number)
+{
+    constexpr auto kWholeBelow = Number(1e15);
+    std::array<char, 32> text{};
+    const bool whole = number == std::trunc(number) && std::abs(number) < kWholeBelow;
+    const auto end = whole ? std::to_chars(text.begin(), text.end(), static_cast<long long>(number)).ptr
+                           : std::to_chars(text.begin(), text.end(), number).ptr;
+    return {text.begin(), end};
+}
+
+} // namespace
+
+std::string scriptNumber(double number) { return shortest(number); }
+std::string scriptNumber(float number) { return shortest(number); }
 
 } // namespace zp

@@ -61,16 +61,6 @@ std::string putValuesIn(std::string& line, const ScriptValues& values)
     return {};
 }
 
-std::string quoted(const std::string& word)
-{
-    std::string out = "\"";
-    for (const char c : word) {
-        if (c == '"' || c == '\\') out += '\\';
-        out += c;
-    }
-    return out + "\"";
-}
-
 constexpr std::string_view kFolderName = "zelpane-script-";
 
 /// Folders of runs that were killed go away with the next run.
@@ -249,8 +239,8 @@ std::string BatchScript::play(const std::string& file, std::shared_ptr<BitmapRep
     const std::string source = std::filesystem::absolute(file, failed).string();
     // A name may hold a line break, which ends a line of a script: the picture is opened under another.
     const std::string link = folder.file("picture");
-    const std::string whole = "send setImagePath: " + quoted(link) + "\nwait\n" + mText + "\nwait " + kPatience +
-                              "\npanel\nwrite-bitmap " + quoted(pixels) + "\n";
+    const std::string whole = "send setImagePath: " + scriptWord(link) + "\nwait\n" + mText + "\nwait " + kPatience +
+                              "\npanel\nwrite-bitmap " + scriptWord(pixels) + "\n";
     std::string error;
     if (!folder.exists() || failed || symlink(source.c_str(), link.c_str()) != 0 ||
         !writeFileSafely(script, whole.data(), whole.size(), &error))

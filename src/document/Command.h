@@ -48,7 +48,7 @@ enum class StepRule {
 /// What a command is given beside the document: numbers and one path, in the order of its parameters.
 struct Arguments {
     std::vector<double> numbers;
-    std::string path; ///< the file system's own bytes
+    std::string path; ///< the file system's own bytes; or a text
     float number(std::size_t i) const { return i < numbers.size() ? float(numbers[i]) : 0; }
 };
 
@@ -69,8 +69,10 @@ struct Command {
     const char* tip = "";
     const char* alsoIn = nullptr; ///< another menu where people look for it
     bool onPicture = false;       ///< in the menu that the right button opens over the picture
+    bool begins = false;          ///< another picture is there from then on: what was done to the one before is over
     /// For scripts, several separated by blanks: "path"; "number"; "word", a pixel that may be written 0x…; "pixel" and
-    /// "nearest", two numbers that must name a place inside the picture when they are cut or rounded.
+    /// "nearest", two numbers that must name a place inside the picture when they are cut or rounded; "text". In
+    /// brackets: may be left out, with all behind it.
     const char* parameters = nullptr; ///< null: scripts reach it through its menu item only
 };
 

@@ -103,9 +103,17 @@ bool Document::firstStepPending() const { return mHistory.firstStepPending(); }
 
 bool Document::strokeIsOpen() const { return mGesture.stroke().isOpen(); }
 
-void Document::setPressure(float pressure) { mGesture.stroke().setPressure(pressure); }
+void Document::setPressure(float pressure)
+{
+    emit penPressed(pressure);
+    mGesture.stroke().setPressure(pressure);
+}
 
-void Document::samplePointer(Point point) { mGesture.stroke().push(point); }
+void Document::samplePointer(Point point)
+{
+    if (strokeIsOpen()) emit handMoved(Hand::Move, point);
+    mGesture.stroke().push(point);
+}
 
 void Document::setOnScreen(bool on) { mView.setOnScreen(on); }
 

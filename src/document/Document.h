@@ -9,6 +9,7 @@
 #include "document/Notices.h"
 #include "document/UnusedFields.h"
 #include <QObject>
+#include <QStringList>
 #include <QTimer>
 #include <deque>
 #include <functional>
@@ -20,6 +21,7 @@ namespace zp
 {
 
 class TileJournal;
+enum class Hand;
 enum class PenPressure;
 struct MarqueeRule;
 struct Preview;
@@ -162,7 +164,18 @@ public:
     /// The program ends: gestures and workers end, the steps are thrown away.
     void close();
 
+    /// Something was done that neither a command's row nor the hand describes: the lines of a script that do it again,
+    /// and those that have to stand before the hand's last gesture.
+    void note(const QStringList& lines, const QStringList& before = {}) { emit noted(lines, before); }
+
 signals:
+    /// A command has changed the document, or could have. @p arguments null: its body came from elsewhere, and only
+    /// what it did is known.
+    void performed(const zp::Command& command, const zp::Arguments* arguments);
+    /// Before it is acted on; a release, and what was taken back, after. @p actions of a press.
+    void handMoved(zp::Hand what, zp::Point point, const zp::ToolActions* actions = nullptr);
+    void penPressed(float pressure); ///< as hard from the next position on
+    void noted(const QStringList& lines, const QStringList& before);
     void touched(zp::Rect imageRect); ///< main thread: that part of the picture shows something new
     void antsMoved();
     void revealed(zp::Rect imageRect); ///< the person is to see that part
@@ -182,7 +195,8 @@ private:
     void strokeEnded();
     /// The tiles that were painted on since the press are as they were.
     void bringBack(const TileJournal& before);
-    Outcome passGate(const Command& command, const std::function<void(Edit&)>& body);
+    Outcome passGate(const Command& command, const Arguments* arguments, const std::function<void(Edit&)>& body);
+    Outcome perform(const Command& command, const Arguments* arguments, const std::function<void(Edit&)>& body);
     void closeEdit(Edit& edit, const char* stepName, StepRule rule);
     void sayAfterwards(Edit& edit);
     void rollBack(Edit& edit);

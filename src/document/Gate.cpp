@@ -53,7 +53,12 @@ bool Document::allows(const Command& command)
 
 Outcome Document::perform(const Command& command, const Arguments& arguments)
 {
-    return perform(command, [&command, &arguments](Edit& edit) { command.run(edit, arguments); });
+    return perform(command, &arguments, [&command, &arguments](Edit& edit) { command.run(edit, arguments); });
+}
+
+Outcome Document::perform(const Command& command, const std::function<void(Edit&)>& body)
+{
+    return perform(command, nullptr, body);
 }
 
 Outcome Document::perform(std::string_view action, const Arguments& arguments)
@@ -64,7 +69,7 @@ Outcome Document::perform(std::string_view action, const Arguments& arguments)
     return {Outcome::Refused, {}};
 }
 
-Outcome Document::perform(const Command& command, const std::function<void(Edit&)>& body)
+Outcome Document::perform(const Command& command, const Arguments* arguments, const std::function<void(Edit&)>& body)
 {
     if (mGateOpen) { // a command that runs another one: an edit is whole or nothing
         logLine("%s while another command runs", command.action);
@@ -75,10 +80,10 @@ Outcome Document::perform(const Command& command, const std::function<void(Edit&
         beep();
         return {Outcome::Refused, {}};
     }
-    return passGate(command, body);
+    return passGate(command, arguments, body);
 }
 
-Outcome Document::passGate(const Command& command, const std::function<void(Edit&)>& body)
+Outcome Document::passGate(const Command& command, const Arguments* arguments, const std::function<void(Edit&)>& body)
 {
     if (command.effect >= Effect::Read) finishStroke();
     const bool settles = command.onFloat == OnFloat::Settle && mSelection.floating();
@@ -105,6 +110,7 @@ Outcome Document::passGate(const Command& command, const std::function<void(Edit
         edit.wantStep(false);
     }
     closeEdit(edit, command.name, command.step);
+    if (outcome || (settles && outcome.kind == Outcome::Refused)) emit performed(command, arguments);
     sayAfterwards(edit);
     return outcome;
 }

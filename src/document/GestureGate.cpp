@@ -61,6 +61,7 @@ void Document::handle(const char* stepName, const std::function<void(Edit&)>& bo
 void Document::press(const ToolActions* actions, Point point)
 {
     if (mGateOpen) return;
+    emit handMoved(Hand::Press, point, actions);
     const bool refused = strokeIsOpen() && actions && actions->refusesOpenStroke;
     // The brush and the lasso wait for the last stroke by refusing; any other tool would work on pixels still being
     // painted, so what is left of the stroke is finished first.
@@ -97,7 +98,8 @@ void Document::press(const ToolActions* actions, Point point)
 void Document::drag(Point point)
 {
     if (mGateOpen) return;
-    samplePointer(point);
+    emit handMoved(Hand::Drag, point);
+    mGesture.stroke().push(point);
     handle(mGesture.stepName(), [&](Edit& edit) {
         mGesture.moveTo(point);
         mView.setInfoWithoutSelection("?");
@@ -108,8 +110,9 @@ void Document::drag(Point point)
 void Document::release(Point point)
 {
     if (mGateOpen) return;
-    samplePointer(point);
+    mGesture.stroke().push(point);
     releaseOpenGesture(point);
+    emit handMoved(Hand::Release, point);
     runRequests();
 }
 
@@ -161,6 +164,7 @@ bool Document::cancelGesture()
     mGesture.takeBack();
     mOwesStep = false;
     if (mPaint.color() != mColorBefore) movePaintColor(mColorBefore);
+    emit handMoved(Hand::TakenBack, mGesture.lastPoint());
     emit touched(mPicture.bounds());
     emit changed();
     runRequests();

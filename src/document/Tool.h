@@ -7,6 +7,15 @@
 namespace zp
 {
 
+/// What the hand that holds the mouse does.
+enum class Hand {
+    Press,
+    Drag,
+    Release,
+    Move,     ///< with no button down, while a stroke goes on that could not be released
+    TakenBack ///< the gesture was given up, and everything is as before its press
+};
+
 class Edit;
 
 enum class Tool : std::int32_t {

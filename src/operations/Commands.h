@@ -32,6 +32,10 @@ Operation quickSave;
 
 // ---- selection (ZPCanvas+Selection, +SavedSelections) ----
 Operation selectRectangle, selectAll, selectNone, selectNoneWithSound, selectInverse, reselect;
+/// An outline as text (base/PathText.h).
+Operation selectOutline;
+/// What marquees drawn by hand keep to: 0 nothing, 1 a ratio, 2 a size; width and height of it.
+Operation marqueeRule;
 /// x, y: the outline and what floats by a step.
 Operation nudge;
 /// Return, while a polygon is drawn: it is closed, and joined with a parked outline.

@@ -41,7 +41,7 @@ QString notWrittenBySave(const std::string& extension)
 
 Outcome openPicture(Document& document, const std::string& path)
 {
-    static constexpr Command kOpen{.action = "open", .effect = Effect::Replace};
+    static constexpr Command kOpen{.action = "open", .effect = Effect::Replace, .begins = true};
     document.endGesture(); // whatever becomes of the file: a hand that opens one has let go
     OpenedFile file = readForOpening(path);
     if (file.image.bitmap)

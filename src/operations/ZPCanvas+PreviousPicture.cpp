@@ -122,7 +122,8 @@ void operations::previousPicture(Edit& edit, const Arguments&)
 
 Outcome recover(Document& document, const LeftPicture& left)
 {
-    static constexpr Command kRecover{.action = "recover", .effect = Effect::Replace, .onFloat = OnFloat::Settle};
+    static constexpr Command kRecover{
+        .action = "recover", .effect = Effect::Replace, .onFloat = OnFloat::Settle, .begins = true};
     return document.perform(kRecover, [&](Edit& edit) {
         const auto number = takeOver(SnapshotStore::shared(), left);
         if (!number)

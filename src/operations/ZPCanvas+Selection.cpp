@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The selection as a whole: all, none, inverse, back again, nudged; ending a polygon; and the mask by itself.
+#include "base/PathText.h"
 #include "desktop/Sounds.h"
+#include "document/Document.h"
 #include "document/Gesture.h"
 #include "document/Picture.h"
 #include "document/Selection.h"
@@ -25,6 +27,21 @@ void operations::selectRectangle(Edit& edit, const Arguments& arguments)
     edit.gesture().openPolygon(false);
     edit.redraw();
     edit.reveal(box);
+}
+
+void operations::selectOutline(Edit& edit, const Arguments& arguments)
+{
+    std::optional<BezierPath> outline = pathOfText(arguments.path);
+    if (!outline || !edit.picture().bitmap()) return edit.refuse();
+    edit.selection().select(std::move(*outline));
+    edit.gesture().openPolygon(false);
+    edit.redraw();
+}
+
+void operations::marqueeRule(Edit& edit, const Arguments& arguments)
+{
+    const int kind = std::clamp(int(arguments.number(0)), 0, int(MarqueeRule::FixedSize));
+    edit.document().setMarqueeRule({MarqueeRule::Kind(kind), arguments.number(1), arguments.number(2)});
 }
 
 void operations::selectNone(Edit& edit, const Arguments&)

@@ -28,14 +28,16 @@ using namespace zp;
 namespace
 {
 
-/// "#rrggbb" or "#rrggbbaa".
+/// "#rrggbb" or "#rrggbbaa"; with four digits a part where two do not say it.
 std::optional<Color> parseColour(const std::string& word)
 {
-    if ((word.size() != 7 && word.size() != 9) || word[0] != '#') return std::nullopt;
+    const std::size_t count = word.size() - 1, digits = count >= 12 ? 4 : 2;
+    if (word.empty() || word[0] != '#' || (count != 3 * digits && count != 4 * digits)) return std::nullopt;
+    const float whole = digits == 4 ? 65535.0f : 255.0f;
     float parts[4] = {0, 0, 0, 1};
-    for (std::size_t i = 0; 2 * i + 1 < word.size(); ++i) {
+    for (std::size_t i = 0; digits * i < count; ++i) {
         bool ok = false;
-        parts[i] = float(text(word.substr(1 + 2 * i, 2)).toUInt(&ok, 16)) / 255.0f;
+        parts[i] = float(text(word.substr(1 + digits * i, digits)).toUInt(&ok, 16)) / whole;
         if (!ok) return std::nullopt;
     }
     return Color{parts[0], parts[1], parts[2], parts[3]};

@@ -5,7 +5,9 @@
 #include "app/ZPAppController.h"
 #include "base/ScriptWords.h"
 #include "canvas/ZPCanvas.h"
+#include "desktop/KeyModifiers.h"
 #include "desktop/Panels.h"
+#include "desktop/PanelsState.h"
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -31,11 +33,14 @@ constexpr int kUnwindMilliseconds = 5000;
 
 } // namespace
 
-ScriptDriver::ScriptDriver(ZPAppController& controller, std::string script)
+ScriptDriver::ScriptDriver(ZPAppController& controller, std::string script, Ended ended)
     : mController(controller),
       mCanvas(controller.canvas()),
       mDocument(controller.document()),
-      mScript(std::move(script))
+      mScript(std::move(script)),
+      mGuestEnded(std::move(ended)),
+      mPanelsBefore(panelsAutomated()),
+      mKeysBefore(scriptedKeyModifiers())
 {
     addMenuCommands();
     addInputCommands();
@@ -151,21 +156,27 @@ void ScriptDriver::answer(const QJsonObject& fields)
     QByteArray json = QJsonDocument(fields).toJson(QJsonDocument::Compact);
     json = fields.isEmpty() ? QByteArray("{\"ok\":true}") : "{\"ok\":true," + json.mid(1);
     json += '\n';
-    std::fwrite(json.constData(), 1, std::size_t(json.size()), stdout);
-    std::fflush(stdout);
+    print(json);
     mBusy = false;
     goOn();
+}
+
+void ScriptDriver::print(const QByteArray& line) const
+{
+    if (mGuestEnded) return;
+    std::fwrite(line.constData(), 1, std::size_t(line.size()), stdout);
+    std::fflush(stdout);
 }
 
 void ScriptDriver::fail(const QString& error)
 {
     const QByteArray reason = QJsonDocument(QJsonObject{{"error", error}}).toJson(QJsonDocument::Compact);
     const QByteArray json = "{\"ok\":false," + reason.mid(1) + '\n';
-    std::fwrite(json.constData(), 1, std::size_t(json.size()), stdout);
-    std::fflush(stdout);
+    print(json);
     mBusy = false;
     if (mScript != "-" && !mMayFail) {
-        std::fprintf(stderr, "%s:%d: %s\n", mScript.c_str(), mLineNumber, qUtf8Printable(error));
+        mError = error;
+        if (!mGuestEnded) std::fprintf(stderr, "%s:%d: %s\n", mScript.c_str(), mLineNumber, qUtf8Printable(error));
         mStatus = 1;
         return finish();
     }
@@ -178,7 +189,14 @@ void ScriptDriver::finish()
     // Modal loops that are still open end first, the innermost one at once, the others as it unwinds.
     for (QWidget* window : windowsInFront())
         if (window->isModal()) window->close();
-    QTimer::singleShot(0, this, [] { QCoreApplication::exit(0); });
+    QTimer::singleShot(0, this, [this] {
+        if (!mGuestEnded) return QCoreApplication::exit(0);
+        qApp->removeEventFilter(this);
+        setPanelsAutomated(mPanelsBefore);
+        setScriptedKeyModifiers(mKeysBefore);
+        deleteLater();
+        mGuestEnded(mLineNumber, mError);
+    });
 }
 
 int ScriptDriver::visibleModals() const

@@ -36,11 +36,18 @@ class ScriptDriver : public QObject
     Q_OBJECT
 
 public:
+    /// How a guest ended: what was wrong and in which line of its script; empty when nothing was.
+    using Ended = std::function<void(int line, const QString& error)>;
+
     /// @param script a file's path, or "-" for standard input
-    ScriptDriver(ZPAppController& controller, std::string script);
+    /// @param ended  given: a guest in a session that a person has open. Its answers go nowhere, the first failure ends
+    ///               it, keys and panels are the person's again afterwards, and the program goes on.
+    ScriptDriver(ZPAppController& controller, std::string script, Ended ended = {});
     ~ScriptDriver() override;
     static bool isReadable(const std::string& script);
     void start();
+    /// A guest ends before its next command. Safe when it has ended already.
+    void stop() { finish(); }
     /// 0 done, 1 a command failed.
     int exitStatus() const { return mStatus; }
 
@@ -60,6 +67,7 @@ private:
     void runNext();
     void execute(const std::string& line);
     void answer(const QJsonObject& fields);
+    void print(const QByteArray& line) const;
     void fail(const QString& error);
     void goOn();
     void finish();
@@ -84,7 +92,7 @@ private:
     QWidget* outlet(const std::string& name) const;
     int visibleModals() const;
     void sendMouse(int type, const Words& words);
-    void sendKey(const std::string& key);
+    void sendKey(const std::string& written);
     /// What the operation is given, from the words behind its name.
     zp::Arguments argumentsOf(const zp::Command& operation, const Words& words) const;
 
@@ -92,6 +100,10 @@ private:
     ZPCanvas& mCanvas;
     zp::Document& mDocument;
     std::string mScript;
+    Ended mGuestEnded;
+    bool mPanelsBefore = false; ///< automated already
+    std::optional<std::uint32_t> mKeysBefore;
+    QString mError;
     std::map<std::string, std::function<void(const Words&)>> mCommands;
     mutable std::vector<QPointer<QWidget>> mFront; ///< top-level windows, the one shown or activated last first
 

@@ -10,12 +10,23 @@
 #include "document/Picture.h"
 #include "document/View.h"
 #include "script/ScriptDriver.h"
+#include "windows/ZPSmartFill.h"
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <charconv>
 #include <cmath>
 #include <filesystem>
+#include <string_view>
+#include <utility>
+
+// The way that Qt's own test library takes to the table of shortcuts.
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong timestamp, int key, Qt::KeyboardModifiers held,
+                                               const QString& text = QString(), bool repeated = false,
+                                               ushort count = 1);
+QT_END_NAMESPACE
 
 using namespace zp;
 
@@ -28,6 +39,34 @@ std::string absolutePath(const std::string& path)
     std::error_code failed;
     const auto whole = std::filesystem::absolute(path, failed);
     return failed || path.empty() ? path : whole.string();
+}
+
+/// "Ctrl+Shift+S" is S with two keys held; "+" and "Ctrl++" are the key "+".
+std::string withoutModifiers(std::string key, Qt::KeyboardModifiers& held)
+{
+    constexpr std::pair<std::string_view, Qt::KeyboardModifier> kNames[] = {{"Ctrl+", Qt::ControlModifier},
+                                                                            {"Shift+", Qt::ShiftModifier},
+                                                                            {"Alt+", Qt::AltModifier},
+                                                                            {"Meta+", Qt::MetaModifier}};
+    for (bool again = true; std::exchange(again, false);)
+        for (const auto& [name, modifier] : kNames)
+            if (key.starts_with(name) && key.size() > name.size()) {
+                key.erase(0, name.size());
+                held |= modifier;
+                again = true;
+            }
+    return key;
+}
+
+/// F1 to F12; 0 for any other key.
+int functionKey(const std::string& key)
+{
+    int number = 0;
+    if (key.size() < 2 || key[0] != 'F') return 0;
+    const auto [end, fault] = std::from_chars(key.data() + 1, key.data() + key.size(), number);
+    return fault == std::errc() && end == key.data() + key.size() && number >= 1 && number <= 12
+               ? Qt::Key_F1 + number - 1
+               : 0;
 }
 
 /// Coordinates that arithmetic on whole numbers can bear at every zoom; no picture reaches anywhere near.
@@ -52,7 +91,7 @@ void ScriptDriver::sendMouse(int type, const Words& w)
     QApplication::sendEvent(&mCanvas, &event);
 }
 
-void ScriptDriver::sendKey(const std::string& key)
+void ScriptDriver::sendKey(const std::string& written)
 {
     struct Named {
         const char* name;
@@ -74,9 +113,10 @@ void ScriptDriver::sendKey(const std::string& key)
         {"End", Qt::Key_End, ""},
         {"PageUp", Qt::Key_PageUp, ""},
         {"PageDown", Qt::Key_PageDown, ""},
-        {"F2", Qt::Key_F2, ""},
     };
-    int code = 0;
+    Qt::KeyboardModifiers held;
+    const std::string key = withoutModifiers(written, held);
+    int code = functionKey(key);
     QString typed;
     for (const Named& named : kNamed)
         if (key == named.name) {
@@ -87,16 +127,17 @@ void ScriptDriver::sendKey(const std::string& key)
         typed = text(key);
         if (typed.size() != 1) throw Failure{"unknown key"};
         code = typed[0].toUpper().unicode();
+        if (held & Qt::ShiftModifier) typed = typed.toUpper();
     }
-    QWidget* window = QApplication::activeModalWidget();
+    if (held & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) typed.clear(); // a chord types nothing
+    QWidget* window = QApplication::activePopupWidget();                 // an opened menu has the keys
+    if (!window) window = QApplication::activeModalWidget();
     if (!window) window = QApplication::activeWindow();
     // Without a window manager none is active again once a dialog is closed: the front one is the person's.
     if (const std::vector<QWidget*> front = windowsInFront(); !window && !front.empty()) window = front.front();
     QWidget* target = window ? window->focusWidget() : nullptr;
-    if (!target) target = window && window->isModal() ? window : &mCanvas;
-    const std::uint32_t bits = currentKeyModifiers();
-    Qt::KeyboardModifiers held;
-    if (bits & kShiftKey) held |= Qt::ShiftModifier;
+    if (!target) target = window && (window->isModal() || window->windowType() == Qt::Popup) ? window : &mCanvas;
+    if (currentKeyModifiers() & kShiftKey) held |= Qt::ShiftModifier;
     const QPointer<QWidget> alive(target);
     // A shortcut comes before the key, unless the widget that has the focus needs the key for itself.
     QKeyEvent claim(QEvent::ShortcutOverride, code, held, typed);
@@ -107,6 +148,8 @@ void ScriptDriver::sendKey(const std::string& key)
             mController.menu().choose(item->property("action").toString());
             return;
         }
+    // The letters of menus, buttons and labels, and shortcuts of other windows.
+    if (held & Qt::AltModifier && qt_sendShortcutOverrideEvent(target, 0, code, held, typed)) return;
     QKeyEvent press(QEvent::KeyPress, code, held, typed);
     QApplication::sendEvent(target, &press);
     QKeyEvent release(QEvent::KeyRelease, code, held, typed);
@@ -159,6 +202,20 @@ void ScriptDriver::addInputCommands()
         mDocument.perform(*operation, argumentsOf(*operation, Words(w.begin() + 2, w.end())));
         return QJsonObject{};
     });
+    addImmediate("seed", [](const Words& w) {
+        bool ok = false;
+        const std::uint64_t seed = w.size() == 2 ? text(w[1]).toULongLong(&ok) : 0;
+        if (!ok) throw Failure{"seed N"};
+        ZPSmartFill::sharedSmartFill()->setSeed(seed);
+        return QJsonObject{};
+    });
+    addImmediate("pressure", [this](const Words& w) {
+        bool ok = false;
+        const float pressure = w.size() == 2 ? text(w[1]).toFloat(&ok) : 0;
+        if (!ok || !(pressure >= 0 && pressure <= 1)) throw Failure{"pressure P"};
+        mDocument.setPressure(pressure);
+        return QJsonObject{};
+    });
     addWork("history-go", [this](const Words& w) {
         bool isNumber = w.size() == 2;
         const int number = isNumber ? text(w[1]).toInt(&isNumber) : 0;
@@ -197,8 +254,15 @@ Arguments ScriptDriver::argumentsOf(const zp::Command& operation, const Words& w
         return value;
     };
     const Picture& picture = mDocument.picture();
-    for (const QString& kind : QString(operation.parameters).split(' ', Qt::SkipEmptyParts)) {
-        if (kind == "path") {
+    for (QString kind : QString(operation.parameters).split(' ', Qt::SkipEmptyParts)) {
+        if (kind.startsWith('[')) {
+            if (next >= words.size()) break;
+            kind = kind.mid(1, kind.size() - 2);
+        }
+        if (kind == "text") {
+            if (next >= words.size()) throw Failure{"a text is missing"};
+            arguments.path = words[next++];
+        } else if (kind == "path") {
             if (next >= words.size()) throw Failure{"a path is missing"};
             const std::string& path = words[next++];
             arguments.path = path.empty() || path.starts_with("~") ? path : absolutePath(path);

@@ -14,6 +14,7 @@
 #include "document/Picture.h"
 #include "document/Selection.h"
 #include "document/View.h"
+#include "operations/SessionScript.h"
 #include "script/ScriptDriver.h"
 #include "windows/ZPFileManager.h"
 #include <QFile>
@@ -190,6 +191,10 @@ void ScriptDriver::addLookCommands()
         if (!picture.bitmap()) throw Failure{"no image"};
         const std::lock_guard lock(picture.pixelLock());
         return written(writeBitmap(file(w, 1), picture.pixels()));
+    });
+    addImmediate("write-script", [this, file, written](const Words& w) {
+        const std::string text = mController.sessionScript().text();
+        return written(writeFileSafely(file(w, 1), text.data(), text.size()));
     });
     addImmediate("write-mask", [this, file, written](const Words& w) {
         const SelectionMask& mask = mDocument.selection().mask();

@@ -23,6 +23,11 @@ QString shownTitle(const QWidget& window)
 
 void ScriptDriver::addStatusCommands()
 {
+    addImmediate("commands", [this](const Words&) {
+        QJsonArray names;
+        for (const auto& [name, run] : mCommands) names.append(text(name));
+        return QJsonObject{{"commands", names}};
+    });
     addImmediate("status", [this](const Words&) {
         const MainWindow& window = mController.window();
         const auto shown = [&window](const char* field) { return window.findChild<QLabel*>(field)->text(); };

@@ -158,17 +158,25 @@ std::uint64_t SmartFillStudio::nextSeed(std::uint64_t first) const
     return mResults.empty() ? first : mResults.front().seed + 1;
 }
 
-void SmartFillStudio::add(const SmartFillPicture& filled, const SmartFillArea& area, std::uint64_t seed)
+void SmartFillStudio::add(const SmartFillPicture& filled, const SmartFillArea& area, std::uint64_t seed,
+                          QStringList lines)
 {
     Preview preview = previewOfFill(filled, area);
     if (preview.box.isEmpty() || !mDocument) return;
     const QImage thumbnail = thumbnailOf(mDocument->picture(), preview, mButtons[0]->iconSize().width());
-    mResults.push_front({std::make_shared<const Preview>(std::move(preview)), seed});
+    mResults.push_front({std::make_shared<const Preview>(std::move(preview)), seed, std::move(lines)});
     if (mResults.size() > kResults) mResults.pop_back();
     for (std::size_t i = kResults; i-- > 1;) mButtons[i]->setIcon(mButtons[i - 1]->icon());
     mButtons[0]->setIcon(QIcon(QPixmap::fromImage(thumbnail)));
     mNewestIsOfSettings = true;
     showNewest();
+}
+
+QStringList SmartFillStudio::linesOf(const Preview& preview) const
+{
+    const auto found =
+        std::ranges::find_if(mResults, [&](const Result& each) { return each.preview.get() == &preview; });
+    return found == mResults.end() ? QStringList() : found->lines;
 }
 
 void SmartFillStudio::settingsChanged()
@@ -211,5 +219,6 @@ void SmartFillStudio::mark(QAbstractButton& button, QLabel& label, MarkedPixels&
         }
     }
     button.setChecked(!marked.isEmpty());
+    if (mDocument) mDocument->note({"click " + button.objectName()});
     settingsChanged();
 }

@@ -6,6 +6,7 @@
 #include "smartfill/SmartFillSources.h"
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 #include <array>
 #include <deque>
 #include <memory>
@@ -52,12 +53,16 @@ public:
     /// What the next result is made with: @p first, or what follows on the newest one.
     std::uint64_t nextSeed(std::uint64_t first) const;
     /// Another result, which is shown; the oldest makes room for it.
-    void add(const zp::SmartFillPicture& filled, const zp::SmartFillArea& area, std::uint64_t seed);
+    /// @param lines  of a script that makes the same
+    void add(const zp::SmartFillPicture& filled, const zp::SmartFillArea& area, std::uint64_t seed, QStringList lines);
+    /// Those of the result that is this preview.
+    QStringList linesOf(const zp::Preview& preview) const;
 
 private:
     struct Result {
         std::shared_ptr<const zp::Preview> preview;
         std::uint64_t seed = 0;
+        QStringList lines;
     };
 
     void settingsChanged();

@@ -77,6 +77,8 @@ void leaveInPicture(Document& document, const Command& command, const Preview& p
     document.perform(command, [&preview](Edit& edit) { layPreview(preview, edit.write(preview.box), 0, 0); });
 }
 
+QString seedLine(std::uint64_t seed) { return QString("seed %1").arg(seed); }
+
 double now() { return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count(); }
 
 } // namespace
@@ -90,6 +92,7 @@ struct ZPSmartFill::Run {
     SmartFillPicture picture;
     std::uint64_t seed = 0;
     bool keepsLines = false;
+    QStringList lines; ///< of a script that does the same with the window as it stands open
     SmartFillStatus status = SmartFillStatus::Cancelled;
     bool outOfMemory = false;
 };
@@ -193,7 +196,9 @@ void ZPSmartFill::run()
 {
     if (!isReady()) return;
     if (const std::shared_ptr<const Preview> shown = mStudio->shown()) {
+        const QStringList lines = mStudio->linesOf(*shown);
         leaveInPicture(*mDocument, kSmartFill, *shown);
+        mDocument->note(lines);
         return mWindow->hide();
     }
     startForWindow(Purpose::Fill, firstSeed());
@@ -219,6 +224,12 @@ void ZPSmartFill::startForWindow(Purpose purpose, std::uint64_t seed)
     run->generation = mGeneration;
     run->seed = seed;
     run->keepsLines = mUi->mLinesCheckbox->isChecked();
+    run->lines = {QString("set mRadiusSlider %1").arg(mUi->mRadiusSlider->value()),
+                  QString("set mFasterCheckbox %1").arg(int(mUi->mFasterCheckbox->isChecked())),
+                  QString("set mLinesCheckbox %1").arg(int(run->keepsLines)),
+                  seedLine(seed),
+                  "click mRunButton",
+                  "wait"};
     run->area = areaWithSources(smartFillArea(mSelRect, picture.width(), picture.height(), mUi->mRadiusSlider->value(),
                                               mUi->mFasterCheckbox->isChecked()),
                                 mStudio->sources());
@@ -379,12 +390,14 @@ void ZPSmartFill::takeResult(const Run& run)
             const PixelBox box = run.area.work.united(run.area.selection).intersected(edit.picture().box());
             writeBackSmartFill(edit.write(box), run.picture, run.area);
         });
+        document.note(run.lines);
         break;
     case Purpose::Preview:
-        if (filled) mStudio->add(run.picture, run.area, run.seed);
+        if (filled) mStudio->add(run.picture, run.area, run.seed, run.lines);
         break;
     case Purpose::Remove:
         if (filled) leaveInPicture(document, kRemove, previewOfFill(run.picture, run.area));
+        document.note({"wait"}, {seedLine(run.seed)});
         break;
     }
 }

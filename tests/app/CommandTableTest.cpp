@@ -81,7 +81,7 @@ TEST(CommandTable, ShortcutsAreKeysAndEachIsOneCommands)
 
 TEST(CommandTable, ScriptsAreToldParametersThatTheyKnow)
 {
-    const QStringList known{"path", "number", "word", "pixel", "nearest"};
+    const QStringList known{"path", "number", "[number]", "word", "pixel", "nearest", "text"};
     for (const Command& row : commandTable()) {
         if (!row.parameters) continue;
         EXPECT_TRUE(row.run) << row.action;

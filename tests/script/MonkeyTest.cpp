@@ -151,9 +151,11 @@ protected:
                 line += " " + run.file(upTo(3) ? "kept.tiff" : "kept.jpg");
             else if (kind == "word")
                 line += QString(" %1").arg(random() | 255u);
-            else if (kind == "number")
+            else if (kind == "text")
+                line += upTo(3) ? " \"M 5 5 L 40 9 C 50 20 30 30 20 45 Z\"" : " \"\"";
+            else if (kind == "number" || (kind == "[number]" && upTo(2)))
                 line += QString(" %1").arg(upTo(5) ? double(1 + upTo(90)) : double(upTo(400) - 200) / 3);
-            else
+            else if (!kind.startsWith('['))
                 line += QString(" %1 %2").arg(upTo(72)).arg(upTo(56));
         }
         return line;

@@ -334,6 +334,23 @@ TEST_F(SmartFillStudioWindow, TheSelectionLimitsWhatTheBrushRemoves)
     EXPECT_GT(changedInside, 200u) << "of 450; the white beside the selection is a source, too";
 }
 
+TEST_F(SmartFillStudioWindow, ARemovalOverWhatFloatsIsOneStep)
+{
+    makeScene();
+    select(makeRect(60, 40, 40, 40));
+    document->perform("floatSelection");
+    document->perform("nudge", {{3, 2}, {}}); // so that it is part of the picture afterwards
+    settle();
+    const int steps = history().newest();
+    document->setBrushSize(20);
+    document->setRemoving(true);
+    paintOver({78, 60}, {82, 60});
+    waitForEnd();
+    settle();
+    EXPECT_EQ(history().newest(), steps + 1);
+    EXPECT_FALSE(document->selection().floating());
+}
+
 TEST_F(SmartFillStudioWindow, EscapeTakesTheStrokeBackAndNothingIsRemoved)
 {
     makeScene();

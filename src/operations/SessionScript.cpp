@@ -1,0 +1,340 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Commands, gestures and settings written down.
+#include "operations/SessionScript.h"
+#include "base/Folders.h"
+#include "base/PathText.h"
+#include "base/ScriptWords.h"
+#include "desktop/KeyModifiers.h"
+#include "document/Document.h"
+#include "document/Paint.h"
+#include "document/Picture.h"
+#include "document/Selection.h"
+#include "operations/FloatHandles.h"
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <utility>
+
+namespace zp
+{
+
+namespace
+{
+
+/// An hour of fast drawing is about 60 MB. Beyond it the script ends with a line that says so.
+constexpr std::size_t kMostBytes = 256u << 20;
+
+/// Settings of a slider: each replaces the one before it.
+constexpr std::string_view kSliders[] = {"send adjust_set: ", "send transform_set: "};
+
+/// The words with blanks between them.
+std::string lineOf(std::initializer_list<std::string_view> words)
+{
+    std::string line;
+    for (const std::string_view word : words) {
+        if (!line.empty()) line += ' ';
+        line += word;
+    }
+    return line;
+}
+
+std::string pointLine(const char* word, Point point)
+{
+    return lineOf({word, scriptNumber(point.x), scriptNumber(point.y)});
+}
+
+/// "set OUTLET #N".
+std::string itemLine(const char* outlet, int item)
+{
+    std::string word(1, '#');
+    word += scriptNumber(double(item));
+    return lineOf({"set", outlet, word});
+}
+
+std::string outlineLine(const Selection& selection)
+{
+    const BezierPath* const outline = selection.outline();
+    return lineOf({"send selectOutline:", scriptWord(outline ? textOfPath(*outline) : std::string())});
+}
+
+/// "#rrggbb" or with opacity; four digits a part where two do not say it exactly.
+std::string colorWord(Color color)
+{
+    const float parts[] = {color.red, color.green, color.blue, color.alpha};
+    const int count = color.alpha < 1 ? 4 : 3;
+    const bool bytes =
+        std::all_of(parts, parts + count, [](float part) { return part == float(std::lround(part * 255)) / 255.0f; });
+    std::string word = "#";
+    for (int i = 0; i < count; ++i) {
+        char digits[5];
+        const float part = std::clamp(parts[i], 0.0f, 1.0f);
+        if (bytes)
+            std::snprintf(digits, sizeof digits, "%02lx", std::lround(part * 255));
+        else
+            std::snprintf(digits, sizeof digits, "%04lx", std::lround(part * 65535));
+        word += digits;
+    }
+    return word;
+}
+
+bool isOneLine(const std::string& text) { return text.find_first_of("\r\n") == std::string::npos; }
+
+/// A comment that names a file, whatever bytes its name has.
+std::string comment(std::string text)
+{
+    text = displayName(text);
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; }, '?');
+    return lineOf({"#", text});
+}
+
+} // namespace
+
+SessionScript::SessionScript(const Document& document, QObject* parent) : QObject(parent), mDocument(document)
+{
+    connect(&document, &Document::performed, this, &SessionScript::performed);
+    connect(&document, &Document::handMoved, this, &SessionScript::handMoved);
+    connect(&document, &Document::penPressed, this, [this](float pressure) { mPressure = pressure; });
+    connect(&document, &Document::noted, this, &SessionScript::noted);
+    // In the middle of a gesture another tool ends it: it must not wait for the next press.
+    connect(&document, &Document::toolChosen, this, [this] {
+        if (mDragging) chooseTool();
+    });
+}
+
+std::string SessionScript::text() const
+{
+    std::string all;
+    all.reserve(mBytes);
+    for (const std::string& line : mLines) all += line + '\n';
+    return all;
+}
+
+std::vector<std::string> SessionScript::lastLines(std::size_t count) const
+{
+    return {mLines.end() - std::ptrdiff_t(std::min(count, mLines.size())), mLines.end()};
+}
+
+// ---- lines ----------------------------------------------------------------------------------------------------------
+
+void SessionScript::add(const std::string& line)
+{
+    if (mFull) return;
+    mFull = mBytes + line.size() + 1 > kMostBytes;
+    mLines.push_back(mFull ? "# What was done afterwards is not here: the script has become too long." : line);
+    mBytes += mLines.back().size() + 1;
+    emit grown();
+}
+
+void SessionScript::replaceLast(const std::string& line)
+{
+    if (mFull) return;
+    mBytes -= mLines.back().size() + 1;
+    mLines.pop_back();
+    add(line);
+}
+
+void SessionScript::forgetGesture()
+{
+    if (mFull) return;
+    for (std::size_t i = mGesture; i < mLines.size(); ++i) mBytes -= mLines[i].size() + 1;
+    mLines.resize(std::min(mGesture, mLines.size()));
+    mDragging = false;
+    emit grown();
+}
+
+void SessionScript::forgetPress()
+{
+    mGesture = mBefore.lines;
+    mKnown = mBefore.known;
+    mKeys = mBefore.keys;
+    forgetGesture();
+}
+
+// ---- settings -------------------------------------------------------------------------------------------------------
+
+void SessionScript::chooseTool()
+{
+    const Gesture& gesture = mDocument.gesture();
+    if (mKnown.tool == gesture.tool() && mKnown.removes == gesture.removes()) return;
+    mKnown.tool = gesture.tool();
+    mKnown.removes = gesture.removes();
+    add(gesture.removes() ? std::string("menu removeBrush:") : itemLine("mToolPopUp", int(gesture.tool())));
+}
+
+template <class Value>
+void SessionScript::keep(std::optional<Value>& known, const Value& now, const std::string& line)
+{
+    if (known == now) return;
+    known = now;
+    add(line);
+}
+
+void SessionScript::settleTolerance()
+{
+    const int setting = mDocument.paint().toleranceSetting();
+    keep(mKnown.tolerance, setting, lineOf({"set mToleranceSlider", scriptNumber(double(setting))}));
+}
+
+void SessionScript::settle(bool forGesture)
+{
+    const Paint& paint = mDocument.paint();
+    if (forGesture) chooseTool();
+    const Tool tool = mDocument.gesture().tool();
+    const bool selects = tool == Tool::Rectangle || tool == Tool::Lasso || tool == Tool::Wand;
+    // What selects paints with nothing, unless its press makes what floats part of the picture.
+    if (!forGesture || mFloats || (!selects && tool != Tool::Eyedropper)) {
+        keep(mKnown.color, paint.color(), lineOf({"set mColorWell", colorWord(paint.color())}));
+        keep(mKnown.size, paint.size(), lineOf({"set mSizeField", scriptNumber(paint.size())}));
+    }
+    if (!forGesture) return;
+    if (tool == Tool::Wand || tool == Tool::Bucket) settleTolerance();
+    if (tool == Tool::Brush) keep(mKnown.shape, paint.brushShape(), itemLine("mBrushPopUp", paint.brushShape()));
+    if (tool == Tool::Brush)
+        keep(mKnown.penPressure, paint.penPressure(), itemLine("mPressurePopUp", int(paint.penPressure())));
+    press();
+    const MarqueeRule& rule = mDocument.gesture().marqueeRule();
+    if (rule.kind == mKnown.rule.kind &&
+        (rule.kind == MarqueeRule::Free || (rule.width == mKnown.rule.width && rule.height == mKnown.rule.height)))
+        return;
+    mKnown.rule = rule;
+    add(lineOf(
+        {"send marqueeRule:", scriptNumber(double(rule.kind)), scriptNumber(rule.width), scriptNumber(rule.height)}));
+}
+
+void SessionScript::press()
+{
+    if (mDocument.paint().penPressure() != PenPressure::Nothing)
+        keep(mKnown.pressure, mPressure, lineOf({"pressure", scriptNumber(mPressure)}));
+}
+
+void SessionScript::hold(std::uint32_t keys)
+{
+    if (keys == mKeys) return;
+    mKeys = keys;
+    std::string line = "modifiers";
+    constexpr struct {
+        std::uint32_t bit;
+        const char* word;
+    } kWords[] = {{kShiftKey, " shift"}, {kOptionKey, " option"}, {kCommandKey, " command"}, {kControlKey, " control"}};
+    for (const auto& [bit, word] : kWords)
+        if (keys & bit) line += word;
+    add(line);
+}
+
+// ---- what happens ---------------------------------------------------------------------------------------------------
+
+void SessionScript::begin(const Command& command, const Arguments* arguments)
+{
+    mLines.clear();
+    mBytes = 0;
+    mKnown = {};
+    mKeys = 0;
+    mGesture = 0;
+    mDragging = mTextPlaced = mFull = mFloats = false;
+    const Picture& picture = mDocument.picture();
+    const std::string width = scriptNumber(double(picture.width())), height = scriptNumber(double(picture.height()));
+    if (std::string_view(command.action).starts_with("newImage"))
+        add(lineOf({"send", command.action, width, height}));
+    else if (arguments && command.parameters)
+        add(comment(commandLine(command, *arguments)));
+    else
+        add(comment(lineOf({picture.path().empty() ? std::string_view("an image without a file") : picture.path(),
+                            width, "×", height})));
+    mKnown.rule = {}; // nothing to begin with
+}
+
+std::string SessionScript::commandLine(const Command& command, const Arguments& arguments) const
+{
+    std::string line = lineOf({command.menu && command.run ? "menu" : "send", command.action});
+    if (command.menu && command.run) return line;
+    const std::string kinds = command.parameters ? command.parameters : "";
+    if (kinds.starts_with("path") || kinds.starts_with("text")) line = lineOf({line, scriptWord(arguments.path)});
+    for (const double number : arguments.numbers) line = lineOf({line, scriptNumber(number)});
+    return line;
+}
+
+void SessionScript::performed(const Command& command, const Arguments* arguments)
+{
+    if (command.begins) return begin(command, arguments);
+    const std::string_view action = command.action;
+    if (action == "placeText") {
+        // The press opened the editor; a script needs neither it nor its font.
+        forgetPress();
+        mTextPlaced = true;
+        return add(outlineLine(mDocument.selection()));
+    }
+    if (!arguments || command.effect == Effect::View || command.effect == Effect::Window) return;
+    if (action == "goToStep")
+        return add(lineOf({"history-go", scriptNumber(arguments->numbers.empty() ? 0 : arguments->numbers[0])}));
+    std::string line = commandLine(command, *arguments);
+    const bool writesFile =
+        command.effect == Effect::Read && (!arguments->path.empty() || !command.parameters) && action != "copy:";
+    if (writesFile || !isOneLine(line)) return add(comment(line));
+    // The colour's opacity is that of what floated and is part of the picture now.
+    const bool floated = std::exchange(mFloats, mDocument.selection().floating() != nullptr);
+    if (command.effect == Effect::Paint || floated) settle(false);
+    // A look at a pixel and its like.
+    if (command.parameters && std::string_view(command.parameters) == "nearest") {
+        settle(false);
+        settleTolerance();
+    }
+    // Shift keeps what was anchored selected.
+    hold(action.starts_with("anchorSelection") ? currentKeyModifiers() & kShiftKey : 0);
+    const bool again = !mLines.empty() && std::ranges::any_of(kSliders, [&](std::string_view slider) {
+        return line.starts_with(slider) && mLines.back().starts_with(slider);
+    });
+    again ? replaceLast(line) : add(line);
+}
+
+void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions)
+{
+    switch (what) {
+    case Hand::Press:
+        mTextPlaced = false;
+        mBefore = {mLines.size(), mKnown, mKeys};
+        settle(true);
+        hold(currentKeyModifiers());
+        mGesture = mLines.size();
+        mDragging = true;
+        mGripped = actions == &floatHandleActions();
+        return add(pointLine("press", point));
+    case Hand::Drag:
+    case Hand::Move:
+        if (!mDragging && what == Hand::Drag) return;
+        press();
+        hold(currentKeyModifiers());
+        return add(pointLine(what == Hand::Drag ? "drag" : "move", point));
+    case Hand::Release:
+        if (mTextPlaced) { // joined with what was selected before only now
+            mTextPlaced = false;
+            return replaceLast(outlineLine(mDocument.selection()));
+        }
+        if (!mDragging) return;
+        hold(currentKeyModifiers());
+        mDragging = false;
+        mFloats = mDocument.selection().floating() != nullptr;
+        if (mDocument.gesture().tool() == Tool::Eyedropper)
+            mKnown.color = mDocument.paint().color(); // it brings it along
+        if (mGripped) {
+            const _ZPTransform record = mDocument.selection().record();
+            forgetGesture();
+            return add(lineOf({"send transform_set:", scriptNumber(record.scale), scriptNumber(record.rotate)}));
+        }
+        return add(pointLine("release", point));
+    case Hand::TakenBack: // and what it was to be done with
+        return forgetPress();
+    }
+}
+
+void SessionScript::noted(const QStringList& lines, const QStringList& before)
+{
+    if (mFull) return;
+    for (const QString& line : before) {
+        mLines.insert(mLines.begin() + std::ptrdiff_t(std::min(mGesture, mLines.size())), line.toStdString());
+        mBytes += mLines[std::min(mGesture, mLines.size() - 1)].size() + 1;
+    }
+    for (const QString& line : lines) add(line.toStdString());
+}
+
+} // namespace zp
