@@ -39,7 +39,7 @@ void bound(__rlimit_resource what, rlim_t most)
     setrlimit(what, &both);
 }
 
-std::uint64_t mostMemory()
+[[maybe_unused]] std::uint64_t mostMemory()
 {
     const auto pages = sysconf(_SC_PHYS_PAGES), size = sysconf(_SC_PAGESIZE);
     const std::uint64_t machine = pages > 0 && size > 0 ? std::uint64_t(pages) * std::uint64_t(size) : kMostMemory;
