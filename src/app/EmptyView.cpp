@@ -92,7 +92,10 @@ QString EmptyView::shortName(const std::string& path, const QFontMetrics& font)
 void EmptyView::fill()
 {
     while (QLayoutItem* old = mThumbnails->takeAt(0)) {
-        if (old->widget()) old->widget()->deleteLater();
+        if (QWidget* button = old->widget()) {
+            button->hide(); // it is not deleted before a question that is open now is answered
+            button->deleteLater();
+        }
         delete old;
     }
     mWaiting.clear();

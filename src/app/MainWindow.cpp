@@ -238,6 +238,9 @@ void MainWindow::setUpZoom()
     });
     for (const QScrollBar* bar : {mUi->mScrollView->horizontalScrollBar(), mUi->mScrollView->verticalScrollBar()})
         connect(bar, &QScrollBar::valueChanged, mCanvas, &ZPCanvas::pictureMovedUnderPointer);
+    // Once the view has taken its new place.
+    for (const auto moved : {&Document::zoomChanged, &Document::pictureReplaced})
+        connect(&mDocument, moved, mCanvas, &ZPCanvas::pictureMovedUnderPointer, Qt::QueuedConnection);
 }
 
 void MainWindow::setUpSwitches()
@@ -488,7 +491,11 @@ void MainWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     // A profile is set up in another program: this window comes back to the front afterwards, or goes to another
     // screen.
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) mCanvas->setScreenProfile(screenProfile(*this));
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        mCanvas->setScreenProfile(screenProfile(*this));
+        // A dialog that came up from a menu bar still waiting for a letter would leave the keys with the bar.
+        if (menuBar()->hasFocus()) giveFocusBack();
+    }
     if (event->type() == QEvent::PaletteChange && !mToolButtons.empty() && !mToolButtons[0]->icon().isNull())
         setToolImages();
 }

@@ -258,6 +258,7 @@ void Document::chooseTool(Tool tool)
 {
     // In the middle of a gesture: what was begun with the old tool ends here, as that tool ends it.
     if (mGesture.actions() && tool != mGesture.tool()) endGesture();
+    if (tool != mGesture.tool() && !mMessage.isEmpty()) say({}); // the tool's hint is wanted now
     mGesture.chooseTool(tool);
     emit toolChosen();
     emit changed();

@@ -62,6 +62,7 @@ void Document::press(const ToolActions* actions, Point point)
 {
     if (mGateOpen) return;
     emit handMoved(Hand::Press, point, actions);
+    if (!message().isEmpty()) say({}); // what was done before is over
     const bool refused = strokeIsOpen() && actions && actions->refusesOpenStroke;
     // The brush and the lasso wait for the last stroke by refusing; any other tool would work on pixels still being
     // painted, so what is left of the stroke is finished first.

@@ -9,7 +9,7 @@
 #include "desktop/WindowPlaces.h"
 #include "ui_TextEditor.h"
 #include "windows/TextEditorOutline.h"
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEventLoop>
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -171,7 +171,10 @@ void ZPTextEditor::showWindow(std::optional<QPoint> keepClear)
     putLastFamilyFirst();
     centerWindow(this);
     if (keepClear && screen()) {
-        const QRect frame(pos(), size());
+        // What the window manager puts around it is known only once it is shown; of the window in front it is known
+        // now.
+        const QWidget* front = QApplication::activeWindow();
+        const QRect frame(pos(), size() + (front ? front->frameSize() - front->size() : QSize(0, 0)));
         const QPoint corner = cornerClearOf(frame, *keepClear, screen()->availableGeometry());
         if (corner != frame.topLeft()) move(corner);
     }

@@ -48,6 +48,20 @@ TEST_F(EmptyViewTest, StandsThereWithoutAPictureOnly)
     EXPECT_FALSE(view().isHidden()) << "an image of nothing is none";
 }
 
+TEST_F(EmptyViewTest, ThumbnailsOfBeforeAreGoneAtOnce)
+{
+    noteRecentFile(save("one.png"));
+    window.show();
+    view().refresh();
+    ASSERT_EQ(thumbnails().size(), 1);
+    QApplication::processEvents();
+    const QList<QToolButton*> before = view().findChildren<QToolButton*>();
+    ASSERT_EQ(before.size(), 1);
+    EXPECT_TRUE(before[0]->isVisible());
+    view().refresh(); // while a question is open, what is to be deleted waits for its answer
+    EXPECT_FALSE(before[0]->isVisible());
+}
+
 TEST_F(EmptyViewTest, OffersTheFilesOpenedLastAsThumbnails)
 {
     const std::string path = save("a & b <i>.png");

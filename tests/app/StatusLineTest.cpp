@@ -135,6 +135,18 @@ TEST_F(StatusLineTest, WhatThePointerRestsOnComesBeforeWhatWasDoneUntilTheNextCo
     EXPECT_EQ(text("mMessageField"), "Turned clockwise");
 }
 
+TEST_F(StatusLineTest, WhatWasDoneIsOverWithTheNextPressOrAnotherTool)
+{
+    makeImage(40, 30);
+    document->say("Turned clockwise");
+    QTest::mousePress(window.canvas(), Qt::LeftButton, {}, {5, 5});
+    EXPECT_EQ(text("mMessageField"), window.statusLine().hint());
+    QTest::mouseRelease(window.canvas(), Qt::LeftButton, {}, {20, 20});
+    document->say("Turned clockwise");
+    canvas->setTool(int(Tool::Brush));
+    EXPECT_EQ(text("mMessageField"), window.statusLine().hint());
+}
+
 TEST_F(StatusLineTest, HintsNameTheKeysThatCommandsHaveNow)
 {
     makeImage(40, 30);
