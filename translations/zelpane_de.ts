@@ -23,7 +23,7 @@
 <context>
     <name>Accessible</name>
     <message>
-        <source>No picture</source>
+        <source>No image</source>
         <translation>Kein Bild</translation>
     </message>
     <message>
@@ -134,7 +134,7 @@
         <translation>&amp;Zurücksetzen</translation>
     </message>
     <message>
-        <source>All five back to what leaves the picture as it is</source>
+        <source>All five back to what leaves the image as it is</source>
         <translation>Alle fünf zurück auf die Werte, die das Bild lassen, wie es ist</translation>
     </message>
     <message>
@@ -180,18 +180,18 @@
         <translation>Es konnte nichts eingefügt werden.</translation>
     </message>
     <message>
-        <source>The clipboard&apos;s picture cannot be read.</source>
+        <source>The clipboard&apos;s image cannot be read.</source>
         <translation>Das Bild in der Zwischenablage kann nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
     <name>Codecs</name>
     <message>
-        <source>The picture has no pixels.</source>
+        <source>The image has no pixels.</source>
         <translation>Das Bild hat keine Pixel.</translation>
     </message>
     <message>
-        <source>The picture is too large: %1 x %2 pixels.</source>
+        <source>The image is too large: %1 x %2 pixels.</source>
         <translation>Das Bild ist zu groß: %1 × %2 Pixel.</translation>
     </message>
     <message>
@@ -199,7 +199,7 @@
         <translation>Die Datei ist viel zu klein für die %1 × %2 Pixel, die sie enthalten soll.</translation>
     </message>
     <message>
-        <source>The picture of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
+        <source>The image of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
         <translation>Das Bild mit %1 × %2 Pixeln passt nicht in den Speicher dieses Rechners.</translation>
     </message>
     <message>
@@ -207,7 +207,7 @@
         <translation>ihre Daten sind beschädigt</translation>
     </message>
     <message>
-        <source>It is not a picture of a kind that can be opened.</source>
+        <source>It is not an image of a kind that can be opened.</source>
         <translation>Das ist kein Bild einer Art, die geöffnet werden kann.</translation>
     </message>
     <message>
@@ -239,19 +239,19 @@
         <translation>Zum Lesen der Datei ist nicht genug Speicher frei.</translation>
     </message>
     <message>
-        <source>There is not enough memory for this picture.</source>
+        <source>There is not enough memory for this image.</source>
         <translation>Für dieses Bild ist nicht genug Speicher frei.</translation>
     </message>
     <message>
-        <source>The picture cannot be read: %1.</source>
+        <source>The image cannot be read: %1.</source>
         <translation>Das Bild kann nicht gelesen werden: %1.</translation>
     </message>
     <message>
-        <source>The picture cannot be read.</source>
+        <source>The image cannot be read.</source>
         <translation>Das Bild kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>It is a folder, not a picture.</source>
+        <source>It is a folder, not an image.</source>
         <translation>Das ist ein Ordner, kein Bild.</translation>
     </message>
     <message>
@@ -267,7 +267,7 @@
         <translation>Das Farbprofil ist unvollständig und wurde weggelassen.</translation>
     </message>
     <message>
-        <source>There is not enough memory for this JPEG picture.</source>
+        <source>There is not enough memory for this JPEG image.</source>
         <translation>Für dieses JPEG-Bild ist nicht genug Speicher frei.</translation>
     </message>
     <message>
@@ -275,7 +275,7 @@
         <translation>Die JPEG-Daten können nicht gelesen werden: %1.</translation>
     </message>
     <message>
-        <source>JPEG pictures with two components cannot be read.</source>
+        <source>JPEG images with two components cannot be read.</source>
         <translation>JPEG-Bilder mit zwei Komponenten können nicht gelesen werden.</translation>
     </message>
     <message>
@@ -283,7 +283,7 @@
         <translation>Die JPEG-Daten sind beschädigt; gezeigt wird, was lesbar war.</translation>
     </message>
     <message>
-        <source>The %1 picture is larger than the limits of this machine allow.</source>
+        <source>The %1 image is larger than the limits of this machine allow.</source>
         <translation>Das %1-Bild ist größer, als die Grenzen dieses Rechners erlauben.</translation>
     </message>
     <message>
@@ -291,11 +291,11 @@
         <translation>Die %1-Daten können nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>The picture&apos;s data is damaged; what could be read is shown.</source>
+        <source>The image&apos;s data is damaged; what could be read is shown.</source>
         <translation>Die Daten des Bildes sind beschädigt; gezeigt wird, was lesbar war.</translation>
     </message>
     <message numerus="yes">
-        <source>The picture had %n bits a colour; it was reduced to 8.</source>
+        <source>The image had %n bits a colour; it was reduced to 8.</source>
         <translation>
             <numerusform>Das Bild hatte %n Bit je Farbe; es wurde auf 8 verringert.</numerusform>
             <numerusform>Das Bild hatte %n Bit je Farbe; es wurde auf 8 verringert.</numerusform>
@@ -318,11 +318,11 @@
         <translation>Das Farbprofil ist beschädigt und wurde weggelassen.</translation>
     </message>
     <message>
-        <source>The picture was converted to RGB; its colour profile was left out.</source>
+        <source>The image was converted to RGB; its colour profile was left out.</source>
         <translation>Das Bild wurde in RGB umgewandelt; sein Farbprofil wurde weggelassen.</translation>
     </message>
     <message>
-        <source>The colour profile does not fit the picture and was left out.</source>
+        <source>The colour profile does not fit the image and was left out.</source>
         <translation>Das Farbprofil passt nicht zum Bild und wurde weggelassen.</translation>
     </message>
     <message>
@@ -355,14 +355,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>The file has %n bits a colour; the picture has 8.</source>
+        <source>The file has %n bits a colour; the image has 8.</source>
         <translation>
             <numerusform>Die Datei hat %n Bit je Farbe; das Bild hat 8.</numerusform>
             <numerusform>Die Datei hat %n Bit je Farbe; das Bild hat 8.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The file is in printing inks; the picture is in red, green and blue.</source>
+        <source>The file is in printing inks; the image is in red, green and blue.</source>
         <translation>Die Datei ist in Druckfarben; das Bild ist in Rot, Grün und Blau.</translation>
     </message>
     <message>
@@ -454,7 +454,7 @@
         <translation>Der Aufbau der TIFF-Datei ist beschädigt.</translation>
     </message>
     <message>
-        <source>TIFF pictures with so many or so large samples cannot be read.</source>
+        <source>TIFF images with so many or so large samples cannot be read.</source>
         <translation>TIFF-Bilder mit so vielen oder so großen Farbwerten können nicht gelesen werden.</translation>
     </message>
     <message>
@@ -486,11 +486,11 @@
         <translation>Die TIFF-Daten sind beschädigt; gezeigt wird, was lesbar war.</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <source>The %1 image cannot be read: its reader ended unexpectedly.</source>
         <translation>Das %1-Bild kann nicht gelesen werden: Sein Leser endete unerwartet.</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <source>The %1 image cannot be read: its reader did not come to an end.</source>
         <translation>Das %1-Bild kann nicht gelesen werden: Sein Leser kam zu keinem Ende.</translation>
     </message>
     <message>
@@ -523,7 +523,7 @@
 <context>
     <name>Desktop</name>
     <message>
-        <source>The file is too large for a small picture of it.</source>
+        <source>The file is too large for a small image of it.</source>
         <translation>Die Datei ist zu groß für ein Vorschaubild.</translation>
     </message>
 </context>
@@ -537,7 +537,7 @@
 <context>
     <name>EmptyView</name>
     <message>
-        <source>Drop a picture here</source>
+        <source>Drop an image here</source>
         <translation>Bild hier ablegen</translation>
     </message>
     <message>
@@ -556,15 +556,15 @@
         <translation>Bildersammlung</translation>
     </message>
     <message>
-        <source>Pictures of the library</source>
+        <source>Images of the library</source>
         <translation>Bilder der Sammlung</translation>
     </message>
     <message>
-        <source>Drop pictures here to add them</source>
+        <source>Drop images here to add them</source>
         <translation>Bilder hier ablegen, um sie hinzuzufügen</translation>
     </message>
     <message>
-        <source>Preview of the selected picture</source>
+        <source>Preview of the selected image</source>
         <translation>Vorschau des gewählten Bildes</translation>
     </message>
     <message>
@@ -572,7 +572,7 @@
         <translation>&amp;Hinzufügen …</translation>
     </message>
     <message>
-        <source>Adds a link to a picture</source>
+        <source>Adds a link to an image</source>
         <translation>Fügt eine Verknüpfung mit einem Bild hinzu</translation>
     </message>
     <message>
@@ -588,7 +588,7 @@
         <translation>&amp;Löschen</translation>
     </message>
     <message>
-        <source>Deletes the selected entry, never the picture that a link leads to (Delete)</source>
+        <source>Deletes the selected entry, never the image that a link leads to (Delete)</source>
         <translation>Löscht den gewählten Eintrag, nie das Bild, zu dem eine Verknüpfung führt (Entf)</translation>
     </message>
     <message>
@@ -596,7 +596,7 @@
         <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
-        <source>Opens the selected picture in the editor (Return)</source>
+        <source>Opens the selected image in the editor (Return)</source>
         <translation>Öffnet das gewählte Bild im Editor (Eingabetaste)</translation>
     </message>
 </context>
@@ -651,7 +651,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>The picture could not be brought back.</source>
+        <source>The image could not be brought back.</source>
         <translation>Das Bild konnte nicht zurückgeholt werden.</translation>
     </message>
     <message>
@@ -702,11 +702,11 @@
         <translation>Wählen Sie „Datei“ &gt; „Als TIFF sichern …“ oder „Datei“ &gt; „Als JPEG sichern …“, um das Bild in einem anderen Format zu sichern.</translation>
     </message>
     <message>
-        <source>The file holds more than the picture.</source>
+        <source>The file holds more than the image.</source>
         <translation>Die Datei enthält mehr als das Bild.</translation>
     </message>
     <message>
-        <source>%1 has %2. Saving the picture into it takes that away.</source>
+        <source>%1 has %2. Saving the image into it takes that away.</source>
         <translation>%1 enthält %2. Das geht verloren, wenn das Bild hineingesichert wird.</translation>
     </message>
     <message>
@@ -746,7 +746,7 @@
         <translation>Es wird beim nächsten Start wieder angeboten.</translation>
     </message>
     <message>
-        <source>Reading the picture…</source>
+        <source>Reading the image…</source>
         <translation>Bild wird gelesen …</translation>
     </message>
 </context>
@@ -824,7 +824,7 @@
         <translation>es gibt keinen Ordner für die Schritte</translation>
     </message>
     <message>
-        <source>there is no picture</source>
+        <source>there is no image</source>
         <translation>es gibt kein Bild</translation>
     </message>
     <message>
@@ -986,11 +986,11 @@
         <translation>Vom unteren Rand in Pixeln</translation>
     </message>
     <message>
-        <source>In &amp;each picture by its own size, with a margin of</source>
+        <source>In &amp;each image by its own size, with a margin of</source>
         <translation>&amp;In jedem Bild nach dessen Größe, mit einem Rand von</translation>
     </message>
     <message>
-        <source>The preset holds for every picture, upright or flat, instead of filling in X and Y</source>
+        <source>The preset holds for every image, upright or flat, instead of filling in X and Y</source>
         <translation>Die Vorgabe gilt für jedes Bild, ob hoch oder quer, statt X und Y einzutragen</translation>
     </message>
     <message>
@@ -1303,7 +1303,7 @@
         <translation>%1 (als wäre %2 gedrückt)</translation>
     </message>
     <message>
-        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the image. The switches above do the same.</source>
         <translation>Die Fensterverwaltung verschiebt Fenster mit %1 und der Maus, deshalb erreicht %1 das Bild nie. Die Schalter oben tun dasselbe.</translation>
     </message>
     <message>
@@ -1370,7 +1370,7 @@
         <translation>Zuletzt geöffnet</translation>
     </message>
     <message>
-        <source>Previous Picture</source>
+        <source>Previous Image</source>
         <translation>Voriges Bild</translation>
     </message>
     <message>
@@ -2233,7 +2233,7 @@
         <translation>Bild &amp;skalieren</translation>
     </message>
     <message>
-        <source>On: the picture is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
+        <source>On: the image is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
         <translation>An: Das Bild wird auf die neue Größe umgerechnet. Aus: Es behält seine Pixel an der unten gewählten Stelle und wird beschnitten oder erweitert</translation>
     </message>
     <message>
@@ -2249,7 +2249,7 @@
         <translation>&amp;Lage:</translation>
     </message>
     <message>
-        <source>Where the picture sits in the new size, when it is not scaled</source>
+        <source>Where the image sits in the new size, when it is not scaled</source>
         <translation>Wo das Bild in der neuen Größe sitzt, wenn es nicht skaliert wird</translation>
     </message>
     <message>
@@ -2586,7 +2586,7 @@
         <translation>Jeder Befehl bekommt seine eigenen Tasten zurück</translation>
     </message>
     <message>
-        <source>Tools, over the picture</source>
+        <source>Tools, over the image</source>
         <translation>Werkzeuge, über dem Bild</translation>
     </message>
     <message>
@@ -2756,7 +2756,7 @@
         <translation>nirgends</translation>
     </message>
     <message>
-        <source>select the place in the picture first</source>
+        <source>select the place in the image first</source>
         <translation>zuerst die Stelle im Bild auswählen</translation>
     </message>
     <message>
@@ -2771,7 +2771,7 @@
         <translation>Rahmen der Auswahl</translation>
     </message>
     <message>
-        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG picture.</source>
+        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG image.</source>
         <translation>Die Auswahl: ihre Ecke und ihre Größe. Ziehen Sie dies in ein anderes Programm, um sie als PNG-Bild zu übergeben.</translation>
     </message>
     <message>
@@ -2897,7 +2897,7 @@
         <translation>&amp;Text:</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once</source>
+        <source>What is typed here stands on the image at once</source>
         <translation>Was hier getippt wird, steht sofort auf dem Bild</translation>
     </message>
     <message>
@@ -2973,7 +2973,7 @@
         <translation>Behält den Text als Auswahl</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <source>What is typed here stands on the image at once; Ctrl+Return is OK</source>
         <translation>Was hier getippt wird, steht sofort auf dem Bild; Strg+Eingabe ist OK</translation>
     </message>
     <message>
@@ -3201,7 +3201,7 @@
         <translation>Version %1</translation>
     </message>
     <message>
-        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert pictures, one at a time or by the folder.</source>
+        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert images, one at a time or by the folder.</source>
         <translation>Einfache und doch mächtige Bildbearbeitung: Bilder malen, auswählen, retuschieren, anpassen und umwandeln, einzeln oder ordnerweise.</translation>
     </message>
     <message>
@@ -3395,18 +3395,18 @@
 <context>
     <name>ZPFileManager</name>
     <message numerus="yes">
-        <source>%n picture(s)</source>
+        <source>%n image(s)</source>
         <translation>
             <numerusform>%n Bild</numerusform>
             <numerusform>%n Bilder</numerusform>
         </translation>
     </message>
     <message>
-        <source>No picture selected</source>
+        <source>No image selected</source>
         <translation>Kein Bild gewählt</translation>
     </message>
     <message>
-        <source>Drop pictures here</source>
+        <source>Drop images here</source>
         <translation>Bilder hier ablegen</translation>
     </message>
     <message>
@@ -3550,7 +3550,7 @@
         <translation>Wählen Sie einen kleineren Bereich aus oder vergrößern Sie den Radius.</translation>
     </message>
     <message>
-        <source>The picture changed meanwhile; the fill was dropped.</source>
+        <source>The image changed meanwhile; the fill was dropped.</source>
         <translation>Das Bild hat sich inzwischen geändert; die Füllung wurde verworfen.</translation>
     </message>
 </context>

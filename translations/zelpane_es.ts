@@ -23,7 +23,7 @@
 <context>
     <name>Accessible</name>
     <message>
-        <source>No picture</source>
+        <source>No image</source>
         <translation>Ninguna imagen</translation>
     </message>
     <message>
@@ -134,7 +134,7 @@
         <translation>&amp;Restablecer</translation>
     </message>
     <message>
-        <source>All five back to what leaves the picture as it is</source>
+        <source>All five back to what leaves the image as it is</source>
         <translation>Devuelve los cinco a lo que deja la imagen como está</translation>
     </message>
     <message>
@@ -180,18 +180,18 @@
         <translation>No se pudo pegar nada.</translation>
     </message>
     <message>
-        <source>The clipboard&apos;s picture cannot be read.</source>
+        <source>The clipboard&apos;s image cannot be read.</source>
         <translation>No se puede leer la imagen del portapapeles.</translation>
     </message>
 </context>
 <context>
     <name>Codecs</name>
     <message>
-        <source>The picture has no pixels.</source>
+        <source>The image has no pixels.</source>
         <translation>La imagen no tiene píxeles.</translation>
     </message>
     <message>
-        <source>The picture is too large: %1 x %2 pixels.</source>
+        <source>The image is too large: %1 x %2 pixels.</source>
         <translation>La imagen es demasiado grande: %1 × %2 píxeles.</translation>
     </message>
     <message>
@@ -199,7 +199,7 @@
         <translation>El archivo es demasiado pequeño para los %1 × %2 píxeles que dice contener.</translation>
     </message>
     <message>
-        <source>The picture of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
+        <source>The image of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
         <translation>La imagen de %1 × %2 píxeles no cabe en la memoria de este equipo.</translation>
     </message>
     <message>
@@ -207,7 +207,7 @@
         <translation>sus datos están dañados</translation>
     </message>
     <message>
-        <source>It is not a picture of a kind that can be opened.</source>
+        <source>It is not an image of a kind that can be opened.</source>
         <translation>No es una imagen de un tipo que se pueda abrir.</translation>
     </message>
     <message>
@@ -239,19 +239,19 @@
         <translation>No hay memoria suficiente para leer el archivo.</translation>
     </message>
     <message>
-        <source>There is not enough memory for this picture.</source>
+        <source>There is not enough memory for this image.</source>
         <translation>No hay memoria suficiente para esta imagen.</translation>
     </message>
     <message>
-        <source>The picture cannot be read: %1.</source>
+        <source>The image cannot be read: %1.</source>
         <translation>No se puede leer la imagen: %1.</translation>
     </message>
     <message>
-        <source>The picture cannot be read.</source>
+        <source>The image cannot be read.</source>
         <translation>No se puede leer la imagen.</translation>
     </message>
     <message>
-        <source>It is a folder, not a picture.</source>
+        <source>It is a folder, not an image.</source>
         <translation>Es una carpeta, no una imagen.</translation>
     </message>
     <message>
@@ -267,7 +267,7 @@
         <translation>El perfil de color está incompleto y se ha omitido.</translation>
     </message>
     <message>
-        <source>There is not enough memory for this JPEG picture.</source>
+        <source>There is not enough memory for this JPEG image.</source>
         <translation>No hay memoria suficiente para esta imagen JPEG.</translation>
     </message>
     <message>
@@ -275,7 +275,7 @@
         <translation>No se pueden leer los datos JPEG: %1.</translation>
     </message>
     <message>
-        <source>JPEG pictures with two components cannot be read.</source>
+        <source>JPEG images with two components cannot be read.</source>
         <translation>No se pueden leer imágenes JPEG con dos componentes.</translation>
     </message>
     <message>
@@ -283,7 +283,7 @@
         <translation>Los datos JPEG están dañados; se muestra lo que se pudo leer.</translation>
     </message>
     <message>
-        <source>The %1 picture is larger than the limits of this machine allow.</source>
+        <source>The %1 image is larger than the limits of this machine allow.</source>
         <translation>La imagen %1 supera los límites de este equipo.</translation>
     </message>
     <message>
@@ -291,11 +291,11 @@
         <translation>No se pueden leer los datos %1: %2.</translation>
     </message>
     <message>
-        <source>The picture&apos;s data is damaged; what could be read is shown.</source>
+        <source>The image&apos;s data is damaged; what could be read is shown.</source>
         <translation>Los datos de la imagen están dañados; se muestra lo que se pudo leer.</translation>
     </message>
     <message numerus="yes">
-        <source>The picture had %n bits a colour; it was reduced to 8.</source>
+        <source>The image had %n bits a colour; it was reduced to 8.</source>
         <translation>
             <numerusform>La imagen tenía %n bit por color; se ha reducido a 8.</numerusform>
             <numerusform>La imagen tenía %n bits por color; se ha reducido a 8.</numerusform>
@@ -318,11 +318,11 @@
         <translation>El perfil de color está dañado y se ha omitido.</translation>
     </message>
     <message>
-        <source>The picture was converted to RGB; its colour profile was left out.</source>
+        <source>The image was converted to RGB; its colour profile was left out.</source>
         <translation>La imagen se ha convertido a RGB; su perfil de color se ha omitido.</translation>
     </message>
     <message>
-        <source>The colour profile does not fit the picture and was left out.</source>
+        <source>The colour profile does not fit the image and was left out.</source>
         <translation>El perfil de color no corresponde a la imagen y se ha omitido.</translation>
     </message>
     <message>
@@ -355,14 +355,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>The file has %n bits a colour; the picture has 8.</source>
+        <source>The file has %n bits a colour; the image has 8.</source>
         <translation>
             <numerusform>El archivo tiene %n bit por color; la imagen tiene 8.</numerusform>
             <numerusform>El archivo tiene %n bits por color; la imagen tiene 8.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The file is in printing inks; the picture is in red, green and blue.</source>
+        <source>The file is in printing inks; the image is in red, green and blue.</source>
         <translation>El archivo está en tintas de impresión; la imagen está en rojo, verde y azul.</translation>
     </message>
     <message>
@@ -454,7 +454,7 @@
         <translation>La estructura del archivo TIFF está dañada.</translation>
     </message>
     <message>
-        <source>TIFF pictures with so many or so large samples cannot be read.</source>
+        <source>TIFF images with so many or so large samples cannot be read.</source>
         <translation>No se pueden leer imágenes TIFF con muestras tan numerosas o tan grandes.</translation>
     </message>
     <message>
@@ -486,11 +486,11 @@
         <translation>Los datos TIFF están dañados; se muestra lo que se pudo leer.</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <source>The %1 image cannot be read: its reader ended unexpectedly.</source>
         <translation>No se puede leer la imagen %1: su lector terminó de forma inesperada.</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <source>The %1 image cannot be read: its reader did not come to an end.</source>
         <translation>No se puede leer la imagen %1: su lector no llegó a terminar.</translation>
     </message>
     <message>
@@ -523,7 +523,7 @@
 <context>
     <name>Desktop</name>
     <message>
-        <source>The file is too large for a small picture of it.</source>
+        <source>The file is too large for a small image of it.</source>
         <translation>El archivo es demasiado grande para una miniatura.</translation>
     </message>
 </context>
@@ -537,7 +537,7 @@
 <context>
     <name>EmptyView</name>
     <message>
-        <source>Drop a picture here</source>
+        <source>Drop an image here</source>
         <translation>Suelte una imagen aquí</translation>
     </message>
     <message>
@@ -556,15 +556,15 @@
         <translation>Biblioteca de imágenes</translation>
     </message>
     <message>
-        <source>Pictures of the library</source>
+        <source>Images of the library</source>
         <translation>Imágenes de la biblioteca</translation>
     </message>
     <message>
-        <source>Drop pictures here to add them</source>
+        <source>Drop images here to add them</source>
         <translation>Suelte imágenes aquí para añadirlas</translation>
     </message>
     <message>
-        <source>Preview of the selected picture</source>
+        <source>Preview of the selected image</source>
         <translation>Vista previa de la imagen elegida</translation>
     </message>
     <message>
@@ -572,7 +572,7 @@
         <translation>&amp;Añadir…</translation>
     </message>
     <message>
-        <source>Adds a link to a picture</source>
+        <source>Adds a link to an image</source>
         <translation>Añade un enlace a una imagen</translation>
     </message>
     <message>
@@ -588,7 +588,7 @@
         <translation>&amp;Eliminar</translation>
     </message>
     <message>
-        <source>Deletes the selected entry, never the picture that a link leads to (Delete)</source>
+        <source>Deletes the selected entry, never the image that a link leads to (Delete)</source>
         <translation>Elimina la entrada elegida, nunca la imagen a la que lleva un enlace (Supr)</translation>
     </message>
     <message>
@@ -596,7 +596,7 @@
         <translation>A&amp;brir</translation>
     </message>
     <message>
-        <source>Opens the selected picture in the editor (Return)</source>
+        <source>Opens the selected image in the editor (Return)</source>
         <translation>Abre la imagen elegida en el editor (Intro)</translation>
     </message>
 </context>
@@ -651,7 +651,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>The picture could not be brought back.</source>
+        <source>The image could not be brought back.</source>
         <translation>No se pudo recuperar la imagen.</translation>
     </message>
     <message>
@@ -702,11 +702,11 @@
         <translation>Elija «Archivo» &gt; «Guardar como TIFF…» o «Archivo» &gt; «Guardar como JPEG…» para guardar la imagen en otro formato.</translation>
     </message>
     <message>
-        <source>The file holds more than the picture.</source>
+        <source>The file holds more than the image.</source>
         <translation>El archivo contiene más que la imagen.</translation>
     </message>
     <message>
-        <source>%1 has %2. Saving the picture into it takes that away.</source>
+        <source>%1 has %2. Saving the image into it takes that away.</source>
         <translation>%1 tiene %2. Se perderá al guardar en él la imagen.</translation>
     </message>
     <message>
@@ -746,7 +746,7 @@
         <translation>Se volverá a ofrecer en el próximo inicio.</translation>
     </message>
     <message>
-        <source>Reading the picture…</source>
+        <source>Reading the image…</source>
         <translation>Leyendo la imagen…</translation>
     </message>
 </context>
@@ -824,7 +824,7 @@
         <translation>no hay carpeta para los pasos</translation>
     </message>
     <message>
-        <source>there is no picture</source>
+        <source>there is no image</source>
         <translation>no hay imagen</translation>
     </message>
     <message>
@@ -986,11 +986,11 @@
         <translation>Desde el borde inferior, en píxeles</translation>
     </message>
     <message>
-        <source>In &amp;each picture by its own size, with a margin of</source>
+        <source>In &amp;each image by its own size, with a margin of</source>
         <translation>&amp;En cada imagen según su tamaño, con un margen de</translation>
     </message>
     <message>
-        <source>The preset holds for every picture, upright or flat, instead of filling in X and Y</source>
+        <source>The preset holds for every image, upright or flat, instead of filling in X and Y</source>
         <translation>La posición vale para cada imagen, vertical u horizontal, en vez de rellenar X e Y</translation>
     </message>
     <message>
@@ -1303,7 +1303,7 @@
         <translation>%1 (como si se pulsara %2)</translation>
     </message>
     <message>
-        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the image. The switches above do the same.</source>
         <translation>El gestor de ventanas mueve las ventanas con %1 y el ratón, así que %1 nunca llega a la imagen. Los botones de arriba hacen lo mismo.</translation>
     </message>
     <message>
@@ -1370,7 +1370,7 @@
         <translation>Abrir reciente</translation>
     </message>
     <message>
-        <source>Previous Picture</source>
+        <source>Previous Image</source>
         <translation>Imagen anterior</translation>
     </message>
     <message>
@@ -2233,7 +2233,7 @@
         <translation>&amp;Escalar la imagen</translation>
     </message>
     <message>
-        <source>On: the picture is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
+        <source>On: the image is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
         <translation>Activado: la imagen se remuestrea al tamaño nuevo. Desactivado: conserva sus píxeles en el lugar de abajo y se recorta o amplía</translation>
     </message>
     <message>
@@ -2249,7 +2249,7 @@
         <translation>L&amp;ugar:</translation>
     </message>
     <message>
-        <source>Where the picture sits in the new size, when it is not scaled</source>
+        <source>Where the image sits in the new size, when it is not scaled</source>
         <translation>Dónde queda la imagen en el tamaño nuevo, si no se escala</translation>
     </message>
     <message>
@@ -2586,7 +2586,7 @@
         <translation>Cada orden recupera sus propias teclas</translation>
     </message>
     <message>
-        <source>Tools, over the picture</source>
+        <source>Tools, over the image</source>
         <translation>Herramientas, sobre la imagen</translation>
     </message>
     <message>
@@ -2756,7 +2756,7 @@
         <translation>ninguna parte</translation>
     </message>
     <message>
-        <source>select the place in the picture first</source>
+        <source>select the place in the image first</source>
         <translation>seleccione primero el lugar en la imagen</translation>
     </message>
     <message>
@@ -2771,7 +2771,7 @@
         <translation>Marco de la selección</translation>
     </message>
     <message>
-        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG picture.</source>
+        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG image.</source>
         <translation>La selección: su esquina y su tamaño. Arrastre esto a otro programa para entregársela como imagen PNG.</translation>
     </message>
     <message>
@@ -2897,7 +2897,7 @@
         <translation>&amp;Texto:</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once</source>
+        <source>What is typed here stands on the image at once</source>
         <translation>Lo que se escribe aquí aparece enseguida en la imagen</translation>
     </message>
     <message>
@@ -2973,7 +2973,7 @@
         <translation>Conserva el texto como selección</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <source>What is typed here stands on the image at once; Ctrl+Return is OK</source>
         <translation>Lo que se escribe aquí aparece enseguida en la imagen; Ctrl+Intro equivale a OK</translation>
     </message>
     <message>
@@ -3201,7 +3201,7 @@
         <translation>Versión %1</translation>
     </message>
     <message>
-        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert pictures, one at a time or by the folder.</source>
+        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert images, one at a time or by the folder.</source>
         <translation>Edición de imágenes sencilla y a la vez potente: pintar, seleccionar, retocar, ajustar y convertir imágenes, de una en una o por carpetas.</translation>
     </message>
     <message>
@@ -3395,18 +3395,18 @@
 <context>
     <name>ZPFileManager</name>
     <message numerus="yes">
-        <source>%n picture(s)</source>
+        <source>%n image(s)</source>
         <translation>
             <numerusform>%n imagen</numerusform>
             <numerusform>%n imágenes</numerusform>
         </translation>
     </message>
     <message>
-        <source>No picture selected</source>
+        <source>No image selected</source>
         <translation>Ninguna imagen elegida</translation>
     </message>
     <message>
-        <source>Drop pictures here</source>
+        <source>Drop images here</source>
         <translation>Suelte imágenes aquí</translation>
     </message>
     <message>
@@ -3550,7 +3550,7 @@
         <translation>Seleccione una zona más pequeña o aumente el radio.</translation>
     </message>
     <message>
-        <source>The picture changed meanwhile; the fill was dropped.</source>
+        <source>The image changed meanwhile; the fill was dropped.</source>
         <translation>La imagen cambió entretanto; el relleno se ha descartado.</translation>
     </message>
 </context>

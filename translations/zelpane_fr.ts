@@ -23,7 +23,7 @@
 <context>
     <name>Accessible</name>
     <message>
-        <source>No picture</source>
+        <source>No image</source>
         <translation>Aucune image</translation>
     </message>
     <message>
@@ -134,7 +134,7 @@
         <translation>&amp;Réinitialiser</translation>
     </message>
     <message>
-        <source>All five back to what leaves the picture as it is</source>
+        <source>All five back to what leaves the image as it is</source>
         <translation>Remet les cinq réglages à ce qui laisse l’image telle quelle</translation>
     </message>
     <message>
@@ -180,18 +180,18 @@
         <translation>Rien n’a pu être collé.</translation>
     </message>
     <message>
-        <source>The clipboard&apos;s picture cannot be read.</source>
+        <source>The clipboard&apos;s image cannot be read.</source>
         <translation>L’image du presse-papiers est illisible.</translation>
     </message>
 </context>
 <context>
     <name>Codecs</name>
     <message>
-        <source>The picture has no pixels.</source>
+        <source>The image has no pixels.</source>
         <translation>L’image n’a pas de pixels.</translation>
     </message>
     <message>
-        <source>The picture is too large: %1 x %2 pixels.</source>
+        <source>The image is too large: %1 x %2 pixels.</source>
         <translation>L’image est trop grande&#xa0;: %1 × %2 pixels.</translation>
     </message>
     <message>
@@ -199,7 +199,7 @@
         <translation>Le fichier est bien trop petit pour les %1 × %2 pixels qu’il prétend contenir.</translation>
     </message>
     <message>
-        <source>The picture of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
+        <source>The image of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
         <translation>L’image de %1 × %2 pixels ne tient pas dans la mémoire de cette machine.</translation>
     </message>
     <message>
@@ -207,7 +207,7 @@
         <translation>ses données sont endommagées</translation>
     </message>
     <message>
-        <source>It is not a picture of a kind that can be opened.</source>
+        <source>It is not an image of a kind that can be opened.</source>
         <translation>Ce n’est pas une image d’un type qui peut être ouvert.</translation>
     </message>
     <message>
@@ -239,19 +239,19 @@
         <translation>La mémoire est insuffisante pour lire le fichier.</translation>
     </message>
     <message>
-        <source>There is not enough memory for this picture.</source>
+        <source>There is not enough memory for this image.</source>
         <translation>La mémoire est insuffisante pour cette image.</translation>
     </message>
     <message>
-        <source>The picture cannot be read: %1.</source>
+        <source>The image cannot be read: %1.</source>
         <translation>L’image est illisible&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>The picture cannot be read.</source>
+        <source>The image cannot be read.</source>
         <translation>L’image est illisible.</translation>
     </message>
     <message>
-        <source>It is a folder, not a picture.</source>
+        <source>It is a folder, not an image.</source>
         <translation>C’est un dossier, pas une image.</translation>
     </message>
     <message>
@@ -267,7 +267,7 @@
         <translation>Le profil de couleur est incomplet et a été laissé de côté.</translation>
     </message>
     <message>
-        <source>There is not enough memory for this JPEG picture.</source>
+        <source>There is not enough memory for this JPEG image.</source>
         <translation>La mémoire est insuffisante pour cette image JPEG.</translation>
     </message>
     <message>
@@ -275,7 +275,7 @@
         <translation>Les données JPEG sont illisibles&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>JPEG pictures with two components cannot be read.</source>
+        <source>JPEG images with two components cannot be read.</source>
         <translation>Les images JPEG à deux composantes ne peuvent pas être lues.</translation>
     </message>
     <message>
@@ -283,7 +283,7 @@
         <translation>Les données JPEG sont endommagées&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
     <message>
-        <source>The %1 picture is larger than the limits of this machine allow.</source>
+        <source>The %1 image is larger than the limits of this machine allow.</source>
         <translation>L’image %1 dépasse les limites de cette machine.</translation>
     </message>
     <message>
@@ -291,11 +291,11 @@
         <translation>Les données %1 sont illisibles&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>The picture&apos;s data is damaged; what could be read is shown.</source>
+        <source>The image&apos;s data is damaged; what could be read is shown.</source>
         <translation>Les données de l’image sont endommagées&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
     <message numerus="yes">
-        <source>The picture had %n bits a colour; it was reduced to 8.</source>
+        <source>The image had %n bits a colour; it was reduced to 8.</source>
         <translation>
             <numerusform>L’image avait %n bit par couleur&#x202f;; elle a été réduite à 8.</numerusform>
             <numerusform>L’image avait %n bits par couleur&#x202f;; elle a été réduite à 8.</numerusform>
@@ -318,11 +318,11 @@
         <translation>Le profil de couleur est endommagé et a été laissé de côté.</translation>
     </message>
     <message>
-        <source>The picture was converted to RGB; its colour profile was left out.</source>
+        <source>The image was converted to RGB; its colour profile was left out.</source>
         <translation>L’image a été convertie en RVB&#x202f;; son profil de couleur a été laissé de côté.</translation>
     </message>
     <message>
-        <source>The colour profile does not fit the picture and was left out.</source>
+        <source>The colour profile does not fit the image and was left out.</source>
         <translation>Le profil de couleur ne convient pas à l’image et a été laissé de côté.</translation>
     </message>
     <message>
@@ -355,14 +355,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>The file has %n bits a colour; the picture has 8.</source>
+        <source>The file has %n bits a colour; the image has 8.</source>
         <translation>
             <numerusform>Le fichier a %n bit par couleur&#x202f;; l’image en a 8.</numerusform>
             <numerusform>Le fichier a %n bits par couleur&#x202f;; l’image en a 8.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The file is in printing inks; the picture is in red, green and blue.</source>
+        <source>The file is in printing inks; the image is in red, green and blue.</source>
         <translation>Le fichier est en encres d’impression&#x202f;; l’image est en rouge, vert et bleu.</translation>
     </message>
     <message>
@@ -454,7 +454,7 @@
         <translation>La structure du fichier TIFF est endommagée.</translation>
     </message>
     <message>
-        <source>TIFF pictures with so many or so large samples cannot be read.</source>
+        <source>TIFF images with so many or so large samples cannot be read.</source>
         <translation>Les images TIFF avec des échantillons si nombreux ou si grands ne peuvent pas être lues.</translation>
     </message>
     <message>
@@ -486,11 +486,11 @@
         <translation>Les données TIFF sont endommagées&#x202f;; ce qui a pu être lu est affiché.</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <source>The %1 image cannot be read: its reader ended unexpectedly.</source>
         <translation>L’image %1 ne peut pas être lue : son lecteur s’est arrêté de façon inattendue.</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <source>The %1 image cannot be read: its reader did not come to an end.</source>
         <translation>L’image %1 ne peut pas être lue : son lecteur ne se termine pas.</translation>
     </message>
     <message>
@@ -523,7 +523,7 @@
 <context>
     <name>Desktop</name>
     <message>
-        <source>The file is too large for a small picture of it.</source>
+        <source>The file is too large for a small image of it.</source>
         <translation>Le fichier est trop volumineux pour une vignette.</translation>
     </message>
 </context>
@@ -537,7 +537,7 @@
 <context>
     <name>EmptyView</name>
     <message>
-        <source>Drop a picture here</source>
+        <source>Drop an image here</source>
         <translation>Déposez une image ici</translation>
     </message>
     <message>
@@ -556,15 +556,15 @@
         <translation>Photothèque</translation>
     </message>
     <message>
-        <source>Pictures of the library</source>
+        <source>Images of the library</source>
         <translation>Images de la photothèque</translation>
     </message>
     <message>
-        <source>Drop pictures here to add them</source>
+        <source>Drop images here to add them</source>
         <translation>Déposez des images ici pour les ajouter</translation>
     </message>
     <message>
-        <source>Preview of the selected picture</source>
+        <source>Preview of the selected image</source>
         <translation>Aperçu de l’image choisie</translation>
     </message>
     <message>
@@ -572,7 +572,7 @@
         <translation>&amp;Ajouter…</translation>
     </message>
     <message>
-        <source>Adds a link to a picture</source>
+        <source>Adds a link to an image</source>
         <translation>Ajoute un lien vers une image</translation>
     </message>
     <message>
@@ -588,7 +588,7 @@
         <translation>&amp;Supprimer</translation>
     </message>
     <message>
-        <source>Deletes the selected entry, never the picture that a link leads to (Delete)</source>
+        <source>Deletes the selected entry, never the image that a link leads to (Delete)</source>
         <translation>Supprime l’entrée choisie, jamais l’image à laquelle mène un lien (Suppr)</translation>
     </message>
     <message>
@@ -596,7 +596,7 @@
         <translation>&amp;Ouvrir</translation>
     </message>
     <message>
-        <source>Opens the selected picture in the editor (Return)</source>
+        <source>Opens the selected image in the editor (Return)</source>
         <translation>Ouvre l’image choisie dans l’éditeur (Entrée)</translation>
     </message>
 </context>
@@ -651,7 +651,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>The picture could not be brought back.</source>
+        <source>The image could not be brought back.</source>
         <translation>L’image n’a pas pu être rétablie.</translation>
     </message>
     <message>
@@ -702,11 +702,11 @@
         <translation>Choisissez «&#xa0;Fichier&#xa0;» &gt; «&#xa0;Enregistrer en TIFF…&#xa0;» ou «&#xa0;Fichier&#xa0;» &gt; «&#xa0;Enregistrer en JPEG…&#xa0;» pour enregistrer l’image dans un autre format.</translation>
     </message>
     <message>
-        <source>The file holds more than the picture.</source>
+        <source>The file holds more than the image.</source>
         <translation>Le fichier contient plus que l’image.</translation>
     </message>
     <message>
-        <source>%1 has %2. Saving the picture into it takes that away.</source>
+        <source>%1 has %2. Saving the image into it takes that away.</source>
         <translation>%1 contient %2. Y enregistrer l’image les ferait disparaître.</translation>
     </message>
     <message>
@@ -746,7 +746,7 @@
         <translation>Elle sera proposée de nouveau au prochain démarrage.</translation>
     </message>
     <message>
-        <source>Reading the picture…</source>
+        <source>Reading the image…</source>
         <translation>Lecture de l’image…</translation>
     </message>
 </context>
@@ -824,7 +824,7 @@
         <translation>il n’y a pas de dossier d’annulation</translation>
     </message>
     <message>
-        <source>there is no picture</source>
+        <source>there is no image</source>
         <translation>il n’y a pas d’image</translation>
     </message>
     <message>
@@ -986,11 +986,11 @@
         <translation>Depuis le bord inférieur, en pixels</translation>
     </message>
     <message>
-        <source>In &amp;each picture by its own size, with a margin of</source>
+        <source>In &amp;each image by its own size, with a margin of</source>
         <translation>Dans &amp;chaque image selon sa taille, avec une marge de</translation>
     </message>
     <message>
-        <source>The preset holds for every picture, upright or flat, instead of filling in X and Y</source>
+        <source>The preset holds for every image, upright or flat, instead of filling in X and Y</source>
         <translation>Le préréglage vaut pour chaque image, debout ou couchée, au lieu de remplir X et Y</translation>
     </message>
     <message>
@@ -1303,7 +1303,7 @@
         <translation>%1 (comme si %2 était enfoncée)</translation>
     </message>
     <message>
-        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the image. The switches above do the same.</source>
         <translation>Le gestionnaire de fenêtres déplace les fenêtres avec %1 et la souris&#xa0;: %1 n’atteint donc jamais l’image. Les boutons ci-dessus font la même chose.</translation>
     </message>
     <message>
@@ -1370,7 +1370,7 @@
         <translation>Ouvrir récent</translation>
     </message>
     <message>
-        <source>Previous Picture</source>
+        <source>Previous Image</source>
         <translation>Image précédente</translation>
     </message>
     <message>
@@ -2233,7 +2233,7 @@
         <translation>&amp;Mettre l’image à l’échelle</translation>
     </message>
     <message>
-        <source>On: the picture is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
+        <source>On: the image is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
         <translation>Activé&#xa0;: l’image est rééchantillonnée à la nouvelle taille. Désactivé&#xa0;: elle garde ses pixels à l’emplacement ci-dessous et elle est coupée ou étendue</translation>
     </message>
     <message>
@@ -2249,7 +2249,7 @@
         <translation>&amp;Emplacement&#xa0;:</translation>
     </message>
     <message>
-        <source>Where the picture sits in the new size, when it is not scaled</source>
+        <source>Where the image sits in the new size, when it is not scaled</source>
         <translation>Où se place l’image dans la nouvelle taille, quand elle n’est pas mise à l’échelle</translation>
     </message>
     <message>
@@ -2586,7 +2586,7 @@
         <translation>Chaque commande retrouve ses propres touches</translation>
     </message>
     <message>
-        <source>Tools, over the picture</source>
+        <source>Tools, over the image</source>
         <translation>Outils, sur l’image</translation>
     </message>
     <message>
@@ -2756,7 +2756,7 @@
         <translation>nulle part</translation>
     </message>
     <message>
-        <source>select the place in the picture first</source>
+        <source>select the place in the image first</source>
         <translation>sélectionnez d’abord l’endroit dans l’image</translation>
     </message>
     <message>
@@ -2771,7 +2771,7 @@
         <translation>Cadre de la sélection</translation>
     </message>
     <message>
-        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG picture.</source>
+        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG image.</source>
         <translation>La sélection&#xa0;: son coin et sa taille. Faites glisser ceci vers un autre programme pour la lui donner comme image PNG.</translation>
     </message>
     <message>
@@ -2897,7 +2897,7 @@
         <translation>&amp;Texte&#xa0;:</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once</source>
+        <source>What is typed here stands on the image at once</source>
         <translation>Ce qui est tapé ici apparaît aussitôt sur l’image</translation>
     </message>
     <message>
@@ -2973,7 +2973,7 @@
         <translation>Garde le texte comme sélection</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <source>What is typed here stands on the image at once; Ctrl+Return is OK</source>
         <translation>Ce qui est tapé ici apparaît aussitôt sur l’image&#x202f;; Ctrl+Entrée vaut OK</translation>
     </message>
     <message>
@@ -3201,7 +3201,7 @@
         <translation>Version %1</translation>
     </message>
     <message>
-        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert pictures, one at a time or by the folder.</source>
+        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert images, one at a time or by the folder.</source>
         <translation>Retouche d’images simple et pourtant puissante&#xa0;: peindre, sélectionner, retoucher, ajuster et convertir des images, une à une ou par dossier.</translation>
     </message>
     <message>
@@ -3395,18 +3395,18 @@
 <context>
     <name>ZPFileManager</name>
     <message numerus="yes">
-        <source>%n picture(s)</source>
+        <source>%n image(s)</source>
         <translation>
             <numerusform>%n image</numerusform>
             <numerusform>%n images</numerusform>
         </translation>
     </message>
     <message>
-        <source>No picture selected</source>
+        <source>No image selected</source>
         <translation>Aucune image choisie</translation>
     </message>
     <message>
-        <source>Drop pictures here</source>
+        <source>Drop images here</source>
         <translation>Déposez des images ici</translation>
     </message>
     <message>
@@ -3550,7 +3550,7 @@
         <translation>Sélectionnez une zone plus petite ou augmentez le rayon.</translation>
     </message>
     <message>
-        <source>The picture changed meanwhile; the fill was dropped.</source>
+        <source>The image changed meanwhile; the fill was dropped.</source>
         <translation>L’image a changé entre-temps&#x202f;; le remplissage a été abandonné.</translation>
     </message>
 </context>

@@ -23,7 +23,7 @@
 <context>
     <name>Accessible</name>
     <message>
-        <source>No picture</source>
+        <source>No image</source>
         <translation>画像なし</translation>
     </message>
     <message>
@@ -134,7 +134,7 @@
         <translation>リセット(&amp;R)</translation>
     </message>
     <message>
-        <source>All five back to what leaves the picture as it is</source>
+        <source>All five back to what leaves the image as it is</source>
         <translation>5 つすべてを画像が変わらない値に戻します</translation>
     </message>
     <message>
@@ -180,18 +180,18 @@
         <translation>何も貼り付けられませんでした。</translation>
     </message>
     <message>
-        <source>The clipboard&apos;s picture cannot be read.</source>
+        <source>The clipboard&apos;s image cannot be read.</source>
         <translation>クリップボードの画像を読み込めません。</translation>
     </message>
 </context>
 <context>
     <name>Codecs</name>
     <message>
-        <source>The picture has no pixels.</source>
+        <source>The image has no pixels.</source>
         <translation>画像にピクセルがありません。</translation>
     </message>
     <message>
-        <source>The picture is too large: %1 x %2 pixels.</source>
+        <source>The image is too large: %1 x %2 pixels.</source>
         <translation>画像が大きすぎます: %1 × %2 ピクセル。</translation>
     </message>
     <message>
@@ -199,7 +199,7 @@
         <translation>%1 × %2 ピクセルを含むというには、ファイルが小さすぎます。</translation>
     </message>
     <message>
-        <source>The picture of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
+        <source>The image of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
         <translation>%1 × %2 ピクセルの画像は、このコンピューターのメモリに収まりません。</translation>
     </message>
     <message>
@@ -207,7 +207,7 @@
         <translation>データが壊れています</translation>
     </message>
     <message>
-        <source>It is not a picture of a kind that can be opened.</source>
+        <source>It is not an image of a kind that can be opened.</source>
         <translation>開くことのできる種類の画像ではありません。</translation>
     </message>
     <message>
@@ -239,19 +239,19 @@
         <translation>ファイルを読み込むためのメモリが足りません。</translation>
     </message>
     <message>
-        <source>There is not enough memory for this picture.</source>
+        <source>There is not enough memory for this image.</source>
         <translation>この画像のためのメモリが足りません。</translation>
     </message>
     <message>
-        <source>The picture cannot be read: %1.</source>
+        <source>The image cannot be read: %1.</source>
         <translation>画像を読み込めません: %1。</translation>
     </message>
     <message>
-        <source>The picture cannot be read.</source>
+        <source>The image cannot be read.</source>
         <translation>画像を読み込めません。</translation>
     </message>
     <message>
-        <source>It is a folder, not a picture.</source>
+        <source>It is a folder, not an image.</source>
         <translation>画像ではなくフォルダーです。</translation>
     </message>
     <message>
@@ -267,7 +267,7 @@
         <translation>カラープロファイルが不完全なため省かれました。</translation>
     </message>
     <message>
-        <source>There is not enough memory for this JPEG picture.</source>
+        <source>There is not enough memory for this JPEG image.</source>
         <translation>この JPEG 画像のためのメモリが足りません。</translation>
     </message>
     <message>
@@ -275,7 +275,7 @@
         <translation>JPEG データを読み込めません: %1。</translation>
     </message>
     <message>
-        <source>JPEG pictures with two components cannot be read.</source>
+        <source>JPEG images with two components cannot be read.</source>
         <translation>2 成分の JPEG 画像は読み込めません。</translation>
     </message>
     <message>
@@ -283,7 +283,7 @@
         <translation>JPEG データが壊れています。読み込めた部分を表示しています。</translation>
     </message>
     <message>
-        <source>The %1 picture is larger than the limits of this machine allow.</source>
+        <source>The %1 image is larger than the limits of this machine allow.</source>
         <translation>%1 画像がこのコンピューターの制限を超えています。</translation>
     </message>
     <message>
@@ -291,11 +291,11 @@
         <translation>%1 データを読み込めません: %2。</translation>
     </message>
     <message>
-        <source>The picture&apos;s data is damaged; what could be read is shown.</source>
+        <source>The image&apos;s data is damaged; what could be read is shown.</source>
         <translation>画像のデータが壊れています。読み込めた部分を表示しています。</translation>
     </message>
     <message numerus="yes">
-        <source>The picture had %n bits a colour; it was reduced to 8.</source>
+        <source>The image had %n bits a colour; it was reduced to 8.</source>
         <translation>
             <numerusform>画像は 1 色あたり %n ビットでしたが、8 ビットに減らしました。</numerusform>
         </translation>
@@ -317,11 +317,11 @@
         <translation>カラープロファイルが壊れているため省かれました。</translation>
     </message>
     <message>
-        <source>The picture was converted to RGB; its colour profile was left out.</source>
+        <source>The image was converted to RGB; its colour profile was left out.</source>
         <translation>画像を RGB に変換しました。カラープロファイルは省かれました。</translation>
     </message>
     <message>
-        <source>The colour profile does not fit the picture and was left out.</source>
+        <source>The colour profile does not fit the image and was left out.</source>
         <translation>カラープロファイルが画像に合わないため省かれました。</translation>
     </message>
     <message>
@@ -351,13 +351,13 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>The file has %n bits a colour; the picture has 8.</source>
+        <source>The file has %n bits a colour; the image has 8.</source>
         <translation>
             <numerusform>ファイルは 1 色あたり %n ビット、画像は 8 ビットです。</numerusform>
         </translation>
     </message>
     <message>
-        <source>The file is in printing inks; the picture is in red, green and blue.</source>
+        <source>The file is in printing inks; the image is in red, green and blue.</source>
         <translation>ファイルは印刷インクの色、画像は赤・緑・青です。</translation>
     </message>
     <message>
@@ -445,7 +445,7 @@
         <translation>TIFF の構造が壊れています。</translation>
     </message>
     <message>
-        <source>TIFF pictures with so many or so large samples cannot be read.</source>
+        <source>TIFF images with so many or so large samples cannot be read.</source>
         <translation>サンプルがこれほど多いか大きい TIFF 画像は読み込めません。</translation>
     </message>
     <message>
@@ -477,11 +477,11 @@
         <translation>TIFF データが壊れています。読み込めた部分を表示しています。</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <source>The %1 image cannot be read: its reader ended unexpectedly.</source>
         <translation>%1 画像を読み込めません: 読み込み処理が予期せず終了しました。</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <source>The %1 image cannot be read: its reader did not come to an end.</source>
         <translation>%1 画像を読み込めません: 読み込み処理が終わりませんでした。</translation>
     </message>
     <message>
@@ -514,7 +514,7 @@
 <context>
     <name>Desktop</name>
     <message>
-        <source>The file is too large for a small picture of it.</source>
+        <source>The file is too large for a small image of it.</source>
         <translation>ファイルが大きすぎるため、縮小画像を作れません。</translation>
     </message>
 </context>
@@ -528,7 +528,7 @@
 <context>
     <name>EmptyView</name>
     <message>
-        <source>Drop a picture here</source>
+        <source>Drop an image here</source>
         <translation>ここに画像をドロップ</translation>
     </message>
     <message>
@@ -547,15 +547,15 @@
         <translation>画像ライブラリ</translation>
     </message>
     <message>
-        <source>Pictures of the library</source>
+        <source>Images of the library</source>
         <translation>ライブラリの画像</translation>
     </message>
     <message>
-        <source>Drop pictures here to add them</source>
+        <source>Drop images here to add them</source>
         <translation>ここに画像をドロップして追加</translation>
     </message>
     <message>
-        <source>Preview of the selected picture</source>
+        <source>Preview of the selected image</source>
         <translation>選んだ画像のプレビュー</translation>
     </message>
     <message>
@@ -563,7 +563,7 @@
         <translation>追加(&amp;A)…</translation>
     </message>
     <message>
-        <source>Adds a link to a picture</source>
+        <source>Adds a link to an image</source>
         <translation>画像へのリンクを追加します</translation>
     </message>
     <message>
@@ -579,7 +579,7 @@
         <translation>削除(&amp;D)</translation>
     </message>
     <message>
-        <source>Deletes the selected entry, never the picture that a link leads to (Delete)</source>
+        <source>Deletes the selected entry, never the image that a link leads to (Delete)</source>
         <translation>選んだ項目を削除します。リンク先の画像は削除しません (Delete)</translation>
     </message>
     <message>
@@ -587,7 +587,7 @@
         <translation>開く(&amp;O)</translation>
     </message>
     <message>
-        <source>Opens the selected picture in the editor (Return)</source>
+        <source>Opens the selected image in the editor (Return)</source>
         <translation>選んだ画像をエディターで開きます (Return)</translation>
     </message>
 </context>
@@ -642,7 +642,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>The picture could not be brought back.</source>
+        <source>The image could not be brought back.</source>
         <translation>画像を元に戻せませんでした。</translation>
     </message>
     <message>
@@ -692,11 +692,11 @@
         <translation>「ファイル」&gt;「TIFF で保存…」または「ファイル」&gt;「JPEG で保存…」を選んで、別の形式で保存してください。</translation>
     </message>
     <message>
-        <source>The file holds more than the picture.</source>
+        <source>The file holds more than the image.</source>
         <translation>ファイルには画像以外の内容があります。</translation>
     </message>
     <message>
-        <source>%1 has %2. Saving the picture into it takes that away.</source>
+        <source>%1 has %2. Saving the image into it takes that away.</source>
         <translation>%1 には %2 があります。画像を上書き保存すると失われます。</translation>
     </message>
     <message>
@@ -736,7 +736,7 @@
         <translation>次回の起動時にもう一度提示されます。</translation>
     </message>
     <message>
-        <source>Reading the picture…</source>
+        <source>Reading the image…</source>
         <translation>画像を読み込んでいます…</translation>
     </message>
 </context>
@@ -814,7 +814,7 @@
         <translation>履歴のフォルダーがありません</translation>
     </message>
     <message>
-        <source>there is no picture</source>
+        <source>there is no image</source>
         <translation>画像がありません</translation>
     </message>
     <message>
@@ -976,11 +976,11 @@
         <translation>下端からの距離 (ピクセル)</translation>
     </message>
     <message>
-        <source>In &amp;each picture by its own size, with a margin of</source>
+        <source>In &amp;each image by its own size, with a margin of</source>
         <translation>各画像の大きさに合わせ、余白は(&amp;E)</translation>
     </message>
     <message>
-        <source>The preset holds for every picture, upright or flat, instead of filling in X and Y</source>
+        <source>The preset holds for every image, upright or flat, instead of filling in X and Y</source>
         <translation>X と Y を入力する代わりに、縦でも横でもすべての画像にこの位置を使います</translation>
     </message>
     <message>
@@ -1293,7 +1293,7 @@
         <translation>%1（%2 を押したときと同じ）</translation>
     </message>
     <message>
-        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the image. The switches above do the same.</source>
         <translation>ウィンドウマネージャーが %1 とマウスでウィンドウを動かすため、%1 は画像に届きません。上のスイッチで同じことができます。</translation>
     </message>
     <message>
@@ -1360,7 +1360,7 @@
         <translation>最近使ったファイル</translation>
     </message>
     <message>
-        <source>Previous Picture</source>
+        <source>Previous Image</source>
         <translation>前の画像</translation>
     </message>
     <message>
@@ -2223,7 +2223,7 @@
         <translation>画像を拡大縮小(&amp;S)</translation>
     </message>
     <message>
-        <source>On: the picture is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
+        <source>On: the image is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
         <translation>オン: 画像を新しい大きさに再サンプルします。オフ: ピクセルは下の位置に残り、切り取られるか広げられます</translation>
     </message>
     <message>
@@ -2239,7 +2239,7 @@
         <translation>配置(&amp;P):</translation>
     </message>
     <message>
-        <source>Where the picture sits in the new size, when it is not scaled</source>
+        <source>Where the image sits in the new size, when it is not scaled</source>
         <translation>拡大縮小しないとき、新しい大きさの中で画像を置く位置</translation>
     </message>
     <message>
@@ -2576,7 +2576,7 @@
         <translation>すべてのコマンドを元のキーに戻します</translation>
     </message>
     <message>
-        <source>Tools, over the picture</source>
+        <source>Tools, over the image</source>
         <translation>ツール (画像の上で)</translation>
     </message>
     <message>
@@ -2746,7 +2746,7 @@
         <translation>なし</translation>
     </message>
     <message>
-        <source>select the place in the picture first</source>
+        <source>select the place in the image first</source>
         <translation>先に画像の中で場所を選択してください</translation>
     </message>
     <message>
@@ -2761,7 +2761,7 @@
         <translation>選択範囲の枠</translation>
     </message>
     <message>
-        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG picture.</source>
+        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG image.</source>
         <translation>選択範囲の角と大きさ。別のプログラムへドラッグすると PNG 画像として渡せます。</translation>
     </message>
     <message>
@@ -2887,7 +2887,7 @@
         <translation>テキスト(&amp;T):</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once</source>
+        <source>What is typed here stands on the image at once</source>
         <translation>ここに入力した文字はすぐに画像に現れます</translation>
     </message>
     <message>
@@ -2963,7 +2963,7 @@
         <translation>テキストを選択範囲として残します</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <source>What is typed here stands on the image at once; Ctrl+Return is OK</source>
         <translation>ここに入力した文字はすぐに画像に現れます。Ctrl+Return で OK</translation>
     </message>
     <message>
@@ -3191,7 +3191,7 @@
         <translation>バージョン %1</translation>
     </message>
     <message>
-        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert pictures, one at a time or by the folder.</source>
+        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert images, one at a time or by the folder.</source>
         <translation>シンプルで強力な画像編集: 描画、選択、レタッチ、補正、変換を 1 枚ずつ、またはフォルダーごとに。</translation>
     </message>
     <message>
@@ -3385,17 +3385,17 @@
 <context>
     <name>ZPFileManager</name>
     <message numerus="yes">
-        <source>%n picture(s)</source>
+        <source>%n image(s)</source>
         <translation>
             <numerusform>%n 枚の画像</numerusform>
         </translation>
     </message>
     <message>
-        <source>No picture selected</source>
+        <source>No image selected</source>
         <translation>画像が選ばれていません</translation>
     </message>
     <message>
-        <source>Drop pictures here</source>
+        <source>Drop images here</source>
         <translation>ここに画像をドロップ</translation>
     </message>
     <message>
@@ -3538,7 +3538,7 @@
         <translation>より小さな範囲を選択するか、半径を大きくしてください。</translation>
     </message>
     <message>
-        <source>The picture changed meanwhile; the fill was dropped.</source>
+        <source>The image changed meanwhile; the fill was dropped.</source>
         <translation>その間に画像が変わったため、塗りつぶしは破棄されました。</translation>
     </message>
 </context>

@@ -23,7 +23,7 @@
 <context>
     <name>Accessible</name>
     <message>
-        <source>No picture</source>
+        <source>No image</source>
         <translation>Nenhuma imagem</translation>
     </message>
     <message>
@@ -134,7 +134,7 @@
         <translation>&amp;Redefinir</translation>
     </message>
     <message>
-        <source>All five back to what leaves the picture as it is</source>
+        <source>All five back to what leaves the image as it is</source>
         <translation>Devolve os cinco ao que deixa a imagem como está</translation>
     </message>
     <message>
@@ -180,18 +180,18 @@
         <translation>Nada pôde ser colado.</translation>
     </message>
     <message>
-        <source>The clipboard&apos;s picture cannot be read.</source>
+        <source>The clipboard&apos;s image cannot be read.</source>
         <translation>A imagem da área de transferência não pode ser lida.</translation>
     </message>
 </context>
 <context>
     <name>Codecs</name>
     <message>
-        <source>The picture has no pixels.</source>
+        <source>The image has no pixels.</source>
         <translation>A imagem não tem pixels.</translation>
     </message>
     <message>
-        <source>The picture is too large: %1 x %2 pixels.</source>
+        <source>The image is too large: %1 x %2 pixels.</source>
         <translation>A imagem é grande demais: %1 × %2 pixels.</translation>
     </message>
     <message>
@@ -199,7 +199,7 @@
         <translation>O arquivo é pequeno demais para os %1 × %2 pixels que diz conter.</translation>
     </message>
     <message>
-        <source>The picture of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
+        <source>The image of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
         <translation>A imagem de %1 × %2 pixels não cabe na memória desta máquina.</translation>
     </message>
     <message>
@@ -207,7 +207,7 @@
         <translation>seus dados estão danificados</translation>
     </message>
     <message>
-        <source>It is not a picture of a kind that can be opened.</source>
+        <source>It is not an image of a kind that can be opened.</source>
         <translation>Não é uma imagem de um tipo que possa ser aberto.</translation>
     </message>
     <message>
@@ -239,19 +239,19 @@
         <translation>Não há memória suficiente para ler o arquivo.</translation>
     </message>
     <message>
-        <source>There is not enough memory for this picture.</source>
+        <source>There is not enough memory for this image.</source>
         <translation>Não há memória suficiente para esta imagem.</translation>
     </message>
     <message>
-        <source>The picture cannot be read: %1.</source>
+        <source>The image cannot be read: %1.</source>
         <translation>A imagem não pode ser lida: %1.</translation>
     </message>
     <message>
-        <source>The picture cannot be read.</source>
+        <source>The image cannot be read.</source>
         <translation>A imagem não pode ser lida.</translation>
     </message>
     <message>
-        <source>It is a folder, not a picture.</source>
+        <source>It is a folder, not an image.</source>
         <translation>É uma pasta, não uma imagem.</translation>
     </message>
     <message>
@@ -267,7 +267,7 @@
         <translation>O perfil de cor está incompleto e foi deixado de fora.</translation>
     </message>
     <message>
-        <source>There is not enough memory for this JPEG picture.</source>
+        <source>There is not enough memory for this JPEG image.</source>
         <translation>Não há memória suficiente para esta imagem JPEG.</translation>
     </message>
     <message>
@@ -275,7 +275,7 @@
         <translation>Os dados JPEG não podem ser lidos: %1.</translation>
     </message>
     <message>
-        <source>JPEG pictures with two components cannot be read.</source>
+        <source>JPEG images with two components cannot be read.</source>
         <translation>Imagens JPEG com dois componentes não podem ser lidas.</translation>
     </message>
     <message>
@@ -283,7 +283,7 @@
         <translation>Os dados JPEG estão danificados; mostra-se o que pôde ser lido.</translation>
     </message>
     <message>
-        <source>The %1 picture is larger than the limits of this machine allow.</source>
+        <source>The %1 image is larger than the limits of this machine allow.</source>
         <translation>A imagem %1 é maior do que os limites desta máquina permitem.</translation>
     </message>
     <message>
@@ -291,11 +291,11 @@
         <translation>Os dados %1 não podem ser lidos: %2.</translation>
     </message>
     <message>
-        <source>The picture&apos;s data is damaged; what could be read is shown.</source>
+        <source>The image&apos;s data is damaged; what could be read is shown.</source>
         <translation>Os dados da imagem estão danificados; mostra-se o que pôde ser lido.</translation>
     </message>
     <message numerus="yes">
-        <source>The picture had %n bits a colour; it was reduced to 8.</source>
+        <source>The image had %n bits a colour; it was reduced to 8.</source>
         <translation>
             <numerusform>A imagem tinha %n bit por cor; foi reduzida a 8.</numerusform>
             <numerusform>A imagem tinha %n bits por cor; foi reduzida a 8.</numerusform>
@@ -318,11 +318,11 @@
         <translation>O perfil de cor está danificado e foi deixado de fora.</translation>
     </message>
     <message>
-        <source>The picture was converted to RGB; its colour profile was left out.</source>
+        <source>The image was converted to RGB; its colour profile was left out.</source>
         <translation>A imagem foi convertida para RGB; seu perfil de cor foi deixado de fora.</translation>
     </message>
     <message>
-        <source>The colour profile does not fit the picture and was left out.</source>
+        <source>The colour profile does not fit the image and was left out.</source>
         <translation>O perfil de cor não serve para a imagem e foi deixado de fora.</translation>
     </message>
     <message>
@@ -355,14 +355,14 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>The file has %n bits a colour; the picture has 8.</source>
+        <source>The file has %n bits a colour; the image has 8.</source>
         <translation>
             <numerusform>O arquivo tem %n bit por cor; a imagem tem 8.</numerusform>
             <numerusform>O arquivo tem %n bits por cor; a imagem tem 8.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The file is in printing inks; the picture is in red, green and blue.</source>
+        <source>The file is in printing inks; the image is in red, green and blue.</source>
         <translation>O arquivo está em tintas de impressão; a imagem está em vermelho, verde e azul.</translation>
     </message>
     <message>
@@ -454,7 +454,7 @@
         <translation>A estrutura do arquivo TIFF está danificada.</translation>
     </message>
     <message>
-        <source>TIFF pictures with so many or so large samples cannot be read.</source>
+        <source>TIFF images with so many or so large samples cannot be read.</source>
         <translation>Imagens TIFF com amostras tão numerosas ou tão grandes não podem ser lidas.</translation>
     </message>
     <message>
@@ -486,11 +486,11 @@
         <translation>Os dados TIFF estão danificados; mostra-se o que pôde ser lido.</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <source>The %1 image cannot be read: its reader ended unexpectedly.</source>
         <translation>Não é possível ler a imagem %1: seu leitor terminou inesperadamente.</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <source>The %1 image cannot be read: its reader did not come to an end.</source>
         <translation>Não é possível ler a imagem %1: seu leitor não chegou ao fim.</translation>
     </message>
     <message>
@@ -523,7 +523,7 @@
 <context>
     <name>Desktop</name>
     <message>
-        <source>The file is too large for a small picture of it.</source>
+        <source>The file is too large for a small image of it.</source>
         <translation>O arquivo é grande demais para uma miniatura.</translation>
     </message>
 </context>
@@ -537,7 +537,7 @@
 <context>
     <name>EmptyView</name>
     <message>
-        <source>Drop a picture here</source>
+        <source>Drop an image here</source>
         <translation>Solte uma imagem aqui</translation>
     </message>
     <message>
@@ -556,15 +556,15 @@
         <translation>Biblioteca de imagens</translation>
     </message>
     <message>
-        <source>Pictures of the library</source>
+        <source>Images of the library</source>
         <translation>Imagens da biblioteca</translation>
     </message>
     <message>
-        <source>Drop pictures here to add them</source>
+        <source>Drop images here to add them</source>
         <translation>Solte imagens aqui para adicioná-las</translation>
     </message>
     <message>
-        <source>Preview of the selected picture</source>
+        <source>Preview of the selected image</source>
         <translation>Visualização da imagem escolhida</translation>
     </message>
     <message>
@@ -572,7 +572,7 @@
         <translation>&amp;Adicionar…</translation>
     </message>
     <message>
-        <source>Adds a link to a picture</source>
+        <source>Adds a link to an image</source>
         <translation>Adiciona um atalho para uma imagem</translation>
     </message>
     <message>
@@ -588,7 +588,7 @@
         <translation>&amp;Excluir</translation>
     </message>
     <message>
-        <source>Deletes the selected entry, never the picture that a link leads to (Delete)</source>
+        <source>Deletes the selected entry, never the image that a link leads to (Delete)</source>
         <translation>Exclui o item escolhido, nunca a imagem a que um atalho leva (Delete)</translation>
     </message>
     <message>
@@ -596,7 +596,7 @@
         <translation>A&amp;brir</translation>
     </message>
     <message>
-        <source>Opens the selected picture in the editor (Return)</source>
+        <source>Opens the selected image in the editor (Return)</source>
         <translation>Abre a imagem escolhida no editor (Enter)</translation>
     </message>
 </context>
@@ -651,7 +651,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>The picture could not be brought back.</source>
+        <source>The image could not be brought back.</source>
         <translation>Não foi possível trazer a imagem de volta.</translation>
     </message>
     <message>
@@ -702,11 +702,11 @@
         <translation>Escolha “Arquivo” &gt; “Salvar como TIFF…” ou “Arquivo” &gt; “Salvar como JPEG…” para salvar a imagem em outro formato.</translation>
     </message>
     <message>
-        <source>The file holds more than the picture.</source>
+        <source>The file holds more than the image.</source>
         <translation>O arquivo contém mais do que a imagem.</translation>
     </message>
     <message>
-        <source>%1 has %2. Saving the picture into it takes that away.</source>
+        <source>%1 has %2. Saving the image into it takes that away.</source>
         <translation>%1 tem %2. Isso se perde ao salvar a imagem nele.</translation>
     </message>
     <message>
@@ -746,7 +746,7 @@
         <translation>Ela será oferecida novamente na próxima inicialização.</translation>
     </message>
     <message>
-        <source>Reading the picture…</source>
+        <source>Reading the image…</source>
         <translation>Lendo a imagem…</translation>
     </message>
 </context>
@@ -824,7 +824,7 @@
         <translation>não há pasta para os passos</translation>
     </message>
     <message>
-        <source>there is no picture</source>
+        <source>there is no image</source>
         <translation>não há imagem</translation>
     </message>
     <message>
@@ -986,11 +986,11 @@
         <translation>A partir da borda inferior, em pixels</translation>
     </message>
     <message>
-        <source>In &amp;each picture by its own size, with a margin of</source>
+        <source>In &amp;each image by its own size, with a margin of</source>
         <translation>&amp;Em cada imagem conforme seu tamanho, com margem de</translation>
     </message>
     <message>
-        <source>The preset holds for every picture, upright or flat, instead of filling in X and Y</source>
+        <source>The preset holds for every image, upright or flat, instead of filling in X and Y</source>
         <translation>A posição vale para cada imagem, em pé ou deitada, em vez de preencher X e Y</translation>
     </message>
     <message>
@@ -1303,7 +1303,7 @@
         <translation>%1 (como se %2 estivesse pressionada)</translation>
     </message>
     <message>
-        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the image. The switches above do the same.</source>
         <translation>O gerenciador de janelas move janelas com %1 e o mouse; por isso %1 nunca chega à imagem. Os botões acima fazem o mesmo.</translation>
     </message>
     <message>
@@ -1370,7 +1370,7 @@
         <translation>Abrir recente</translation>
     </message>
     <message>
-        <source>Previous Picture</source>
+        <source>Previous Image</source>
         <translation>Imagem anterior</translation>
     </message>
     <message>
@@ -2233,7 +2233,7 @@
         <translation>&amp;Redimensionar o conteúdo</translation>
     </message>
     <message>
-        <source>On: the picture is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
+        <source>On: the image is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
         <translation>Ligado: a imagem é reamostrada para o novo tamanho. Desligado: ela mantém seus pixels no lugar abaixo e é cortada ou estendida</translation>
     </message>
     <message>
@@ -2249,7 +2249,7 @@
         <translation>L&amp;ugar:</translation>
     </message>
     <message>
-        <source>Where the picture sits in the new size, when it is not scaled</source>
+        <source>Where the image sits in the new size, when it is not scaled</source>
         <translation>Onde a imagem fica no novo tamanho, quando o conteúdo não é redimensionado</translation>
     </message>
     <message>
@@ -2586,7 +2586,7 @@
         <translation>Cada comando recebe de volta suas próprias teclas</translation>
     </message>
     <message>
-        <source>Tools, over the picture</source>
+        <source>Tools, over the image</source>
         <translation>Ferramentas, sobre a imagem</translation>
     </message>
     <message>
@@ -2756,7 +2756,7 @@
         <translation>nenhum lugar</translation>
     </message>
     <message>
-        <source>select the place in the picture first</source>
+        <source>select the place in the image first</source>
         <translation>selecione primeiro o lugar na imagem</translation>
     </message>
     <message>
@@ -2771,7 +2771,7 @@
         <translation>Moldura da seleção</translation>
     </message>
     <message>
-        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG picture.</source>
+        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG image.</source>
         <translation>A seleção: seu canto e seu tamanho. Arraste isto para outro programa para entregá-la como imagem PNG.</translation>
     </message>
     <message>
@@ -2897,7 +2897,7 @@
         <translation>&amp;Texto:</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once</source>
+        <source>What is typed here stands on the image at once</source>
         <translation>O que se digita aqui aparece logo na imagem</translation>
     </message>
     <message>
@@ -2973,7 +2973,7 @@
         <translation>Guarda o texto como seleção</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <source>What is typed here stands on the image at once; Ctrl+Return is OK</source>
         <translation>O que se digita aqui aparece logo na imagem; Ctrl+Enter equivale a OK</translation>
     </message>
     <message>
@@ -3201,7 +3201,7 @@
         <translation>Versão %1</translation>
     </message>
     <message>
-        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert pictures, one at a time or by the folder.</source>
+        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert images, one at a time or by the folder.</source>
         <translation>Edição de imagens simples e, ainda assim, poderosa: pintar, selecionar, retocar, ajustar e converter imagens, uma a uma ou por pasta.</translation>
     </message>
     <message>
@@ -3395,18 +3395,18 @@
 <context>
     <name>ZPFileManager</name>
     <message numerus="yes">
-        <source>%n picture(s)</source>
+        <source>%n image(s)</source>
         <translation>
             <numerusform>%n imagem</numerusform>
             <numerusform>%n imagens</numerusform>
         </translation>
     </message>
     <message>
-        <source>No picture selected</source>
+        <source>No image selected</source>
         <translation>Nenhuma imagem escolhida</translation>
     </message>
     <message>
-        <source>Drop pictures here</source>
+        <source>Drop images here</source>
         <translation>Solte imagens aqui</translation>
     </message>
     <message>
@@ -3550,7 +3550,7 @@
         <translation>Selecione uma área menor ou aumente o raio.</translation>
     </message>
     <message>
-        <source>The picture changed meanwhile; the fill was dropped.</source>
+        <source>The image changed meanwhile; the fill was dropped.</source>
         <translation>A imagem mudou nesse meio-tempo; o preenchimento foi descartado.</translation>
     </message>
 </context>

@@ -23,7 +23,7 @@
 <context>
     <name>Accessible</name>
     <message>
-        <source>No picture</source>
+        <source>No image</source>
         <translation>没有图片</translation>
     </message>
     <message>
@@ -134,7 +134,7 @@
         <translation>重置(&amp;R)</translation>
     </message>
     <message>
-        <source>All five back to what leaves the picture as it is</source>
+        <source>All five back to what leaves the image as it is</source>
         <translation>将五项全部恢复为不改变图片的值</translation>
     </message>
     <message>
@@ -180,18 +180,18 @@
         <translation>无法粘贴任何内容。</translation>
     </message>
     <message>
-        <source>The clipboard&apos;s picture cannot be read.</source>
+        <source>The clipboard&apos;s image cannot be read.</source>
         <translation>无法读取剪贴板中的图片。</translation>
     </message>
 </context>
 <context>
     <name>Codecs</name>
     <message>
-        <source>The picture has no pixels.</source>
+        <source>The image has no pixels.</source>
         <translation>图片没有像素。</translation>
     </message>
     <message>
-        <source>The picture is too large: %1 x %2 pixels.</source>
+        <source>The image is too large: %1 x %2 pixels.</source>
         <translation>图片太大：%1 × %2 像素。</translation>
     </message>
     <message>
@@ -199,7 +199,7 @@
         <translation>文件太小，不可能包含它声称的 %1 × %2 像素。</translation>
     </message>
     <message>
-        <source>The picture of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
+        <source>The image of %1 x %2 pixels does not fit this machine&apos;s memory.</source>
         <translation>%1 × %2 像素的图片超出了本机内存。</translation>
     </message>
     <message>
@@ -207,7 +207,7 @@
         <translation>其数据已损坏</translation>
     </message>
     <message>
-        <source>It is not a picture of a kind that can be opened.</source>
+        <source>It is not an image of a kind that can be opened.</source>
         <translation>这不是可以打开的图片类型。</translation>
     </message>
     <message>
@@ -239,19 +239,19 @@
         <translation>内存不足，无法读取文件。</translation>
     </message>
     <message>
-        <source>There is not enough memory for this picture.</source>
+        <source>There is not enough memory for this image.</source>
         <translation>内存不足，无法容纳这张图片。</translation>
     </message>
     <message>
-        <source>The picture cannot be read: %1.</source>
+        <source>The image cannot be read: %1.</source>
         <translation>无法读取图片：%1。</translation>
     </message>
     <message>
-        <source>The picture cannot be read.</source>
+        <source>The image cannot be read.</source>
         <translation>无法读取图片。</translation>
     </message>
     <message>
-        <source>It is a folder, not a picture.</source>
+        <source>It is a folder, not an image.</source>
         <translation>这是文件夹，不是图片。</translation>
     </message>
     <message>
@@ -267,7 +267,7 @@
         <translation>颜色配置文件不完整，已略去。</translation>
     </message>
     <message>
-        <source>There is not enough memory for this JPEG picture.</source>
+        <source>There is not enough memory for this JPEG image.</source>
         <translation>内存不足，无法容纳这张 JPEG 图片。</translation>
     </message>
     <message>
@@ -275,7 +275,7 @@
         <translation>无法读取 JPEG 数据：%1。</translation>
     </message>
     <message>
-        <source>JPEG pictures with two components cannot be read.</source>
+        <source>JPEG images with two components cannot be read.</source>
         <translation>无法读取只有两个分量的 JPEG 图片。</translation>
     </message>
     <message>
@@ -283,7 +283,7 @@
         <translation>JPEG 数据已损坏；显示的是能读取的部分。</translation>
     </message>
     <message>
-        <source>The %1 picture is larger than the limits of this machine allow.</source>
+        <source>The %1 image is larger than the limits of this machine allow.</source>
         <translation>%1 图片超出了本机的限制。</translation>
     </message>
     <message>
@@ -291,11 +291,11 @@
         <translation>无法读取 %1 数据：%2。</translation>
     </message>
     <message>
-        <source>The picture&apos;s data is damaged; what could be read is shown.</source>
+        <source>The image&apos;s data is damaged; what could be read is shown.</source>
         <translation>图片数据已损坏；显示的是能读取的部分。</translation>
     </message>
     <message numerus="yes">
-        <source>The picture had %n bits a colour; it was reduced to 8.</source>
+        <source>The image had %n bits a colour; it was reduced to 8.</source>
         <translation>
             <numerusform>图片每种颜色有 %n 位，已减为 8 位。</numerusform>
         </translation>
@@ -317,11 +317,11 @@
         <translation>颜色配置文件已损坏，已略去。</translation>
     </message>
     <message>
-        <source>The picture was converted to RGB; its colour profile was left out.</source>
+        <source>The image was converted to RGB; its colour profile was left out.</source>
         <translation>图片已转换为 RGB；其颜色配置文件已略去。</translation>
     </message>
     <message>
-        <source>The colour profile does not fit the picture and was left out.</source>
+        <source>The colour profile does not fit the image and was left out.</source>
         <translation>颜色配置文件与图片不符，已略去。</translation>
     </message>
     <message>
@@ -351,13 +351,13 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>The file has %n bits a colour; the picture has 8.</source>
+        <source>The file has %n bits a colour; the image has 8.</source>
         <translation>
             <numerusform>文件每种颜色有 %n 位；图片为 8 位。</numerusform>
         </translation>
     </message>
     <message>
-        <source>The file is in printing inks; the picture is in red, green and blue.</source>
+        <source>The file is in printing inks; the image is in red, green and blue.</source>
         <translation>文件使用印刷油墨颜色；图片使用红、绿、蓝。</translation>
     </message>
     <message>
@@ -445,7 +445,7 @@
         <translation>TIFF 结构已损坏。</translation>
     </message>
     <message>
-        <source>TIFF pictures with so many or so large samples cannot be read.</source>
+        <source>TIFF images with so many or so large samples cannot be read.</source>
         <translation>无法读取样本如此之多或如此之大的 TIFF 图片。</translation>
     </message>
     <message>
@@ -477,11 +477,11 @@
         <translation>TIFF 数据已损坏；显示的是能读取的部分。</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader ended unexpectedly.</source>
+        <source>The %1 image cannot be read: its reader ended unexpectedly.</source>
         <translation>无法读取 %1 图片：读取程序意外结束。</translation>
     </message>
     <message>
-        <source>The %1 picture cannot be read: its reader did not come to an end.</source>
+        <source>The %1 image cannot be read: its reader did not come to an end.</source>
         <translation>无法读取 %1 图片：读取程序没有结束。</translation>
     </message>
     <message>
@@ -514,7 +514,7 @@
 <context>
     <name>Desktop</name>
     <message>
-        <source>The file is too large for a small picture of it.</source>
+        <source>The file is too large for a small image of it.</source>
         <translation>文件太大，无法生成缩略图。</translation>
     </message>
 </context>
@@ -528,7 +528,7 @@
 <context>
     <name>EmptyView</name>
     <message>
-        <source>Drop a picture here</source>
+        <source>Drop an image here</source>
         <translation>将图片拖放到这里</translation>
     </message>
     <message>
@@ -547,15 +547,15 @@
         <translation>图片库</translation>
     </message>
     <message>
-        <source>Pictures of the library</source>
+        <source>Images of the library</source>
         <translation>图片库中的图片</translation>
     </message>
     <message>
-        <source>Drop pictures here to add them</source>
+        <source>Drop images here to add them</source>
         <translation>将图片拖放到这里以添加</translation>
     </message>
     <message>
-        <source>Preview of the selected picture</source>
+        <source>Preview of the selected image</source>
         <translation>所选图片的预览</translation>
     </message>
     <message>
@@ -563,7 +563,7 @@
         <translation>添加(&amp;A)…</translation>
     </message>
     <message>
-        <source>Adds a link to a picture</source>
+        <source>Adds a link to an image</source>
         <translation>添加图片的链接</translation>
     </message>
     <message>
@@ -579,7 +579,7 @@
         <translation>删除(&amp;D)</translation>
     </message>
     <message>
-        <source>Deletes the selected entry, never the picture that a link leads to (Delete)</source>
+        <source>Deletes the selected entry, never the image that a link leads to (Delete)</source>
         <translation>删除所选项目，绝不删除链接指向的图片 (Delete)</translation>
     </message>
     <message>
@@ -587,7 +587,7 @@
         <translation>打开(&amp;O)</translation>
     </message>
     <message>
-        <source>Opens the selected picture in the editor (Return)</source>
+        <source>Opens the selected image in the editor (Return)</source>
         <translation>在编辑器中打开所选图片 (回车)</translation>
     </message>
 </context>
@@ -642,7 +642,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>The picture could not be brought back.</source>
+        <source>The image could not be brought back.</source>
         <translation>无法找回这张图片。</translation>
     </message>
     <message>
@@ -692,11 +692,11 @@
         <translation>请选择“文件”&gt;“存储为 TIFF…”或“文件”&gt;“存储为 JPEG…”，以其他格式保存图像。</translation>
     </message>
     <message>
-        <source>The file holds more than the picture.</source>
+        <source>The file holds more than the image.</source>
         <translation>文件中不只有这张图片。</translation>
     </message>
     <message>
-        <source>%1 has %2. Saving the picture into it takes that away.</source>
+        <source>%1 has %2. Saving the image into it takes that away.</source>
         <translation>%1 含有%2。将图片保存到其中会失去这些内容。</translation>
     </message>
     <message>
@@ -736,7 +736,7 @@
         <translation>下次启动时会再次提供。</translation>
     </message>
     <message>
-        <source>Reading the picture…</source>
+        <source>Reading the image…</source>
         <translation>正在读取图片…</translation>
     </message>
 </context>
@@ -814,7 +814,7 @@
         <translation>没有撤销文件夹</translation>
     </message>
     <message>
-        <source>there is no picture</source>
+        <source>there is no image</source>
         <translation>没有图片</translation>
     </message>
     <message>
@@ -976,11 +976,11 @@
         <translation>距下边 (像素)</translation>
     </message>
     <message>
-        <source>In &amp;each picture by its own size, with a margin of</source>
+        <source>In &amp;each image by its own size, with a margin of</source>
         <translation>在每张图片中按其大小放置，边距为(&amp;E)</translation>
     </message>
     <message>
-        <source>The preset holds for every picture, upright or flat, instead of filling in X and Y</source>
+        <source>The preset holds for every image, upright or flat, instead of filling in X and Y</source>
         <translation>预设适用于每张图片，无论横竖，不再填入 X 和 Y</translation>
     </message>
     <message>
@@ -1293,7 +1293,7 @@
         <translation>%1（如同按住 %2）</translation>
     </message>
     <message>
-        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The switches above do the same.</source>
+        <source>The window manager moves windows with %1 and the mouse, so %1 never reaches the image. The switches above do the same.</source>
         <translation>窗口管理器用 %1 加鼠标移动窗口，因此 %1 无法传到图像。上方的开关作用相同。</translation>
     </message>
     <message>
@@ -1360,7 +1360,7 @@
         <translation>最近打开的文件</translation>
     </message>
     <message>
-        <source>Previous Picture</source>
+        <source>Previous Image</source>
         <translation>上一张图片</translation>
     </message>
     <message>
@@ -2223,7 +2223,7 @@
         <translation>缩放图像(&amp;S)</translation>
     </message>
     <message>
-        <source>On: the picture is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
+        <source>On: the image is resampled to the new size. Off: it keeps its pixels at the place below and is cut or extended</source>
         <translation>开：图像重新采样为新大小。关：像素保留在下面的位置，图像被裁剪或扩展</translation>
     </message>
     <message>
@@ -2239,7 +2239,7 @@
         <translation>位置(&amp;P)：</translation>
     </message>
     <message>
-        <source>Where the picture sits in the new size, when it is not scaled</source>
+        <source>Where the image sits in the new size, when it is not scaled</source>
         <translation>不缩放时，图片在新大小中的位置</translation>
     </message>
     <message>
@@ -2576,7 +2576,7 @@
         <translation>每个命令都恢复其原有按键</translation>
     </message>
     <message>
-        <source>Tools, over the picture</source>
+        <source>Tools, over the image</source>
         <translation>工具 (在图片上)</translation>
     </message>
     <message>
@@ -2746,7 +2746,7 @@
         <translation>无</translation>
     </message>
     <message>
-        <source>select the place in the picture first</source>
+        <source>select the place in the image first</source>
         <translation>请先在图像中选择位置</translation>
     </message>
     <message>
@@ -2761,7 +2761,7 @@
         <translation>选区的方框</translation>
     </message>
     <message>
-        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG picture.</source>
+        <source>The selection: its corner and its size. Drag this to another program to hand it over as a PNG image.</source>
         <translation>选区：它的角和大小。将此拖到其他程序，可以把它作为 PNG 图片交出。</translation>
     </message>
     <message>
@@ -2887,7 +2887,7 @@
         <translation>文字(&amp;T)：</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once</source>
+        <source>What is typed here stands on the image at once</source>
         <translation>在此输入的内容会立即显示在图片上</translation>
     </message>
     <message>
@@ -2963,7 +2963,7 @@
         <translation>将文字保留为选区</translation>
     </message>
     <message>
-        <source>What is typed here stands on the picture at once; Ctrl+Return is OK</source>
+        <source>What is typed here stands on the image at once; Ctrl+Return is OK</source>
         <translation>在此输入的内容会立即显示在图片上；Ctrl+回车相当于“确定”</translation>
     </message>
     <message>
@@ -3191,7 +3191,7 @@
         <translation>版本 %1</translation>
     </message>
     <message>
-        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert pictures, one at a time or by the folder.</source>
+        <source>Simple, yet powerful image editing: paint, select, retouch, adjust and convert images, one at a time or by the folder.</source>
         <translation>简单而强大的图像编辑：绘画、选择、修饰、调整和转换图片，逐张或按文件夹处理。</translation>
     </message>
     <message>
@@ -3385,17 +3385,17 @@
 <context>
     <name>ZPFileManager</name>
     <message numerus="yes">
-        <source>%n picture(s)</source>
+        <source>%n image(s)</source>
         <translation>
             <numerusform>%n 张图片</numerusform>
         </translation>
     </message>
     <message>
-        <source>No picture selected</source>
+        <source>No image selected</source>
         <translation>未选择图片</translation>
     </message>
     <message>
-        <source>Drop pictures here</source>
+        <source>Drop images here</source>
         <translation>将图片拖放到这里</translation>
     </message>
     <message>
@@ -3538,7 +3538,7 @@
         <translation>请选择较小的区域或增大半径。</translation>
     </message>
     <message>
-        <source>The picture changed meanwhile; the fill was dropped.</source>
+        <source>The image changed meanwhile; the fill was dropped.</source>
         <translation>图片在此期间已更改；填充已放弃。</translation>
     </message>
 </context>

@@ -44,7 +44,7 @@ public:
 private:
     static QString value(const Document& document, const MainWindow* window)
     {
-        if (!document.picture().isLoaded()) return QCoreApplication::translate("Accessible", "No picture");
+        if (!document.picture().isLoaded()) return QCoreApplication::translate("Accessible", "No image");
         QStringList parts{QCoreApplication::translate("Accessible", "%1 by %2 pixels")
                               .arg(document.picture().width())
                               .arg(document.picture().height()),

@@ -155,7 +155,7 @@ constexpr Command kCommands[] = {
     item("File", ZP_TEXT("Menu", "New…"), "Ctrl+N", ZP_TEXT("Menu", "Makes a blank image"), shell("newDocument:")),
     item("File", ZP_TEXT("Menu", "Open…"), "Ctrl+O", ZP_TEXT("Menu", "Opens an image file"), shell("openDocument:")),
     item("File", ZP_TEXT("Menu", "Open Recent"), "", "", shell(kRecentMenu)),
-    item("File", ZP_TEXT("Menu", "Previous Picture"), "Ctrl+Tab",
+    item("File", ZP_TEXT("Menu", "Previous Image"), "Ctrl+Tab",
          ZP_TEXT("Menu", "Shows the image again that was open before this one"),
          begins(stepsTo("previousPicture:", ShelvedPicture, previousPicture))),
     line("File"),

@@ -38,7 +38,7 @@ EmptyView::EmptyView(const Document& document, QWidget* viewport) : QWidget(view
     auto* column = new QVBoxLayout(this);
     column->setSpacing(14);
     column->addStretch(1);
-    auto* title = new QLabel(tr("Drop a picture here"), this);
+    auto* title = new QLabel(tr("Drop an image here"), this);
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * 1.7);
     title->setFont(large);

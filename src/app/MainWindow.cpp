@@ -319,10 +319,9 @@ void MainWindow::noteTakenKey(std::uint32_t role)
 {
     mTakenKeySaid = true;
     const QString key = keyNameOf(role);
-    QString sentence =
-        tr("The window manager moves windows with %1 and the mouse, so %1 never reaches the picture. The "
-           "switches above do the same.")
-            .arg(key);
+    QString sentence = tr("The window manager moves windows with %1 and the mouse, so %1 never reaches the image. The "
+                          "switches above do the same.")
+                           .arg(key);
     // Control's shapes have switches of their own, so that its key can be spared; it has none to spare for itself.
     if (role == kControlKey) return mDocument.notice(sentence);
     mDocument.notice({.text = sentence,

@@ -141,7 +141,7 @@ void ShortcutsWindow::fill()
         line->setToolTip(0, item->property("tip").toString());
         if (item->property("action").toString() == chosen) again = line;
     }
-    begin(tr("Tools, over the picture"));
+    begin(tr("Tools, over the image"));
     for (const ToolRow& row : toolTable())
         new QTreeWidgetItem(group, {QCoreApplication::translate("Tools", row.title), QString(QChar(row.key))});
     mTree->resizeColumnToContents(0);

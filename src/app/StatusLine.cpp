@@ -123,7 +123,7 @@ StatusLine::StatusLine(QStatusBar& bar, Document& document) : QObject(&bar), mDo
     mInfoField->hide();
     mSelectionField = add(new SelectionField(&bar, document), "mSelectionField",
                           tr("The selection: its corner and its size. Drag this to another program to hand it over as "
-                             "a PNG picture."),
+                             "a PNG image."),
                           "00000, 00000 · 00000 × 00000 px", 0);
     mMiddle = new ElidedLabel;
     add(mMiddle, "mMessageField", {}, "", 1);

@@ -38,9 +38,8 @@ ZPAboutBox::ZPAboutBox() : mWindow(std::make_unique<QDialog>()), mUi(std::make_u
     large.setWeight(QFont::DemiBold);
     mUi->mNameText->setFont(large);
     mUi->mVersionText->setText(tr("Version %1").arg(ZP_VERSION));
-    mUi->mInfoText->setText(
-        tr("Simple, yet powerful image editing: paint, select, retouch, adjust and convert pictures, "
-           "one at a time or by the folder."));
+    mUi->mInfoText->setText(tr("Simple, yet powerful image editing: paint, select, retouch, adjust and convert images, "
+                               "one at a time or by the folder."));
     mUi->mLicenseText->setText(tr("Free software under the GNU General Public License, version 3 or later. "
                                   "It comes with no warranty, to the extent that the law permits."));
     const QIcon icon(textFromPath(pathByAppending(shippedResourcesFolder(), "icons/zelpane.svg")));

@@ -30,14 +30,14 @@ std::string writeThumbnail(const std::string& source, const std::string& destina
     if (now.width > float(size) || now.height > float(size)) {
         const Size fitted = wholePixels(fittedSize(now, float(size), float(size)));
         small = BitmapRep::createUninitialized(int(fitted.width), int(fitted.height));
-        if (!small) return "There is not enough memory for the picture.";
+        if (!small) return "There is not enough memory for the image.";
         if (image.reduction.divisor > 1)
             resample(std::as_const(*image.bitmap).view(), image.reduction, small->view());
         else
             resample(std::as_const(*image.bitmap).view(), small->view());
     }
     const auto bytes = encodePNG(std::as_const(*small).view(), {});
-    if (bytes.empty()) return "There is not enough memory for the picture.";
+    if (bytes.empty()) return "There is not enough memory for the image.";
     std::string error;
     writeFileSafely(destination, bytes.data(), bytes.size(), &error);
     return error;
@@ -47,7 +47,7 @@ int runThumbnailCommandLine(int argc, char** argv)
 {
     const int size = argc == 5 ? std::atoi(argv[2]) : 0;
     if (size < 1 || size > kLargest) {
-        std::fprintf(stderr, "zelpane: --thumbnail needs a size from 1 to %d, a picture and the file to write.\n",
+        std::fprintf(stderr, "zelpane: --thumbnail needs a size from 1 to %d, an image and the file to write.\n",
                      kLargest);
         return 2;
     }

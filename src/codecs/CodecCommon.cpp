@@ -52,7 +52,7 @@ bool checkSize(std::int64_t width, std::int64_t height, std::uint64_t fileBytes,
                std::uint64_t workBytes)
 {
     if (width <= 0 || height <= 0) {
-        error = translated("Codecs", "The picture has no pixels.");
+        error = translated("Codecs", "The image has no pixels.");
         return false;
     }
     const auto refuse = [&](const char* format) {
@@ -60,12 +60,12 @@ bool checkSize(std::int64_t width, std::int64_t height, std::uint64_t fileBytes,
         return false;
     };
     if (!isSensibleImageSize(width, height))
-        return refuse(ZP_TEXT("Codecs", "The picture is too large: %1 x %2 pixels."));
+        return refuse(ZP_TEXT("Codecs", "The image is too large: %1 x %2 pixels."));
     if (width * height > kSuspiciousPixels && std::uint64_t(width * height) > kMaxPixelsPerByte * fileBytes)
         return refuse(ZP_TEXT("Codecs", "The file is far too small for the %1 x %2 pixels it claims to hold."));
     const std::uint64_t memory = machineMemory();
     if (memory && (std::uint64_t(width * height) * 4 > memory / 2 || workBytes > memory / 4))
-        return refuse(ZP_TEXT("Codecs", "The picture of %1 x %2 pixels does not fit this machine's memory."));
+        return refuse(ZP_TEXT("Codecs", "The image of %1 x %2 pixels does not fit this machine's memory."));
     return true;
 }
 

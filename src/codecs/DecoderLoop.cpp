@@ -124,7 +124,7 @@ bool receive(DecoderJob& job, int& file)
 DecodedRest decode(const DecoderJob& job, const Input& input)
 try {
     DecodedRest rest;
-    rest.error = translated("Codecs", "There is not enough memory for this picture.");
+    rest.error = translated("Codecs", "There is not enough memory for this image.");
     if (!input.isThere()) return rest;
     Sending target;
     rest = readByMagick(input.bytes(), Format(job.format), job.properties != 0, target);
@@ -132,7 +132,7 @@ try {
     return rest;
 } catch (const std::bad_alloc&) {
     DecodedRest rest;
-    rest.error = translated("Codecs", "There is not enough memory for this picture.");
+    rest.error = translated("Codecs", "There is not enough memory for this image.");
     return rest;
 }
 

@@ -302,17 +302,16 @@ Decoded result(Answer& answer, Answer::End end, Format format)
     case Answer::End::Whole:
         break;
     case Answer::End::Died:
-        return Decoded::failure(
-            filledIn(translated("Codecs", "The %1 picture cannot be read: its reader ended unexpectedly."),
-                     {magickName(format)}));
+        return Decoded::failure(filledIn(
+            translated("Codecs", "The %1 image cannot be read: its reader ended unexpectedly."), {magickName(format)}));
     case Answer::End::Hung:
         return Decoded::failure(
-            filledIn(translated("Codecs", "The %1 picture cannot be read: its reader did not come to an end."),
+            filledIn(translated("Codecs", "The %1 image cannot be read: its reader did not come to an end."),
                      {magickName(format)}));
     case Answer::End::GivenUp:
         return Decoded::failure(translated("Codecs", "Reading was stopped."));
     case Answer::End::NoMemory:
-        return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
+        return Decoded::failure(translated("Codecs", "There is not enough memory for this image."));
     }
     Decoded decoded;
     DecodedRest& rest = answer.rest;
@@ -350,7 +349,7 @@ void setForeignDecoding(ForeignDecoding how)
 Decoded decodeForeign(Bytes bytes, Format format, const ImportOptions& options)
 {
     if (!magickName(format))
-        return Decoded::failure(translated("Codecs", "It is not a picture of a kind that can be opened."));
+        return Decoded::failure(translated("Codecs", "It is not an image of a kind that can be opened."));
     ForeignDecoding how;
     {
         const std::lock_guard lock(state().mutex);
@@ -370,7 +369,7 @@ Decoded decodeForeign(Bytes bytes, Format format, const ImportOptions& options)
         Decoder decoder = takeOrStart(how);
         if (decoder.process <= 0)
             return Decoded::failure(
-                filledIn(translated("Codecs", "The picture cannot be read: %1."), {tidyMessage(std::strerror(errno))}));
+                filledIn(translated("Codecs", "The image cannot be read: %1."), {tidyMessage(std::strerror(errno))}));
         Answer answer;
         const Answer::End end = give(decoder, job, file) ? answer.take(decoder, how, bytes.size()) : Answer::End::Died;
         // One that was kept may have gone home meanwhile.

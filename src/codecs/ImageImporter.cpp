@@ -33,7 +33,7 @@ Decoded decodeAs(Format format, Bytes bytes, const ImportOptions& options)
 {
     switch (format) {
     case Format::Unknown:
-        return Decoded::failure(translated("Codecs", "It is not a picture of a kind that can be opened."));
+        return Decoded::failure(translated("Codecs", "It is not an image of a kind that can be opened."));
     case Format::JPEG:
         return codec::decodeJPEG(bytes, options);
     case Format::PNG:
@@ -120,7 +120,7 @@ ImportedImage importLargeFile(const OpenFile& file, const std::string& path, std
     std::size_t start = 0;
     const Format format = codec::sniffFormat(head, &start);
     if (format == Format::Unknown)
-        return {.error = translated("Codecs", "It is not a picture of a kind that can be opened.")};
+        return {.error = translated("Codecs", "It is not an image of a kind that can be opened.")};
     const PixelDimensions dimensions = imageFileDimensions(path);
     std::string error;
     if (dimensions.width > 0 && !codec::checkSize(dimensions.width, dimensions.height, size, error))
@@ -140,7 +140,7 @@ ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptio
         Decoded decoded = decode(bytes, options);
         if (decoded.bitmap && decoded.orientation > 1) {
             decoded.bitmap = codec::turnedUpright(*decoded.bitmap, decoded.orientation);
-            if (!decoded.bitmap) decoded.error = translated("Codecs", "There is not enough memory for this picture.");
+            if (!decoded.bitmap) decoded.error = translated("Codecs", "There is not enough memory for this image.");
         }
         image.bitmap = std::move(decoded.bitmap);
         image.error = std::move(decoded.error);
@@ -149,12 +149,12 @@ ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptio
         image.facts = decoded.facts;
         image.facts.endedEarly = image.damaged;
     } catch (const std::bad_alloc&) {
-        image = {.error = translated("Codecs", "There is not enough memory for this picture.")};
+        image = {.error = translated("Codecs", "There is not enough memory for this image.")};
     } catch (const std::exception& e) {
         image = {.error =
-                     filledIn(translated("Codecs", "The picture cannot be read: %1."), {codec::tidyMessage(e.what())})};
+                     filledIn(translated("Codecs", "The image cannot be read: %1."), {codec::tidyMessage(e.what())})};
     }
-    if (!image.bitmap && image.error.empty()) image.error = translated("Codecs", "The picture cannot be read.");
+    if (!image.bitmap && image.error.empty()) image.error = translated("Codecs", "The image cannot be read.");
     return image;
 }
 
@@ -165,7 +165,7 @@ try {
     struct stat facts {
     };
     if (fstat(file.fd(), &facts) != 0) return {.error = sentenceFor(errno)};
-    if (S_ISDIR(facts.st_mode)) return {.error = translated("Codecs", "It is a folder, not a picture.")};
+    if (S_ISDIR(facts.st_mode)) return {.error = translated("Codecs", "It is a folder, not an image.")};
     if (!S_ISREG(facts.st_mode)) return {.error = translated("Codecs", "It is not an ordinary file.")};
     if (facts.st_size == 0) return {.error = translated("Codecs", "The file is empty.")};
     if (facts.st_size > kMaxFileBytes) return {.error = translated("Codecs", "The file is larger than 4 GiB.")};

@@ -212,7 +212,7 @@ int orientationOf(const jpeg_decompress_struct& info)
 
 std::string sentence(const Session& s)
 {
-    if (s.errors.ranOutOfMemory()) return translated("Codecs", "There is not enough memory for this JPEG picture.");
+    if (s.errors.ranOutOfMemory()) return translated("Codecs", "There is not enough memory for this JPEG image.");
     return filledIn(translated("Codecs", "The JPEG data cannot be read: %1."), {tidyMessage(s.errors.message)});
 }
 
@@ -253,7 +253,7 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
     Decoded result;
     if (!checkSize(s.info.image_width, s.info.image_height, bytes.size(), result.error)) return result;
     if (s.info.num_components == 2)
-        return Decoded::failure(translated("Codecs", "JPEG pictures with two components cannot be read."));
+        return Decoded::failure(translated("Codecs", "JPEG images with two components cannot be read."));
     result.orientation = orientationOf(s.info);
     const unsigned reduction = reductionFor(s.info, options, result.orientation);
     if (reduction > 1)
@@ -262,7 +262,7 @@ Decoded decodeJPEG(Bytes bytes, const ImportOptions& options)
     if (!choose(s, reduction)) return Decoded::failure(sentence(s));
 
     auto bitmap = BitmapRep::createUninitialized(int(s.info.output_width), int(s.info.output_height));
-    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
+    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this image."));
     bool incomplete = false;
     if (options.properties && s.info.out_color_space == JCS_CMYK)
         s.inks.emplace(profileOf(s.info, incomplete), s.info.saw_Adobe_marker);

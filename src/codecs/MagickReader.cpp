@@ -77,7 +77,7 @@ std::string sentence(Format format, const Magick::Exception& e)
     if (const auto at = text.find(" @ "); at != std::string::npos) text.erase(at);
     if (const auto quote = text.find(" `"); quote != std::string::npos) text.erase(quote);
     if (dynamic_cast<const Magick::ErrorResourceLimit*>(&e))
-        return filledIn(translated("Codecs", "The %1 picture is larger than the limits of this machine allow."),
+        return filledIn(translated("Codecs", "The %1 image is larger than the limits of this machine allow."),
                         {magickName(format)});
     return filledIn(translated("Codecs", "The %1 data cannot be read: %2."),
                     {magickName(format), tidyMessage(text.c_str())});
@@ -166,7 +166,7 @@ DecodedRest read(Bytes bytes, Format format, bool properties, RowTarget& target)
         result.damaged = true;
     } catch (const Magick::Warning&) {
     }
-    if (!image.isValid()) return failure(translated("Codecs", "The picture has no pixels."));
+    if (!image.isValid()) return failure(translated("Codecs", "The image has no pixels."));
     const bool inks = image.colorSpace() == Magick::CMYKColorspace;
     const bool deep = image.depth() > 8 && format != Format::GIF;
     if (inks && !profileOf(image, "icc").empty()) {
@@ -190,7 +190,7 @@ DecodedRest read(Bytes bytes, Format format, bool properties, RowTarget& target)
         }
     }
     if (!target.begin(width, height))
-        return failure(translated("Codecs", "There is not enough memory for this picture."));
+        return failure(translated("Codecs", "There is not enough memory for this image."));
     const bool transparent = image.matte() && alphaCounts(format);
     const int columns = int(image.columns());
     const int x0 = std::max(0, left), x1 = std::min(width, left + columns);
@@ -208,12 +208,12 @@ DecodedRest read(Bytes bytes, Format format, bool properties, RowTarget& target)
     }
     if (result.damaged)
         result.properties.warnings.emplace_back(
-            translated("Codecs", "The picture's data is damaged; what could be read is shown."));
+            translated("Codecs", "The image's data is damaged; what could be read is shown."));
     if (deep) result.bits = 16;
     result.inks = inks;
     if (deep)
         result.properties.warnings.emplace_back(
-            translated("Codecs", "The picture had %n bits a colour; it was reduced to 8.", nullptr, 16));
+            translated("Codecs", "The image had %n bits a colour; it was reduced to 8.", nullptr, 16));
     result.orientation = format == Format::TGA ? orientationOfTGA(bytes) : orientationOf(image);
     if (properties) collectProperties(image, inks, result.properties);
     return result;
@@ -225,7 +225,7 @@ void prepareMagick() { initializeOnce(); }
 
 DecodedRest readByMagick(Bytes bytes, Format format, bool properties, RowTarget& target)
 {
-    if (!magickName(format)) return failure(translated("Codecs", "It is not a picture of a kind that can be opened."));
+    if (!magickName(format)) return failure(translated("Codecs", "It is not an image of a kind that can be opened."));
     initializeOnce();
     try {
         return read(bytes, format, properties, target);

@@ -219,10 +219,9 @@ void keepProfile(ImageProperties& properties, std::vector<std::uint8_t> profile,
     }
     // The canvas is RGB: a profile that describes grey or ink amounts would be wrong for what is written.
     if (isFor(colourSpace) || isFor(sourceSpace) || sourceSpace)
-        warnOnce(properties,
-                 translated("Codecs", "The picture was converted to RGB; its colour profile was left out."));
+        warnOnce(properties, translated("Codecs", "The image was converted to RGB; its colour profile was left out."));
     else
-        warnOnce(properties, translated("Codecs", "The colour profile does not fit the picture and was left out."));
+        warnOnce(properties, translated("Codecs", "The colour profile does not fit the image and was left out."));
 }
 
 void keepIPTC(ImageProperties& properties, std::span<const std::uint8_t> records)

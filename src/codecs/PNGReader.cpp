@@ -222,17 +222,17 @@ Decoded decodePNG(Bytes bytes, const ImportOptions& options)
     const int width = int(header.width), height = int(header.height);
     const auto bitmap = header.interlaced ? BitmapRep::create(width, height) // passes fill in what earlier ones left
                                           : BitmapRep::createUninitialized(width, height);
-    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
+    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this image."));
     const BitmapView out = bitmap->view();
     PixelMemory own;
     if (!inPlace && !(own = allocatePixelsUninitialized(size)))
-        return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
+        return Decoded::failure(translated("Codecs", "There is not enough memory for this image."));
     std::uint8_t* const rows = own ? own.get() : out.rowData(height) - size;
 
     std::size_t unpacked = 0;
     const PixelState state = inflatePixels(parts, rows, size, unpacked);
     if (state == PixelState::NoMemory)
-        return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
+        return Decoded::failure(translated("Codecs", "There is not enough memory for this image."));
     const PNGSamples samples(parts);
     int done = 0;
     bool complete = state == PixelState::Whole;
@@ -255,7 +255,7 @@ Decoded decodePNG(Bytes bytes, const ImportOptions& options)
         properties.warnings.emplace_back(translated("Codecs", "The PNG data is damaged; what could be read is shown."));
     if (header.depth == 16)
         properties.warnings.emplace_back(
-            translated("Codecs", "The picture had %n bits a colour; it was reduced to 8.", nullptr, 16));
+            translated("Codecs", "The image had %n bits a colour; it was reduced to 8.", nullptr, 16));
     result.orientation = exifOrientation(parts.exif);
     if (options.properties) collectProperties(parts, properties);
     result.bitmap = bitmap;

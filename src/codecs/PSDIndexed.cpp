@@ -118,7 +118,7 @@ Decoded decodeIndexedPSD(Bytes bytes, const ImportOptions& options)
     if (palette.size() < kPaletteBytes)
         return Decoded::failure(translated("Codecs", "The PSD data cannot be read: its palette is damaged."));
     result.bitmap = BitmapRep::create(int(width), int(height));
-    if (!result.bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
+    if (!result.bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this image."));
     const int transparent = readResources(walk.take(walk.number(4)), options.properties, result.bitmap->properties);
     walk.take(walk.number(4)); // layers and masks
 

@@ -19,10 +19,9 @@ std::vector<std::string> noticesOf(const PictureFacts& facts, int savedQuality)
         said.emplace_back(
             translated("Codecs", "The file has %n layer(s); this is what they make together.", nullptr, facts.layers));
     if (facts.bits > 8)
-        said.emplace_back(
-            translated("Codecs", "The file has %n bits a colour; the picture has 8.", nullptr, facts.bits));
+        said.emplace_back(translated("Codecs", "The file has %n bits a colour; the image has 8.", nullptr, facts.bits));
     if (facts.inks)
-        said.emplace_back(translated("Codecs", "The file is in printing inks; the picture is in red, green and blue."));
+        said.emplace_back(translated("Codecs", "The file is in printing inks; the image is in red, green and blue."));
     if (facts.jpegQuality > savedQuality)
         said.emplace_back(filledIn(translated("Codecs", "Save writes quality %1; this file has %2."),
                                    {std::to_string(savedQuality), std::to_string(facts.jpegQuality)}));

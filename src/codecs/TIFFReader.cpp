@@ -27,7 +27,7 @@ std::string checkLayout(const TIFFLayout& layout)
 {
     if (layout.samples < 1 || layout.bits < 1) return translated("Codecs", "The TIFF structure is damaged.");
     if (layout.samples > 64 || layout.bits > 64)
-        return translated("Codecs", "TIFF pictures with so many or so large samples cannot be read.");
+        return translated("Codecs", "TIFF images with so many or so large samples cannot be read.");
     if (!layout.codecKnown) return translated("Codecs", "The TIFF file is compressed in a way that cannot be read.");
     if (layout.chunkWidth <= 0 || layout.chunkHeight <= 0 || layout.chunkRowBytes <= 0)
         return translated("Codecs", "The TIFF structure is damaged: its strips or tiles have no size.");
@@ -165,7 +165,7 @@ bool decodeByLibrary(TIFFSource& source, const TIFFLayout& layout, BitmapView ou
                                                  std::uint32_t(layout.width), std::uint32_t(layout.height));
     TIFFRGBAImageEnd(&image);
     if (!raster) {
-        error = translated("Codecs", "There is not enough memory for this picture.");
+        error = translated("Codecs", "There is not enough memory for this image.");
         return false;
     }
     for (int y = 0; y < layout.height; ++y) {
@@ -243,7 +243,7 @@ Decoded decodeTIFF(Bytes bytes, const ImportOptions& options)
     if (result.error = checkLayout(layout); !result.error.empty()) return result;
 
     auto bitmap = BitmapRep::createUninitialized(layout.width, layout.height);
-    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this picture."));
+    if (!bitmap) return Decoded::failure(translated("Codecs", "There is not enough memory for this image."));
     const std::unique_ptr<InkConverter> inks = options.properties ? inksOf(source, layout) : nullptr;
     layout.inks = inks.get();
     ImageProperties& properties = bitmap->properties;
@@ -265,7 +265,7 @@ Decoded decodeTIFF(Bytes bytes, const ImportOptions& options)
     }
     if (layout.bits > 8) {
         properties.warnings.emplace_back(
-            translated("Codecs", "The picture had %n bits a colour; it was reduced to 8.", nullptr, int(layout.bits)));
+            translated("Codecs", "The image had %n bits a colour; it was reduced to 8.", nullptr, int(layout.bits)));
     }
     result.orientation = layout.orientation;
     if (options.properties) collectProperties(source, layout, bytes, properties);

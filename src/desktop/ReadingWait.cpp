@@ -25,7 +25,7 @@ public:
         if (!qApp || QThread::currentThread() != qApp->thread()) return true;
         if (!mDialog && mClock.elapsed() < kUnnoticedMilliseconds) return true;
         if (!mDialog) {
-            mDialog = std::make_unique<QProgressDialog>(QCoreApplication::translate("Files", "Reading the picture…"),
+            mDialog = std::make_unique<QProgressDialog>(QCoreApplication::translate("Files", "Reading the image…"),
                                                         QCoreApplication::translate("Files", "Cancel"), 0, 0,
                                                         QApplication::activeWindow());
             mDialog->setWindowModality(Qt::ApplicationModal);

@@ -127,7 +127,7 @@ Thumbnail decoded(const std::string& path, int side, bool fitted)
     if (fitted && std::max(whole.width(), whole.height()) > side)
         made.image = made.image.scaled(whole.scaled(side, side, Qt::KeepAspectRatio).expandedTo({1, 1}),
                                        Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (made.image.isNull()) made.error = translated("Codecs", "There is not enough memory for this picture.");
+    if (made.image.isNull()) made.error = translated("Codecs", "There is not enough memory for this image.");
     return made;
 }
 
@@ -143,7 +143,7 @@ Thumbnail thumbnailOf(const std::string& path, int side, std::uintmax_t largestF
         if (!kept.isNull()) return {std::move(kept), {}};
     }
     if (subject && subject->bytes > largestFile)
-        return {{}, translated("Desktop", "The file is too large for a small picture of it.")};
+        return {{}, translated("Desktop", "The file is too large for a small image of it.")};
     if (!cached) return decoded(path, side, false);
     Thumbnail made = decoded(path, store->side, true);
     if (!made.image.isNull()) intoCache(made.image, *store, *subject);

@@ -68,7 +68,7 @@ void place(Edit& edit, bool into)
     std::shared_ptr<Image> picture = pictureToPaste();
     if (!picture || !edit.picture().bitmap())
         return edit.refuse(QCoreApplication::translate("Clipboard", "Nothing could be pasted."),
-                           QCoreApplication::translate("Clipboard", "The clipboard's picture cannot be read."));
+                           QCoreApplication::translate("Clipboard", "The clipboard's image cannot be read."));
     const Size size = picture->size();
     Rect box{{0, 0}, size};
     if (into) {

@@ -20,10 +20,7 @@ namespace
 
 constexpr const char* kAnchorSelection = QT_TRANSLATE_NOOP("Steps", "Anchor Selection");
 
-QString couldNotBeBroughtBack()
-{
-    return QCoreApplication::translate("Files", "The picture could not be brought back.");
-}
+QString couldNotBeBroughtBack() { return QCoreApplication::translate("Files", "The image could not be brought back."); }
 QString stepsAreGone()
 {
     return QCoreApplication::translate("Files", "Its steps are gone from the folder of temporary files.");

@@ -48,8 +48,8 @@ Permission askAboutLoss(Document& document, const std::string& path)
     const QString name = QString::fromStdString(displayName(lastPathComponent(path)));
     const QString lost = QString::fromStdString(lossBySaving(document.picture().files().facts));
     logLine("saving over %s, which has %s", path.c_str(), lost.toStdString().c_str());
-    switch (runAlert(FileTexts::tr("The file holds more than the picture."),
-                     FileTexts::tr("%1 has %2. Saving the picture into it takes that away.").arg(name, lost),
+    switch (runAlert(FileTexts::tr("The file holds more than the image."),
+                     FileTexts::tr("%1 has %2. Saving the image into it takes that away.").arg(name, lost),
                      {FileTexts::tr("Save"), FileTexts::tr("Save as…"), FileTexts::tr("Cancel")})) {
     case 0:
         return Permission::Save;

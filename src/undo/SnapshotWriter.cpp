@@ -122,7 +122,7 @@ void SnapshotWriter::finished(WrittenStep result)
 std::string SnapshotWriter::writePair(StepJob& job)
 try {
     const auto start = Clock::now();
-    if (!job.capture) return translated("History", "there is no picture");
+    if (!job.capture) return translated("History", "there is no image");
     if (!mEncoder.encode(*job.capture)) return translated("History", "the step before could not be encoded");
     std::string error;
     const auto stage = [&](Half half) {

@@ -213,7 +213,7 @@ void SmartFillStudio::mark(QAbstractButton& button, QLabel& label, MarkedPixels&
         if (!mDocument->selection().isNil()) marked = insideOf(mDocument->selection(), mDocument->picture());
         if (marked.isEmpty()) {
             beep();
-            label.setText(tr("select the place in the picture first"));
+            label.setText(tr("select the place in the image first"));
         } else {
             label.setText(tr("the selection of %1 × %2").arg(marked.box.width()).arg(marked.box.height()));
         }

@@ -131,7 +131,7 @@ void ZPFileManager::reload()
     mModel->reload();
     if (!name.empty()) selectName(name);
     mUi->mCountLabel->setText(
-        QString::fromStdString(translated("ZPFileManager", "%n picture(s)", nullptr, mModel->rowCount())));
+        QString::fromStdString(translated("ZPFileManager", "%n image(s)", nullptr, mModel->rowCount())));
     selectionChanged();
 }
 
@@ -195,8 +195,7 @@ void ZPFileManager::selectionChanged()
     mUi->mOpenButton->setEnabled(row >= 0);
     mUi->mDeleteButton->setEnabled(row >= 0);
     if (!isVisible()) return;
-    if (row < 0)
-        return mUi->mPreview->showText(mModel->rowCount() ? tr("No picture selected") : tr("Drop pictures here"));
+    if (row < 0) return mUi->mPreview->showText(mModel->rowCount() ? tr("No image selected") : tr("Drop images here"));
     const LibraryItem item = mModel->item(row);
     if (item.broken)
         mUi->mPreview->showText(tr("The file that this link leads to is gone."));

@@ -379,7 +379,7 @@ void ZPSmartFill::takeResult(const Run& run)
     }
     // A picture that was opened, turned, cropped or undone meanwhile is another one: the result is nobody's.
     if (document.picture().generation() != run.generation) {
-        const QString sentence = tr("The picture changed meanwhile; the fill was dropped.");
+        const QString sentence = tr("The image changed meanwhile; the fill was dropped.");
         return run.purpose == Purpose::Remove ? document.say(sentence) : mUi->mTimeField->setText(sentence);
     }
     switch (run.purpose) {

@@ -25,7 +25,7 @@ TEST_F(Accessibility, ThePictureIsAGraphicWithAValue)
     QAccessibleInterface& picture = interface(window.canvas());
     EXPECT_EQ(picture.role(), QAccessible::Graphic);
     EXPECT_FALSE(picture.text(QAccessible::Name).isEmpty());
-    EXPECT_EQ(picture.text(QAccessible::Value), "No picture");
+    EXPECT_EQ(picture.text(QAccessible::Value), "No image");
     makeImage(40, 30);
     EXPECT_EQ(picture.text(QAccessible::Value), "40 by 30 pixels, zoom 100 %, Rectangle Selection");
     perform("selectAll:");

@@ -85,7 +85,7 @@ TEST(LargeFiles, OfNoKnownKindAreNotRead)
     const std::string path = (folder.path() / "large").string();
     ASSERT_TRUE(writeFileSafely(path, "nothing that is known", 21));
     ASSERT_EQ(::truncate(path.c_str(), kLarge), 0);
-    EXPECT_EQ(importImageFile(path).error, "It is not a picture of a kind that can be opened.");
+    EXPECT_EQ(importImageFile(path).error, "It is not an image of a kind that can be opened.");
 }
 
 TEST(LargeFiles, AWindowKeepsToItsBudget)

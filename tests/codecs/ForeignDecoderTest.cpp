@@ -119,7 +119,7 @@ TEST_P(FailingDecoder, IsSaidAndTheNextPictureIsRead)
     EXPECT_NE(readGIF().bitmap, nullptr);
 }
 
-constexpr const char* kDied = "The GIF picture cannot be read: its reader ended unexpectedly.";
+constexpr const char* kDied = "The GIF image cannot be read: its reader ended unexpectedly.";
 INSTANTIATE_TEST_SUITE_P(
     OfKinds, FailingDecoder,
     testing::Values(
@@ -131,13 +131,13 @@ INSTANTIATE_TEST_SUITE_P(
                 R"(printf '\2\0\0\0\10\0\0\0\3\0\0\0\2\0\0\0\3\0\0\0\377\377\377\177'; cat /dev/zero)", kDied},
         Failure{"ClaimsAnAbsurdSize", R"(printf '\2\0\0\0\10\0\0\0\377\377\377\177\377\377\377\177')", kDied},
         Failure{"EndsWithoutRows", R"(printf '\2\0\0\0\10\0\0\0\3\0\0\0\2\0\0\0\4\0\0\0\0\0\0\0')", kDied},
-        Failure{"Hangs", "exec sleep 100", "The GIF picture cannot be read: its reader did not come to an end."}),
+        Failure{"Hangs", "exec sleep 100", "The GIF image cannot be read: its reader did not come to an end."}),
     [](const auto& one) { return std::string(one.param.name); });
 
 TEST_F(ForeignDecoder, ThatCannotBeStartedIsSaid)
 {
     setForeignDecoding({.program = "/no/such/program"});
-    EXPECT_EQ(readGIF().error, "The picture cannot be read: No such file or directory.");
+    EXPECT_EQ(readGIF().error, "The image cannot be read: No such file or directory.");
 }
 
 TEST_F(ForeignDecoder, IsEndedWhenNobodyWantsToWait)

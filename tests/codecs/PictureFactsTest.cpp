@@ -55,7 +55,7 @@ TEST(FactsOfFiles, AreSaidInSentences)
               std::vector<std::string>{"Save writes quality 70; this file has 95."});
     EXPECT_EQ(noticesOf({.pages = 12, .bits = 16}, 70),
               (std::vector<std::string>{"The file has 12 pages; this is the first.",
-                                        "The file has 16 bits a colour; the picture has 8."}));
+                                        "The file has 16 bits a colour; the image has 8."}));
     EXPECT_EQ(noticesOf({.endedEarly = true}, 70).size(), 1u);
     EXPECT_EQ(lossBySaving({.pages = 12, .bits = 16}), "12 pages, 16 bits a colour");
 }

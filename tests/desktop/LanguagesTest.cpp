@@ -50,7 +50,7 @@ TEST_F(Languages, EachHasItsTextsWithPlurals)
         const char *language, *open, *one, *many;
     };
     const Case cases[] = {
-        {"", "Open…", "1 picture", "7 pictures"},     {"de", "Öffnen …", "1 Bild", "7 Bilder"},
+        {"", "Open…", "1 image", "7 images"},         {"de", "Öffnen …", "1 Bild", "7 Bilder"},
         {"fr", "Ouvrir…", "1 image", "7 images"},     {"es", "Abrir…", "1 imagen", "7 imágenes"},
         {"pt_BR", "Abrir…", "1 imagem", "7 imagens"}, {"ja", "開く…", "1 枚の画像", "7 枚の画像"},
         {"zh_CN", "打开…", "1 张图片", "7 张图片"},
@@ -60,8 +60,8 @@ TEST_F(Languages, EachHasItsTextsWithPlurals)
         ASSERT_TRUE(speakLanguage(c.language)) << c.language;
         EXPECT_EQ(QCoreApplication::translate("Menu", "Open…"), c.open);
         EXPECT_EQ(translated("Menu", "Open…"), c.open);
-        EXPECT_EQ(translated("ZPFileManager", "%n picture(s)", nullptr, 1), c.one);
-        EXPECT_EQ(translated("ZPFileManager", "%n picture(s)", nullptr, 7), c.many);
+        EXPECT_EQ(translated("ZPFileManager", "%n image(s)", nullptr, 1), c.one);
+        EXPECT_EQ(translated("ZPFileManager", "%n image(s)", nullptr, 7), c.many);
     }
 }
 

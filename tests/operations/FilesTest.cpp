@@ -284,7 +284,7 @@ protected:
 };
 
 const QString kExists = "File already exists", kChanged = "The file was changed since it was opened.",
-              kMore = "The file holds more than the picture.";
+              kMore = "The file holds more than the image.";
 
 TEST_F(Overwriting, AnotherFileThanTheOpenedOneIsAskedAbout)
 {
@@ -452,8 +452,8 @@ TEST_F(Files, WhatAReducedPictureLosesIsSaidOnSaving)
     zp::test::AlertWatch watch;
     perform("save:");
     ASSERT_EQ(watch.seen.size(), 1u);
-    EXPECT_EQ(watch.seen[0].title, "The file holds more than the picture.");
-    EXPECT_TRUE(logged("saved with losses: The picture had 16 bits"));
+    EXPECT_EQ(watch.seen[0].title, "The file holds more than the image.");
+    EXPECT_TRUE(logged("saved with losses: The image had 16 bits"));
 }
 
 TEST_F(Files, NamesOfAnyBytesOpenAndSave)

@@ -89,7 +89,7 @@ TEST_F(Recovery, WhatCannotBeReadIsLeftForTheNextStart)
     EXPECT_FALSE(recover(*document, left[0]));
     settle();
     ASSERT_EQ(watch.seen.size(), 1u);
-    EXPECT_EQ(watch.seen[0].title, "The picture could not be brought back.");
+    EXPECT_EQ(watch.seen[0].title, "The image could not be brought back.");
     EXPECT_EQ(watch.seen[0].message, "Its steps could not be read. It will be offered again at the next start.");
     // What was there is there, with its steps.
     EXPECT_EQ(picture().size().width, 10);

@@ -164,8 +164,8 @@ TEST_F(FileSession, TheFirstSaveIntoAFileThatHoldsMoreAsksOnce)
     run.must("open " + path);
     run.play({"wait", "menu save:"});
     const QJsonObject alert = run.must("alert")["alert"].toObject();
-    EXPECT_EQ(alert["title"], "The file holds more than the picture.");
-    EXPECT_EQ(alert["message"], "pages.tiff has 3 pages. Saving the picture into it takes that away.");
+    EXPECT_EQ(alert["title"], "The file holds more than the image.");
+    EXPECT_EQ(alert["message"], "pages.tiff has 3 pages. Saving the image into it takes that away.");
     EXPECT_EQ(alert["buttons"], (QJsonArray{"Save", "Save as…", "Cancel"}));
     run.must("answer Cancel");
     EXPECT_EQ(bytes(), original);

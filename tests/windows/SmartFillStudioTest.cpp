@@ -233,7 +233,7 @@ TEST_F(SmartFillStudioWindow, ASecondSelectionIsWhereColoursAreTakenFromOrNever)
     click("mFromButton");
     EXPECT_EQ(takeSounds(), test::Lines{"beep"});
     EXPECT_FALSE(outlet<QPushButton>("mFromButton")->isChecked());
-    EXPECT_EQ(label("mFromField"), "select the place in the picture first");
+    EXPECT_EQ(label("mFromField"), "select the place in the image first");
 }
 
 TEST_F(SmartFillStudioWindow, LinesAreKeptWhenAskedFor)
@@ -379,7 +379,7 @@ TEST_F(SmartFillStudioWindow, UndoWhileSomethingIsRemovedDropsTheFill)
     waitForEnd();
     EXPECT_EQ(allPixels(), before);
     EXPECT_FALSE(shown());
-    EXPECT_EQ(document->message(), "The picture changed meanwhile; the fill was dropped.");
+    EXPECT_EQ(document->message(), "The image changed meanwhile; the fill was dropped.");
 }
 
 } // namespace

@@ -276,7 +276,7 @@ TEST_F(SmartFillWindow, AFillIsDroppedWithAWordWhenThePictureBecameAnotherMeanwh
         settle();
         EXPECT_EQ(allPixels(), pixels);
         EXPECT_EQ(history().newest(), newest) << "no step is recorded for it";
-        EXPECT_EQ(time(), "The picture changed meanwhile; the fill was dropped.");
+        EXPECT_EQ(time(), "The image changed meanwhile; the fill was dropped.");
         EXPECT_FALSE(document->isComputing());
     }
 }
