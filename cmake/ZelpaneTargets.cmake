@@ -66,9 +66,13 @@ function(zp_add_room room)
 endfunction()
 
 # zp_add_tests(NAME FILES... LINK libs): one GoogleTest program; each test runs alone, in a home folder of its own. A suite whose
-# name ends in "Long" is a long form: it has the label "long", and only ./test --long runs it.
+# name ends in "Long" is a long form: it has the label "long", and only ./test --long runs it. SECONDS: how long one may take that
+# tries more in the long run without being a form of its own.
 function(zp_add_tests name)
-    cmake_parse_arguments(A "QT" "" "FILES;LINK" ${ARGN})
+    cmake_parse_arguments(A "QT" "SECONDS" "FILES;LINK" ${ARGN})
+    if(NOT A_SECONDS)
+        set(A_SECONDS 300)
+    endif()
     if(NOT A_FILES)
         return()
     endif()
@@ -85,7 +89,7 @@ function(zp_add_tests name)
                                                     ZP_RESOURCES="${CMAKE_SOURCE_DIR}/resources"
                                                     ZP_SOURCE="${CMAKE_SOURCE_DIR}")
     gtest_discover_tests(test_${name} TEST_FILTER "-*Long.*" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-                         PROPERTIES TIMEOUT 300)
+                         PROPERTIES TIMEOUT ${A_SECONDS})
     gtest_discover_tests(test_${name} TEST_FILTER "*Long.*" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
                          PROPERTIES TIMEOUT 3600 LABELS long)
 endfunction()

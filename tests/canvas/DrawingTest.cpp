@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What the canvas shows: picture, grey behind it, zoom, marquee, ants, floating selection.
 #include "codecs/ColourProfiles.h"
+#include "support/ProcessLook.h"
 #include "support/ToolFixture.h"
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
+#include <array>
 
 using namespace zp;
 using namespace zp::test;
@@ -225,6 +228,36 @@ TEST_F(Drawing, ATickOfTheAntsDirtiesTheOutlineNotItsInside)
     EXPECT_FALSE(watch.painted.contains(QPoint(500, 500)));
     canvas->hide();
 }
+
+/// Whoever goes home leaves the ants marching.
+class AntsLong : public Drawing
+{
+protected:
+    void march(int ticks)
+    {
+        makeImage(200, 150);
+        canvas->show();
+        ASSERT_TRUE(eventually([this] { return canvas->isVisible(); }));
+        select(makeRect(20, 20, 120, 90));
+        qint64 atHalf = 0;
+        for (int tick = 0; tick < ticks; ++tick) {
+            edit([](Edit& e) { e.selection().advanceAnts(); });
+            emit document->antsMoved();
+            if (tick % 50 == 0) QApplication::processEvents();
+            if (tick == ticks / 2) atHalf = residentBytes();
+        }
+        // The program's own ticks come among these: which phase it is, is chance.
+        EXPECT_TRUE(std::ranges::count(std::array{0.f, 2.5f, 5.f, 7.5f}, selection().phase())) << selection().phase();
+        if (kMemoryTells) {
+            EXPECT_LE(residentBytes(), atHalf + (qint64{4} << 20));
+        }
+        canvas->hide();
+    }
+};
+using Ants = AntsLong;
+
+TEST_F(Ants, MarchForAQuarterOfAnHour) { march(15 * 60 * 5); }
+TEST_F(AntsLong, MarchForADay) { march(24 * 60 * 60 * 5); }
 
 TEST_F(Drawing, AStrokeIsShownBeforeItIsThereAsItWillBe)
 {
