@@ -13,4 +13,6 @@ libraries=$(packages_of run test | grep -E -- '-dev$|^qt6-qpa-plugins$' | grep -
 rm -rf "$to"
 mkdir -p "$(dirname "$to")"
 mmdebstrap --quiet --variant=extract --arch=arm64 --include="libc6-dev,libstdc++-12-dev,$libraries" "$suite" "$to" >&2
+# Links by whole paths lead out of the root: the linker would find nothing there and take a static archive instead.
+find "$to/usr/lib" "$to/lib" -type l -lname '/*' | while read -r link; do ln -sfr "$to$(readlink "$link")" "$link"; done
 touch "$to/complete"
