@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
@@ -35,6 +36,9 @@ constexpr std::array kAccepted{kTIFF,
                                "image/webp",
                                "image/jpeg",
                                "image/jpg"};
+/// The toolkit waits five seconds for each kind that the clipboard's owner does not give; one that was silent for that
+/// long is not asked for the ten others.
+constexpr int kNoAnswerMilliseconds = 2000;
 constexpr const char* kUriList = "text/uri-list";
 constexpr const char* kQtImage = "application/x-qt-image";
 
@@ -138,8 +142,11 @@ std::vector<std::uint8_t> Pasteboard::imageData() const
     if (!data) return {};
     for (const char* type : kAccepted) {
         if (!data->hasFormat(type)) continue;
+        QElapsedTimer clock;
+        clock.start();
         const QByteArray bytes = data->data(type);
         if (!bytes.isEmpty()) return {bytes.begin(), bytes.end()};
+        if (clock.elapsed() > kNoAnswerMilliseconds) return {};
     }
     // Files that a file manager copied: the first that is a picture.
     if (const std::optional<std::string> file = copiedPictureFile(data))

@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTest>
+#include <QThread>
 #include <QUrl>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -216,6 +217,43 @@ TEST(Pasteboard, TakesWhatOtherProgramsOffer)
     EXPECT_EQ(Pasteboard::general().imageData().size(), 5u);
     QApplication::clipboard()->setText("only text");
     EXPECT_FALSE(Pasteboard::general().hasImageData());
+}
+
+/// An owner of the clipboard that offers much and gives nothing, after a time or at once.
+class Liar : public QMimeData
+{
+public:
+    Liar(int milliseconds, int& asked) : mMilliseconds(milliseconds), mAsked(asked) {}
+    QStringList formats() const override
+    {
+        return {"image/tiff", "image/png", "image/bmp", "image/webp", "image/jpeg"};
+    }
+    bool hasFormat(const QString& type) const override { return formats().contains(type); }
+
+protected:
+    QVariant retrieveData(const QString&, QMetaType) const override
+    {
+        ++mAsked;
+        QThread::msleep(unsigned(mMilliseconds));
+        return {};
+    }
+
+private:
+    int mMilliseconds;
+    int& mAsked;
+};
+
+TEST(Pasteboard, AsksAnOwnerThatDoesNotAnswerOnlyOnce)
+{
+    int asked = 0;
+    QApplication::clipboard()->setMimeData(new Liar(2100, asked));
+    EXPECT_TRUE(Pasteboard::general().imageData().empty());
+    EXPECT_EQ(asked, 1);
+    asked = 0;
+    QApplication::clipboard()->setMimeData(new Liar(0, asked));
+    EXPECT_TRUE(Pasteboard::general().imageData().empty());
+    EXPECT_GE(asked, 5) << "one that answers may have another kind";
+    QApplication::clipboard()->clear();
 }
 
 TEST(Pasteboard, TakesTheFirstPictureAmongFilesThatAFileManagerCopied)
