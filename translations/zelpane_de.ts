@@ -161,6 +161,14 @@
         <source>There is not enough memory.</source>
         <translation>Es ist nicht genug Speicher frei.</translation>
     </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>While it is pressed: the image without the adjustment</source>
+        <translation>Solange gedrückt: das Bild ohne die Anpassung</translation>
+    </message>
 </context>
 <context>
     <name>AdjustDialog</name>
@@ -518,6 +526,41 @@
     <message>
         <source>Colour</source>
         <translation>Farbe</translation>
+    </message>
+</context>
+<context>
+    <name>Compare</name>
+    <message>
+        <source>as opened</source>
+        <translation>wie geöffnet</translation>
+    </message>
+    <message>
+        <source>as last saved</source>
+        <translation>wie zuletzt gesichert</translation>
+    </message>
+    <message>
+        <source>before the last step</source>
+        <translation>vor dem letzten Schritt</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>vorher</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht aus.</translation>
+    </message>
+    <message>
+        <source>That state of the image cannot be read any more.</source>
+        <translation>Dieser Stand des Bildes kann nicht mehr gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The image had another size then.</source>
+        <translation>Das Bild hatte damals eine andere Größe.</translation>
+    </message>
+    <message>
+        <source>Left of the pointer: %1</source>
+        <translation>Links vom Zeiger: %1</translation>
     </message>
 </context>
 <context>
@@ -1876,6 +1919,38 @@
     <message>
         <source>What is done to the image, written down as a script; plays scripts on it</source>
         <translation>Was mit dem Bild getan wird, als Skript aufgeschrieben; spielt Skripte darauf ab</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <source>While the key is held: an earlier state of the image left of the pointer</source>
+        <translation>Solange die Taste gehalten wird: links vom Zeiger ein früherer Stand des Bildes</translation>
+    </message>
+    <message>
+        <source>Compare as Opened</source>
+        <translation>Vergleichen: wie geöffnet</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was opened</source>
+        <translation>Vergleichen zeigt das Bild, wie es geöffnet wurde</translation>
+    </message>
+    <message>
+        <source>Compare as Last Saved</source>
+        <translation>Vergleichen: wie zuletzt gesichert</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was last saved</source>
+        <translation>Vergleichen zeigt das Bild, wie es zuletzt gesichert wurde</translation>
+    </message>
+    <message>
+        <source>Compare before Last Step</source>
+        <translation>Vergleichen: vor dem letzten Schritt</translation>
+    </message>
+    <message>
+        <source>Compare shows the image without the last step</source>
+        <translation>Vergleichen zeigt das Bild ohne den letzten Schritt</translation>
     </message>
 </context>
 <context>

@@ -161,6 +161,14 @@
         <source>There is not enough memory.</source>
         <translation>No hay memoria suficiente.</translation>
     </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>C&amp;omparar</translation>
+    </message>
+    <message>
+        <source>While it is pressed: the image without the adjustment</source>
+        <translation>Mientras se pulsa: la imagen sin el ajuste</translation>
+    </message>
 </context>
 <context>
     <name>AdjustDialog</name>
@@ -518,6 +526,41 @@
     <message>
         <source>Colour</source>
         <translation>Color</translation>
+    </message>
+</context>
+<context>
+    <name>Compare</name>
+    <message>
+        <source>as opened</source>
+        <translation>como se abrió</translation>
+    </message>
+    <message>
+        <source>as last saved</source>
+        <translation>como se guardó por última vez</translation>
+    </message>
+    <message>
+        <source>before the last step</source>
+        <translation>antes del último paso</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>antes</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>No hay memoria suficiente.</translation>
+    </message>
+    <message>
+        <source>That state of the image cannot be read any more.</source>
+        <translation>Ese estado de la imagen ya no se puede leer.</translation>
+    </message>
+    <message>
+        <source>The image had another size then.</source>
+        <translation>La imagen tenía entonces otro tamaño.</translation>
+    </message>
+    <message>
+        <source>Left of the pointer: %1</source>
+        <translation>A la izquierda del puntero: %1</translation>
     </message>
 </context>
 <context>
@@ -1876,6 +1919,38 @@
     <message>
         <source>What is done to the image, written down as a script; plays scripts on it</source>
         <translation>Lo que se hace con la imagen, anotado como script; ejecuta scripts en ella</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Comparar</translation>
+    </message>
+    <message>
+        <source>While the key is held: an earlier state of the image left of the pointer</source>
+        <translation>Mientras se mantiene la tecla: un estado anterior de la imagen a la izquierda del puntero</translation>
+    </message>
+    <message>
+        <source>Compare as Opened</source>
+        <translation>Comparar: como se abrió</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was opened</source>
+        <translation>Comparar muestra la imagen como se abrió</translation>
+    </message>
+    <message>
+        <source>Compare as Last Saved</source>
+        <translation>Comparar: como se guardó</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was last saved</source>
+        <translation>Comparar muestra la imagen como se guardó por última vez</translation>
+    </message>
+    <message>
+        <source>Compare before Last Step</source>
+        <translation>Comparar: antes del último paso</translation>
+    </message>
+    <message>
+        <source>Compare shows the image without the last step</source>
+        <translation>Comparar muestra la imagen sin el último paso</translation>
     </message>
 </context>
 <context>

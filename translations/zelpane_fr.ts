@@ -161,6 +161,14 @@
         <source>There is not enough memory.</source>
         <translation>La mémoire est insuffisante.</translation>
     </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>C&amp;omparer</translation>
+    </message>
+    <message>
+        <source>While it is pressed: the image without the adjustment</source>
+        <translation>Tant qu’il est enfoncé : l’image sans le réglage</translation>
+    </message>
 </context>
 <context>
     <name>AdjustDialog</name>
@@ -518,6 +526,41 @@
     <message>
         <source>Colour</source>
         <translation>Couleur</translation>
+    </message>
+</context>
+<context>
+    <name>Compare</name>
+    <message>
+        <source>as opened</source>
+        <translation>à l’ouverture</translation>
+    </message>
+    <message>
+        <source>as last saved</source>
+        <translation>au dernier enregistrement</translation>
+    </message>
+    <message>
+        <source>before the last step</source>
+        <translation>avant la dernière étape</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>avant</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Mémoire insuffisante.</translation>
+    </message>
+    <message>
+        <source>That state of the image cannot be read any more.</source>
+        <translation>Cet état de l’image ne peut plus être lu.</translation>
+    </message>
+    <message>
+        <source>The image had another size then.</source>
+        <translation>L’image avait alors une autre taille.</translation>
+    </message>
+    <message>
+        <source>Left of the pointer: %1</source>
+        <translation>À gauche du pointeur : %1</translation>
     </message>
 </context>
 <context>
@@ -1876,6 +1919,38 @@
     <message>
         <source>What is done to the image, written down as a script; plays scripts on it</source>
         <translation>Ce qui est fait à l’image, noté sous forme de script ; y joue des scripts</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Comparer</translation>
+    </message>
+    <message>
+        <source>While the key is held: an earlier state of the image left of the pointer</source>
+        <translation>Tant que la touche est tenue : un état antérieur de l’image à gauche du pointeur</translation>
+    </message>
+    <message>
+        <source>Compare as Opened</source>
+        <translation>Comparer : à l’ouverture</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was opened</source>
+        <translation>Comparer montre l’image telle qu’elle a été ouverte</translation>
+    </message>
+    <message>
+        <source>Compare as Last Saved</source>
+        <translation>Comparer : au dernier enregistrement</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was last saved</source>
+        <translation>Comparer montre l’image telle qu’elle a été enregistrée</translation>
+    </message>
+    <message>
+        <source>Compare before Last Step</source>
+        <translation>Comparer : avant la dernière étape</translation>
+    </message>
+    <message>
+        <source>Compare shows the image without the last step</source>
+        <translation>Comparer montre l’image sans la dernière étape</translation>
     </message>
 </context>
 <context>

@@ -161,6 +161,14 @@
         <source>There is not enough memory.</source>
         <translation>メモリが足りません。</translation>
     </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>比較(&amp;O)</translation>
+    </message>
+    <message>
+        <source>While it is pressed: the image without the adjustment</source>
+        <translation>押している間、補正前の画像を表示します</translation>
+    </message>
 </context>
 <context>
     <name>AdjustDialog</name>
@@ -509,6 +517,41 @@
     <message>
         <source>Colour</source>
         <translation>色</translation>
+    </message>
+</context>
+<context>
+    <name>Compare</name>
+    <message>
+        <source>as opened</source>
+        <translation>開いたとき</translation>
+    </message>
+    <message>
+        <source>as last saved</source>
+        <translation>最後に保存したとき</translation>
+    </message>
+    <message>
+        <source>before the last step</source>
+        <translation>最後の操作の前</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>補正前</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>メモリが足りません。</translation>
+    </message>
+    <message>
+        <source>That state of the image cannot be read any more.</source>
+        <translation>その状態の画像はもう読み込めません。</translation>
+    </message>
+    <message>
+        <source>The image had another size then.</source>
+        <translation>そのときの画像は大きさが違います。</translation>
+    </message>
+    <message>
+        <source>Left of the pointer: %1</source>
+        <translation>ポインタの左側: %1</translation>
     </message>
 </context>
 <context>
@@ -1866,6 +1909,38 @@
     <message>
         <source>What is done to the image, written down as a script; plays scripts on it</source>
         <translation>画像に行ったことをスクリプトとして記録し、スクリプトを実行します</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比較</translation>
+    </message>
+    <message>
+        <source>While the key is held: an earlier state of the image left of the pointer</source>
+        <translation>キーを押している間、ポインタの左側に以前の画像を表示します</translation>
+    </message>
+    <message>
+        <source>Compare as Opened</source>
+        <translation>比較: 開いたとき</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was opened</source>
+        <translation>比較で、開いたときの画像を表示します</translation>
+    </message>
+    <message>
+        <source>Compare as Last Saved</source>
+        <translation>比較: 保存したとき</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was last saved</source>
+        <translation>比較で、最後に保存したときの画像を表示します</translation>
+    </message>
+    <message>
+        <source>Compare before Last Step</source>
+        <translation>比較: 最後の操作の前</translation>
+    </message>
+    <message>
+        <source>Compare shows the image without the last step</source>
+        <translation>比較で、最後の操作をする前の画像を表示します</translation>
     </message>
 </context>
 <context>

@@ -161,6 +161,14 @@
         <source>There is not enough memory.</source>
         <translation>Não há memória suficiente.</translation>
     </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>C&amp;omparar</translation>
+    </message>
+    <message>
+        <source>While it is pressed: the image without the adjustment</source>
+        <translation>Enquanto pressionado: a imagem sem o ajuste</translation>
+    </message>
 </context>
 <context>
     <name>AdjustDialog</name>
@@ -518,6 +526,41 @@
     <message>
         <source>Colour</source>
         <translation>Cor</translation>
+    </message>
+</context>
+<context>
+    <name>Compare</name>
+    <message>
+        <source>as opened</source>
+        <translation>como foi aberta</translation>
+    </message>
+    <message>
+        <source>as last saved</source>
+        <translation>como foi salva por último</translation>
+    </message>
+    <message>
+        <source>before the last step</source>
+        <translation>antes do último passo</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>antes</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Não há memória suficiente.</translation>
+    </message>
+    <message>
+        <source>That state of the image cannot be read any more.</source>
+        <translation>Esse estado da imagem não pode mais ser lido.</translation>
+    </message>
+    <message>
+        <source>The image had another size then.</source>
+        <translation>A imagem tinha outro tamanho.</translation>
+    </message>
+    <message>
+        <source>Left of the pointer: %1</source>
+        <translation>À esquerda do ponteiro: %1</translation>
     </message>
 </context>
 <context>
@@ -1876,6 +1919,38 @@
     <message>
         <source>What is done to the image, written down as a script; plays scripts on it</source>
         <translation>O que é feito na imagem, anotado como script; executa scripts nela</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Comparar</translation>
+    </message>
+    <message>
+        <source>While the key is held: an earlier state of the image left of the pointer</source>
+        <translation>Enquanto a tecla está pressionada: um estado anterior da imagem à esquerda do ponteiro</translation>
+    </message>
+    <message>
+        <source>Compare as Opened</source>
+        <translation>Comparar: como foi aberta</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was opened</source>
+        <translation>Comparar mostra a imagem como foi aberta</translation>
+    </message>
+    <message>
+        <source>Compare as Last Saved</source>
+        <translation>Comparar: como foi salva</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was last saved</source>
+        <translation>Comparar mostra a imagem como foi salva por último</translation>
+    </message>
+    <message>
+        <source>Compare before Last Step</source>
+        <translation>Comparar: antes do último passo</translation>
+    </message>
+    <message>
+        <source>Compare shows the image without the last step</source>
+        <translation>Comparar mostra a imagem sem o último passo</translation>
     </message>
 </context>
 <context>

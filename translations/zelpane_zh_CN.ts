@@ -161,6 +161,14 @@
         <source>There is not enough memory.</source>
         <translation>内存不足。</translation>
     </message>
+    <message>
+        <source>C&amp;ompare</source>
+        <translation>比较(&amp;O)</translation>
+    </message>
+    <message>
+        <source>While it is pressed: the image without the adjustment</source>
+        <translation>按住时显示未调整的图像</translation>
+    </message>
 </context>
 <context>
     <name>AdjustDialog</name>
@@ -509,6 +517,41 @@
     <message>
         <source>Colour</source>
         <translation>颜色</translation>
+    </message>
+</context>
+<context>
+    <name>Compare</name>
+    <message>
+        <source>as opened</source>
+        <translation>打开时</translation>
+    </message>
+    <message>
+        <source>as last saved</source>
+        <translation>上次保存时</translation>
+    </message>
+    <message>
+        <source>before the last step</source>
+        <translation>最后一步之前</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>之前</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>内存不足。</translation>
+    </message>
+    <message>
+        <source>That state of the image cannot be read any more.</source>
+        <translation>该状态的图像已无法读取。</translation>
+    </message>
+    <message>
+        <source>The image had another size then.</source>
+        <translation>那时图像的尺寸不同。</translation>
+    </message>
+    <message>
+        <source>Left of the pointer: %1</source>
+        <translation>指针左侧：%1</translation>
     </message>
 </context>
 <context>
@@ -1866,6 +1909,38 @@
     <message>
         <source>What is done to the image, written down as a script; plays scripts on it</source>
         <translation>把对图像的操作记录为脚本，并可在图像上运行脚本</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>While the key is held: an earlier state of the image left of the pointer</source>
+        <translation>按住按键时，指针左侧显示图像以前的状态</translation>
+    </message>
+    <message>
+        <source>Compare as Opened</source>
+        <translation>比较：打开时</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was opened</source>
+        <translation>“比较”显示打开时的图像</translation>
+    </message>
+    <message>
+        <source>Compare as Last Saved</source>
+        <translation>比较：上次保存时</translation>
+    </message>
+    <message>
+        <source>Compare shows the image as it was last saved</source>
+        <translation>“比较”显示上次保存时的图像</translation>
+    </message>
+    <message>
+        <source>Compare before Last Step</source>
+        <translation>比较：最后一步之前</translation>
+    </message>
+    <message>
+        <source>Compare shows the image without the last step</source>
+        <translation>“比较”显示没有最后一步的图像</translation>
     </message>
 </context>
 <context>

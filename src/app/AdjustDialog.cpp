@@ -6,6 +6,7 @@
 #include "desktop/Sounds.h"
 #include "document/Document.h"
 #include "document/Selection.h"
+#include "operations/Comparison.h"
 #include "ui_Adjust.h"
 #include <QDialog>
 #include <array>
@@ -39,6 +40,9 @@ public:
         const std::array<int, 5> neutral = neutralValues();
         for (std::size_t i = 0; i < mPairs.size(); ++i)
             static_cast<NeutralSlider*>(mPairs[i].slider)->setNeutral(neutral[i]);
+        connect(mUi.mAdjust_CompareButton, &QPushButton::pressed, this,
+                [this] { startComparison(mDocument, CompareTo::Step); });
+        connect(mUi.mAdjust_CompareButton, &QPushButton::released, this, [this] { endComparison(mDocument); });
         connect(mUi.mAdjust_ResetButton, &QPushButton::clicked, this, [this] { adjustReset(); });
         connect(mUi.mAdjust_ApplyButton, &QPushButton::clicked, this, &QDialog::accept);
         connect(mUi.mAdjust_CancelButton, &QPushButton::clicked, this, &QDialog::reject);

@@ -36,6 +36,7 @@
 #include "document/Picture.h"
 #include "document/Selection.h"
 #include "document/View.h"
+#include "operations/Comparison.h"
 #include "operations/Files.h"
 #include "operations/SessionScript.h"
 #include "operations/TextToolHook.h"
@@ -49,6 +50,7 @@
 #include <QColor>
 #include <QDesktopServices>
 #include <QFile>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -80,8 +82,10 @@ ZPAppController::ZPAppController()
     : mDocument(std::make_unique<Document>(commandTable())),
       mWindow(std::make_unique<MainWindow>(*mDocument)),
       mCanvas(mWindow->canvas()),
-      mScript(std::make_unique<SessionScript>(*mDocument))
+      mScript(std::make_unique<SessionScript>(*mDocument)),
+      mCompareTo(CompareTo::Opened)
 {
+    qApp->installEventFilter(this);
     buildShell();
     mMenu = new MainMenu(
         mWindow->menuBar(), [this](const QString& action, QString* title) { return validateMenuItem(action, title); },
@@ -104,6 +108,17 @@ ZPAppController::ZPAppController()
     };
     connect(mMenu, &MainMenu::keysChanged, this, showKeys);
     showKeys();
+    mMenu->setState("compare:", [this] { return mDocument->view().compared() != nullptr; });
+    mMenu->item("compare:")->setAutoRepeat(false);
+    for (const auto& [action, to] :
+         {std::pair("compareOpened:", CompareTo::Opened), std::pair("compareSaved:", CompareTo::Saved),
+          std::pair("compareStep:", CompareTo::LastStep)}) {
+        mMenu->setState(action, [this, to] { return mCompareTo == to; });
+        mShell[action] = [this, to] {
+            mCompareTo = to;
+            if (mDocument->view().compared()) startComparison(*mDocument, mCompareTo);
+        };
+    }
     mMenu->setReason([this](const QString& action) { return whyNot(action); });
     // Windows stand above the canvas: it reaches the text editor through these.
     setTextToolHooks({[](int size) { ZPTextEditor::sharedInstance()->setFontSize(size); },
@@ -387,6 +402,30 @@ void ZPAppController::showScript()
     mScriptWindow->showWindow();
 }
 
+void ZPAppController::compare()
+{
+    if (mDocument->view().compared()) return endComparison(*mDocument);
+    mCompareHeld = startComparison(*mDocument, mCompareTo) && mHeldKey != 0;
+}
+
+bool ZPAppController::eventFilter(QObject* watched, QEvent* event)
+{
+    // A key's first event is that it may be a shortcut; its last that it goes up.
+    const bool down = event->type() == QEvent::ShortcutOverride;
+    if (down || event->type() == QEvent::KeyRelease) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (!key->isAutoRepeat()) {
+            const bool ends = !down && key->key() == mHeldKey && std::exchange(mCompareHeld, false);
+            mHeldKey = down ? key->key() : 0;
+            if (ends) endComparison(*mDocument);
+        }
+    } else if (event->type() == QEvent::ApplicationDeactivate || event->type() == QEvent::WindowDeactivate) {
+        mHeldKey = 0; // its going up is told to another window
+        if (std::exchange(mCompareHeld, false)) endComparison(*mDocument);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
 void ZPAppController::showPictureMenu(QPoint position)
 {
     std::unique_ptr<QMenu> menu(mMenu->makePictureMenu(mWindow.get()));
@@ -528,6 +567,7 @@ void ZPAppController::buildShell()
     on("usersGuide:", &ZPAppController::usersGuide);
     on("keyboardShortcuts:", &ZPAppController::keyboardShortcuts);
     on("copyAsScript:", &ZPAppController::copyAsScript);
+    on("compare:", &ZPAppController::compare);
     on("showScript:", &ZPAppController::showScript);
     mShell["print:"] = [this] { printPicture(*mDocument); };
     mShell["saveAsTIFF:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::TIFF); };

@@ -19,6 +19,7 @@ namespace zp
 {
 class Document;
 class SessionScript;
+enum class CompareTo;
 } // namespace zp
 
 /// Lives for the whole run, on the main thread.
@@ -89,9 +90,13 @@ public:
     void toggleRetina();
     void copyAsScript();
     void showScript();
+    void compare();
 
     std::int32_t mWidthC = 0, mHeightC = 0;
     bool mLaunchFromDocument = false, mOffersRecovery = true;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildShell();
@@ -118,5 +123,8 @@ private:
     std::unique_ptr<zp::SessionScript> mScript;
     std::unique_ptr<ScriptWindow> mScriptWindow;
     ScriptPlayer mScriptPlayer;
+    zp::CompareTo mCompareTo;
+    int mHeldKey = 0;          ///< that went down last, while it is
+    bool mCompareHeld = false; ///< the comparison ends when its key goes up
     bool mTerminated = false, mKeepsWork = false, mRemembers = false;
 };

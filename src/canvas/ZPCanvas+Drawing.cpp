@@ -153,6 +153,8 @@ PixelBox ZPCanvas::overlayBox() const
     if (mDocument.view().isChequered()) return picture.box();
     PixelBox box;
     if (const auto& preview = mDocument.view().preview()) box = preview->box.intersected(picture.box());
+    if (mDocument.view().compared())
+        box = box.united(PixelBox{0, 0, mDocument.view().split(picture.width()), picture.height()});
     if (row().preview && mDocument.gesture().actions()) box = box.united(row().previewBox(mDocument));
     if (!selection.isNil() && selection.floating())
         box = box.united(pixelBoxOf(selection.bounds().inset(-1), picture.width(), picture.height()));
@@ -179,6 +181,13 @@ bool ZPCanvas::composeOverlays(PixelBox box)
     }
     // Over what floats: the result is written when that has become part of the picture.
     if (const auto& preview = mDocument.view().preview()) layPreview(*preview, copy, box.x0, box.y0);
+    if (const auto& before = mDocument.view().compared()) {
+        const int split = mDocument.view().split(before->pixelsWide());
+        const PixelBox left = PixelBox{0, 0, split, before->pixelsHigh()}.intersected(box);
+        if (!left.isEmpty())
+            copyPixels(before->view().part(left),
+                       copy.part({left.x0 - box.x0, left.y0 - box.y0, left.x1 - box.x0, left.y1 - box.y0}));
+    }
     if (mDocument.view().isChequered()) layChequerboardUnder(copy, box.x0, box.y0, mDocument.view().effectiveZoom());
     return true;
 }
@@ -248,6 +257,17 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
     if (mDocument.view().hasGrid() && mDocument.view().effectiveZoom() >= kGridZoom) drawPixelGrid(target, deviceScale);
     drawOutlines(target, deviceScale);
     painter.drawImage(deviceRect.topLeft(), buffer, QRect(0, 0, mine.width(), mine.height()));
+    if (mDocument.view().compared()) drawSplit(painter, deviceRect, origin, deviceScale);
+}
+
+void ZPCanvas::drawSplit(QPainter& painter, const QRect& deviceRect, QPoint origin, double deviceScale) const
+{
+    const int width = mDocument.picture().width(), split = mDocument.view().split(width);
+    if (split <= 0 || split >= width) return;
+    const int x = origin.x() + int(std::lround(split * deviceScale)), line = std::max(1, qRound(devicePixelRatioF()));
+    // White beside black: seen on every picture.
+    painter.fillRect(QRect(x - line, deviceRect.top(), line, deviceRect.height()).intersected(deviceRect), Qt::white);
+    painter.fillRect(QRect(x, deviceRect.top(), line, deviceRect.height()).intersected(deviceRect), Qt::black);
 }
 
 double ZPCanvas::pixelsPerPoint(double deviceScale) const { return deviceScale / mDocument.view().effectiveZoom(); }

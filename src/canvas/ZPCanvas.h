@@ -121,6 +121,7 @@ private:
     const zp::ScreenColours* colours();     ///< null where the picture's are the screen's
     void showThroughProfile(const zp::ScreenTarget& target, double deviceScale);
     void drawOverlays(const zp::ScreenTarget& target, double deviceScale);
+    void drawSplit(QPainter& painter, const QRect& deviceRect, QPoint origin, double deviceScale) const;
     double pixelsPerPoint(double deviceScale) const; ///< device pixels to a screen point
     void drawOutlines(const zp::ScreenTarget& target, double deviceScale);
     const zp::ToolRow& row() const;

@@ -211,10 +211,23 @@ void Document::setGrid(bool on)
     emit touched(mPicture.bounds());
 }
 
+bool Document::compareWith(std::shared_ptr<const BitmapRep> before)
+{
+    if (before && (before->pixelsWide() != mPicture.width() || before->pixelsHigh() != mPicture.height())) before = {};
+    const bool was = mView.compared() != nullptr;
+    mView.setCompared(std::move(before));
+    if (was || mView.compared()) emit touched(mPicture.bounds());
+    return mView.compared() != nullptr;
+}
+
 void Document::setPointer(Point point, bool inside)
 {
+    const int before = mView.split(mPicture.width());
     mView.setPointer(point);
     mView.setPointerInside(inside);
+    if (const int now = mView.split(mPicture.width()); mView.compared() && now != before)
+        emit touched(
+            makeRect(float(std::min(before, now) - 1), 0, float(std::abs(now - before) + 2), float(mPicture.height())));
     emit pointerMoved();
 }
 

@@ -20,6 +20,7 @@
 namespace zp
 {
 
+class BitmapRep;
 class TileJournal;
 enum class Hand;
 enum class PenPressure;
@@ -137,6 +138,9 @@ public:
     void setGrid(bool on);
     /// Shows pixels over the picture that are no part of it, or none (null), until another bitmap becomes the picture.
     void showPreview(std::shared_ptr<const Preview> preview);
+    /// Shows an earlier state of the picture left of the pointer, or none (null), until another bitmap becomes the
+    /// picture. One of another size is not shown. @return whether one is
+    bool compareWith(std::shared_ptr<const BitmapRep> before);
     void setOnScreen(bool on);
     void setPointer(Point point, bool inside);
     /// Another choice of colour, after which the one before can be swapped in.

@@ -130,6 +130,7 @@ void Document::closeEdit(Edit& edit, const char* stepName, StepRule rule)
                          : (rule == StepRule::Always && !edit.mRefused) || (rule != StepRule::Never && edit.mWrote);
     if (edit.mReplaced) {
         mView.setPreview(nullptr); // it was of pixels that are gone
+        mView.setCompared(nullptr);
         emit pictureReplaced();
         emit zoomChanged(); // fitted, or at its own pixels
     }

@@ -315,9 +315,8 @@ bool History::restoreExact(std::int32_t number, Picture& picture, const Resize& 
         if (!written) return false;
         mStale.add(*written);
     } else {
-        const auto pixels = BitmapRep::createUninitialized(grid->width, grid->height);
-        if (!pixels) throw std::bad_alloc();
-        if (!mExact->restore(number, std::nullopt, {}, pixels->view())) return false;
+        const auto pixels = pixelsOfExact(number);
+        if (!pixels) return false;
         put(pixels, picture, resize);
     }
     mBase = number;
@@ -327,17 +326,39 @@ bool History::restoreExact(std::int32_t number, Picture& picture, const Resize& 
 
 bool History::restoreWholePair(std::int32_t number, Picture& picture, const Resize& resize)
 {
-    const auto colour = store().read(number, StepHalf::Colour), alpha = store().read(number, StepHalf::Alpha);
-    const auto size = colour && alpha ? inspectSnapshotJPEG(*colour) : std::nullopt;
-    if (!size) return false;
-    const auto pixels = BitmapRep::createUninitialized(size->width, size->height);
-    if (!pixels) throw std::bad_alloc();
-    if (!decodeSnapshotJPEG(*colour, pixels->view())) return false;
-    decodeAlphaRLE(*alpha, pixels->view());
-    limitToAlpha(pixels->view());
+    const std::shared_ptr<BitmapRep> pixels = pixelsOfPair(number);
+    if (!pixels) return false;
     put(pixels, picture, resize);
     lostTrack();
     return true;
+}
+
+std::shared_ptr<BitmapRep> History::pixelsOfPair(std::int32_t number) const
+{
+    const auto colour = store().read(number, StepHalf::Colour), alpha = store().read(number, StepHalf::Alpha);
+    const auto size = colour && alpha ? inspectSnapshotJPEG(*colour) : std::nullopt;
+    if (!size) return nullptr;
+    auto pixels = BitmapRep::createUninitialized(size->width, size->height);
+    if (!pixels) throw std::bad_alloc();
+    if (!decodeSnapshotJPEG(*colour, pixels->view())) return nullptr;
+    decodeAlphaRLE(*alpha, pixels->view());
+    limitToAlpha(pixels->view());
+    return pixels;
+}
+
+std::shared_ptr<BitmapRep> History::pixelsOfExact(std::int32_t number) const
+{
+    const auto grid = mExact->gridOf(number);
+    if (!grid) return nullptr;
+    auto pixels = BitmapRep::createUninitialized(grid->width, grid->height);
+    if (!pixels) throw std::bad_alloc();
+    return mExact->restore(number, std::nullopt, {}, pixels->view()) ? pixels : nullptr;
+}
+
+std::shared_ptr<BitmapRep> History::pixelsOf(std::int32_t number) const
+{
+    auto exact = pixelsOfExact(number);
+    return exact ? exact : pixelsOfPair(number);
 }
 
 void History::put(std::shared_ptr<BitmapRep> pixels, Picture& picture, const Resize& resize)

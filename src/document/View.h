@@ -2,13 +2,16 @@
 /// How the document is looked at: zoom, retina mode, where the pointer is.
 #pragma once
 #include "base/Geometry.h"
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <memory>
 #include <utility>
 
 namespace zp
 {
 
+class BitmapRep;
 struct Preview;
 
 /// The zoom levels that are offered, as factors: powers of two, so that picture pixels and screen pixels always meet
@@ -52,6 +55,12 @@ public:
     /// What is shown over the picture for a window to ask "like this?"; null for nothing.
     const std::shared_ptr<const Preview>& preview() const { return mPreview; }
 
+    /// An earlier state of the picture, of its size, that is shown left of split() instead of it; null for none.
+    const std::shared_ptr<const BitmapRep>& compared() const { return mCompared; }
+    /// Image pixels from the left edge: where the pointer is, or all of the picture's @p width while it is elsewhere.
+    int split(int width) const { return mPointerInside ? std::clamp(int(std::lround(mPointer.x)), 0, width) : width; }
+
+    void setCompared(std::shared_ptr<const BitmapRep> before) { mCompared = std::move(before); }
     void setChequered(bool on) { mChequered = on; }
     void setGrid(bool on) { mGrid = on; }
     void setPreview(std::shared_ptr<const Preview> preview) { mPreview = std::move(preview); }
@@ -81,6 +90,7 @@ private:
     bool mPointerInside = false, mOnScreen = false, mChequered = false, mGrid = false;
     const char* mInfoWithoutSelection = "";
     std::shared_ptr<const Preview> mPreview;
+    std::shared_ptr<const BitmapRep> mCompared;
 };
 
 } // namespace zp

@@ -146,6 +146,8 @@ void ScriptDriver::sendKey(const std::string& written)
     if (!claim.isAccepted() && window == &mController.window())
         if (QAction* item = mController.menu().itemOfKeys(QKeySequence(QKeyCombination(held, Qt::Key(code))))) {
             mController.menu().choose(item->property("action").toString());
+            QKeyEvent up(QEvent::KeyRelease, code, held, typed);
+            if (alive) QApplication::sendEvent(target, &up);
             return;
         }
     // The letters of menus, buttons and labels, and shortcuts of other windows.
