@@ -231,7 +231,7 @@ void SessionScript::begin(const Command& command, const Arguments* arguments)
     mKnown = {};
     mKeys = 0;
     mGesture = 0;
-    mDragging = mTextPlaced = mFull = mFloats = false;
+    mDragging = mTextPlaced = mFull = mFloats = mStroke = false;
     const Picture& picture = mDocument.picture();
     const std::string width = scriptNumber(double(picture.width())), height = scriptNumber(double(picture.height()));
     if (std::string_view(command.action).starts_with("newImage"))
@@ -293,6 +293,15 @@ void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions
     case Hand::Press:
         mTextPlaced = false;
         mBefore = {mLines.size(), mKnown, mKeys};
+        if (actions && actions->refusesOpenStroke) {
+            // Refused while the last stroke is still painted, which is over sooner or later on another machine.
+            if (mDocument.gesture().stroke().isOpen()) {
+                mDragging = false;
+                return;
+            }
+            if (mStroke) add("wait");
+        }
+        mStroke = actions && mDocument.gesture().tool() == Tool::Brush && !mDocument.gesture().removes();
         settle(true);
         hold(currentKeyModifiers());
         mGesture = mLines.size();

@@ -90,6 +90,7 @@ private:
     bool mDragging = false;   ///< between a press and its release
     bool mGripped = false;    ///< by a handle of what floats: they lie where the zoom puts them
     bool mTextPlaced = false; ///< the last press was the text tool's, and its line is the outline
+    bool mStroke = false;     ///< the last gesture was the brush's, and may still be painted
     bool mFloats = false;     ///< something did when the last command or gesture had ended
     bool mFull = false;
 };
