@@ -9,7 +9,6 @@
 #include "operations/SessionScript.h"
 #include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -29,7 +28,7 @@ constexpr int kGathering = 100;
 
 } // namespace
 
-ScriptWindow::ScriptWindow(ZPAppController& controller) : QWidget(nullptr, Qt::Window), mController(controller)
+ScriptWindow::ScriptWindow(ZPAppController& controller) : mController(controller)
 {
     setObjectName("Script");
     setWindowTitle(tr("Script"));
@@ -78,26 +77,12 @@ ScriptWindow::ScriptWindow(ZPAppController& controller) : QWidget(nullptr, Qt::W
     enableButtons();
 }
 
-void ScriptWindow::showWindow()
-{
-    if (!isVisible()) centerWindow(this);
-    show();
-    raise();
-    activateWindow();
-}
+void ScriptWindow::showWindow() { bringToFront(this, true); }
 
 void ScriptWindow::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     showLines();
-}
-
-void ScriptWindow::keyPressEvent(QKeyEvent* event)
-{
-    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close))
-        close();
-    else
-        QWidget::keyPressEvent(event);
 }
 
 void ScriptWindow::showLines()

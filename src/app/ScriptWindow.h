@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What is done to the picture, as it is written down; and scripts played on it.
 #pragma once
+#include "desktop/WindowPlaces.h"
 #include <QTimer>
-#include <QWidget>
 #include <functional>
 
 class QLabel;
@@ -11,7 +11,7 @@ class QPushButton;
 class ZPAppController;
 
 /// Follows the session's script while it is on screen; costs nothing while it is not.
-class ScriptWindow : public QWidget
+class ScriptWindow : public zp::SideWindow
 {
     Q_OBJECT
 
@@ -22,7 +22,6 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void showLines();

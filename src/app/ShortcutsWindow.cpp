@@ -3,11 +3,9 @@
 #include "app/ShortcutsWindow.h"
 #include "app/MainMenu.h"
 #include "canvas/ToolTable.h"
-#include "desktop/Panels.h"
 #include <QAction>
 #include <QCoreApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QKeySequenceEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -36,7 +34,7 @@ QString toolWithKey(const QKeySequence& keys)
 
 } // namespace
 
-ShortcutsWindow::ShortcutsWindow(MainMenu& menu, QWidget* parent) : QWidget(parent, Qt::Window), mMenu(menu)
+ShortcutsWindow::ShortcutsWindow(MainMenu& menu, QWidget* parent) : SideWindow(parent), mMenu(menu)
 {
     setObjectName("Shortcuts");
     setWindowTitle(tr("Keyboard Shortcuts"));
@@ -103,19 +101,8 @@ ShortcutsWindow::ShortcutsWindow(MainMenu& menu, QWidget* parent) : QWidget(pare
 void ShortcutsWindow::showWindow()
 {
     fill();
-    if (!isVisible()) centerWindow(this);
-    show();
-    raise();
-    activateWindow();
+    bringToFront(this, true);
     mFilter->setFocus();
-}
-
-void ShortcutsWindow::keyPressEvent(QKeyEvent* event)
-{
-    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close))
-        close();
-    else
-        QWidget::keyPressEvent(event);
 }
 
 void ShortcutsWindow::fill()

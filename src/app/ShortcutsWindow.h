@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The sheet of all commands and tools with their keys, which can be changed there.
 #pragma once
-#include <QWidget>
+#include "desktop/WindowPlaces.h"
 
 class MainMenu;
 class QKeySequenceEdit;
@@ -12,7 +12,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 /// Made from the command table and the table of tools each time it is shown; what is changed holds at once.
-class ShortcutsWindow : public QWidget
+class ShortcutsWindow : public zp::SideWindow
 {
     Q_OBJECT
 
@@ -20,9 +20,6 @@ public:
     /// @param menu  must outlive the window
     explicit ShortcutsWindow(MainMenu& menu, QWidget* parent = nullptr);
     void showWindow();
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void fill();

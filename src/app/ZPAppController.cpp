@@ -29,6 +29,7 @@
 #include "desktop/Settings.h"
 #include "desktop/Sounds.h"
 #include "desktop/SystemProbes.h"
+#include "desktop/WindowPlaces.h"
 #include "document/Document.h"
 #include "document/Gesture.h"
 #include "document/History.h"
@@ -303,12 +304,7 @@ void ZPAppController::applicationWillTerminate()
     NotificationCenter::defaultCenter().removeObserver(this);
 }
 
-void ZPAppController::bringWindowToFront()
-{
-    mWindow->show();
-    mWindow->raise();
-    mWindow->activateWindow();
-}
+void ZPAppController::bringWindowToFront() { bringToFront(mWindow.get()); }
 
 void ZPAppController::openPath(const std::string& path)
 {

@@ -9,8 +9,6 @@
 #include "desktop/Sounds.h"
 #include "ui_Prefs.h"
 #include <QCoreApplication>
-#include <QKeyEvent>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QUrl>
 #include <algorithm>
@@ -91,7 +89,6 @@ ZPPrefs::ZPPrefs() : mUi(std::make_unique<Ui::Prefs>())
     connect(mUi->mKeepWindowsCheck, &QCheckBox::toggled, this, [](bool on) { setWindowsKept(on); });
     connect(mUi->mShortcutsButton, &QPushButton::clicked, this, &ZPPrefs::shortcutsWanted);
     connect(mUi->mCloseButton, &QPushButton::clicked, this, &QWidget::close);
-    connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
     if (!setFrameAutosaveName(this, "Prefs")) centerWindow(this);
 }
 
@@ -103,17 +100,7 @@ ZPPrefs::~ZPPrefs()
 void ZPPrefs::showWindow()
 {
     showStored();
-    show();
-    raise();
-    activateWindow();
-}
-
-void ZPPrefs::keyPressEvent(QKeyEvent* event)
-{
-    if (event->matches(QKeySequence::Cancel))
-        close();
-    else
-        QWidget::keyPressEvent(event);
+    bringToFront(this);
 }
 
 void ZPPrefs::showStored()

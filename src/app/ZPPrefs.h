@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The preferences window: units, appearance, sounds, and which key plays which role.
 #pragma once
-#include <QWidget>
+#include "desktop/WindowPlaces.h"
 #include <memory>
 
 class QComboBox;
@@ -11,7 +11,7 @@ class Prefs;
 }
 
 /// One instance, made on first use, on the main thread. What is chosen holds at once and is kept in the settings.
-class ZPPrefs : public QWidget
+class ZPPrefs : public zp::SideWindow
 {
     Q_OBJECT
 
@@ -32,9 +32,6 @@ public:
 signals:
     void unitChanged();
     void shortcutsWanted();
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     ZPPrefs();

@@ -85,6 +85,9 @@ std::optional<std::string> readWholeFile(const std::string& path, std::uint64_t 
 /// programs left there. @param error why it failed, in plain words, if given
 bool writeFileSafely(const std::string& path, const void* bytes, std::size_t count, std::string* error = nullptr);
 
+/// Whether the process that a leftover is named after has ended; false for a number that is no process's.
+bool processIsGone(int process);
+
 /// Removes the half-written files that killed programs of this machine left in a folder, and those of other machines
 /// that are a week old.
 void removeLeftovers(const std::string& folder);

@@ -117,7 +117,7 @@ bool isLeftOver(const std::string& folder, const std::string& name)
     pid_t process = 0;
     if (name.starts_with(own) &&
         std::from_chars(name.data() + own.size(), name.data() + name.size(), process).ec == std::errc())
-        return process > 0 && process != ::getpid() && ::kill(process, 0) != 0 && errno == ESRCH;
+        return processIsGone(process);
     const std::optional<FileAttributes> part = fileAttributes(pathByAppending(folder, name));
     return part && std::int64_t(::time(nullptr)) - part->modified > kForgotten;
 }
@@ -256,6 +256,8 @@ bool writeFileSafely(const std::string& path, const void* bytes, std::size_t cou
     if (error) *error = failure == 0 ? std::string() : sentenceFor(failure);
     return failure == 0;
 }
+
+bool processIsGone(int process) { return process > 0 && ::kill(process, 0) != 0 && errno == ESRCH; }
 
 void removeLeftovers(const std::string& folder)
 {

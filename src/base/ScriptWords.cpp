@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Words of the automation language.
 #include "base/ScriptWords.h"
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 
 namespace zp
 {
@@ -84,5 +86,37 @@ std::string shortest(Number number)
 
 std::string scriptNumber(double number) { return shortest(number); }
 std::string scriptNumber(float number) { return shortest(number); }
+
+std::string scriptColor(const Color& color)
+{
+    const float parts[] = {color.red, color.green, color.blue, color.alpha};
+    const int count = color.alpha < 1 ? 4 : 3;
+    const bool bytes =
+        std::all_of(parts, parts + count, [](float part) { return part == float(std::lround(part * 255)) / 255.0f; });
+    std::string word = "#";
+    for (int i = 0; i < count; ++i) {
+        std::array<char, 8> digits{};
+        const float part = std::clamp(parts[i], 0.0f, 1.0f);
+        std::snprintf(digits.data(), digits.size(), bytes ? "%02lx" : "%04lx",
+                      std::lround(part * (bytes ? 255 : 65535)));
+        word += digits.data();
+    }
+    return word;
+}
+
+std::optional<Color> colorOfScriptWord(const std::string& word)
+{
+    const std::size_t count = word.size() - 1, digits = count >= 12 ? 4 : 2;
+    if (word.empty() || word[0] != '#' || (count != 3 * digits && count != 4 * digits)) return std::nullopt;
+    float parts[4] = {0, 0, 0, 1};
+    for (std::size_t i = 0; digits * i < count; ++i) {
+        unsigned value = 0;
+        const char* const first = word.data() + 1 + digits * i;
+        const auto [end, fault] = std::from_chars(first, first + digits, value, 16);
+        if (fault != std::errc() || end != first + digits) return std::nullopt;
+        parts[i] = float(value) / (digits == 4 ? 65535.0f : 255.0f);
+    }
+    return Color{parts[0], parts[1], parts[2], parts[3]};
+}
 
 } // namespace zp

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A line of the automation language taken apart into words.
 #pragma once
+#include "base/Color.h"
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,5 +21,9 @@ std::string scriptWord(const std::string& word);
 /// The shortest decimal number that is read back as exactly this one; whole numbers without an exponent.
 std::string scriptNumber(double number);
 std::string scriptNumber(float number);
+/// "#rrggbb", or "#rrggbbaa" where it is not opaque; with four digits a part where two do not say it exactly.
+std::string scriptColor(const Color& color);
+/// The colour of such a word; nothing when it is none.
+std::optional<Color> colorOfScriptWord(const std::string& word);
 
 } // namespace zp

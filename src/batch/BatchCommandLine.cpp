@@ -11,7 +11,6 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
 #include <optional>
 #include <string_view>
 #include <unistd.h>
@@ -248,9 +247,8 @@ int runBatchCommandLine(int argc, char** argv)
     }
     if (line.error.empty() && !line.watermarkPath.empty()) line.error = loadWatermark(line);
     if (line.error.empty() && !line.scriptPath.empty()) {
-        std::error_code failed;
-        const std::string program = std::filesystem::read_symlink("/proc/self/exe", failed).string();
-        line.settings.script = BatchScript::read(line.scriptPath, line.scriptValues, program, line.error);
+        // This very program, even if its file is replaced while the run lasts.
+        line.settings.script = BatchScript::read(line.scriptPath, line.scriptValues, "/proc/self/exe", line.error);
     }
     if (!line.error.empty()) {
         std::fprintf(stderr, "zelpane: %s\nTry \"zelpane --batch --help\".\n", line.error.c_str());

@@ -103,10 +103,7 @@ std::string BatchPicture::fit()
     if (!mSettings.fits() || (mWidth == mPixels->pixelsWide() && mHeight == mPixels->pixelsHigh())) return {};
     auto fitted = BitmapRep::createUninitialized(mWidth, mHeight);
     if (!fitted) return kNoMemory;
-    if (mReduction.divisor > 1)
-        resample(std::as_const(*mPixels).view(), mReduction, fitted->view());
-    else
-        resample(std::as_const(*mPixels).view(), fitted->view());
+    resample(std::as_const(*mPixels).view(), mReduction, fitted->view());
     fitted->properties = mPixels->properties;
     mPixels = std::move(fitted);
     return {};

@@ -7,7 +7,6 @@
 #include <cctype>
 #include <cerrno>
 #include <charconv>
-#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -70,8 +69,8 @@ void removeFoldersOfTheDead()
         int process = 0;
         if (!name.starts_with(kFolderName)) continue;
         const char* const first = name.data() + kFolderName.size();
-        if (std::from_chars(first, name.data() + name.size(), process).ec != std::errc() || process < 1) continue;
-        if (kill(process, 0) != 0 && errno == ESRCH) removeItem(temporaryFolder() + "/" + name);
+        if (std::from_chars(first, name.data() + name.size(), process).ec == std::errc() && processIsGone(process))
+            removeItem(temporaryFolder() + "/" + name);
     }
 }
 

@@ -31,10 +31,7 @@ std::string writeThumbnail(const std::string& source, const std::string& destina
         const Size fitted = wholePixels(fittedSize(now, float(size), float(size)));
         small = BitmapRep::createUninitialized(int(fitted.width), int(fitted.height));
         if (!small) return "There is not enough memory for the image.";
-        if (image.reduction.divisor > 1)
-            resample(std::as_const(*image.bitmap).view(), image.reduction, small->view());
-        else
-            resample(std::as_const(*image.bitmap).view(), small->view());
+        resample(std::as_const(*image.bitmap).view(), image.reduction, small->view());
     }
     const auto bytes = encodePNG(std::as_const(*small).view(), {});
     if (bytes.empty()) return "There is not enough memory for the image.";

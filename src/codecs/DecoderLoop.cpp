@@ -107,30 +107,25 @@ bool receive(DecoderJob& job, int& file)
 {
     pollfd there{kJobs, POLLIN, 0};
     if (poll(&there, 1, kIdleMilliseconds) <= 0) return false;
-    iovec part{&job, sizeof job};
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> room{};
-    msghdr message{};
-    message.msg_iov = &part;
-    message.msg_iovlen = 1;
-    message.msg_control = room.data();
-    message.msg_controllen = room.size();
-    if (recvmsg(kJobs, &message, MSG_CMSG_CLOEXEC) != ssize_t(sizeof job)) return false;
-    const cmsghdr* const with = CMSG_FIRSTHDR(&message);
+    JobMessage message(job);
+    if (recvmsg(kJobs, &message.head, MSG_CMSG_CLOEXEC) != ssize_t(sizeof job)) return false;
+    const cmsghdr* const with = CMSG_FIRSTHDR(&message.head);
     if (!with || with->cmsg_type != SCM_RIGHTS) return false;
     std::memcpy(&file, CMSG_DATA(with), sizeof file);
     return true;
 }
 
 DecodedRest decode(const DecoderJob& job, const Input& input)
-try {
-    DecodedRest rest;
-    rest.error = translated("Codecs", "There is not enough memory for this image.");
-    if (!input.isThere()) return rest;
-    Sending target;
-    rest = readByMagick(input.bytes(), Format(job.format), job.properties != 0, target);
-    target.flush();
-    return rest;
-} catch (const std::bad_alloc&) {
+{
+    try {
+        if (input.isThere()) {
+            Sending target;
+            DecodedRest rest = readByMagick(input.bytes(), Format(job.format), job.properties != 0, target);
+            target.flush();
+            return rest;
+        }
+    } catch (const std::bad_alloc&) {
+    }
     DecodedRest rest;
     rest.error = translated("Codecs", "There is not enough memory for this image.");
     return rest;

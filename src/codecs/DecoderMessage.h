@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <sys/socket.h>
+#include <sys/uio.h>
 #include <vector>
 
 namespace zp::codec
@@ -17,6 +19,23 @@ struct DecoderJob {
     std::uint64_t bytes = 0;
     std::uint32_t format = 0;
     std::uint32_t properties = 0; ///< whether they are wanted
+};
+
+/// The head of a socket's message that carries a job, with room for the one file beside it. Both sides use it.
+struct JobMessage {
+    explicit JobMessage(DecoderJob& job) : part{&job, sizeof job}
+    {
+        head.msg_iov = &part;
+        head.msg_iovlen = 1;
+        head.msg_control = room.data();
+        head.msg_controllen = room.size();
+    }
+    JobMessage(const JobMessage&) = delete; // the head points into it
+    JobMessage& operator=(const JobMessage&) = delete;
+
+    iovec part;
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> room{};
+    msghdr head{};
 };
 
 enum class BlockKind : std::uint32_t {

@@ -176,21 +176,15 @@ Descriptor fileOf(Bytes bytes)
     return file;
 }
 
-bool give(const Decoder& decoder, const DecoderJob& job, int file)
+bool give(const Decoder& decoder, DecoderJob job, int file)
 {
-    iovec part{const_cast<DecoderJob*>(&job), sizeof job};
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> room{};
-    msghdr message{};
-    message.msg_iov = &part;
-    message.msg_iovlen = 1;
-    message.msg_control = room.data();
-    message.msg_controllen = room.size();
-    cmsghdr* const with = CMSG_FIRSTHDR(&message);
+    JobMessage message(job);
+    cmsghdr* const with = CMSG_FIRSTHDR(&message.head);
     with->cmsg_level = SOL_SOCKET;
     with->cmsg_type = SCM_RIGHTS;
     with->cmsg_len = CMSG_LEN(sizeof file);
     std::memcpy(CMSG_DATA(with), &file, sizeof file);
-    return ::sendmsg(decoder.jobs, &message, MSG_NOSIGNAL) == ssize_t(sizeof job);
+    return ::sendmsg(decoder.jobs, &message.head, MSG_NOSIGNAL) == ssize_t(sizeof job);
 }
 
 /// What comes back from one job.

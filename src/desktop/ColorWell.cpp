@@ -3,6 +3,7 @@
 #include "desktop/ColorWell.h"
 #include "desktop/ColorPanel.h"
 #include "desktop/QtColor.h"
+#include "desktop/WindowPlaces.h"
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -93,9 +94,7 @@ void ColorWell::openPanel()
     // The colours chosen last stand where the panel keeps a person's own.
     for (int i = 0; i < int(recentColors().size()) && i < QColorDialog::customCount(); ++i)
         QColorDialog::setCustomColor(i, recentColors()[std::size_t(i)]);
-    panel->show();
-    panel->raise();
-    panel->activateWindow();
+    zp::bringToFront(panel);
 }
 
 void ColorWell::paintEvent(QPaintEvent*)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Places beside a point.
+/// Places beside a point, and windows that come to the front.
 #include "desktop/WindowPlaces.h"
+#include "desktop/Panels.h"
+#include <QKeyEvent>
 #include <array>
 #include <limits>
 
@@ -29,6 +31,22 @@ QPoint cornerClearOf(const QRect& frame, QPoint point, const QRect& room)
         if (far < way && room.contains(QRect(corner, frame.size()))) best = corner, way = far;
     }
     return best;
+}
+
+void bringToFront(QWidget* window, bool center)
+{
+    if (center && !window->isVisible()) centerWindow(window);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void SideWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close))
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 } // namespace zp

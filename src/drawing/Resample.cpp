@@ -114,15 +114,13 @@ void growRows(ConstBitmapView source, const Axis& down, BitmapView destination, 
 
 } // namespace
 
-void resample(ConstBitmapView source, BitmapView destination)
-{
-    resample(source, {.width = source.width, .height = source.height}, destination);
-}
+void resample(ConstBitmapView source, BitmapView destination) { resample(source, {}, destination); }
 
 void resample(ConstBitmapView source, const Reduction& reduction, BitmapView destination)
 {
     if (source.isEmpty() || destination.isEmpty()) return;
-    const Axis along = columnsOf(source, reduction), down = rowsOf(source, reduction);
+    const Reduction of = reduction.divisor > 1 ? reduction : Reduction{.width = source.width, .height = source.height};
+    const Axis along = columnsOf(source, of), down = rowsOf(source, of);
     const bool whole = along.size == along.divisor * along.length && down.size == down.divisor * down.length;
     const bool sameWidth = source.width == destination.width, sameHeight = source.height == destination.height;
     const int grain = std::max(1, 200'000 / std::max(destination.width, source.width));

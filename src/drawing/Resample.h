@@ -13,8 +13,9 @@ namespace zp
 /// samples: colour stays within alpha, and a flat picture stays flat. The views must not overlap; an empty one does
 /// nothing. Both cores. Any thread. Cost: the source read once, plus the destination.
 void resample(ConstBitmapView source, BitmapView destination);
-/// The same for a source that was decoded smaller than its file: what is shrunk is the file's picture, without the
-/// pixels beyond its edge that the source's last column and row stand for as well.
+/// The same for a source that may have been decoded smaller than its file: what is shrunk is the file's picture,
+/// without the pixels beyond its edge that the source's last column and row stand for as well. A divisor of 1: the
+/// source.
 void resample(ConstBitmapView source, const Reduction& reduction, BitmapView destination);
 
 } // namespace zp

@@ -11,8 +11,6 @@
 #include "document/Selection.h"
 #include "operations/FloatHandles.h"
 #include <algorithm>
-#include <cmath>
-#include <cstdio>
 #include <utility>
 
 namespace zp
@@ -57,24 +55,14 @@ std::string outlineLine(const Selection& selection)
     return lineOf({"send selectOutline:", scriptWord(outline ? textOfPath(*outline) : std::string())});
 }
 
-/// "#rrggbb" or with opacity; four digits a part where two do not say it exactly.
-std::string colorWord(Color color)
+std::string commandLine(const Command& command, const Arguments& arguments)
 {
-    const float parts[] = {color.red, color.green, color.blue, color.alpha};
-    const int count = color.alpha < 1 ? 4 : 3;
-    const bool bytes =
-        std::all_of(parts, parts + count, [](float part) { return part == float(std::lround(part * 255)) / 255.0f; });
-    std::string word = "#";
-    for (int i = 0; i < count; ++i) {
-        char digits[5];
-        const float part = std::clamp(parts[i], 0.0f, 1.0f);
-        if (bytes)
-            std::snprintf(digits, sizeof digits, "%02lx", std::lround(part * 255));
-        else
-            std::snprintf(digits, sizeof digits, "%04lx", std::lround(part * 65535));
-        word += digits;
-    }
-    return word;
+    if (command.menu && command.run) return lineOf({"menu", command.action});
+    std::string line = lineOf({"send", command.action});
+    const std::string_view kinds = command.parameters ? command.parameters : "";
+    if (kinds.starts_with("path") || kinds.starts_with("text")) line = lineOf({line, scriptWord(arguments.path)});
+    for (const double number : arguments.numbers) line = lineOf({line, scriptNumber(number)});
+    return line;
 }
 
 bool isOneLine(const std::string& text) { return text.find_first_of("\r\n") == std::string::npos; }
@@ -184,15 +172,16 @@ void SessionScript::settle(bool forGesture)
     const bool selects = tool == Tool::Rectangle || tool == Tool::Lasso || tool == Tool::Wand;
     // What selects paints with nothing, unless its press makes what floats part of the picture.
     if (!forGesture || mFloats || (!selects && tool != Tool::Eyedropper)) {
-        keep(mKnown.color, paint.color(), lineOf({"set mColorWell", colorWord(paint.color())}));
+        keep(mKnown.color, paint.color(), lineOf({"set mColorWell", scriptColor(paint.color())}));
         keep(mKnown.size, paint.size(), lineOf({"set mSizeField", scriptNumber(paint.size())}));
     }
     if (!forGesture) return;
     if (tool == Tool::Wand || tool == Tool::Bucket) settleTolerance();
-    if (tool == Tool::Brush) keep(mKnown.shape, paint.brushShape(), itemLine("mBrushPopUp", paint.brushShape()));
-    if (tool == Tool::Brush)
+    if (tool == Tool::Brush) {
+        keep(mKnown.shape, paint.brushShape(), itemLine("mBrushPopUp", paint.brushShape()));
         keep(mKnown.penPressure, paint.penPressure(), itemLine("mPressurePopUp", int(paint.penPressure())));
-    press();
+    }
+    settlePressure();
     const MarqueeRule& rule = mDocument.gesture().marqueeRule();
     if (rule.kind == mKnown.rule.kind &&
         (rule.kind == MarqueeRule::Free || (rule.width == mKnown.rule.width && rule.height == mKnown.rule.height)))
@@ -202,7 +191,7 @@ void SessionScript::settle(bool forGesture)
         {"send marqueeRule:", scriptNumber(double(rule.kind)), scriptNumber(rule.width), scriptNumber(rule.height)}));
 }
 
-void SessionScript::press()
+void SessionScript::settlePressure()
 {
     if (mDocument.paint().penPressure() != PenPressure::Nothing)
         keep(mKnown.pressure, mPressure, lineOf({"pressure", scriptNumber(mPressure)}));
@@ -230,6 +219,7 @@ void SessionScript::begin(const Command& command, const Arguments* arguments)
     mBytes = 0;
     mKnown = {};
     mKeys = 0;
+    mBefore = {};
     mGesture = 0;
     mDragging = mTextPlaced = mFull = mFloats = mStroke = false;
     const Picture& picture = mDocument.picture();
@@ -241,17 +231,6 @@ void SessionScript::begin(const Command& command, const Arguments* arguments)
     else
         add(comment(lineOf({picture.path().empty() ? std::string_view("an image without a file") : picture.path(),
                             width, "×", height})));
-    mKnown.rule = {}; // nothing to begin with
-}
-
-std::string SessionScript::commandLine(const Command& command, const Arguments& arguments) const
-{
-    std::string line = lineOf({command.menu && command.run ? "menu" : "send", command.action});
-    if (command.menu && command.run) return line;
-    const std::string kinds = command.parameters ? command.parameters : "";
-    if (kinds.starts_with("path") || kinds.starts_with("text")) line = lineOf({line, scriptWord(arguments.path)});
-    for (const double number : arguments.numbers) line = lineOf({line, scriptNumber(number)});
-    return line;
 }
 
 void SessionScript::performed(const Command& command, const Arguments* arguments)
@@ -311,7 +290,7 @@ void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions
     case Hand::Drag:
     case Hand::Move:
         if (!mDragging && what == Hand::Drag) return;
-        press();
+        settlePressure();
         hold(currentKeyModifiers());
         return add(pointLine(what == Hand::Drag ? "drag" : "move", point));
     case Hand::Release:
@@ -339,10 +318,10 @@ void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions
 void SessionScript::noted(const QStringList& lines, const QStringList& before)
 {
     if (mFull) return;
-    for (const QString& line : before) {
-        mLines.insert(mLines.begin() + std::ptrdiff_t(std::min(mGesture, mLines.size())), line.toStdString());
-        mBytes += mLines[std::min(mGesture, mLines.size() - 1)].size() + 1;
-    }
+    const auto gesture = mLines.begin() + std::ptrdiff_t(std::min(mGesture, mLines.size()));
+    std::vector<std::string> first;
+    for (const QString& line : before) mBytes += first.emplace_back(line.toStdString()).size() + 1;
+    mLines.insert(gesture, first.begin(), first.end());
     for (const QString& line : lines) add(line.toStdString());
 }
 

@@ -65,9 +65,8 @@ private:
     void settleTolerance();
     template <class Value>
     void keep(std::optional<Value>& known, const Value& now, const std::string& line);
-    void press(); ///< as hard as the pen does
+    void settlePressure(); ///< as hard as the pen does
     void hold(std::uint32_t keys);
-    std::string commandLine(const Command& command, const Arguments& arguments) const;
     void add(const std::string& line);
     void replaceLast(const std::string& line);
     /// The gesture's lines from its press on go away, and with them what they were to do.

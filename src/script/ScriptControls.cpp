@@ -3,6 +3,7 @@
 #include "app/MainMenu.h"
 #include "app/ZPAppController.h"
 #include "base/Folders.h"
+#include "base/ScriptWords.h"
 #include "desktop/ColorWell.h"
 #include "desktop/Panels.h"
 #include "script/ScriptDriver.h"
@@ -27,21 +28,6 @@ using namespace zp;
 
 namespace
 {
-
-/// "#rrggbb" or "#rrggbbaa"; with four digits a part where two do not say it.
-std::optional<Color> parseColour(const std::string& word)
-{
-    const std::size_t count = word.size() - 1, digits = count >= 12 ? 4 : 2;
-    if (word.empty() || word[0] != '#' || (count != 3 * digits && count != 4 * digits)) return std::nullopt;
-    const float whole = digits == 4 ? 65535.0f : 255.0f;
-    float parts[4] = {0, 0, 0, 1};
-    for (std::size_t i = 0; digits * i < count; ++i) {
-        bool ok = false;
-        parts[i] = float(text(word.substr(1 + digits * i, digits)).toUInt(&ok, 16)) / whole;
-        if (!ok) return std::nullopt;
-    }
-    return Color{parts[0], parts[1], parts[2], parts[3]};
-}
 
 QString colourText(Color c)
 {
@@ -100,7 +86,7 @@ QString setValue(QWidget* widget, const std::string& word)
         return {};
     }
     if (auto* well = qobject_cast<ColorWell*>(widget)) {
-        const std::optional<Color> colour = parseColour(word);
+        const std::optional<Color> colour = colorOfScriptWord(word);
         if (!colour) return "not a colour";
         well->chooseColor(*colour);
         return {};

@@ -6,6 +6,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
+#include "desktop/WindowPlaces.h"
 #include "library/LibraryListing.h"
 #include "ui_FileManager.h"
 #include "ui_Rename.h"
@@ -112,9 +113,7 @@ void ZPFileManager::showWindow()
 {
     keepFolderStore(libraryFolder());
     reload();
-    show();
-    raise();
-    activateWindow();
+    bringToFront(this);
     mTableView->setFocus();
 }
 

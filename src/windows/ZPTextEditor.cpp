@@ -178,9 +178,7 @@ void ZPTextEditor::showWindow(std::optional<QPoint> keepClear)
         const QPoint corner = cornerClearOf(frame, *keepClear, screen()->availableGeometry());
         if (corner != frame.topLeft()) move(corner);
     }
-    show();
-    raise();
-    activateWindow();
+    bringToFront(this);
     if (mUi->severalLines->isChecked()) {
         mUi->textLines->setFocus();
         mUi->textLines->selectAll();

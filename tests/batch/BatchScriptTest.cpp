@@ -3,7 +3,6 @@
 #include "batch/BatchScript.h"
 #include "base/Folders.h"
 #include "batch/BatchCommandLine.h"
-#include "support/TemporaryFolder.h"
 #include <fstream>
 #include <gtest/gtest.h>
 
