@@ -121,5 +121,7 @@ SECTIONS = [
     Section("batch", "batch/bench_batch", [
         Row("12 photos of 12 megapixels fitted and stamped", ms("BatchToJPEG", "tiff:0"),
             [("libjpeg-turbo at half scale, cv area, no stamp", ms("BatchToJPEGPeerTurboAndOpenCV"))], 0.8),
+        *[Row(f"a watermark repeated over 24 megapixels{what}", ms("TiledWatermark", "size:25", "gap:50", f"turn:{turn}"))
+          for what, turn in (("", 0), (", turned", 30))],
     ], targets=False),
 ]

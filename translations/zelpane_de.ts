@@ -1068,6 +1068,62 @@
         <source>Run</source>
         <translation>Starten</translation>
     </message>
+    <message>
+        <source>&amp;Relative: its longer side is</source>
+        <translation>&amp;Relativ: Seine längere Seite hat</translation>
+    </message>
+    <message>
+        <source>The watermark looks the same on small and large images, upright or flat: size, margin and position are in percent</source>
+        <translation>Das Wasserzeichen sieht auf kleinen und großen Bildern gleich aus, hoch oder quer: Größe, Rand und Position stehen in Prozent</translation>
+    </message>
+    <message>
+        <source>Of the shorter side of each image</source>
+        <translation>Der kürzeren Seite jedes Bildes</translation>
+    </message>
+    <message>
+        <source>Size of the watermark</source>
+        <translation>Größe des Wasserzeichens</translation>
+    </message>
+    <message>
+        <source>of the image&apos;s shorter side</source>
+        <translation>der kürzeren Bildseite</translation>
+    </message>
+    <message>
+        <source>The watermark covers the whole image, from its position on</source>
+        <translation>Das Wasserzeichen bedeckt von seiner Position aus das ganze Bild</translation>
+    </message>
+    <message>
+        <source>Of the watermark&apos;s longer side</source>
+        <translation>Der längeren Seite des Wasserzeichens</translation>
+    </message>
+    <message>
+        <source>Gaps between repeated watermarks</source>
+        <translation>Abstände zwischen wiederholten Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>of its longer side</source>
+        <translation>seiner längeren Seite</translation>
+    </message>
+    <message>
+        <source>T&amp;urn:</source>
+        <translation>Dreh&amp;ung:</translation>
+    </message>
+    <message>
+        <source>Of the watermark, against the clock</source>
+        <translation>Des Wasserzeichens, gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>&amp;Vorschau</translation>
+    </message>
+    <message>
+        <source>Shows what these settings make of three images of the folder; nothing is written</source>
+        <translation>Zeigt, was diese Einstellungen aus drei Bildern des Ordners machen; nichts wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Repeated &amp;all over, with gaps of</source>
+        <translation>Überall wieder&amp;holt, mit Abständen von</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -2240,6 +2296,29 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessorPreview</name>
+    <message>
+        <source>Looking at the folder…</source>
+        <translation>Der Ordner wird angesehen …</translation>
+    </message>
+    <message>
+        <source>%1 (of %2 in the folder)</source>
+        <translation>%1 (von %2 im Ordner)</translation>
+    </message>
+    <message>
+        <source>The folder has no .tiff or .jpg image.</source>
+        <translation>Der Ordner hat kein .tiff- oder .jpg-Bild.</translation>
+    </message>
+    <message>
+        <source>The largest, the middle and the smallest of %1 images of one shape</source>
+        <translation>Das größte, das mittlere und das kleinste von %1 Bildern einer Form</translation>
+    </message>
+    <message>
+        <source>The widest, the tallest and the squarest of %1 images</source>
+        <translation>Das breiteste, das höchste und das quadratischste von %1 Bildern</translation>
     </message>
 </context>
 <context>

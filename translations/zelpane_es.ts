@@ -1068,6 +1068,62 @@
         <source>Run</source>
         <translation>Ejecutar</translation>
     </message>
+    <message>
+        <source>&amp;Relative: its longer side is</source>
+        <translation>&amp;Relativa: su lado mayor es el</translation>
+    </message>
+    <message>
+        <source>The watermark looks the same on small and large images, upright or flat: size, margin and position are in percent</source>
+        <translation>La marca de agua se ve igual en imágenes pequeñas y grandes, verticales u horizontales: tamaño, margen y posición van en porcentaje</translation>
+    </message>
+    <message>
+        <source>Of the shorter side of each image</source>
+        <translation>Del lado menor de cada imagen</translation>
+    </message>
+    <message>
+        <source>Size of the watermark</source>
+        <translation>Tamaño de la marca de agua</translation>
+    </message>
+    <message>
+        <source>of the image&apos;s shorter side</source>
+        <translation>del lado menor de la imagen</translation>
+    </message>
+    <message>
+        <source>The watermark covers the whole image, from its position on</source>
+        <translation>La marca de agua cubre toda la imagen, a partir de su posición</translation>
+    </message>
+    <message>
+        <source>Of the watermark&apos;s longer side</source>
+        <translation>Del lado mayor de la marca de agua</translation>
+    </message>
+    <message>
+        <source>Gaps between repeated watermarks</source>
+        <translation>Espacios entre marcas de agua repetidas</translation>
+    </message>
+    <message>
+        <source>of its longer side</source>
+        <translation>de su lado mayor</translation>
+    </message>
+    <message>
+        <source>T&amp;urn:</source>
+        <translation>&amp;Giro:</translation>
+    </message>
+    <message>
+        <source>Of the watermark, against the clock</source>
+        <translation>De la marca de agua, en sentido antihorario</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>&amp;Vista previa</translation>
+    </message>
+    <message>
+        <source>Shows what these settings make of three images of the folder; nothing is written</source>
+        <translation>Muestra el resultado de estos ajustes en tres imágenes de la carpeta; no se escribe nada</translation>
+    </message>
+    <message>
+        <source>Repeated &amp;all over, with gaps of</source>
+        <translation>Repetida por toda la &amp;imagen, con espacios del</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -2240,6 +2296,29 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessorPreview</name>
+    <message>
+        <source>Looking at the folder…</source>
+        <translation>Examinando la carpeta…</translation>
+    </message>
+    <message>
+        <source>%1 (of %2 in the folder)</source>
+        <translation>%1 (de %2 en la carpeta)</translation>
+    </message>
+    <message>
+        <source>The folder has no .tiff or .jpg image.</source>
+        <translation>La carpeta no tiene imágenes .tiff ni .jpg.</translation>
+    </message>
+    <message>
+        <source>The largest, the middle and the smallest of %1 images of one shape</source>
+        <translation>La mayor, la mediana y la menor de %1 imágenes de la misma forma</translation>
+    </message>
+    <message>
+        <source>The widest, the tallest and the squarest of %1 images</source>
+        <translation>La más ancha, la más alta y la más cuadrada de %1 imágenes</translation>
     </message>
 </context>
 <context>

@@ -1068,6 +1068,62 @@
         <source>Run</source>
         <translation>Lancer</translation>
     </message>
+    <message>
+        <source>&amp;Relative: its longer side is</source>
+        <translation>&amp;Relatif&#xa0;: son grand côté fait</translation>
+    </message>
+    <message>
+        <source>The watermark looks the same on small and large images, upright or flat: size, margin and position are in percent</source>
+        <translation>Le filigrane a le même aspect sur de petites et de grandes images, en portrait ou en paysage&#xa0;: taille, marge et position sont en pour cent</translation>
+    </message>
+    <message>
+        <source>Of the shorter side of each image</source>
+        <translation>Du petit côté de chaque image</translation>
+    </message>
+    <message>
+        <source>Size of the watermark</source>
+        <translation>Taille du filigrane</translation>
+    </message>
+    <message>
+        <source>of the image&apos;s shorter side</source>
+        <translation>du petit côté de l’image</translation>
+    </message>
+    <message>
+        <source>The watermark covers the whole image, from its position on</source>
+        <translation>Le filigrane couvre toute l’image, à partir de sa position</translation>
+    </message>
+    <message>
+        <source>Of the watermark&apos;s longer side</source>
+        <translation>Du grand côté du filigrane</translation>
+    </message>
+    <message>
+        <source>Gaps between repeated watermarks</source>
+        <translation>Espaces entre les filigranes répétés</translation>
+    </message>
+    <message>
+        <source>of its longer side</source>
+        <translation>de son grand côté</translation>
+    </message>
+    <message>
+        <source>T&amp;urn:</source>
+        <translation>Rotatio&amp;n&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Of the watermark, against the clock</source>
+        <translation>Du filigrane, dans le sens inverse des aiguilles d’une montre</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>Aperç&amp;u</translation>
+    </message>
+    <message>
+        <source>Shows what these settings make of three images of the folder; nothing is written</source>
+        <translation>Montre ce que ces réglages font de trois images du dossier&#xa0;; rien n’est écrit</translation>
+    </message>
+    <message>
+        <source>Repeated &amp;all over, with gaps of</source>
+        <translation>Répété partout, avec des &amp;espaces de</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -2240,6 +2296,29 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessorPreview</name>
+    <message>
+        <source>Looking at the folder…</source>
+        <translation>Examen du dossier…</translation>
+    </message>
+    <message>
+        <source>%1 (of %2 in the folder)</source>
+        <translation>%1 (sur %2 dans le dossier)</translation>
+    </message>
+    <message>
+        <source>The folder has no .tiff or .jpg image.</source>
+        <translation>Le dossier ne contient aucune image .tiff ou .jpg.</translation>
+    </message>
+    <message>
+        <source>The largest, the middle and the smallest of %1 images of one shape</source>
+        <translation>La plus grande, la moyenne et la plus petite de %1 images de même forme</translation>
+    </message>
+    <message>
+        <source>The widest, the tallest and the squarest of %1 images</source>
+        <translation>La plus large, la plus haute et la plus carrée de %1 images</translation>
     </message>
 </context>
 <context>

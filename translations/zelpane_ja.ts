@@ -1058,6 +1058,62 @@
         <source>Run</source>
         <translation>実行</translation>
     </message>
+    <message>
+        <source>&amp;Relative: its longer side is</source>
+        <translation>相対サイズ(&amp;R): 長辺は</translation>
+    </message>
+    <message>
+        <source>The watermark looks the same on small and large images, upright or flat: size, margin and position are in percent</source>
+        <translation>大小や縦横に関係なく、透かしはどの画像でも同じに見えます。大きさ、余白、位置はパーセントです</translation>
+    </message>
+    <message>
+        <source>Of the shorter side of each image</source>
+        <translation>各画像の短辺に対する割合</translation>
+    </message>
+    <message>
+        <source>Size of the watermark</source>
+        <translation>透かしの大きさ</translation>
+    </message>
+    <message>
+        <source>of the image&apos;s shorter side</source>
+        <translation>(画像の短辺に対して)</translation>
+    </message>
+    <message>
+        <source>The watermark covers the whole image, from its position on</source>
+        <translation>透かしがその位置から画像全体を覆います</translation>
+    </message>
+    <message>
+        <source>Of the watermark&apos;s longer side</source>
+        <translation>透かしの長辺に対する割合</translation>
+    </message>
+    <message>
+        <source>Gaps between repeated watermarks</source>
+        <translation>繰り返す透かしの間隔</translation>
+    </message>
+    <message>
+        <source>of its longer side</source>
+        <translation>(長辺に対して)</translation>
+    </message>
+    <message>
+        <source>T&amp;urn:</source>
+        <translation>回転(&amp;U):</translation>
+    </message>
+    <message>
+        <source>Of the watermark, against the clock</source>
+        <translation>透かしを反時計回りに回転</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>プレビュー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Shows what these settings make of three images of the folder; nothing is written</source>
+        <translation>フォルダー内の 3 枚の画像がこの設定でどうなるかを表示します。何も書き込みません</translation>
+    </message>
+    <message>
+        <source>Repeated &amp;all over, with gaps of</source>
+        <translation>全体に繰り返す(&amp;A)、間隔は</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -2230,6 +2286,29 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessorPreview</name>
+    <message>
+        <source>Looking at the folder…</source>
+        <translation>フォルダーを調べています…</translation>
+    </message>
+    <message>
+        <source>%1 (of %2 in the folder)</source>
+        <translation>%1 (フォルダー内 %2 枚のうち)</translation>
+    </message>
+    <message>
+        <source>The folder has no .tiff or .jpg image.</source>
+        <translation>フォルダーに .tiff または .jpg の画像がありません。</translation>
+    </message>
+    <message>
+        <source>The largest, the middle and the smallest of %1 images of one shape</source>
+        <translation>同じ形の %1 枚のうち最大、中間、最小の画像</translation>
+    </message>
+    <message>
+        <source>The widest, the tallest and the squarest of %1 images</source>
+        <translation>%1 枚のうち最も横長、最も縦長、最も正方形に近い画像</translation>
     </message>
 </context>
 <context>

@@ -1068,6 +1068,62 @@
         <source>Run</source>
         <translation>Executar</translation>
     </message>
+    <message>
+        <source>&amp;Relative: its longer side is</source>
+        <translation>&amp;Relativa: seu lado maior tem</translation>
+    </message>
+    <message>
+        <source>The watermark looks the same on small and large images, upright or flat: size, margin and position are in percent</source>
+        <translation>A marca d’água tem a mesma aparência em imagens pequenas e grandes, em pé ou deitadas: tamanho, margem e posição são em porcentagem</translation>
+    </message>
+    <message>
+        <source>Of the shorter side of each image</source>
+        <translation>Do lado menor de cada imagem</translation>
+    </message>
+    <message>
+        <source>Size of the watermark</source>
+        <translation>Tamanho da marca d’água</translation>
+    </message>
+    <message>
+        <source>of the image&apos;s shorter side</source>
+        <translation>do lado menor da imagem</translation>
+    </message>
+    <message>
+        <source>The watermark covers the whole image, from its position on</source>
+        <translation>A marca d’água cobre toda a imagem, a partir de sua posição</translation>
+    </message>
+    <message>
+        <source>Of the watermark&apos;s longer side</source>
+        <translation>Do lado maior da marca d’água</translation>
+    </message>
+    <message>
+        <source>Gaps between repeated watermarks</source>
+        <translation>Espaços entre as marcas d’água repetidas</translation>
+    </message>
+    <message>
+        <source>of its longer side</source>
+        <translation>de seu lado maior</translation>
+    </message>
+    <message>
+        <source>T&amp;urn:</source>
+        <translation>&amp;Giro:</translation>
+    </message>
+    <message>
+        <source>Of the watermark, against the clock</source>
+        <translation>Da marca d’água, no sentido anti-horário</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>Pré&amp;via</translation>
+    </message>
+    <message>
+        <source>Shows what these settings make of three images of the folder; nothing is written</source>
+        <translation>Mostra o que estes ajustes fazem de três imagens da pasta; nada é gravado</translation>
+    </message>
+    <message>
+        <source>Repeated &amp;all over, with gaps of</source>
+        <translation>Repetida por toda a &amp;imagem, com espaços de</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -2240,6 +2296,29 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessorPreview</name>
+    <message>
+        <source>Looking at the folder…</source>
+        <translation>Examinando a pasta…</translation>
+    </message>
+    <message>
+        <source>%1 (of %2 in the folder)</source>
+        <translation>%1 (de %2 na pasta)</translation>
+    </message>
+    <message>
+        <source>The folder has no .tiff or .jpg image.</source>
+        <translation>A pasta não tem imagens .tiff nem .jpg.</translation>
+    </message>
+    <message>
+        <source>The largest, the middle and the smallest of %1 images of one shape</source>
+        <translation>A maior, a média e a menor de %1 imagens da mesma forma</translation>
+    </message>
+    <message>
+        <source>The widest, the tallest and the squarest of %1 images</source>
+        <translation>A mais larga, a mais alta e a mais quadrada de %1 imagens</translation>
     </message>
 </context>
 <context>

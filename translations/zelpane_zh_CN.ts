@@ -1058,6 +1058,62 @@
         <source>Run</source>
         <translation>运行</translation>
     </message>
+    <message>
+        <source>&amp;Relative: its longer side is</source>
+        <translation>相对大小(&amp;R)：长边为</translation>
+    </message>
+    <message>
+        <source>The watermark looks the same on small and large images, upright or flat: size, margin and position are in percent</source>
+        <translation>无论图像大小、横竖，水印看起来都一样：大小、边距和位置均为百分比</translation>
+    </message>
+    <message>
+        <source>Of the shorter side of each image</source>
+        <translation>相对于每张图像的短边</translation>
+    </message>
+    <message>
+        <source>Size of the watermark</source>
+        <translation>水印大小</translation>
+    </message>
+    <message>
+        <source>of the image&apos;s shorter side</source>
+        <translation>（相对于图像短边）</translation>
+    </message>
+    <message>
+        <source>The watermark covers the whole image, from its position on</source>
+        <translation>水印从其位置开始铺满整张图像</translation>
+    </message>
+    <message>
+        <source>Of the watermark&apos;s longer side</source>
+        <translation>相对于水印的长边</translation>
+    </message>
+    <message>
+        <source>Gaps between repeated watermarks</source>
+        <translation>重复水印之间的间距</translation>
+    </message>
+    <message>
+        <source>of its longer side</source>
+        <translation>（相对于其长边）</translation>
+    </message>
+    <message>
+        <source>T&amp;urn:</source>
+        <translation>旋转(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Of the watermark, against the clock</source>
+        <translation>逆时针旋转水印</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view</source>
+        <translation>预览(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Shows what these settings make of three images of the folder; nothing is written</source>
+        <translation>显示这些设置在文件夹中三张图像上的效果；不写入任何文件</translation>
+    </message>
+    <message>
+        <source>Repeated &amp;all over, with gaps of</source>
+        <translation>铺满整张图像(&amp;A)，间距为</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -2230,6 +2286,29 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessorPreview</name>
+    <message>
+        <source>Looking at the folder…</source>
+        <translation>正在查看文件夹…</translation>
+    </message>
+    <message>
+        <source>%1 (of %2 in the folder)</source>
+        <translation>%1（文件夹中共 %2 张）</translation>
+    </message>
+    <message>
+        <source>The folder has no .tiff or .jpg image.</source>
+        <translation>文件夹中没有 .tiff 或 .jpg 图像。</translation>
+    </message>
+    <message>
+        <source>The largest, the middle and the smallest of %1 images of one shape</source>
+        <translation>%1 张同形状图像中最大、居中和最小的一张</translation>
+    </message>
+    <message>
+        <source>The widest, the tallest and the squarest of %1 images</source>
+        <translation>%1 张图像中最宽、最高和最接近正方形的一张</translation>
     </message>
 </context>
 <context>

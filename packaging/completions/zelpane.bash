@@ -21,14 +21,14 @@ _zelpane() {
         COMPREPLY=($(compgen -W 'lower-left lower-right upper-left upper-right centre' -- "$cur"))
         return
         ;;
-    --set | --fit | --at | --opacity | --jobs)
+    --set | --fit | --at | --relative | --tile | --turn | --opacity | --jobs)
         return
         ;;
     esac
     local options='--new --open --image-processor --script --show --offscreen --no-start-choice --offer-recovery --help --version'
     [ "$cword" -eq 1 ] && options+=' --batch --thumbnail --decode'
     if [ "${words[1]}" = --batch ] && [ "$cword" -gt 1 ]; then
-        options='--tiff --jpeg --script --set --fit --watermark --at --place --opacity --strip --jobs --shard --keep-damaged --skip-existing --dry-run --help'
+        options='--tiff --jpeg --script --set --fit --watermark --at --place --relative --tile --turn --opacity --strip --jobs --shard --keep-damaged --skip-existing --dry-run --help'
     fi
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W "$options" -- "$cur"))

@@ -10,6 +10,7 @@
 #include <charconv>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <optional>
 #include <string_view>
@@ -37,6 +38,12 @@ Converts every .tiff and .jpg image of the folder SRC into the folder DST.
   --place CORNER[+N]  instead: lower-left, lower-right, upper-left, upper-right
                       or centre, in each image by its own size, N pixels away
                       from the edges of its corner (0)
+  --relative P        as large as the image asks for: its longer side is P percent
+                      of the image's shorter side (1 to 100); X, Y and N above
+                      are percents of that side then
+  --tile GAP          repeat it over the whole image, from its place on; GAP is
+                      between them, in percent of its longer side (0 to 400)
+  --turn DEGREES      turn it, and the rows of --tile, against the clock
   --opacity P         in percent (100)
   --strip private     leave place, device and names out of what is written
   --jobs N            images at a time (as many as there are processors)
@@ -121,6 +128,20 @@ std::string takeValue(BatchCommandLine& line, const std::string& option, const s
         if (!placing) return wrong;
         s.watermarkPlace = placing->place;
         s.watermarkMargin = placing->margin;
+    } else if (option == "--relative") {
+        const auto percent = number(value);
+        if (!percent || *percent < 1 || *percent > kLargestWatermark) return wrong;
+        s.watermarkLayout.relative = true;
+        s.watermarkLayout.size = *percent;
+    } else if (option == "--tile") {
+        const auto percent = number(value);
+        if (!percent || *percent < 0 || *percent > kLargestWatermarkGap) return wrong;
+        s.watermarkLayout.tiled = true;
+        s.watermarkLayout.gap = *percent;
+    } else if (option == "--turn") {
+        const auto degrees = number(value);
+        if (!degrees || std::abs(*degrees) > kLargestWatermarkTurn) return wrong;
+        s.watermarkLayout.turn = *degrees;
     } else if (option == "--opacity") {
         const auto percent = number(value);
         if (!percent || *percent < 0) return wrong;
@@ -142,8 +163,8 @@ std::string takeValue(BatchCommandLine& line, const std::string& option, const s
 
 bool hasValue(const std::string& option)
 {
-    for (const char* known :
-         {"--script", "--set", "--fit", "--watermark", "--at", "--place", "--opacity", "--jobs", "--shard", "--strip"})
+    for (const char* known : {"--script", "--set", "--fit", "--watermark", "--at", "--place", "--relative", "--tile",
+                              "--turn", "--opacity", "--jobs", "--shard", "--strip"})
         if (option == known) return true;
     return false;
 }
@@ -234,6 +255,7 @@ BatchCommandLine parseBatchCommandLine(int argc, char** argv)
         line.error = "--at and --place say the same thing twice.";
     if (line.error.empty() && line.scriptPath.empty() && !line.scriptValues.empty())
         line.error = "--set is of use with --script only.";
+    line.settings.watermarkLayout.margin = line.settings.watermarkMargin;
     if (!jobsGiven) line.settings.jobs = 0; // as many as the machine has processors
     return line;
 }

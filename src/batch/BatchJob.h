@@ -5,6 +5,7 @@
 #include "base/Geometry.h"
 #include "batch/BatchRules.h"
 #include "batch/BatchShard.h"
+#include "batch/WatermarkLayout.h"
 #include <functional>
 #include <memory>
 #include <string>
@@ -23,7 +24,8 @@ struct BatchSettings {
     Point watermarkPoint; ///< lower-left corner, y upwards
     /// Where it sits in each picture, by that picture's size; Custom: at watermarkPoint.
     WatermarkPlace watermarkPlace = WatermarkPlace::Custom;
-    int watermarkMargin = 0; ///< between the watermark and the edges of its corner, in pixels
+    int watermarkMargin = 0;         ///< between the watermark and the edges of its corner, in pixels
+    WatermarkLayout watermarkLayout; ///< a relative one: the point is in percent, the margin the layout's own
     float watermarkAlpha = 1;
     bool tiff = false, jpeg = false;
     bool keepDamaged = false;    ///< results are written, and failures reported, of sources that can be read in part

@@ -52,8 +52,8 @@ std::string writeResult(const std::vector<std::uint8_t>& bytes, const std::strin
 
 } // namespace
 
-BatchPicture::BatchPicture(const BatchSettings& settings, std::string name)
-    : mSettings(settings), mName(std::move(name)), mFile(settings.source + "/" + mName)
+BatchPicture::BatchPicture(const BatchSettings& settings, std::string name, int preview)
+    : mSettings(settings), mName(std::move(name)), mFile(settings.source + "/" + mName), mPreviewSide(preview)
 {
     if (auto target = resolveAlias(mFile)) mFile = std::move(*target);
 }
@@ -63,16 +63,20 @@ std::string BatchPicture::jpegPath() const { return batchOutput(mSettings.destin
 
 void BatchPicture::fitsTo(int width, int height)
 {
-    const Size whole =
-        wholePixels(fittedSize({float(width), float(height)}, float(mSettings.fitWidth), float(mSettings.fitHeight)));
-    mWidth = int(whole.width);
-    mHeight = int(whole.height);
+    mResult = {float(width), float(height)};
+    if (mSettings.fits())
+        mResult = wholePixels(fittedSize(mResult, float(mSettings.fitWidth), float(mSettings.fitHeight)));
+    Size made = mResult;
+    const auto side = float(mPreviewSide);
+    if (mPreviewSide > 0 && (made.width > side || made.height > side)) made = wholePixels(fittedSize(made, side, side));
+    mWidth = int(made.width);
+    mHeight = int(made.height);
 }
 
 std::string BatchPicture::read()
 {
     ImportOptions options;
-    if (mSettings.fits() && mSettings.reducedDecoding && !mSettings.script) {
+    if (isResized() && mSettings.reducedDecoding && !mSettings.script) {
         // The result's size follows from the file's own, so that a reduced decode changes no size by a rounding.
         const PixelDimensions size = imageFileDimensions(mFile);
         if (size.width > 0) {
@@ -99,8 +103,8 @@ std::string BatchPicture::play() { return mSettings.script ? mSettings.script->p
 
 std::string BatchPicture::fit()
 {
-    if (mSettings.fits() && mWidth == 0) fitsTo(mPixels->pixelsWide(), mPixels->pixelsHigh());
-    if (!mSettings.fits() || (mWidth == mPixels->pixelsWide() && mHeight == mPixels->pixelsHigh())) return {};
+    if (mWidth == 0) fitsTo(mPixels->pixelsWide(), mPixels->pixelsHigh());
+    if (mWidth == mPixels->pixelsWide() && mHeight == mPixels->pixelsHigh()) return {};
     auto fitted = BitmapRep::createUninitialized(mWidth, mHeight);
     if (!fitted) return kNoMemory;
     resample(std::as_const(*mPixels).view(), mReduction, fitted->view());
@@ -111,13 +115,8 @@ std::string BatchPicture::fit()
 
 void BatchPicture::stamp()
 {
-    if (!mSettings.watermark) return;
-    const Size size = sizeInPoints(*mSettings.watermark);
-    const Size picture{float(mPixels->pixelsWide()), float(mPixels->pixelsHigh())};
-    const Point point = mSettings.watermarkPlace == WatermarkPlace::Custom
-                            ? mSettings.watermarkPoint
-                            : watermarkPosition(mSettings.watermarkPlace, picture, size, mSettings.watermarkMargin);
-    drawWatermark(mPixels->view(), mSettings.watermark->view(), size, point, mSettings.watermarkAlpha);
+    const Size result = mResult.width > 0 ? mResult : Size{float(mPixels->pixelsWide()), float(mPixels->pixelsHigh())};
+    stampWatermark(mSettings, result, mPixels->view());
 }
 
 std::string BatchPicture::writeTIFF() const
@@ -128,6 +127,24 @@ std::string BatchPicture::writeTIFF() const
 std::string BatchPicture::writeJPEG() const
 {
     return writeResult(encodeJPEG(mPixels->view(), mPixels->properties, {.fallbackBackground = kWhite}), jpegPath());
+}
+
+void stampWatermark(const BatchSettings& settings, Size result, BitmapView image)
+{
+    if (!settings.watermark) return;
+    const Size size = sizeInPoints(*settings.watermark);
+    const ConstBitmapView mark = settings.watermark->view();
+    const float alpha = settings.watermarkAlpha;
+    if (!settings.watermarkLayout.isAsGiven())
+        return drawWatermarks(image, mark,
+                              planWatermark(settings.watermarkLayout, size, result, settings.watermarkPlace,
+                                            settings.watermarkPoint, settings.watermarkMargin),
+                              result, alpha);
+    const Point point = settings.watermarkPlace == WatermarkPlace::Custom
+                            ? settings.watermarkPoint
+                            : watermarkPosition(settings.watermarkPlace, result, size, settings.watermarkMargin);
+    const float across = float(image.width) / result.width, down = float(image.height) / result.height;
+    drawWatermark(image, mark, {size.width * across, size.height * down}, {point.x * across, point.y * down}, alpha);
 }
 
 } // namespace zp

@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Places a watermark by the picture's lower left corner.
 #include "batch/WatermarkDrawing.h"
+#include "base/WorkPool.h"
 #include "drawing/BitmapContext.h"
+#include "drawing/Resample.h"
+#include <cmath>
+#include <memory>
+#include <new>
+#include <utility>
 
 namespace zp
 {
@@ -16,6 +22,35 @@ float inPoints(int pixels, double dpi)
 {
     const bool meant = dpi >= kLeastDpi && dpi <= kMostDpi;
     return meant ? float(pixels * kPointsPerInch / dpi) : float(pixels);
+}
+
+/// Enough rows for a band to be worth a thread, few enough for marks in one part of a picture to be shared out.
+constexpr int kRowsPerBand = 128;
+
+using Stamp = std::shared_ptr<const BitmapRep>;
+
+int wholeSide(double side) { return std::max(1, int(std::lround(side))); }
+
+Stamp inSize(ConstBitmapView watermark, int width, int height)
+{
+    auto stamp = BitmapRep::createUninitialized(width, height);
+    if (!stamp) throw std::bad_alloc();
+    resample(watermark, stamp->view());
+    return stamp;
+}
+
+/// The upright stamp, size.width by size.height, turned about the middle of a clear box.
+Stamp turned(const Stamp& upright, Size size, int turn, int width, int height)
+{
+    auto stamp = BitmapRep::create(width, height);
+    if (!stamp) throw std::bad_alloc();
+    BitmapContext context(stamp->view());
+    AffineTransform map;
+    map.translate(width / 2.0, height / 2.0);
+    map.rotateByDegrees(-turn); // y grows downwards
+    context.concat(map);
+    context.drawImage(upright->view(), {{-size.width / 2, -size.height / 2}, size}, upright->view().box().rect());
+    return stamp;
 }
 } // namespace
 
@@ -32,6 +67,27 @@ void drawWatermark(BitmapView image, ConstBitmapView watermark, Size size, Point
     const auto top = float(double(image.height) - double(point.y) - double(size.height));
     context.drawImage(watermark, {{point.x, top}, size}, watermark.box().rect(), CompositingOperation::SourceOver,
                       alpha);
+}
+
+void drawWatermarks(BitmapView image, ConstBitmapView watermark, const WatermarkPlan& plan, Size planned, float alpha)
+{
+    if (image.isEmpty() || watermark.isEmpty()) return;
+    const double across = image.width / double(planned.width), down = image.height / double(planned.height);
+    const auto scaled = [&](Size size) { return Size{float(size.width * across), float(size.height * down)}; };
+    const Size size = scaled(plan.size), box = scaled(plan.box);
+    Stamp stamp = inSize(watermark, wholeSide(size.width), wholeSide(size.height));
+    if (plan.turn % 360 != 0) stamp = turned(stamp, size, plan.turn, wholeSide(box.width), wholeSide(box.height));
+    const ConstBitmapView ink = stamp->view();
+    // Bands of the image, each with all marks that touch it: marks of one row seldom keep two processors busy.
+    parallelBands(image.height, kRowsPerBand, [&](int first, int last) {
+        BitmapContext context(image.part({0, first, image.width, last}));
+        for (const PixelPoint place : plan.places) {
+            const auto top = float(place.y * down);
+            if (top >= float(last) || top + box.height <= float(first)) continue;
+            context.drawImage(ink, {{float(place.x * across), top - float(first)}, box}, ink.box().rect(),
+                              CompositingOperation::SourceOver, alpha);
+        }
+    });
 }
 
 } // namespace zp

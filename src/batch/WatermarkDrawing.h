@@ -3,6 +3,7 @@
 #pragma once
 #include "base/BitmapRep.h"
 #include "base/Geometry.h"
+#include "batch/WatermarkLayout.h"
 
 namespace zp
 {
@@ -14,5 +15,11 @@ Size sizeInPoints(const BitmapRep& picture);
 /// image's lower left corner, y upwards. What falls outside is cut.
 /// @param alpha 0 to 1; values above count as 1
 void drawWatermark(BitmapView image, ConstBitmapView watermark, Size size, Point point, float alpha);
+
+/// Draws the watermark once in the plan's size and turn, and stamps that at every place of the plan, in their order.
+/// @param planned  the picture that the plan is for; an image of another size shows it smaller, and the marks with it
+/// @throw std::bad_alloc  when there is no memory for the stamp; the image is untouched then
+/// Both cores. Cost: the stamp, and a source-over of what its places cover.
+void drawWatermarks(BitmapView image, ConstBitmapView watermark, const WatermarkPlan& plan, Size planned, float alpha);
 
 } // namespace zp

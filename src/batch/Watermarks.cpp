@@ -6,6 +6,14 @@
 
 namespace zp
 {
+namespace
+{
+
+constexpr std::uint64_t kLargestLayout = 4096; ///< bytes; ours have some seventy
+
+std::string layoutPath(const std::string& name) { return pathByAppending(watermarkFolder(), name) + ".layout"; }
+
+} // namespace
 
 std::string watermarkFolder() { return pathByAppending(applicationSupportFolder(), "Watermarks"); }
 
@@ -23,6 +31,22 @@ std::vector<std::string> watermarkNames()
     std::vector<std::string> names = contentsOfFolder(watermarkFolder());
     std::erase_if(names, [](const std::string& name) { return !isBatchSource(name); });
     return names;
+}
+
+WatermarkLayout keptWatermarkLayout(const std::string& name)
+{
+    const auto text = readWholeFile(layoutPath(name), kLargestLayout);
+    return text ? layoutOfText(*text) : WatermarkLayout();
+}
+
+void keepWatermarkLayout(const std::string& name, const WatermarkLayout& layout)
+{
+    if (keptWatermarkLayout(name) == layout) return;
+    const std::string path = layoutPath(name), text = textOfLayout(layout);
+    if (layout == WatermarkLayout())
+        removeItem(path);
+    else
+        writeFileSafely(path, text.data(), text.size());
 }
 
 } // namespace zp

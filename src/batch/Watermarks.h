@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The folder of watermarks.
 #pragma once
+#include "batch/WatermarkLayout.h"
 #include <string>
 #include <vector>
 
@@ -14,5 +15,12 @@ std::string watermarkFolder();
 void prepareWatermarkFolder();
 /// File names of all watermarks, in the folder's order.
 std::vector<std::string> watermarkNames();
+
+/// How the watermark of that name was last used: kept beside it in "NAME.layout", which is no watermark's name, so that
+/// earlier versions pass it over. As given when nothing is kept.
+WatermarkLayout keptWatermarkLayout(const std::string& name);
+/// Keeps it; one that is as given leaves no file, and one that is kept already is not written again. A file that cannot
+/// be written is passed over.
+void keepWatermarkLayout(const std::string& name, const WatermarkLayout& layout);
 
 } // namespace zp

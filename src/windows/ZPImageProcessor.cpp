@@ -16,6 +16,7 @@
 #include "document/Picture.h"
 #include "operations/Files.h"
 #include "ui_ImageProcessor.h"
+#include "windows/ProcessorPreview.h"
 #include <QApplication>
 #include <QDialog>
 #include <any>
@@ -57,8 +58,23 @@ ZPImageProcessor::ZPImageProcessor()
     connect(mUi->mImageSizeFit, &QCheckBox::toggled, this, &ZPImageProcessor::resizeToFit);
     connect(mUi->mWatermarkPosition, &QComboBox::activated, this, &ZPImageProcessor::placeByPreset);
     connect(mUi->mWatermarkEachPicture, &QCheckBox::toggled, this, &ZPImageProcessor::placeInEachPicture);
+    connect(mUi->mWatermark, &QComboBox::activated, this, &ZPImageProcessor::chooseWatermark);
+    connect(mUi->mWatermarkRelative, &QCheckBox::toggled, this, &ZPImageProcessor::sizeByPicture);
+    connect(mUi->mWatermarkTiled, &QCheckBox::toggled, mUi->mWatermarkGap, &QSpinBox::setEnabled);
+    connect(mUi->mPreviewButton, &QPushButton::toggled, this, &ZPImageProcessor::preview);
+    mPreviewing = std::make_unique<ProcessorPreview>(*mUi, [this] { return settings(); });
     resizeToFit();
     placeInEachPicture();
+    mPixelsSuffix = mUi->mWatermarkMargin->suffix();
+    for (auto* field : {mUi->mWatermarkMargin, mUi->mWatermarkPositionX, mUi->mWatermarkPositionY}) {
+        // As wide as the wider of its units, so that nothing moves when they change.
+        const QString suffix = field->suffix();
+        if (suffix.isEmpty()) field->setSuffix(mUi->mWatermarkSize->suffix());
+        field->setMinimumWidth(field->sizeHint().width());
+        field->setSuffix(suffix);
+    }
+    mUi->mWatermarkSize->setEnabled(false);
+    mUi->mWatermarkGap->setEnabled(false);
     mUi->mProgressBar->setValue(0);
     mUi->mProgressBar->hide();
     NotificationCenter::defaultCenter().addObserver(this, "_canvasNotif", [this](const Notification& notification) {
@@ -75,10 +91,12 @@ void ZPImageProcessor::showWindow()
         mWindow->raise();
         return;
     }
-    centerWindow(mWindow.get());
     fillWatermarks();
+    preview();
+    centerWindow(mWindow.get());
     mCancelled = false;
     mWindow->exec();
+    mPreviewing->end();
 }
 
 void ZPImageProcessor::close() { mWindow->done(0); }
@@ -136,6 +154,29 @@ void ZPImageProcessor::resizeToFit()
 
 QByteArray ZPImageProcessor::chosenWatermark() const { return mUi->mWatermark->currentData().toByteArray(); }
 
+std::shared_ptr<const BitmapRep> ZPImageProcessor::watermark() const
+{
+    const QByteArray name = chosenWatermark();
+    if (name.isEmpty()) return nullptr;
+    const std::string path = pathByAppending(watermarkFolder(), name.toStdString());
+    const auto stamp = fileStamp(path);
+    if (!stamp || path != mWatermark.path || *stamp != mWatermark.stamp)
+        mWatermark = {path, stamp.value_or(FileStamp()), importImageFile(path).bitmap};
+    return mWatermark.bitmap;
+}
+
+WatermarkLayout ZPImageProcessor::watermarkLayout() const
+{
+    WatermarkLayout layout;
+    layout.relative = mUi->mWatermarkRelative->isChecked();
+    layout.size = mUi->mWatermarkSize->value();
+    layout.margin = layout.relative ? mUi->mWatermarkMargin->value() : mOtherUnit.margin;
+    layout.tiled = mUi->mWatermarkTiled->isChecked();
+    layout.gap = mUi->mWatermarkGap->value();
+    layout.turn = mUi->mWatermarkTurn->value();
+    return layout;
+}
+
 BatchSettings ZPImageProcessor::settings() const
 {
     BatchSettings settings;
@@ -145,8 +186,8 @@ BatchSettings ZPImageProcessor::settings() const
         settings.fitWidth = mUi->mImageSizeW->value();
         settings.fitHeight = mUi->mImageSizeH->value();
     }
-    if (const QByteArray name = chosenWatermark(); !name.isEmpty())
-        settings.watermark = importImageFile(pathByAppending(watermarkFolder(), name.toStdString())).bitmap;
+    settings.watermark = watermark();
+    settings.watermarkLayout = watermarkLayout();
     settings.watermarkPoint = {float(mUi->mWatermarkPositionX->value()), float(mUi->mWatermarkPositionY->value())};
     if (mUi->mWatermarkEachPicture->isChecked()) {
         settings.watermarkPlace = WatermarkPlace(mUi->mWatermarkPosition->currentIndex());
@@ -163,7 +204,7 @@ void ZPImageProcessor::placeByPreset()
     const auto place = WatermarkPlace(mUi->mWatermarkPosition->currentIndex());
     placeInEachPicture();
     if (place == WatermarkPlace::Custom || mUi->mWatermarkEachPicture->isChecked()) return;
-    const std::shared_ptr<const BitmapRep> mark = settings().watermark;
+    const std::shared_ptr<const BitmapRep> mark = watermark();
     const Size box{float(mUi->mImageSizeW->value()), float(mUi->mImageSizeH->value())};
     const Point at = watermarkPosition(place, box, mark ? sizeInPoints(*mark) : Size{});
     mUi->mWatermarkPositionX->setValue(int(at.x));
@@ -177,6 +218,51 @@ void ZPImageProcessor::placeInEachPicture()
     mUi->mWatermarkMargin->setEnabled(each && preset);
     mUi->mWatermarkPositionX->setEnabled(!each || !preset);
     mUi->mWatermarkPositionY->setEnabled(!each || !preset);
+}
+
+void ZPImageProcessor::chooseWatermark()
+{
+    const QByteArray name = chosenWatermark();
+    if (name.isEmpty()) return;
+    const WatermarkLayout kept = keptWatermarkLayout(name.toStdString());
+    mUi->mWatermarkRelative->setChecked(kept.relative);
+    mUi->mWatermarkSize->setValue(kept.size);
+    if (kept.relative)
+        mUi->mWatermarkMargin->setValue(kept.margin);
+    else
+        mOtherUnit.margin = kept.margin;
+    mUi->mWatermarkTiled->setChecked(kept.tiled);
+    mUi->mWatermarkGap->setValue(kept.gap);
+    mUi->mWatermarkTurn->setValue(kept.turn);
+}
+
+void ZPImageProcessor::sizeByPicture()
+{
+    const bool relative = mUi->mWatermarkRelative->isChecked();
+    mUi->mWatermarkSize->setEnabled(relative);
+    const Placing left{mUi->mWatermarkPositionX->value(), mUi->mWatermarkPositionY->value(),
+                       mUi->mWatermarkMargin->value()};
+    const Placing found = std::exchange(mOtherUnit, left);
+    // A position that fits one box means nothing in percent: relative ones are placed in each picture.
+    if (relative) mEachPictureInPixels = mUi->mWatermarkEachPicture->isChecked();
+    mUi->mWatermarkEachPicture->setChecked(relative || mEachPictureInPixels);
+    mUi->mWatermarkEachPicture->setEnabled(!relative);
+    mUi->mWatermarkMargin->setMaximum(relative ? kLargestWatermark : kMaxPixelsPerSide);
+    mUi->mWatermarkMargin->setSuffix(relative ? mUi->mWatermarkSize->suffix() : mPixelsSuffix);
+    mUi->mWatermarkMargin->setValue(found.margin);
+    for (const auto& [field, value] :
+         {std::pair(mUi->mWatermarkPositionX, found.x), {mUi->mWatermarkPositionY, found.y}}) {
+        field->setSuffix(relative ? mUi->mWatermarkSize->suffix() : QString());
+        field->setValue(value);
+    }
+}
+
+void ZPImageProcessor::preview()
+{
+    if (mUi->mPreviewButton->isChecked())
+        mPreviewing->begin();
+    else
+        mPreviewing->end();
 }
 
 void ZPImageProcessor::showProgress(int value, const QString& text)
@@ -204,6 +290,10 @@ void ZPImageProcessor::run()
     }
     mRunning = true;
     mCancelled = false;
+    mUi->mPreviewButton->setEnabled(false);
+    mPreviewing->pause();
+    if (const QByteArray name = chosenWatermark(); !name.isEmpty())
+        keepWatermarkLayout(name.toStdString(), chosen.watermarkLayout);
     mUi->settings->setEnabled(false);
     mUi->mRunButton->setEnabled(false);
     mWindow->raise();
@@ -229,6 +319,7 @@ void ZPImageProcessor::run()
     mUi->mProgressText->clear();
     mUi->settings->setEnabled(true);
     mUi->mRunButton->setEnabled(true);
+    mUi->mPreviewButton->setEnabled(true);
     mUi->mCancelButton->setEnabled(true);
     mRunning = false;
     if (any) playSound("Glass");

@@ -423,6 +423,12 @@ TEST_F(Batch, CommandLineUnderstandsItsOptions)
         EXPECT_EQ(placed.settings.watermarkPlace, p.place) << p.word;
         EXPECT_EQ(placed.settings.watermarkMargin, p.margin) << p.word;
     }
+    EXPECT_EQ(line.settings.watermarkLayout, WatermarkLayout{.margin = 0});
+    const auto laid = parse({source(), destination(), "--jpeg", "--relative", "20", "--place", "lower-left+4",
+                             "--tile=0", "--turn", "-30"});
+    EXPECT_EQ(laid.error, "");
+    EXPECT_EQ(laid.settings.watermarkLayout,
+              (WatermarkLayout{.relative = true, .size = 20, .margin = 4, .tiled = true, .gap = 0, .turn = -30}));
     for (const std::vector<std::string>& wrong : {std::vector<std::string>{source(), destination()},
                                                   {source(), "--jpeg"},
                                                   {"--jpeg"},
@@ -441,6 +447,13 @@ TEST_F(Batch, CommandLineUnderstandsItsOptions)
                                                   {source(), destination(), "--jpeg", "--place", "centre+"},
                                                   {source(), destination(), "--jpeg", "--place", "lower-left+-1"},
                                                   {source(), destination(), "--jpeg", "--place=centre", "--at=1,1"},
+                                                  {source(), destination(), "--jpeg", "--relative", "0"},
+                                                  {source(), destination(), "--jpeg", "--relative", "101"},
+                                                  {source(), destination(), "--jpeg", "--relative", "20%"},
+                                                  {source(), destination(), "--jpeg", "--tile", "-1"},
+                                                  {source(), destination(), "--jpeg", "--tile", "401"},
+                                                  {source(), destination(), "--jpeg", "--turn", "361"},
+                                                  {source(), destination(), "--jpeg", "--turn"},
                                                   {source(), destination(), "--jpeg", "--opacity", "half"}})
         EXPECT_NE(parse(wrong).error, "") << (wrong.empty() ? "" : wrong.back());
     EXPECT_TRUE(parse({"--help"}).help);

@@ -12,6 +12,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -63,6 +65,9 @@ protected:
     /// Opens the window, does @p inside once it runs, answers alerts that come, and returns when it closed.
     std::vector<AlertState> show(const std::function<void()>& inside)
     {
+        for (const char* name : {"mWatermarkRelative", "mWatermarkTiled", "mWatermarkEachPicture"})
+            control<QCheckBox>(name)->setChecked(false); // the one window keeps what the test before left
+        control<QSpinBox>("mWatermarkTurn")->setValue(0);
         zp::test::AlertWatch watch;
         QTimer::singleShot(0, [&] { inside(); });
         processor().showWindow();
@@ -233,6 +238,9 @@ TEST_F(ImageProcessor, WritesTheVeryFilesOfTheCommandLine)
         bool mark = false;
         int x = 0, y = 0, opacity = 100;
         int place = 0, margin = 0; ///< the preset's row, for each picture; 0: at (x, y)
+        int relative = 0;          ///< percent; 0: in pixels
+        int tile = -1;             ///< gap in percent; -1: once
+        int turn = 0;
     };
     const std::vector<Case> cases = {
         {{"--tiff", "--jpeg"}, true, true, 0},
@@ -264,6 +272,44 @@ TEST_F(ImageProcessor, WritesTheVeryFilesOfTheCommandLine)
          7,
          70,
          5},
+        {{"--tiff", "--watermark", "mark.tiff", "--relative", "40", "--place", "upper-right+5"},
+         true,
+         false,
+         0,
+         true,
+         3,
+         3,
+         100,
+         4,
+         5,
+         40},
+        {{"--jpeg", "--fit", "500x500", "--watermark", "mark.tiff", "--relative", "30", "--at", "10,20", "--opacity",
+          "60", "--tile", "40", "--turn", "25"},
+         false,
+         true,
+         500,
+         true,
+         10,
+         20,
+         60,
+         0,
+         0,
+         30,
+         40,
+         25},
+        {{"--tiff", "--fit", "300x300", "--watermark", "mark.tiff", "--tile", "0", "--turn=-90"},
+         true,
+         false,
+         300,
+         true,
+         0,
+         0,
+         100,
+         0,
+         0,
+         0,
+         0,
+         -90},
     };
     const std::string byCommand = temporaryFolder() + "/command destination";
     for (const Case& c : cases) {
@@ -277,6 +323,11 @@ TEST_F(ImageProcessor, WritesTheVeryFilesOfTheCommandLine)
             control<QComboBox>("mWatermark")->setCurrentIndex(c.mark ? 1 : 0);
             control<QComboBox>("mWatermarkPosition")->setCurrentIndex(c.place);
             control<QCheckBox>("mWatermarkEachPicture")->setChecked(c.place > 0);
+            control<QCheckBox>("mWatermarkRelative")->setChecked(c.relative > 0);
+            control<QSpinBox>("mWatermarkSize")->setValue(c.relative);
+            control<QCheckBox>("mWatermarkTiled")->setChecked(c.tile >= 0);
+            control<QSpinBox>("mWatermarkGap")->setValue(c.tile);
+            control<QSpinBox>("mWatermarkTurn")->setValue(c.turn);
             control<QSpinBox>("mWatermarkMargin")->setValue(c.margin);
             control<QSpinBox>("mWatermarkPositionX")->setValue(c.x);
             control<QSpinBox>("mWatermarkPositionY")->setValue(c.y);
@@ -401,6 +452,140 @@ TEST_F(ImageProcessor, TheSwitchForEachPictureIsOffAndFreesTheFieldsThatCount)
         each->setChecked(false);
         click(control<QPushButton>("mCancelButton"));
     });
+}
+
+TEST_F(ImageProcessor, SwitchesOfTheLayoutAreOffAndEachUnitKeepsItsNumbers)
+{
+    show([&] {
+        auto* relative = control<QCheckBox>("mWatermarkRelative");
+        auto* tiled = control<QCheckBox>("mWatermarkTiled");
+        auto* each = control<QCheckBox>("mWatermarkEachPicture");
+        auto* margin = control<QSpinBox>("mWatermarkMargin");
+        auto* x = control<QSpinBox>("mWatermarkPositionX");
+        relative->setChecked(false);
+        tiled->setChecked(false);
+        each->setChecked(false);
+        EXPECT_FALSE(control<QSpinBox>("mWatermarkSize")->isEnabled());
+        EXPECT_FALSE(control<QSpinBox>("mWatermarkGap")->isEnabled());
+        margin->setValue(120);
+        x->setValue(444);
+        EXPECT_EQ(margin->suffix(), " px");
+
+        relative->setChecked(true);
+        EXPECT_TRUE(control<QSpinBox>("mWatermarkSize")->isEnabled());
+        EXPECT_TRUE(each->isChecked()); // one position for all means nothing in percent
+        EXPECT_FALSE(each->isEnabled());
+        EXPECT_EQ(margin->suffix(), " %");
+        EXPECT_EQ(x->suffix(), " %");
+        margin->setValue(8);
+        x->setValue(-2);
+
+        relative->setChecked(false);
+        EXPECT_EQ(margin->value(), 120);
+        EXPECT_EQ(x->value(), 444);
+        EXPECT_EQ(x->suffix(), "");
+        EXPECT_FALSE(each->isChecked());
+        EXPECT_TRUE(each->isEnabled());
+        relative->setChecked(true);
+        EXPECT_EQ(margin->value(), 8);
+        EXPECT_EQ(x->value(), -2);
+        relative->setChecked(false);
+        margin->setValue(0);
+        x->setValue(0);
+        tiled->setChecked(true);
+        EXPECT_TRUE(control<QSpinBox>("mWatermarkGap")->isEnabled());
+        tiled->setChecked(false);
+        click(control<QPushButton>("mCancelButton"));
+    });
+}
+
+TEST_F(ImageProcessor, AWatermarkComesBackAsItWasLastUsed)
+{
+    removeItem(watermarkFolder());
+    createFolder(watermarkFolder());
+    for (const char* name : {"a.tiff", "b.tiff"})
+        ASSERT_TRUE(copyItem(sample("made/valid/base.tif"), watermarkFolder() + "/" + name));
+    add("made/valid/base.jpg", "x.jpg");
+    const auto choose = [&](int row) {
+        control<QComboBox>("mWatermark")->setCurrentIndex(row);
+        emit control<QComboBox>("mWatermark")->activated(row);
+    };
+    show([&] {
+        fillIn(source(), destination());
+        choose(1);
+        control<QCheckBox>("mWatermarkRelative")->setChecked(true);
+        control<QSpinBox>("mWatermarkSize")->setValue(33);
+        control<QSpinBox>("mWatermarkMargin")->setValue(6);
+        control<QCheckBox>("mWatermarkTiled")->setChecked(true);
+        control<QSpinBox>("mWatermarkTurn")->setValue(15);
+        EXPECT_EQ(keptWatermarkLayout("a.tiff"), WatermarkLayout()); // by a run only
+        run();
+    });
+    const WatermarkLayout used{.relative = true, .size = 33, .margin = 6, .tiled = true, .gap = 50, .turn = 15};
+    EXPECT_EQ(keptWatermarkLayout("a.tiff"), used);
+    EXPECT_EQ(watermarkNames(), (std::vector<std::string>{"a.tiff", "b.tiff"}));
+    show([&] {
+        choose(2); // never used: as given
+        EXPECT_FALSE(control<QCheckBox>("mWatermarkRelative")->isChecked());
+        EXPECT_FALSE(control<QCheckBox>("mWatermarkTiled")->isChecked());
+        EXPECT_EQ(control<QSpinBox>("mWatermarkTurn")->value(), 0);
+        choose(1);
+        EXPECT_TRUE(control<QCheckBox>("mWatermarkRelative")->isChecked());
+        EXPECT_EQ(control<QSpinBox>("mWatermarkSize")->value(), 33);
+        EXPECT_EQ(control<QSpinBox>("mWatermarkMargin")->value(), 6);
+        EXPECT_EQ(control<QSpinBox>("mWatermarkTurn")->value(), 15);
+        choose(2);
+        click(control<QPushButton>("mCancelButton"));
+    });
+    EXPECT_EQ(keptWatermarkLayout("a.tiff"), used); // Cancel keeps nothing
+    settle();
+}
+
+TEST_F(ImageProcessor, PreviewShowsThreePicturesAndFollowsTheFields)
+{
+    removeItem(watermarkFolder());
+    createFolder(watermarkFolder());
+    ASSERT_TRUE(copyItem(sample("made/valid/base.tif"), watermarkFolder() + "/mark.tiff"));
+    add("photos/tahoe-gps.jpg", "flat.jpg");
+    add("photos/seeding-600-cmyk.jpg", "inks.jpg");
+    add("made/exif/orientation-6.jpg", "turned.jpg");
+    add("made/valid/base.jpg", "small.jpg");
+    const auto picture = [&](int i) {
+        return control<QLabel>(qPrintable(QString("mPreviewPicture%1").arg(i)))->pixmap().toImage();
+    };
+    const auto until = [](const std::function<bool()>& done) {
+        QElapsedTimer clock;
+        for (clock.start(); !done() && clock.elapsed() < 20'000;) QApplication::processEvents({}, 20);
+        EXPECT_TRUE(done());
+    };
+    show([&] {
+        auto* button = control<QPushButton>("mPreviewButton");
+        auto* strip = control<QWidget>("mPreviewStrip");
+        EXPECT_FALSE(strip->isVisible());
+        fillIn("", destination());
+        click(button);
+        EXPECT_TRUE(strip->isVisible());
+        EXPECT_EQ(control<QLabel>("mPreviewText")->text(), "Choose a source folder.");
+        fillIn(source(), destination());
+        until([&] { return !picture(1).isNull() && !picture(2).isNull() && !picture(3).isNull(); });
+        EXPECT_EQ(control<QLabel>("mPreviewText")->text(), "The widest, the tallest and the squarest of 4 images");
+        EXPECT_TRUE(control<QLabel>("mPreviewName1")->text().contains(QChar(0xD7)));
+        const QImage plain = picture(1);
+        control<QComboBox>("mWatermark")->setCurrentIndex(1);
+        control<QCheckBox>("mWatermarkTiled")->setChecked(true);
+        until([&] { return picture(1) != plain; });
+        control<QComboBox>("mWatermark")->setCurrentIndex(0);
+        until([&] { return picture(1) == plain; });
+        control<QLineEdit>("mSrcFolder")->setText("/nowhere at all");
+        until([&] { return picture(1).isNull(); });
+        EXPECT_EQ(control<QLabel>("mPreviewText")->text(), "The source folder cannot be listed.");
+        click(button);
+        EXPECT_FALSE(strip->isVisible());
+        control<QCheckBox>("mWatermarkTiled")->setChecked(false);
+        click(control<QPushButton>("mCancelButton"));
+    });
+    EXPECT_TRUE(contentsOfFolder(destination()).empty());
+    EXPECT_EQ(contentsOfFolder(source()).size(), 4u);
 }
 
 TEST_F(ImageProcessor, FolderPanelsFillInTheFields)
