@@ -2305,10 +2305,6 @@
         <translation>Der Ordner wird angesehen …</translation>
     </message>
     <message>
-        <source>%1 (of %2 in the folder)</source>
-        <translation>%1 (von %2 im Ordner)</translation>
-    </message>
-    <message>
         <source>The folder has no .tiff or .jpg image.</source>
         <translation>Der Ordner hat kein .tiff- oder .jpg-Bild.</translation>
     </message>
@@ -2319,6 +2315,10 @@
     <message>
         <source>The widest, the tallest and the squarest of %1 images</source>
         <translation>Das breiteste, das höchste und das quadratischste von %1 Bildern</translation>
+    </message>
+    <message>
+        <source>%1; the folder has %2</source>
+        <translation>%1; der Ordner hat %2</translation>
     </message>
 </context>
 <context>

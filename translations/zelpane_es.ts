@@ -2305,10 +2305,6 @@
         <translation>Examinando la carpeta…</translation>
     </message>
     <message>
-        <source>%1 (of %2 in the folder)</source>
-        <translation>%1 (de %2 en la carpeta)</translation>
-    </message>
-    <message>
         <source>The folder has no .tiff or .jpg image.</source>
         <translation>La carpeta no tiene imágenes .tiff ni .jpg.</translation>
     </message>
@@ -2319,6 +2315,10 @@
     <message>
         <source>The widest, the tallest and the squarest of %1 images</source>
         <translation>La más ancha, la más alta y la más cuadrada de %1 imágenes</translation>
+    </message>
+    <message>
+        <source>%1; the folder has %2</source>
+        <translation>%1; la carpeta tiene %2</translation>
     </message>
 </context>
 <context>

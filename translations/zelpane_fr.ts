@@ -2305,10 +2305,6 @@
         <translation>Examen du dossier…</translation>
     </message>
     <message>
-        <source>%1 (of %2 in the folder)</source>
-        <translation>%1 (sur %2 dans le dossier)</translation>
-    </message>
-    <message>
         <source>The folder has no .tiff or .jpg image.</source>
         <translation>Le dossier ne contient aucune image .tiff ou .jpg.</translation>
     </message>
@@ -2319,6 +2315,10 @@
     <message>
         <source>The widest, the tallest and the squarest of %1 images</source>
         <translation>La plus large, la plus haute et la plus carrée de %1 images</translation>
+    </message>
+    <message>
+        <source>%1; the folder has %2</source>
+        <translation>%1&#xa0;; le dossier en a %2</translation>
     </message>
 </context>
 <context>

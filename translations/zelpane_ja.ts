@@ -2295,10 +2295,6 @@
         <translation>フォルダーを調べています…</translation>
     </message>
     <message>
-        <source>%1 (of %2 in the folder)</source>
-        <translation>%1 (フォルダー内 %2 枚のうち)</translation>
-    </message>
-    <message>
         <source>The folder has no .tiff or .jpg image.</source>
         <translation>フォルダーに .tiff または .jpg の画像がありません。</translation>
     </message>
@@ -2309,6 +2305,10 @@
     <message>
         <source>The widest, the tallest and the squarest of %1 images</source>
         <translation>%1 枚のうち最も横長、最も縦長、最も正方形に近い画像</translation>
+    </message>
+    <message>
+        <source>%1; the folder has %2</source>
+        <translation>%1。フォルダー内は全部で %2 枚</translation>
     </message>
 </context>
 <context>

@@ -2305,10 +2305,6 @@
         <translation>Examinando a pasta…</translation>
     </message>
     <message>
-        <source>%1 (of %2 in the folder)</source>
-        <translation>%1 (de %2 na pasta)</translation>
-    </message>
-    <message>
         <source>The folder has no .tiff or .jpg image.</source>
         <translation>A pasta não tem imagens .tiff nem .jpg.</translation>
     </message>
@@ -2319,6 +2315,10 @@
     <message>
         <source>The widest, the tallest and the squarest of %1 images</source>
         <translation>A mais larga, a mais alta e a mais quadrada de %1 imagens</translation>
+    </message>
+    <message>
+        <source>%1; the folder has %2</source>
+        <translation>%1; a pasta tem %2</translation>
     </message>
 </context>
 <context>

@@ -2295,10 +2295,6 @@
         <translation>正在查看文件夹…</translation>
     </message>
     <message>
-        <source>%1 (of %2 in the folder)</source>
-        <translation>%1（文件夹中共 %2 张）</translation>
-    </message>
-    <message>
         <source>The folder has no .tiff or .jpg image.</source>
         <translation>文件夹中没有 .tiff 或 .jpg 图像。</translation>
     </message>
@@ -2309,6 +2305,10 @@
     <message>
         <source>The widest, the tallest and the squarest of %1 images</source>
         <translation>%1 张图像中最宽、最高和最接近正方形的一张</translation>
+    </message>
+    <message>
+        <source>%1; the folder has %2</source>
+        <translation>%1；文件夹中共有 %2 张</translation>
     </message>
 </context>
 <context>

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <numeric>
+#include <numbers>
 
 namespace zp
 {
@@ -81,7 +81,14 @@ const PreviewChoice& BatchPreview::choose(const BatchSettings& settings, const C
     mChoice.of = names.size();
     const std::size_t count = std::min(names.size(), kPreviewHeaders);
     std::vector<PixelDimensions> sizes(count);
-    const auto nameAt = [&](std::size_t i) -> const std::string& { return names[i * names.size() / count]; };
+    // One of each stretch of names, never at the same place in it: cameras that take every scene five times are not to
+    // be met at every fifth picture.
+    const auto nameAt = [&](std::size_t i) -> const std::string& {
+        const std::size_t first = i * names.size() / count, next = (i + 1) * names.size() / count;
+        double whole = 0;
+        const double within = std::modf(double(i) * std::numbers::phi, &whole);
+        return names[first + std::size_t(within * double(next - first))];
+    };
     for (std::size_t i = 0; i < count; ++i) {
         if (cancelled()) return mChoice;
         sizes[i] = imageFileDimensions(fileOf(settings, nameAt(i)));

@@ -193,8 +193,6 @@ void ProcessorPreview::say(const PreviewChoice& choice)
         mNameLabels[i]->clear();
     }
     QString text;
-    const QString looked = choice.looked < choice.of ? tr("%1 (of %2 in the folder)").arg(choice.looked).arg(choice.of)
-                                                     : QString::number(choice.of);
     if (!choice.error.empty())
         text = QCoreApplication::translate("ZPImageProcessor", "The source folder cannot be listed.");
     else if (choice.names.empty())
@@ -202,7 +200,8 @@ void ProcessorPreview::say(const PreviewChoice& choice)
     else if (choice.of > kPreviewPictures)
         text = (choice.alike ? tr("The largest, the middle and the smallest of %1 images of one shape")
                              : tr("The widest, the tallest and the squarest of %1 images"))
-                   .arg(looked);
+                   .arg(choice.looked);
+    if (choice.looked < choice.of) text = tr("%1; the folder has %2").arg(text).arg(choice.of);
     mUi.mPreviewText->setText(text);
 }
 

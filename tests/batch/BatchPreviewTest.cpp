@@ -99,15 +99,21 @@ TEST_F(Preview, ListsPicturesOnlyAndSaysHowManyWereLookedAt)
 TEST_F(Preview, OfALargeFolderAsManyHeadersAsItMay)
 {
     const auto bytes = encodeJPEG(BitmapRep::create(8, 8)->view(), {});
-    const std::size_t count = kPreviewHeaders + 400;
+    const std::size_t count = 7 * kPreviewHeaders / 2; // a step of three and a half
     const auto name = [](std::size_t i) { return source() + "/" + std::to_string(10000 + i) + ".jpg"; };
     writeFileSafely(name(0), bytes.data(), bytes.size());
     for (std::size_t i = 1; i < count; ++i) std::filesystem::create_hard_link(name(0), name(i));
+    const auto flat = encodeJPEG(BitmapRep::create(24, 8)->view(), {});
+    writeFileSafely(source() + "/flat", flat.data(), flat.size());
+    for (std::size_t i = 0; i < count; i += 7) {
+        removeItem(name(i));
+        std::filesystem::create_hard_link(source() + "/flat", name(i));
+    }
     const PreviewChoice& choice = mPreview.choose(mSettings, never);
     EXPECT_EQ(choice.looked, kPreviewHeaders);
     EXPECT_EQ(choice.of, count);
     EXPECT_EQ(choice.names.size(), kPreviewPictures);
-    EXPECT_TRUE(choice.alike);
+    EXPECT_FALSE(choice.alike);
 }
 
 TEST_F(Preview, EndsWhenItIsNoLongerWanted)
