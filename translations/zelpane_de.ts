@@ -505,6 +505,18 @@
         <source>Reading was stopped.</source>
         <translation>Das Lesen wurde abgebrochen.</translation>
     </message>
+    <message>
+        <source>This kind of file has no quality to choose.</source>
+        <translation>Diese Art Datei hat keine wählbare Qualität.</translation>
+    </message>
+    <message>
+        <source>A WebP file holds at most 16,383 pixels a side.</source>
+        <translation>Eine WebP-Datei fasst höchstens 16.383 Pixel je Seite.</translation>
+    </message>
+    <message>
+        <source>Even at the lowest quality the file is larger.</source>
+        <translation>Selbst mit der geringsten Qualität ist die Datei größer.</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -2008,6 +2020,14 @@
         <source>Compare shows the image without the last step</source>
         <translation>Vergleichen zeigt das Bild ohne den letzten Schritt</translation>
     </message>
+    <message>
+        <source>Save for a Size…</source>
+        <translation>Auf eine Größe sichern …</translation>
+    </message>
+    <message>
+        <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
+        <translation>Schreibt eine Kopie, die so groß ist wie erlaubt oder so klein, dass sie noch gleich aussieht</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2750,6 +2770,85 @@
     <message>
         <source>%1 chooses the tool %2, which would not hear it any more.</source>
         <translation>%1 wählt das Werkzeug „%2“, das dann nicht mehr darauf hören würde.</translation>
+    </message>
+</context>
+<context>
+    <name>SizeSaveDialog</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Es ist nicht genug Speicher vorhanden.</translation>
+    </message>
+    <message>
+        <source>Save for a Size</source>
+        <translation>Auf eine Größe sichern</translation>
+    </message>
+    <message>
+        <source>The image before and after</source>
+        <translation>Das Bild vorher und nachher</translation>
+    </message>
+    <message>
+        <source>Drag to see another place; the wheel zooms</source>
+        <translation>Ziehen zeigt eine andere Stelle; das Rad zoomt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Sichern …</translation>
+    </message>
+    <message>
+        <source>Before: %1 × %2</source>
+        <translation>Vorher: %1 × %2</translation>
+    </message>
+    <message>
+        <source>WebP files are smaller and keep transparency; older programs cannot open them</source>
+        <translation>WebP-Dateien sind kleiner und behalten Transparenz; ältere Programme können sie nicht öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>Date&amp;iart:</translation>
+    </message>
+    <message>
+        <source>&amp;At most</source>
+        <translation>&amp;Höchstens</translation>
+    </message>
+    <message>
+        <source> KB</source>
+        <translation> KB</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Größe der Datei</translation>
+    </message>
+    <message>
+        <source>As small as &amp;looks the same</source>
+        <translation>So klein, dass es &amp;gleich aussieht</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>&amp;Qualität</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Suche …</translation>
+    </message>
+    <message>
+        <source>Trying quality %1…</source>
+        <translation>Versuche Qualität %1 …</translation>
+    </message>
+    <message>
+        <source>After: %1 · %2</source>
+        <translation>Nachher: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Likeness %1, in the worst place %2</source>
+        <translation>Ähnlichkeit %1, an der schlechtesten Stelle %2</translation>
     </message>
 </context>
 <context>

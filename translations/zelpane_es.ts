@@ -505,6 +505,18 @@
         <source>Reading was stopped.</source>
         <translation>Se detuvo la lectura.</translation>
     </message>
+    <message>
+        <source>This kind of file has no quality to choose.</source>
+        <translation>Este tipo de archivo no tiene calidad que elegir.</translation>
+    </message>
+    <message>
+        <source>A WebP file holds at most 16,383 pixels a side.</source>
+        <translation>Un archivo WebP admite como máximo 16 383 píxeles por lado.</translation>
+    </message>
+    <message>
+        <source>Even at the lowest quality the file is larger.</source>
+        <translation>Incluso con la calidad más baja el archivo es mayor.</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -2008,6 +2020,14 @@
         <source>Compare shows the image without the last step</source>
         <translation>Comparar muestra la imagen sin el último paso</translation>
     </message>
+    <message>
+        <source>Save for a Size…</source>
+        <translation>Guardar para un tamaño…</translation>
+    </message>
+    <message>
+        <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
+        <translation>Escribe una copia tan grande como se permita, o tan pequeña que aún se vea igual</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2750,6 +2770,85 @@
     <message>
         <source>%1 chooses the tool %2, which would not hear it any more.</source>
         <translation>%1 elige la herramienta «%2», que dejaría de oírlo.</translation>
+    </message>
+</context>
+<context>
+    <name>SizeSaveDialog</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>No hay memoria suficiente.</translation>
+    </message>
+    <message>
+        <source>Save for a Size</source>
+        <translation>Guardar para un tamaño</translation>
+    </message>
+    <message>
+        <source>The image before and after</source>
+        <translation>La imagen antes y después</translation>
+    </message>
+    <message>
+        <source>Drag to see another place; the wheel zooms</source>
+        <translation>Arrastre para ver otro lugar; la rueda amplía</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Guardar…</translation>
+    </message>
+    <message>
+        <source>Before: %1 × %2</source>
+        <translation>Antes: %1 × %2</translation>
+    </message>
+    <message>
+        <source>WebP files are smaller and keep transparency; older programs cannot open them</source>
+        <translation>Los archivos WebP son más pequeños y conservan la transparencia; los programas antiguos no los abren</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>&amp;Tipo de archivo:</translation>
+    </message>
+    <message>
+        <source>&amp;At most</source>
+        <translation>&amp;Como máximo</translation>
+    </message>
+    <message>
+        <source> KB</source>
+        <translation> KB</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Tamaño del archivo</translation>
+    </message>
+    <message>
+        <source>As small as &amp;looks the same</source>
+        <translation>Tan pequeño que se vea &amp;igual</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>C&amp;alidad</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Buscando…</translation>
+    </message>
+    <message>
+        <source>Trying quality %1…</source>
+        <translation>Probando la calidad %1…</translation>
+    </message>
+    <message>
+        <source>After: %1 · %2</source>
+        <translation>Después: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Likeness %1, in the worst place %2</source>
+        <translation>Semejanza %1, en el peor lugar %2</translation>
     </message>
 </context>
 <context>

@@ -505,6 +505,18 @@
         <source>Reading was stopped.</source>
         <translation>La lecture a été interrompue.</translation>
     </message>
+    <message>
+        <source>This kind of file has no quality to choose.</source>
+        <translation>Ce type de fichier n’a pas de qualité à choisir.</translation>
+    </message>
+    <message>
+        <source>A WebP file holds at most 16,383 pixels a side.</source>
+        <translation>Un fichier WebP contient au plus 16 383 pixels par côté.</translation>
+    </message>
+    <message>
+        <source>Even at the lowest quality the file is larger.</source>
+        <translation>Même à la qualité la plus basse, le fichier est plus grand.</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -2008,6 +2020,14 @@
         <source>Compare shows the image without the last step</source>
         <translation>Comparer montre l’image sans la dernière étape</translation>
     </message>
+    <message>
+        <source>Save for a Size…</source>
+        <translation>Enregistrer pour une taille…</translation>
+    </message>
+    <message>
+        <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
+        <translation>Écrit une copie aussi grande que permis, ou aussi petite qu’elle paraît identique</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2750,6 +2770,85 @@
     <message>
         <source>%1 chooses the tool %2, which would not hear it any more.</source>
         <translation>%1 choisit l’outil «&#xa0;%2&#xa0;», qui ne l’entendrait plus.</translation>
+    </message>
+</context>
+<context>
+    <name>SizeSaveDialog</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Il n’y a pas assez de mémoire.</translation>
+    </message>
+    <message>
+        <source>Save for a Size</source>
+        <translation>Enregistrer pour une taille</translation>
+    </message>
+    <message>
+        <source>The image before and after</source>
+        <translation>L’image avant et après</translation>
+    </message>
+    <message>
+        <source>Drag to see another place; the wheel zooms</source>
+        <translation>Glisser montre un autre endroit ; la molette zoome</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Enregistrer…</translation>
+    </message>
+    <message>
+        <source>Before: %1 × %2</source>
+        <translation>Avant : %1 × %2</translation>
+    </message>
+    <message>
+        <source>WebP files are smaller and keep transparency; older programs cannot open them</source>
+        <translation>Les fichiers WebP sont plus petits et gardent la transparence ; les anciens programmes ne les ouvrent pas</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>&amp;Type de fichier :</translation>
+    </message>
+    <message>
+        <source>&amp;At most</source>
+        <translation>&amp;Au plus</translation>
+    </message>
+    <message>
+        <source> KB</source>
+        <translation> Ko</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Taille du fichier</translation>
+    </message>
+    <message>
+        <source>As small as &amp;looks the same</source>
+        <translation>Aussi petit qu’il &amp;paraît identique</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>&amp;Qualité</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Recherche…</translation>
+    </message>
+    <message>
+        <source>Trying quality %1…</source>
+        <translation>Essai de la qualité %1…</translation>
+    </message>
+    <message>
+        <source>After: %1 · %2</source>
+        <translation>Après : %1 · %2</translation>
+    </message>
+    <message>
+        <source>Likeness %1, in the worst place %2</source>
+        <translation>Ressemblance %1, au pire endroit %2</translation>
     </message>
 </context>
 <context>

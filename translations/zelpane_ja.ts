@@ -496,6 +496,18 @@
         <source>Reading was stopped.</source>
         <translation>読み込みを中止しました。</translation>
     </message>
+    <message>
+        <source>This kind of file has no quality to choose.</source>
+        <translation>この種類のファイルでは品質を選べません。</translation>
+    </message>
+    <message>
+        <source>A WebP file holds at most 16,383 pixels a side.</source>
+        <translation>WebP ファイルの一辺は最大 16,383 ピクセルです。</translation>
+    </message>
+    <message>
+        <source>Even at the lowest quality the file is larger.</source>
+        <translation>最低の品質でもファイルの方が大きくなります。</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -1998,6 +2010,14 @@
         <source>Compare shows the image without the last step</source>
         <translation>比較で、最後の操作をする前の画像を表示します</translation>
     </message>
+    <message>
+        <source>Save for a Size…</source>
+        <translation>サイズに合わせて保存…</translation>
+    </message>
+    <message>
+        <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
+        <translation>許される大きさのコピー、または同じに見える最小のコピーを書き出します</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2740,6 +2760,85 @@
     <message>
         <source>%1 chooses the tool %2, which would not hear it any more.</source>
         <translation>%1 はツール「%2」を選ぶキーで、そちらでは効かなくなります。</translation>
+    </message>
+</context>
+<context>
+    <name>SizeSaveDialog</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>メモリが足りません。</translation>
+    </message>
+    <message>
+        <source>Save for a Size</source>
+        <translation>サイズに合わせて保存</translation>
+    </message>
+    <message>
+        <source>The image before and after</source>
+        <translation>前と後の画像</translation>
+    </message>
+    <message>
+        <source>Drag to see another place; the wheel zooms</source>
+        <translation>ドラッグで場所を、ホイールで倍率を変えます</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>保存…</translation>
+    </message>
+    <message>
+        <source>Before: %1 × %2</source>
+        <translation>前: %1 × %2</translation>
+    </message>
+    <message>
+        <source>WebP files are smaller and keep transparency; older programs cannot open them</source>
+        <translation>WebP ファイルは小さく透明部分を保ちますが、古いプログラムでは開けません</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>ファイルの種類(&amp;K):</translation>
+    </message>
+    <message>
+        <source>&amp;At most</source>
+        <translation>最大(&amp;A)</translation>
+    </message>
+    <message>
+        <source> KB</source>
+        <translation> KB</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>ファイルのサイズ</translation>
+    </message>
+    <message>
+        <source>As small as &amp;looks the same</source>
+        <translation>同じに見える最小(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>品質(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>検索中…</translation>
+    </message>
+    <message>
+        <source>Trying quality %1…</source>
+        <translation>品質 %1 を試しています…</translation>
+    </message>
+    <message>
+        <source>After: %1 · %2</source>
+        <translation>後: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Likeness %1, in the worst place %2</source>
+        <translation>類似度 %1、最も悪い場所で %2</translation>
     </message>
 </context>
 <context>

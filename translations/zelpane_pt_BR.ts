@@ -505,6 +505,18 @@
         <source>Reading was stopped.</source>
         <translation>A leitura foi interrompida.</translation>
     </message>
+    <message>
+        <source>This kind of file has no quality to choose.</source>
+        <translation>Este tipo de arquivo não tem qualidade a escolher.</translation>
+    </message>
+    <message>
+        <source>A WebP file holds at most 16,383 pixels a side.</source>
+        <translation>Um arquivo WebP tem no máximo 16.383 pixels por lado.</translation>
+    </message>
+    <message>
+        <source>Even at the lowest quality the file is larger.</source>
+        <translation>Mesmo na qualidade mais baixa o arquivo é maior.</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -2008,6 +2020,14 @@
         <source>Compare shows the image without the last step</source>
         <translation>Comparar mostra a imagem sem o último passo</translation>
     </message>
+    <message>
+        <source>Save for a Size…</source>
+        <translation>Salvar para um tamanho…</translation>
+    </message>
+    <message>
+        <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
+        <translation>Grava uma cópia tão grande quanto permitido, ou tão pequena que ainda pareça igual</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2750,6 +2770,85 @@
     <message>
         <source>%1 chooses the tool %2, which would not hear it any more.</source>
         <translation>%1 escolhe a ferramenta “%2”, que não o ouviria mais.</translation>
+    </message>
+</context>
+<context>
+    <name>SizeSaveDialog</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Não há memória suficiente.</translation>
+    </message>
+    <message>
+        <source>Save for a Size</source>
+        <translation>Salvar para um tamanho</translation>
+    </message>
+    <message>
+        <source>The image before and after</source>
+        <translation>A imagem antes e depois</translation>
+    </message>
+    <message>
+        <source>Drag to see another place; the wheel zooms</source>
+        <translation>Arraste para ver outro lugar; a roda amplia</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Salvar…</translation>
+    </message>
+    <message>
+        <source>Before: %1 × %2</source>
+        <translation>Antes: %1 × %2</translation>
+    </message>
+    <message>
+        <source>WebP files are smaller and keep transparency; older programs cannot open them</source>
+        <translation>Arquivos WebP são menores e mantêm a transparência; programas antigos não os abrem</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>&amp;Tipo de arquivo:</translation>
+    </message>
+    <message>
+        <source>&amp;At most</source>
+        <translation>No &amp;máximo</translation>
+    </message>
+    <message>
+        <source> KB</source>
+        <translation> KB</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Tamanho do arquivo</translation>
+    </message>
+    <message>
+        <source>As small as &amp;looks the same</source>
+        <translation>Tão pequeno que pareça &amp;igual</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>&amp;Qualidade</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualidade</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Procurando…</translation>
+    </message>
+    <message>
+        <source>Trying quality %1…</source>
+        <translation>Tentando a qualidade %1…</translation>
+    </message>
+    <message>
+        <source>After: %1 · %2</source>
+        <translation>Depois: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Likeness %1, in the worst place %2</source>
+        <translation>Semelhança %1, no pior lugar %2</translation>
     </message>
 </context>
 <context>

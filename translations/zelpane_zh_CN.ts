@@ -496,6 +496,18 @@
         <source>Reading was stopped.</source>
         <translation>读取已停止。</translation>
     </message>
+    <message>
+        <source>This kind of file has no quality to choose.</source>
+        <translation>这种文件没有可选的品质。</translation>
+    </message>
+    <message>
+        <source>A WebP file holds at most 16,383 pixels a side.</source>
+        <translation>WebP 文件每边最多 16,383 像素。</translation>
+    </message>
+    <message>
+        <source>Even at the lowest quality the file is larger.</source>
+        <translation>即使用最低品质，文件仍然更大。</translation>
+    </message>
 </context>
 <context>
     <name>ColorPanel</name>
@@ -1998,6 +2010,14 @@
         <source>Compare shows the image without the last step</source>
         <translation>“比较”显示没有最后一步的图像</translation>
     </message>
+    <message>
+        <source>Save for a Size…</source>
+        <translation>按大小存储…</translation>
+    </message>
+    <message>
+        <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
+        <translation>写入一份不超过所给大小、或看起来相同且最小的副本</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -2740,6 +2760,85 @@
     <message>
         <source>%1 chooses the tool %2, which would not hear it any more.</source>
         <translation>%1 用于选择工具“%2”，它将不再响应此按键。</translation>
+    </message>
+</context>
+<context>
+    <name>SizeSaveDialog</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>内存不足。</translation>
+    </message>
+    <message>
+        <source>Save for a Size</source>
+        <translation>按大小存储</translation>
+    </message>
+    <message>
+        <source>The image before and after</source>
+        <translation>处理前后的图像</translation>
+    </message>
+    <message>
+        <source>Drag to see another place; the wheel zooms</source>
+        <translation>拖动查看别处；滚轮缩放</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>存储…</translation>
+    </message>
+    <message>
+        <source>Before: %1 × %2</source>
+        <translation>之前：%1 × %2</translation>
+    </message>
+    <message>
+        <source>WebP files are smaller and keep transparency; older programs cannot open them</source>
+        <translation>WebP 文件更小并保留透明；旧程序无法打开</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>文件种类(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>&amp;At most</source>
+        <translation>最多(&amp;A)</translation>
+    </message>
+    <message>
+        <source> KB</source>
+        <translation> KB</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>文件大小</translation>
+    </message>
+    <message>
+        <source>As small as &amp;looks the same</source>
+        <translation>看起来相同的最小(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>品质(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品质</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>正在搜索…</translation>
+    </message>
+    <message>
+        <source>Trying quality %1…</source>
+        <translation>正在试品质 %1…</translation>
+    </message>
+    <message>
+        <source>After: %1 · %2</source>
+        <translation>之后：%1 · %2</translation>
+    </message>
+    <message>
+        <source>Likeness %1, in the worst place %2</source>
+        <translation>相似度 %1，最差处 %2</translation>
     </message>
 </context>
 <context>

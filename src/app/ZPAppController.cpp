@@ -12,6 +12,7 @@
 #include "app/SelectionByNumber.h"
 #include "app/ShortcutsWindow.h"
 #include "app/SizeDialogs.h"
+#include "app/SizeSaveDialog.h"
 #include "app/StatusLine.h"
 #include "app/TransformDialog.h"
 #include "app/ZPAboutBox.h"
@@ -571,6 +572,7 @@ void ZPAppController::buildShell()
     mShell["saveAsPNG:"] = [this] { saveThroughPanel(*mDocument, SaveFormat::PNG); };
     mShell["selectByNumber:"] = [this] { runSelectionByNumber(*mDocument, mWindow.get()); };
     mShell["saveWithoutPrivateData:"] = [this] { saveCopyWithoutPrivateData(*mDocument); };
+    mShell["saveForSize:"] = [this] { runSizeSaveDialog(*mDocument, mWindow.get()); };
     mShell["resize:"] = [this] { runResizeDialog(*mDocument, mWindow.get()); };
     mShell["transform:"] = [this] { runTransformDialog(*mDocument, mWindow.get()); };
     mShell["adjust:"] = [this] { runAdjustDialog(*mDocument, mWindow.get()); };

@@ -47,6 +47,8 @@ const char* extensionFor(SaveFormat format)
         return "jpg";
     case SaveFormat::PNG:
         return "png";
+    case SaveFormat::WebP:
+        return "webp";
     default:
         return "";
     }
@@ -66,7 +68,7 @@ std::string nameToWrite(const std::string& typed, SaveFormat format)
 
 SaveFormat formatOfExtension(const std::string& extension)
 {
-    for (const SaveFormat format : {SaveFormat::TIFF, SaveFormat::JPEG, SaveFormat::PNG})
+    for (const SaveFormat format : {SaveFormat::TIFF, SaveFormat::JPEG, SaveFormat::PNG, SaveFormat::WebP})
         if (extension == extensionFor(format)) return format;
     return SaveFormat::None;
 }

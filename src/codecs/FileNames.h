@@ -15,12 +15,13 @@ enum class SaveFormat {
     TIFF,      ///< "tiff", "tif"
     JPEG,      ///< "jpg", "JPG"
     PNG,       ///< "png"
+    WebP,      ///< by no name that Save is given: copies of a chosen size alone
     Photoshop, ///< "psd": can be opened, not saved
 };
 
 /// By the extension, letter case counting: "jpeg", "TIF" and "PNG" are none of them.
 SaveFormat saveFormatForPath(const std::string& path);
-/// "tiff", "jpg" or "png"; empty for what is not written.
+/// "tiff", "jpg", "png" or "webp"; empty for what is not written.
 const char* extensionFor(SaveFormat format);
 /// Where an image of that format is written when a program asks for @p path: the extension is always replaced.
 std::string writtenPath(const std::string& path, SaveFormat format);
@@ -28,7 +29,7 @@ std::string writtenPath(const std::string& path, SaveFormat format);
 /// format's; what follows another dot is part of the name ("Version 2.5" becomes "Version 2.5.tiff"). A result is its
 /// own result, and writtenPath() leaves it as it is.
 std::string nameToWrite(const std::string& typed, SaveFormat format);
-/// The format of "tiff", "jpg" or "png", the extensions that are written.
+/// The format of "tiff", "jpg", "png" or "webp", the extensions that are written.
 SaveFormat formatOfExtension(const std::string& extension);
 
 /// What a save panel proposes.

@@ -54,7 +54,8 @@ struct PanelRequest {
     std::string directory; ///< where it opens; raw bytes of the file system
     std::string name;      ///< proposed file name (save)
     QStringList types;     ///< extensions without the dot; empty: all
-    /// Save: what is written has this extension, whatever is typed; "tiff", "jpg" or "png". Empty: the name as typed.
+    /// Save: what is written has this extension, whatever is typed; "tiff", "jpg", "png" or "webp". Empty: the name as
+    /// typed.
     std::string extension;
     /// Save: a quality from 1 to 100 to choose beside the name, as it stands at first; 0: none.
     int quality = 0;

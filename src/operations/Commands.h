@@ -27,6 +27,9 @@ Operation saveImageToPath;
 /// Path: a copy in the kind of file that its extension says, without place, device and names; the picture keeps its
 /// file. A number before it: the quality of a JPEG file.
 Operation saveWithoutPrivateData;
+/// Path: a copy, JPEG or WebP by its extension, at the best quality with which the file has at most so many kilobytes;
+/// at the least with which it looks the same. The picture keeps its file.
+Operation saveImageAtMost, saveImageLookingTheSame;
 /// Path: as TIFF into exactly that file.
 Operation quickSave;
 

@@ -13,12 +13,14 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace zp
 {
 
 class Document;
 class Edit;
+struct SizedFile;
 
 /// Gives the sentences about files their place among the translations.
 struct FileTexts {
@@ -48,6 +50,8 @@ QString whyNotOpened(const std::string& path, const std::string& error);
 Outcome saveThroughPanel(Document& document, SaveFormat format);
 /// The same for a copy without place, device and names, in the kind of file that the picture's is. Runs events.
 Outcome saveCopyWithoutPrivateData(Document& document);
+/// Asks what a copy is to be called and writes the found file there; the picture keeps its own. Runs events.
+Outcome saveSizedCopy(Document& document, SaveFormat format, const SizedFile& found);
 /// The one save panel, with the name that the picture's file proposes. Runs events.
 std::optional<SaveAnswer> askWhereToSave(const Document& document, SaveFormat format);
 enum class Permission { Save, SaveAs, Cancel };
@@ -61,6 +65,18 @@ Permission askToTakeFromPanel(Document& document, const std::string& path);
 
 /// Where this person's pictures were saved lately; what a killed program left there can be removed.
 std::vector<std::string> foldersSavedTo();
+
+/// "JPEG 70": what is written, as the person is told.
+QString formatTitle(SaveFormat format, int quality);
+/// In the units of the dialogs: 1024 bytes are a kilobyte, large files are in megabytes.
+QString sizeTitle(std::size_t bytes);
+/// Writes to exactly @p path and says so; a failure is told to the person and leaves image and files as they are.
+/// @param bytes  the whole file; empty: it could not be encoded. @param title  the kind, as the person is told
+/// @return whether it was written
+bool writeAndTell(Edit& edit, const std::vector<std::uint8_t>& bytes, const ImageProperties& properties,
+                  const std::string& path, const QString& title);
+/// Says the document's last file error, as that of saving there. @return false
+bool tellNotSaved(Edit& edit, const std::string& path);
 
 /// The picture with the floating piece in its place; the picture itself when nothing floats. Null without a picture.
 /// @throws std::bad_alloc

@@ -5,6 +5,7 @@
 #include "base/Translation.h"
 #include "codecs/FileNames.h"
 #include "codecs/ImageEncoder.h"
+#include "codecs/LossyWriter.h"
 #include "codecs/PrivateData.h"
 #include "desktop/Panels.h"
 #include "desktop/Settings.h"
@@ -27,7 +28,7 @@ namespace zp
 namespace
 {
 
-/// @param quality  of a JPEG file
+/// @param quality  of a JPEG or WebP file
 std::vector<std::uint8_t> encoded(ConstBitmapView pixels, const ImageProperties& properties, SaveFormat format,
                                   int quality)
 {
@@ -38,43 +39,22 @@ std::vector<std::uint8_t> encoded(ConstBitmapView pixels, const ImageProperties&
         return encodeJPEG(pixels, properties, {.factor = quality / 100.0, .fallbackBackground = kWhite});
     case SaveFormat::PNG:
         return encodePNG(pixels, properties);
+    case SaveFormat::WebP: {
+        std::string error;
+        const auto writer = LossyWriter::make(format, pixels, properties, error);
+        return writer ? writer->write(quality, false) : std::vector<std::uint8_t>();
+    }
     default:
         return {};
     }
 }
 
-/// "JPEG 70": what is written, as the person is told.
-QString formatTitle(SaveFormat format, int quality)
+/// Writes to exactly @p path. @return why it failed, empty when it did not
+std::string write(const std::vector<std::uint8_t>& bytes, const std::string& path)
 {
-    switch (format) {
-    case SaveFormat::TIFF:
-        return QStringLiteral("TIFF");
-    case SaveFormat::JPEG:
-        return QString("JPEG %1").arg(quality);
-    default:
-        return QStringLiteral("PNG");
-    }
-}
-
-/// In the units of the dialogs: 1024 bytes are a kilobyte, large files are in megabytes.
-QString sizeTitle(std::size_t bytes)
-{
-    constexpr double kKilo = 1024, kMostKilobytes = 2000;
-    const double kilobytes = double(bytes) / kKilo;
-    if (kilobytes < 1) return FileTexts::tr("%n bytes", nullptr, int(bytes));
-    if (kilobytes <= kMostKilobytes) return FileTexts::tr("%1 KB").arg(qRound64(kilobytes));
-    return FileTexts::tr("%1 MB").arg(QLocale().toString(kilobytes / kKilo, 'f', 1));
-}
-
-/// Writes to exactly @p path. @param size  of the file, in bytes. @return why it failed, empty when it did not
-std::string write(ConstBitmapView pixels, const ImageProperties& properties, const std::string& path, SaveFormat format,
-                  int quality, std::size_t& size)
-{
-    const std::vector<std::uint8_t> bytes = encoded(pixels, properties, format, quality);
     if (bytes.empty())
         return translated("Files",
                           "There is not enough memory to encode the image, or it is too large for this kind of file.");
-    size = bytes.size();
     std::string error;
     if (writeFileSafely(path, bytes.data(), bytes.size(), &error)) return {};
     return error.empty() ? translated("Files", "The file could not be written.") : error;
@@ -108,22 +88,8 @@ void rememberFolder(const std::string& folder)
 bool writeAndTell(Edit& edit, const BitmapRep& shown, const ImageProperties& properties, const std::string& path,
                   SaveFormat format, int quality)
 {
-    Document& document = edit.document();
-    const QString name = QString::fromStdString(displayName(lastPathComponent(path)));
-    rememberFolder(folderOfPath(path));
-    std::size_t size = 0;
-    document.setLastFileError(write(shown.view(), properties, path, format, quality, size));
-    if (document.lastFileError().empty()) {
-        logLosses(properties);
-        edit.picture().noteWritten(path);
-        document.say(FileTexts::tr("Saved %1 · %2 · %3").arg(name, formatTitle(format, quality), sizeTitle(size)));
-        return true;
-    }
-    logLine("could not save %s: %s", path.c_str(), document.lastFileError().c_str());
-    const QString why = name + ": " + QString::fromStdString(document.lastFileError());
-    document.say(FileTexts::tr("Not saved: %1").arg(why));
-    edit.refuse(FileTexts::tr("The file could not be saved."), why);
-    return false;
+    return writeAndTell(edit, encoded(shown.view(), properties, format, quality), properties, path,
+                        formatTitle(format, quality));
 }
 
 /// Saves to exactly @p path what the screen shows.
@@ -158,6 +124,54 @@ void saveAs(Edit& edit, const Arguments& to, SaveFormat format, bool exact = fal
 }
 
 } // namespace
+
+QString formatTitle(SaveFormat format, int quality)
+{
+    switch (format) {
+    case SaveFormat::TIFF:
+        return QStringLiteral("TIFF");
+    case SaveFormat::JPEG:
+        return QString("JPEG %1").arg(quality);
+    case SaveFormat::WebP:
+        return QString("WebP %1").arg(quality);
+    default:
+        return QStringLiteral("PNG");
+    }
+}
+
+QString sizeTitle(std::size_t bytes)
+{
+    constexpr double kKilo = 1024, kMostKilobytes = 2000;
+    const double kilobytes = double(bytes) / kKilo;
+    if (kilobytes < 1) return FileTexts::tr("%n bytes", nullptr, int(bytes));
+    if (kilobytes <= kMostKilobytes) return FileTexts::tr("%1 KB").arg(qRound64(kilobytes));
+    return FileTexts::tr("%1 MB").arg(QLocale().toString(kilobytes / kKilo, 'f', 1));
+}
+
+bool tellNotSaved(Edit& edit, const std::string& path)
+{
+    Document& document = edit.document();
+    logLine("could not save %s: %s", path.c_str(), document.lastFileError().c_str());
+    const QString why = QString::fromStdString(displayName(lastPathComponent(path))) + ": " +
+                        QString::fromStdString(document.lastFileError());
+    document.say(FileTexts::tr("Not saved: %1").arg(why));
+    edit.refuse(FileTexts::tr("The file could not be saved."), why);
+    return false;
+}
+
+bool writeAndTell(Edit& edit, const std::vector<std::uint8_t>& bytes, const ImageProperties& properties,
+                  const std::string& path, const QString& title)
+{
+    Document& document = edit.document();
+    rememberFolder(folderOfPath(path));
+    document.setLastFileError(write(bytes, path));
+    if (!document.lastFileError().empty()) return tellNotSaved(edit, path);
+    logLosses(properties);
+    edit.picture().noteWritten(path);
+    const QString name = QString::fromStdString(displayName(lastPathComponent(path)));
+    document.say(FileTexts::tr("Saved %1 · %2 · %3").arg(name, title, sizeTitle(bytes.size())));
+    return true;
+}
 
 std::vector<std::string> foldersSavedTo()
 {

@@ -5,6 +5,7 @@
 #include "document/Document.h"
 #include "document/Picture.h"
 #include "operations/Files.h"
+#include "operations/SizeSearch.h"
 
 namespace zp
 {
@@ -12,14 +13,15 @@ namespace zp
 namespace
 {
 
-PanelRequest panelFor(const Document& document, SaveProposal proposal, SaveFormat format)
+PanelRequest panelFor(const Document& document, SaveProposal proposal, SaveFormat format, bool asksQuality = true)
 {
     PanelRequest request;
     request.directory = std::move(proposal.folder);
     request.name = std::move(proposal.name);
     request.extension = extensionFor(format);
     request.types = {QString::fromStdString(request.extension)};
-    if (format == SaveFormat::JPEG) request.quality = document.picture().jpegQualityFor(document.picture().path());
+    if (format == SaveFormat::JPEG && asksQuality)
+        request.quality = document.picture().jpegQualityFor(document.picture().path());
     return request;
 }
 
@@ -42,6 +44,19 @@ Outcome saveCopyWithoutPrivateData(Document& document)
     const std::optional<SaveAnswer> answer = runSavePanel(panelFor(document, std::move(proposal), format));
     if (!answer) return {Outcome::Refused, {}};
     return document.perform("saveWithoutPrivateData", {{double(answer->quality)}, answer->path});
+}
+
+Outcome saveSizedCopy(Document& document, SaveFormat format, const SizedFile& found)
+{
+    document.endGesture();
+    SaveProposal proposal = saveProposal(document.picture().path(), format, homeFolder());
+    // Beside the picture, never over it.
+    proposal.name = pathWithoutExtension(proposal.name) + " (small)." + extensionFor(format);
+    const std::optional<SaveAnswer> answer = runSavePanel(panelFor(document, std::move(proposal), format, false));
+    if (!answer) return {Outcome::Refused, {}};
+    return document.perform(*document.operation("saveImageLooksSame:"), [&](Edit& edit) {
+        writeAndTell(edit, found.bytes, found.properties, answer->path, formatTitle(format, found.quality));
+    });
 }
 
 Outcome saveThroughPanel(Document& document, SaveFormat format)

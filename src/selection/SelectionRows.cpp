@@ -32,9 +32,9 @@ void packSelectedBits(const std::uint8_t* bytes, int width, std::uint64_t* words
 {
     int x = 0;
     for (; x + 64 <= width; x += 64) *words++ = selectedOf64(bytes + x);
-    std::uint8_t rest[64];
+    std::uint8_t rest[64]; // of a row that may be empty, which has no place in memory
     std::memset(rest, 255, sizeof rest);
-    std::memcpy(rest, bytes + x, std::size_t(width - x));
+    if (x < width) std::memcpy(rest, bytes + x, std::size_t(width - x));
     *words = selectedOf64(rest);
 }
 

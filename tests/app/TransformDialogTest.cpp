@@ -3,6 +3,7 @@
 #include "app/TransformDialog.h"
 #include "app/AdjustDialog.h"
 #include "support/DocumentFixture.h"
+#include "support/ModalDialog.h"
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
@@ -10,7 +11,6 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QTest>
-#include <QTimer>
 
 using namespace zp;
 using namespace zp::test;
@@ -30,32 +30,17 @@ protected:
         takeSounds();
         takeLogLines();
     }
-    /// Runs the dialog and does @p work in it; closes it by Escape if the work did not.
-    template <class Run, class Work>
-    void with(Run run, const char* name, Work work)
-    {
-        bool worked = false;
-        QTimer::singleShot(0, canvas.get(), [&] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            EXPECT_EQ(dialog->objectName(), name);
-            EXPECT_TRUE(dialog->isModal());
-            work(*dialog);
-            worked = true;
-            if (dialog->isVisible()) dialog->reject();
-        });
-        run(*document, nullptr);
-        EXPECT_TRUE(worked);
-    }
     template <class Work>
     void inTransform(Work work)
     {
-        with(runTransformDialog, "Transform", work);
+        inModalDialog(
+            canvas.get(), "Transform", [&] { runTransformDialog(*document, nullptr); }, work);
     }
     template <class Work>
     void inAdjust(Work work)
     {
-        with(runAdjustDialog, "Adjust", work);
+        inModalDialog(
+            canvas.get(), "Adjust", [&] { runAdjustDialog(*document, nullptr); }, work);
     }
     static QSpinBox& field(QDialog& d, const char* name) { return *d.findChild<QSpinBox*>(name); }
     static QSlider& slider(QDialog& d, const char* name) { return *d.findChild<QSlider*>(name); }

@@ -31,7 +31,7 @@ std::vector<Kernel> kernels()
 {
     const auto inPlace = [](auto work) {
         return [work](const std::uint8_t* from, std::uint8_t* to, std::size_t n) {
-            std::memcpy(to, from, 4 * n);
+            if (n > 0) std::memcpy(to, from, 4 * n);
             work(to, n);
         };
     };

@@ -217,4 +217,29 @@ TEST_F(FileSession, ACopyWithoutPrivateDataIsNotThePicturesFile)
     EXPECT_TRUE(bytes.contains("Edited by Zelpane"));
 }
 
+TEST_F(FileSession, CopiesAreMadeForASizeAndForALook)
+{
+    const QString path = put("photos/tahoe-gps.jpg", "lake.jpg");
+    run.must("open " + path);
+    run.must("wait");
+    run.must("send saveImage:atMost: " + run.file("small.jpg") + " 200");
+    EXPECT_TRUE(message().startsWith("Saved small.jpg · JPEG ")) << message().toStdString();
+    EXPECT_LE(QFileInfo(run.file("small.jpg")).size(), 200 * 1024);
+    run.must("send saveImageLooksSame: " + run.file("same.webp"));
+    EXPECT_TRUE(message().startsWith("Saved same.webp · WebP ")) << message().toStdString();
+    EXPECT_LT(QFileInfo(run.file("same.webp")).size(), QFileInfo(path).size());
+    EXPECT_EQ(picturePath(), path);
+    struct Refused {
+        QString line, words;
+    };
+    for (const Refused& r : {Refused{"saveImage:atMost: " + run.file("tiny.jpg") + " 1", "Even at the lowest quality"},
+                             Refused{"saveImageLooksSame: " + run.file("same.png"), "no quality to choose"}}) {
+        run.ask("send " + r.line);
+        EXPECT_TRUE(message().contains(r.words)) << message().toStdString();
+        run.play({"answer OK"});
+    }
+    EXPECT_FALSE(QFile::exists(run.file("tiny.jpg")));
+    EXPECT_FALSE(QFile::exists(run.file("same.png")));
+}
+
 } // namespace
