@@ -1136,6 +1136,14 @@
         <source>Repeated &amp;all over, with gaps of</source>
         <translation>Überall wieder&amp;holt, mit Abständen von</translation>
     </message>
+    <message>
+        <source>Te&amp;xt…</source>
+        <translation>Te&amp;xt …</translation>
+    </message>
+    <message>
+        <source>Makes a line of text a watermark</source>
+        <translation>Macht eine Zeile Text zum Wasserzeichen</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -3448,6 +3456,53 @@
     </message>
 </context>
 <context>
+    <name>WatermarkText</name>
+    <message>
+        <source>Text as Watermark</source>
+        <translation>Text als Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>&amp;Text:</translation>
+    </message>
+    <message>
+        <source>© and your name</source>
+        <translation>© und Ihr Name</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>&amp;Schrift:</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>&amp;Fett</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>&amp;Kursiv</translation>
+    </message>
+    <message>
+        <source>&amp;Colour:</source>
+        <translation>F&amp;arbe:</translation>
+    </message>
+    <message>
+        <source>Colour of the letters</source>
+        <translation>Farbe der Buchstaben</translation>
+    </message>
+    <message>
+        <source>With an &amp;edge that shows on light and dark</source>
+        <translation>Mit einer K&amp;ontur, die auf Hell und Dunkel zu sehen ist</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Anlegen</translation>
+    </message>
+</context>
+<context>
     <name>ZPAboutBox</name>
     <message>
         <source>Version %1</source>
@@ -3763,6 +3818,14 @@
     <message>
         <source>None</source>
         <translation>Keins</translation>
+    </message>
+    <message>
+        <source>The watermark could not be made.</source>
+        <translation>Das Wasserzeichen konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The letters of this text have no outlines in this font.</source>
+        <translation>Die Buchstaben dieses Textes haben in dieser Schrift keine Umrisse.</translation>
     </message>
 </context>
 <context>

@@ -1136,6 +1136,14 @@
         <source>Repeated &amp;all over, with gaps of</source>
         <translation>Repetida por toda la &amp;imagen, con espacios del</translation>
     </message>
+    <message>
+        <source>Te&amp;xt…</source>
+        <translation>Te&amp;xto…</translation>
+    </message>
+    <message>
+        <source>Makes a line of text a watermark</source>
+        <translation>Convierte una línea de texto en marca de agua</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -3448,6 +3456,53 @@
     </message>
 </context>
 <context>
+    <name>WatermarkText</name>
+    <message>
+        <source>Text as Watermark</source>
+        <translation>Texto como marca de agua</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>&amp;Texto:</translation>
+    </message>
+    <message>
+        <source>© and your name</source>
+        <translation>© y su nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>&amp;Fuente:</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>&amp;Negrita</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>&amp;Cursiva</translation>
+    </message>
+    <message>
+        <source>&amp;Colour:</source>
+        <translation>C&amp;olor:</translation>
+    </message>
+    <message>
+        <source>Colour of the letters</source>
+        <translation>Color de las letras</translation>
+    </message>
+    <message>
+        <source>With an &amp;edge that shows on light and dark</source>
+        <translation>Con un &amp;borde visible sobre claro y oscuro</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Crear</translation>
+    </message>
+</context>
+<context>
     <name>ZPAboutBox</name>
     <message>
         <source>Version %1</source>
@@ -3763,6 +3818,14 @@
     <message>
         <source>None</source>
         <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>The watermark could not be made.</source>
+        <translation>No se pudo crear la marca de agua.</translation>
+    </message>
+    <message>
+        <source>The letters of this text have no outlines in this font.</source>
+        <translation>Las letras de este texto no tienen contornos en esta fuente.</translation>
     </message>
 </context>
 <context>

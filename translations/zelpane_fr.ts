@@ -1136,6 +1136,14 @@
         <source>Repeated &amp;all over, with gaps of</source>
         <translation>Répété partout, avec des &amp;espaces de</translation>
     </message>
+    <message>
+        <source>Te&amp;xt…</source>
+        <translation>Te&amp;xte…</translation>
+    </message>
+    <message>
+        <source>Makes a line of text a watermark</source>
+        <translation>Fait d’une ligne de texte un filigrane</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -3448,6 +3456,53 @@
     </message>
 </context>
 <context>
+    <name>WatermarkText</name>
+    <message>
+        <source>Text as Watermark</source>
+        <translation>Texte en filigrane</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>&amp;Texte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>© and your name</source>
+        <translation>© et votre nom</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>&amp;Police&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>&amp;Gras</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>&amp;Italique</translation>
+    </message>
+    <message>
+        <source>&amp;Colour:</source>
+        <translation>&amp;Couleur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Colour of the letters</source>
+        <translation>Couleur des lettres</translation>
+    </message>
+    <message>
+        <source>With an &amp;edge that shows on light and dark</source>
+        <translation>Avec un &amp;bord visible sur clair et sombre</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Créer</translation>
+    </message>
+</context>
+<context>
     <name>ZPAboutBox</name>
     <message>
         <source>Version %1</source>
@@ -3763,6 +3818,14 @@
     <message>
         <source>None</source>
         <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>The watermark could not be made.</source>
+        <translation>Le filigrane n’a pas pu être créé.</translation>
+    </message>
+    <message>
+        <source>The letters of this text have no outlines in this font.</source>
+        <translation>Les lettres de ce texte n’ont pas de contours dans cette police.</translation>
     </message>
 </context>
 <context>

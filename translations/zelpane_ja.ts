@@ -1126,6 +1126,14 @@
         <source>Repeated &amp;all over, with gaps of</source>
         <translation>全体に繰り返す(&amp;A)、間隔は</translation>
     </message>
+    <message>
+        <source>Te&amp;xt…</source>
+        <translation>テキスト(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Makes a line of text a watermark</source>
+        <translation>1 行のテキストを透かしにします</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -3438,6 +3446,53 @@
     </message>
 </context>
 <context>
+    <name>WatermarkText</name>
+    <message>
+        <source>Text as Watermark</source>
+        <translation>テキストの透かし</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>テキスト(&amp;T):</translation>
+    </message>
+    <message>
+        <source>© and your name</source>
+        <translation>© とお名前</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>フォント(&amp;F):</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>太字(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>斜体(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Colour:</source>
+        <translation>色(&amp;C):</translation>
+    </message>
+    <message>
+        <source>Colour of the letters</source>
+        <translation>文字の色</translation>
+    </message>
+    <message>
+        <source>With an &amp;edge that shows on light and dark</source>
+        <translation>明暗どちらでも見える縁取り(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>作成</translation>
+    </message>
+</context>
+<context>
     <name>ZPAboutBox</name>
     <message>
         <source>Version %1</source>
@@ -3751,6 +3806,14 @@
     <message>
         <source>None</source>
         <translation>なし</translation>
+    </message>
+    <message>
+        <source>The watermark could not be made.</source>
+        <translation>透かしを作成できませんでした。</translation>
+    </message>
+    <message>
+        <source>The letters of this text have no outlines in this font.</source>
+        <translation>このフォントでは、このテキストの文字に輪郭がありません。</translation>
     </message>
 </context>
 <context>

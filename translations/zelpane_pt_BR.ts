@@ -1136,6 +1136,14 @@
         <source>Repeated &amp;all over, with gaps of</source>
         <translation>Repetida por toda a &amp;imagem, com espaços de</translation>
     </message>
+    <message>
+        <source>Te&amp;xt…</source>
+        <translation>Te&amp;xto…</translation>
+    </message>
+    <message>
+        <source>Makes a line of text a watermark</source>
+        <translation>Transforma uma linha de texto em marca d’água</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -3448,6 +3456,53 @@
     </message>
 </context>
 <context>
+    <name>WatermarkText</name>
+    <message>
+        <source>Text as Watermark</source>
+        <translation>Texto como marca d’água</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>&amp;Texto:</translation>
+    </message>
+    <message>
+        <source>© and your name</source>
+        <translation>© e seu nome</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>&amp;Fonte:</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>&amp;Negrito</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>&amp;Itálico</translation>
+    </message>
+    <message>
+        <source>&amp;Colour:</source>
+        <translation>&amp;Cor:</translation>
+    </message>
+    <message>
+        <source>Colour of the letters</source>
+        <translation>Cor das letras</translation>
+    </message>
+    <message>
+        <source>With an &amp;edge that shows on light and dark</source>
+        <translation>Com &amp;borda visível sobre claro e escuro</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Criar</translation>
+    </message>
+</context>
+<context>
     <name>ZPAboutBox</name>
     <message>
         <source>Version %1</source>
@@ -3763,6 +3818,14 @@
     <message>
         <source>None</source>
         <translation>Nenhuma</translation>
+    </message>
+    <message>
+        <source>The watermark could not be made.</source>
+        <translation>Não foi possível criar a marca d’água.</translation>
+    </message>
+    <message>
+        <source>The letters of this text have no outlines in this font.</source>
+        <translation>As letras deste texto não têm contornos nesta fonte.</translation>
     </message>
 </context>
 <context>

@@ -1126,6 +1126,14 @@
         <source>Repeated &amp;all over, with gaps of</source>
         <translation>铺满整张图像(&amp;A)，间距为</translation>
     </message>
+    <message>
+        <source>Te&amp;xt…</source>
+        <translation>文字(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Makes a line of text a watermark</source>
+        <translation>把一行文字做成水印</translation>
+    </message>
 </context>
 <context>
     <name>Keys</name>
@@ -3438,6 +3446,53 @@
     </message>
 </context>
 <context>
+    <name>WatermarkText</name>
+    <message>
+        <source>Text as Watermark</source>
+        <translation>文字水印</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>文字(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>© and your name</source>
+        <translation>© 和您的名字</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>字体(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>粗体(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>斜体(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Colour:</source>
+        <translation>颜色(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Colour of the letters</source>
+        <translation>文字颜色</translation>
+    </message>
+    <message>
+        <source>With an &amp;edge that shows on light and dark</source>
+        <translation>带明暗背景下都可见的描边(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>创建</translation>
+    </message>
+</context>
+<context>
     <name>ZPAboutBox</name>
     <message>
         <source>Version %1</source>
@@ -3751,6 +3806,14 @@
     <message>
         <source>None</source>
         <translation>无</translation>
+    </message>
+    <message>
+        <source>The watermark could not be made.</source>
+        <translation>无法创建水印。</translation>
+    </message>
+    <message>
+        <source>The letters of this text have no outlines in this font.</source>
+        <translation>此字体中没有这段文字的字符轮廓。</translation>
     </message>
 </context>
 <context>

@@ -90,7 +90,6 @@ void ProcessorPreview::end()
 {
     pause();
     mShown = false;
-    if (!mUi.mPreviewStrip->isVisibleTo(mUi.mPreviewStrip->window())) return;
     mUi.mPreviewStrip->hide();
     fitWindow();
 }

@@ -34,7 +34,7 @@ public:
 
     /// Shows the strip and looks into the folder anew.
     void begin();
-    /// Hides it; what is being made is given up.
+    /// Hides it, and the window is as high as without it; what is being made is given up.
     void end();
     /// What is being made is given up; what is shown stays.
     void pause();

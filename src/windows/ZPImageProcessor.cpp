@@ -17,6 +17,7 @@
 #include "operations/Files.h"
 #include "ui_ImageProcessor.h"
 #include "windows/ProcessorPreview.h"
+#include "windows/WatermarkText.h"
 #include <QApplication>
 #include <QDialog>
 #include <any>
@@ -59,6 +60,7 @@ ZPImageProcessor::ZPImageProcessor()
     connect(mUi->mWatermarkPosition, &QComboBox::activated, this, &ZPImageProcessor::placeByPreset);
     connect(mUi->mWatermarkEachPicture, &QCheckBox::toggled, this, &ZPImageProcessor::placeInEachPicture);
     connect(mUi->mWatermark, &QComboBox::activated, this, &ZPImageProcessor::chooseWatermark);
+    connect(mUi->mWatermarkTextButton, &QPushButton::clicked, this, &ZPImageProcessor::textWatermark);
     connect(mUi->mWatermarkRelative, &QCheckBox::toggled, this, &ZPImageProcessor::sizeByPicture);
     connect(mUi->mWatermarkTiled, &QCheckBox::toggled, mUi->mWatermarkGap, &QSpinBox::setEnabled);
     connect(mUi->mPreviewButton, &QPushButton::toggled, this, &ZPImageProcessor::preview);
@@ -234,6 +236,15 @@ void ZPImageProcessor::chooseWatermark()
     mUi->mWatermarkTiled->setChecked(kept.tiled);
     mUi->mWatermarkGap->setValue(kept.gap);
     mUi->mWatermarkTurn->setValue(kept.turn);
+}
+
+void ZPImageProcessor::textWatermark()
+{
+    const auto name = runWatermarkTextPanel(mWindow.get());
+    if (!name) return;
+    fillWatermarks();
+    mUi->mWatermark->setCurrentIndex(std::max(0, mUi->mWatermark->findData(QByteArray::fromStdString(*name))));
+    chooseWatermark();
 }
 
 void ZPImageProcessor::sizeByPicture()

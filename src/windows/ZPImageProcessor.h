@@ -49,6 +49,8 @@ public:
     void placeInEachPicture();
     /// The watermark's fields become as they were when it was last used.
     void chooseWatermark();
+    /// Asks for a line of text, makes it a watermark and chooses that.
+    void textWatermark();
     /// The switch of relative watermarks: size, margin and position change to percents and back, each unit with its
     /// own numbers, and presets hold in each picture.
     void sizeByPicture();

@@ -73,4 +73,27 @@ TEST(Watermarks, AScriptPreviewsRunsAndFindsThemAsTheyWereLastUsed)
     session.must("key Escape");
 }
 
+TEST(Watermarks, ATextBecomesOneThatIsRelativeFromTheStart)
+{
+    Session session;
+    session.newImage(64, 48);
+    session.must("menu imageProcessor:");
+    session.must("answer Yes");
+    session.must("click textWatermark:");
+    EXPECT_FALSE(session.must("get mWatermarkText_CreateButton")["enabled"].toBool());
+    session.must("set mWatermarkText_Field \"Anna 2026\"");
+    session.must("click watermarkText_create:");
+    EXPECT_EQ(session.must("get mWatermark")["value"].toString().toStdString(), "Anna 2026.tiff");
+    EXPECT_EQ(session.must("get mWatermarkRelative")["value"].toInt(), 1);
+    const QString folder = session.home() + "/Library/Application Support/Zelpane/Watermarks/";
+    EXPECT_TRUE(QFile::exists(folder + "Anna 2026.tiff"));
+    EXPECT_TRUE(QFile::exists(folder + "Anna 2026.tiff.layout"));
+    session.must("click textWatermark:");
+    session.must("set mWatermarkText_Field \"never made\"");
+    session.must("key Escape");
+    EXPECT_EQ(session.must("get mWatermark")["value"].toString().toStdString(), "Anna 2026.tiff");
+    EXPECT_FALSE(QFile::exists(folder + "never made.tiff"));
+    session.must("key Escape");
+}
+
 } // namespace
