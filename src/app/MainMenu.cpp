@@ -109,6 +109,7 @@ QAction* MainMenu::itemOfKeys(const QKeySequence& keys) const
 }
 
 QString MainMenu::menuTitleOf(const QAction* item) const { return item->property("menu").toString(); }
+QString MainMenu::givenTitleOf(const QAction* item) { return inMenu(item->property("english").toByteArray()); }
 
 void MainMenu::validate(QAction* item)
 {

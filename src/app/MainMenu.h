@@ -35,6 +35,8 @@ public:
     const QList<QAction*>& items() const { return mOrder; }
     QMenu* menu(const QString& title) const { return mMenus.value(title); }
     QString menuTitleOf(const QAction* item) const;
+    /// The table's own title, whatever the item says at the moment ("Undo", not "Undo Fill").
+    static QString givenTitleOf(const QAction* item);
     /// Enabled states and titles as they are now.
     void validate();
     /// Chooses the item if it is enabled. @return an error in a word or two, empty when chosen

@@ -123,7 +123,7 @@ void ShortcutsWindow::fill()
         if (!group || group->text(0) != mMenu.menuTitleOf(item)) begin(mMenu.menuTitleOf(item));
         QStringList keys;
         for (const QKeySequence& k : item->shortcuts()) keys << k.toString(QKeySequence::NativeText);
-        auto* line = new QTreeWidgetItem(group, {item->text(), keys.join(", ")});
+        auto* line = new QTreeWidgetItem(group, {MainMenu::givenTitleOf(item), keys.join(", ")});
         line->setData(0, kActionRole, item->property("action"));
         line->setToolTip(0, item->property("tip").toString());
         if (item->property("action").toString() == chosen) again = line;
@@ -174,7 +174,7 @@ void ShortcutsWindow::showConflict()
     const QString tool = toolWithKey(keys), written = keys.toString(QKeySequence::NativeText);
     QString text;
     if (other && other->property("action").toString() != chosenAction())
-        text = tr("%1 belongs to %2 now, which would lose it.").arg(written, other->text());
+        text = tr("%1 belongs to %2 now, which would lose it.").arg(written, MainMenu::givenTitleOf(other));
     else if (!tool.isEmpty())
         text = tr("%1 chooses the tool %2, which would not hear it any more.").arg(written, tool);
     mConflict->setText(text);
