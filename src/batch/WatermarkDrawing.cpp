@@ -40,7 +40,7 @@ Stamp inSize(ConstBitmapView watermark, int width, int height)
 }
 
 /// The upright stamp, size.width by size.height, turned about the middle of a clear box.
-Stamp turned(const Stamp& upright, Size size, int turn, int width, int height)
+Stamp turned(ConstBitmapView upright, Size size, int turn, int width, int height)
 {
     auto stamp = BitmapRep::create(width, height);
     if (!stamp) throw std::bad_alloc();
@@ -49,7 +49,7 @@ Stamp turned(const Stamp& upright, Size size, int turn, int width, int height)
     map.translate(width / 2.0, height / 2.0);
     map.rotateByDegrees(-turn); // y grows downwards
     context.concat(map);
-    context.drawImage(upright->view(), {{-size.width / 2, -size.height / 2}, size}, upright->view().box().rect());
+    context.drawImage(upright, {{-size.width / 2, -size.height / 2}, size}, upright.box().rect());
     return stamp;
 }
 } // namespace
@@ -75,9 +75,12 @@ void drawWatermarks(BitmapView image, ConstBitmapView watermark, const Watermark
     const double across = image.width / double(planned.width), down = image.height / double(planned.height);
     const auto scaled = [&](Size size) { return Size{float(size.width * across), float(size.height * down)}; };
     const Size size = scaled(plan.size), box = scaled(plan.box);
-    Stamp stamp = inSize(watermark, wholeSide(size.width), wholeSide(size.height));
-    if (plan.turn % 360 != 0) stamp = turned(stamp, size, plan.turn, wholeSide(box.width), wholeSide(box.height));
-    const ConstBitmapView ink = stamp->view();
+    const int width = wholeSide(size.width), height = wholeSide(size.height);
+    ConstBitmapView ink = watermark;
+    Stamp stamp; // what ink looks at, unless the watermark is its own stamp
+    if (width != ink.width || height != ink.height) ink = (stamp = inSize(ink, width, height))->view();
+    if (plan.turn % 360 != 0)
+        ink = (stamp = turned(ink, size, plan.turn, wholeSide(box.width), wholeSide(box.height)))->view();
     // Bands of the image, each with all marks that touch it: marks of one row seldom keep two processors busy.
     parallelBands(image.height, kRowsPerBand, [&](int first, int last) {
         BitmapContext context(image.part({0, first, image.width, last}));

@@ -12,6 +12,8 @@ namespace
 
 /// Tiled marks of a few pixels are dust that nobody asks for, but costs a stamp each.
 constexpr double kLeastStep = 8;
+/// Places beyond this, in pixels, are as good as there: no picture is near, and numbers stay whole ones.
+constexpr double kFarAway = 1e8;
 /// A side that is whole but for the last digits of a cosine is whole.
 constexpr double kSlip = 1e-6;
 
@@ -103,7 +105,8 @@ WatermarkPlan planWatermark(const WatermarkLayout& layout, Size mark, Size pictu
         point = {float(pixels(point.x)), float(pixels(point.y))};
     }
     if (place != WatermarkPlace::Custom) point = watermarkPosition(place, picture, plan.box, margin);
-    plan.places.push_back({int(std::floor(point.x)), int(std::floor(picture.height - point.y - plan.box.height))});
+    const auto whole = [](double side) { return int(std::clamp(std::floor(side), -kFarAway, kFarAway)); };
+    plan.places.push_back({whole(point.x), whole(double(picture.height) - double(point.y) - double(plan.box.height))});
     if (layout.tiled) tile(plan, layout, axes, picture);
     return plan;
 }

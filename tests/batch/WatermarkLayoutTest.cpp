@@ -196,8 +196,15 @@ INSTANTIATE_TEST_SUITE_P(
         Tiling{"Upright", {.tiled = true, .turn = 90}, 200, 500, 60, 15},
         Tiling{"Dust", {.tiled = true, .gap = 0}, 150, 120, 1, 1},
         Tiling{"LargerThanThePicture", {.tiled = true}, 60, 40, 200, 90},
-        Tiling{
-            "FromFarOutside", {.tiled = true, .turn = 10}, 300, 200, 31, 12, WatermarkPlace::Custom, {-5000, 90000}}),
+        Tiling{"FromFarOutside", {.tiled = true, .turn = 10}, 300, 200, 31, 12, WatermarkPlace::Custom, {-5000, 90000}},
+        Tiling{"FromTheEndOfNumbers",
+               {.relative = true, .tiled = true},
+               300,
+               200,
+               31,
+               12,
+               WatermarkPlace::Custom,
+               {2e9f, -2e9f}}),
     [](const auto& test) { return std::string(test.param.name); });
 
 TEST(WatermarkLayout, EverySecondRowIsHalfAStepFurther)
