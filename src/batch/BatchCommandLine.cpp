@@ -255,6 +255,8 @@ BatchCommandLine parseBatchCommandLine(int argc, char** argv)
         line.error = "--at and --place say the same thing twice.";
     if (line.error.empty() && line.scriptPath.empty() && !line.scriptValues.empty())
         line.error = "--set is of use with --script only.";
+    if (line.error.empty() && line.watermarkPath.empty() && !line.settings.watermarkLayout.isAsGiven())
+        line.error = "--relative, --tile and --turn are of use with --watermark only.";
     line.settings.watermarkLayout.margin = line.settings.watermarkMargin;
     if (!jobsGiven) line.settings.jobs = 0; // as many as the machine has processors
     return line;

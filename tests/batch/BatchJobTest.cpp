@@ -425,36 +425,38 @@ TEST_F(Batch, CommandLineUnderstandsItsOptions)
     }
     EXPECT_EQ(line.settings.watermarkLayout, WatermarkLayout{.margin = 0});
     const auto laid = parse({source(), destination(), "--jpeg", "--relative", "20", "--place", "lower-left+4",
-                             "--tile=0", "--turn", "-30"});
+                             "--tile=0", "--watermark", "w.jpg", "--turn", "-30"});
     EXPECT_EQ(laid.error, "");
     EXPECT_EQ(laid.settings.watermarkLayout,
               (WatermarkLayout{.relative = true, .size = 20, .margin = 4, .tiled = true, .gap = 0, .turn = -30}));
-    for (const std::vector<std::string>& wrong : {std::vector<std::string>{source(), destination()},
-                                                  {source(), "--jpeg"},
-                                                  {"--jpeg"},
-                                                  {source(), source(), "--jpeg"},
-                                                  {source(), "/nowhere", "--jpeg"},
-                                                  {source(), destination(), "--jpeg", "--fit", "10"},
-                                                  {source(), destination(), "--jpeg", "--fit", "0x10"},
-                                                  {source(), destination(), "--jpeg", "--shard", "3/2"},
-                                                  {source(), destination(), "--jpeg", "--shard", "0/2"},
-                                                  {source(), destination(), "--jpeg", "--shard", "auto/2"},
-                                                  {source(), destination(), "--jpeg", "--jobs", "0"},
-                                                  {source(), destination(), "--jpeg", "--fit"},
-                                                  {source(), destination(), "--jpeg", "--what"},
-                                                  {source(), destination(), "more", "--jpeg"},
-                                                  {source(), destination(), "--jpeg", "--place", "left"},
-                                                  {source(), destination(), "--jpeg", "--place", "centre+"},
-                                                  {source(), destination(), "--jpeg", "--place", "lower-left+-1"},
-                                                  {source(), destination(), "--jpeg", "--place=centre", "--at=1,1"},
-                                                  {source(), destination(), "--jpeg", "--relative", "0"},
-                                                  {source(), destination(), "--jpeg", "--relative", "101"},
-                                                  {source(), destination(), "--jpeg", "--relative", "20%"},
-                                                  {source(), destination(), "--jpeg", "--tile", "-1"},
-                                                  {source(), destination(), "--jpeg", "--tile", "401"},
-                                                  {source(), destination(), "--jpeg", "--turn", "361"},
-                                                  {source(), destination(), "--jpeg", "--turn"},
-                                                  {source(), destination(), "--jpeg", "--opacity", "half"}})
+    for (const std::vector<std::string>& wrong :
+         {std::vector<std::string>{source(), destination()},
+          {source(), "--jpeg"},
+          {"--jpeg"},
+          {source(), source(), "--jpeg"},
+          {source(), "/nowhere", "--jpeg"},
+          {source(), destination(), "--jpeg", "--fit", "10"},
+          {source(), destination(), "--jpeg", "--fit", "0x10"},
+          {source(), destination(), "--jpeg", "--shard", "3/2"},
+          {source(), destination(), "--jpeg", "--shard", "0/2"},
+          {source(), destination(), "--jpeg", "--shard", "auto/2"},
+          {source(), destination(), "--jpeg", "--jobs", "0"},
+          {source(), destination(), "--jpeg", "--fit"},
+          {source(), destination(), "--jpeg", "--what"},
+          {source(), destination(), "more", "--jpeg"},
+          {source(), destination(), "--jpeg", "--place", "left"},
+          {source(), destination(), "--jpeg", "--place", "centre+"},
+          {source(), destination(), "--jpeg", "--place", "lower-left+-1"},
+          {source(), destination(), "--jpeg", "--place=centre", "--at=1,1"},
+          {source(), destination(), "--jpeg", "--relative", "20"},
+          {source(), destination(), "--jpeg", "--watermark", "w", "--relative", "0"},
+          {source(), destination(), "--jpeg", "--watermark", "w", "--relative", "101"},
+          {source(), destination(), "--jpeg", "--watermark", "w", "--relative", "20%"},
+          {source(), destination(), "--jpeg", "--watermark", "w", "--tile", "-1"},
+          {source(), destination(), "--jpeg", "--watermark", "w", "--tile", "401"},
+          {source(), destination(), "--jpeg", "--watermark", "w", "--turn", "361"},
+          {source(), destination(), "--jpeg", "--turn"},
+          {source(), destination(), "--jpeg", "--opacity", "half"}})
         EXPECT_NE(parse(wrong).error, "") << (wrong.empty() ? "" : wrong.back());
     EXPECT_TRUE(parse({"--help"}).help);
 }
