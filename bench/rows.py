@@ -38,6 +38,9 @@ SECTIONS = [
         *[Row(f"wand, {k}", f"wand/{k}/iterations:9/real_time", [("cv::floodFill, mask only", f"wand, OpenCV/{k}/iterations:9/real_time")], g)
           for k, g in (("uniform", 0.18), ("photo", 0.18), ("drawing", 0.36), ("percolation 65 %", 0.12), ("comb", 0.10),
                        ("columns", 0.30), ("rows", 0.40), ("spiral", 0.30))],
+        *[Row(f"what a wand would take, {k}", f"preview/{k}/iterations:9/real_time",
+              [("cv::floodFill, mask only", f"wand, OpenCV/{k}/iterations:9/real_time")], None, "the picture looked over before")
+          for k in ("uniform", "photo", "drawing")],
         Row("one stamp of size 200", "stamp/200", [("AGG", "stamp, AGG/200")], 0.10, "the calling thread's own time"),
     ]),
     Section("files", "codecs/bench_codecs", [

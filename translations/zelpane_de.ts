@@ -1441,6 +1441,14 @@
         <source>Pressure: opacity</source>
         <translation>Druck: Deckkraft</translation>
     </message>
+    <message>
+        <source>Explain</source>
+        <translation>Erklären</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click takes; a drag after the press changes the tolerance</source>
+        <translation>Wo der Zeiger ruht, was ein Klick nimmt; Ziehen nach dem Drücken ändert die Toleranz</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -2035,6 +2043,14 @@
     <message>
         <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
         <translation>Schreibt eine Kopie, die so groß ist wie erlaubt oder so klein, dass sie noch gleich aussieht</translation>
+    </message>
+    <message>
+        <source>Explain the Wand</source>
+        <translation>Zauberstab erklären</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
+        <translation>Wo der Zeiger ruht, was ein Klick des Zauberstabs nimmt; und warum er ein Pixel ausließ</translation>
     </message>
 </context>
 <context>
@@ -3059,6 +3075,10 @@
         <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
         <translation>Ziehen verschiebt · die Griffe skalieren und drehen, %1: Schritte von 15° · Eingabetaste verankert, Escape hebt auf</translation>
     </message>
+    <message>
+        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
+        <translation>Ruhen: was ein Klick nimmt, schimmert · drücken und nach rechts oder links ziehen: mehr oder weniger Toleranz · %1 fügt hinzu, %2 zieht ab</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -3446,6 +3466,37 @@
     <message>
         <source>Apply</source>
         <translation>Anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>Wand</name>
+    <message>
+        <source>Outside: red differs by %1, the tolerance allows %2</source>
+        <translation>Außerhalb: Rot weicht um %1 ab, die Toleranz erlaubt %2</translation>
+    </message>
+    <message>
+        <source>Outside: green differs by %1, the tolerance allows %2</source>
+        <translation>Außerhalb: Grün weicht um %1 ab, die Toleranz erlaubt %2</translation>
+    </message>
+    <message>
+        <source>Outside: blue differs by %1, the tolerance allows %2</source>
+        <translation>Außerhalb: Blau weicht um %1 ab, die Toleranz erlaubt %2</translation>
+    </message>
+    <message>
+        <source>Outside: opacity differs by %1, the tolerance allows %2</source>
+        <translation>Außerhalb: die Deckkraft weicht um %1 ab, die Toleranz erlaubt %2</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Innerhalb</translation>
+    </message>
+    <message>
+        <source>Outside: within the tolerance, but not connected</source>
+        <translation>Außerhalb: innerhalb der Toleranz, aber nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Outside: a tolerance of 0 takes nothing</source>
+        <translation>Außerhalb: eine Toleranz von 0 nimmt nichts</translation>
     </message>
 </context>
 <context>
@@ -3890,6 +3941,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>zp::WandExplainer</name>
+    <message>
+        <source>A click takes %1 px</source>
+        <translation>Ein Klick nimmt %1 px</translation>
+    </message>
+    <message>
+        <source>A click takes at least %1 px</source>
+        <translation>Ein Klick nimmt mindestens %1 px</translation>
     </message>
 </context>
 </TS>

@@ -1441,6 +1441,14 @@
         <source>Pressure: opacity</source>
         <translation>Presión: opacidad</translation>
     </message>
+    <message>
+        <source>Explain</source>
+        <translation>Explicar</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click takes; a drag after the press changes the tolerance</source>
+        <translation>Donde el puntero descansa, lo que toma un clic; arrastrar tras pulsar cambia la tolerancia</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -2035,6 +2043,14 @@
     <message>
         <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
         <translation>Escribe una copia tan grande como se permita, o tan pequeña que aún se vea igual</translation>
+    </message>
+    <message>
+        <source>Explain the Wand</source>
+        <translation>Explicar la varita</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
+        <translation>Donde el puntero descansa, lo que toma un clic de la varita mágica; y por qué dejó fuera un píxel</translation>
     </message>
 </context>
 <context>
@@ -3059,6 +3075,10 @@
         <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
         <translation>Arrastrar mueve · los tiradores escalan y giran, %1: pasos de 15° · Intro ancla, Escape descarta</translation>
     </message>
+    <message>
+        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
+        <translation>Descansar: brilla lo que toma un clic · pulsar y arrastrar a la derecha o izquierda: más o menos tolerancia · %1 suma, %2 resta</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -3446,6 +3466,37 @@
     <message>
         <source>Apply</source>
         <translation>Aplicar</translation>
+    </message>
+</context>
+<context>
+    <name>Wand</name>
+    <message>
+        <source>Outside: red differs by %1, the tolerance allows %2</source>
+        <translation>Fuera: el rojo difiere en %1, la tolerancia permite %2</translation>
+    </message>
+    <message>
+        <source>Outside: green differs by %1, the tolerance allows %2</source>
+        <translation>Fuera: el verde difiere en %1, la tolerancia permite %2</translation>
+    </message>
+    <message>
+        <source>Outside: blue differs by %1, the tolerance allows %2</source>
+        <translation>Fuera: el azul difiere en %1, la tolerancia permite %2</translation>
+    </message>
+    <message>
+        <source>Outside: opacity differs by %1, the tolerance allows %2</source>
+        <translation>Fuera: la opacidad difiere en %1, la tolerancia permite %2</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Dentro</translation>
+    </message>
+    <message>
+        <source>Outside: within the tolerance, but not connected</source>
+        <translation>Fuera: dentro de la tolerancia, pero sin conexión</translation>
+    </message>
+    <message>
+        <source>Outside: a tolerance of 0 takes nothing</source>
+        <translation>Fuera: una tolerancia de 0 no toma nada</translation>
     </message>
 </context>
 <context>
@@ -3890,6 +3941,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>zp::WandExplainer</name>
+    <message>
+        <source>A click takes %1 px</source>
+        <translation>Un clic toma %1 px</translation>
+    </message>
+    <message>
+        <source>A click takes at least %1 px</source>
+        <translation>Un clic toma al menos %1 px</translation>
     </message>
 </context>
 </TS>

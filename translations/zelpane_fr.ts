@@ -1441,6 +1441,14 @@
         <source>Pressure: opacity</source>
         <translation>Pression : opacité</translation>
     </message>
+    <message>
+        <source>Explain</source>
+        <translation>Expliquer</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click takes; a drag after the press changes the tolerance</source>
+        <translation>Là où le pointeur s’arrête, ce que prend un clic ; glisser après avoir appuyé change la tolérance</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -2035,6 +2043,14 @@
     <message>
         <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
         <translation>Écrit une copie aussi grande que permis, ou aussi petite qu’elle paraît identique</translation>
+    </message>
+    <message>
+        <source>Explain the Wand</source>
+        <translation>Expliquer la baguette</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
+        <translation>Là où le pointeur s’arrête, ce que prend un clic de la baguette magique ; et pourquoi elle a laissé un pixel</translation>
     </message>
 </context>
 <context>
@@ -3059,6 +3075,10 @@
         <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
         <translation>Glisser déplace · les poignées mettent à l’échelle et tournent, %1&#xa0;: par 15° · Entrée ancre, Échap abandonne</translation>
     </message>
+    <message>
+        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
+        <translation>Arrêt : ce que prend un clic scintille · appuyer et glisser à droite ou à gauche : plus ou moins de tolérance · %1 ajoute, %2 soustrait</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -3446,6 +3466,37 @@
     <message>
         <source>Apply</source>
         <translation>Appliquer</translation>
+    </message>
+</context>
+<context>
+    <name>Wand</name>
+    <message>
+        <source>Outside: red differs by %1, the tolerance allows %2</source>
+        <translation>Dehors : le rouge diffère de %1, la tolérance permet %2</translation>
+    </message>
+    <message>
+        <source>Outside: green differs by %1, the tolerance allows %2</source>
+        <translation>Dehors : le vert diffère de %1, la tolérance permet %2</translation>
+    </message>
+    <message>
+        <source>Outside: blue differs by %1, the tolerance allows %2</source>
+        <translation>Dehors : le bleu diffère de %1, la tolérance permet %2</translation>
+    </message>
+    <message>
+        <source>Outside: opacity differs by %1, the tolerance allows %2</source>
+        <translation>Dehors : l’opacité diffère de %1, la tolérance permet %2</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Dedans</translation>
+    </message>
+    <message>
+        <source>Outside: within the tolerance, but not connected</source>
+        <translation>Dehors : dans la tolérance, mais non relié</translation>
+    </message>
+    <message>
+        <source>Outside: a tolerance of 0 takes nothing</source>
+        <translation>Dehors : une tolérance de 0 ne prend rien</translation>
     </message>
 </context>
 <context>
@@ -3890,6 +3941,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>zp::WandExplainer</name>
+    <message>
+        <source>A click takes %1 px</source>
+        <translation>Un clic prend %1 px</translation>
+    </message>
+    <message>
+        <source>A click takes at least %1 px</source>
+        <translation>Un clic prend au moins %1 px</translation>
     </message>
 </context>
 </TS>

@@ -1431,6 +1431,14 @@
         <source>Pressure: opacity</source>
         <translation>筆圧: 不透明度</translation>
     </message>
+    <message>
+        <source>Explain</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click takes; a drag after the press changes the tolerance</source>
+        <translation>ポインターを止めた場所でクリックすると選択される範囲を示します。押したままドラッグすると許容値が変わります</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -2025,6 +2033,14 @@
     <message>
         <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
         <translation>許される大きさのコピー、または同じに見える最小のコピーを書き出します</translation>
+    </message>
+    <message>
+        <source>Explain the Wand</source>
+        <translation>自動選択の説明</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
+        <translation>ポインターを止めた場所で自動選択が選ぶ範囲と、選ばれなかったピクセルの理由を示します</translation>
     </message>
 </context>
 <context>
@@ -3049,6 +3065,10 @@
         <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
         <translation>ドラッグで移動 · ハンドルで拡大縮小と回転、%1: 15° 刻み · Return で固定、Escape で破棄</translation>
     </message>
+    <message>
+        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
+        <translation>止める: クリックで選ばれる範囲がゆらめく · 押して右か左へドラッグ: 許容値を増減 · %1 で追加、%2 で減算</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -3436,6 +3456,37 @@
     <message>
         <source>Apply</source>
         <translation>適用</translation>
+    </message>
+</context>
+<context>
+    <name>Wand</name>
+    <message>
+        <source>Outside: red differs by %1, the tolerance allows %2</source>
+        <translation>外側: 赤の差は %1、許容値は %2 まで</translation>
+    </message>
+    <message>
+        <source>Outside: green differs by %1, the tolerance allows %2</source>
+        <translation>外側: 緑の差は %1、許容値は %2 まで</translation>
+    </message>
+    <message>
+        <source>Outside: blue differs by %1, the tolerance allows %2</source>
+        <translation>外側: 青の差は %1、許容値は %2 まで</translation>
+    </message>
+    <message>
+        <source>Outside: opacity differs by %1, the tolerance allows %2</source>
+        <translation>外側: 不透明度の差は %1、許容値は %2 まで</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>内側</translation>
+    </message>
+    <message>
+        <source>Outside: within the tolerance, but not connected</source>
+        <translation>外側: 許容値の範囲内だが、つながっていない</translation>
+    </message>
+    <message>
+        <source>Outside: a tolerance of 0 takes nothing</source>
+        <translation>外側: 許容値 0 では何も選ばれない</translation>
     </message>
 </context>
 <context>
@@ -3878,6 +3929,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>zp::WandExplainer</name>
+    <message>
+        <source>A click takes %1 px</source>
+        <translation>クリックで %1 px を選択</translation>
+    </message>
+    <message>
+        <source>A click takes at least %1 px</source>
+        <translation>クリックで少なくとも %1 px を選択</translation>
     </message>
 </context>
 </TS>

@@ -1441,6 +1441,14 @@
         <source>Pressure: opacity</source>
         <translation>Pressão: opacidade</translation>
     </message>
+    <message>
+        <source>Explain</source>
+        <translation>Explicar</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click takes; a drag after the press changes the tolerance</source>
+        <translation>Onde o ponteiro repousa, o que um clique pega; arrastar depois de pressionar muda a tolerância</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -2035,6 +2043,14 @@
     <message>
         <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
         <translation>Grava uma cópia tão grande quanto permitido, ou tão pequena que ainda pareça igual</translation>
+    </message>
+    <message>
+        <source>Explain the Wand</source>
+        <translation>Explicar a varinha</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
+        <translation>Onde o ponteiro repousa, o que um clique da varinha mágica pega; e por que deixou um pixel de fora</translation>
     </message>
 </context>
 <context>
@@ -3059,6 +3075,10 @@
         <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
         <translation>Arrastar move · as alças redimensionam e giram, %1: passos de 15° · Enter ancora, Escape descarta</translation>
     </message>
+    <message>
+        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
+        <translation>Repousar: cintila o que um clique pega · pressionar e arrastar para a direita ou esquerda: mais ou menos tolerância · %1 soma, %2 subtrai</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -3446,6 +3466,37 @@
     <message>
         <source>Apply</source>
         <translation>Aplicar</translation>
+    </message>
+</context>
+<context>
+    <name>Wand</name>
+    <message>
+        <source>Outside: red differs by %1, the tolerance allows %2</source>
+        <translation>Fora: o vermelho difere em %1, a tolerância permite %2</translation>
+    </message>
+    <message>
+        <source>Outside: green differs by %1, the tolerance allows %2</source>
+        <translation>Fora: o verde difere em %1, a tolerância permite %2</translation>
+    </message>
+    <message>
+        <source>Outside: blue differs by %1, the tolerance allows %2</source>
+        <translation>Fora: o azul difere em %1, a tolerância permite %2</translation>
+    </message>
+    <message>
+        <source>Outside: opacity differs by %1, the tolerance allows %2</source>
+        <translation>Fora: a opacidade difere em %1, a tolerância permite %2</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Dentro</translation>
+    </message>
+    <message>
+        <source>Outside: within the tolerance, but not connected</source>
+        <translation>Fora: dentro da tolerância, mas sem ligação</translation>
+    </message>
+    <message>
+        <source>Outside: a tolerance of 0 takes nothing</source>
+        <translation>Fora: uma tolerância de 0 não pega nada</translation>
     </message>
 </context>
 <context>
@@ -3890,6 +3941,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>zp::WandExplainer</name>
+    <message>
+        <source>A click takes %1 px</source>
+        <translation>Um clique pega %1 px</translation>
+    </message>
+    <message>
+        <source>A click takes at least %1 px</source>
+        <translation>Um clique pega pelo menos %1 px</translation>
     </message>
 </context>
 </TS>

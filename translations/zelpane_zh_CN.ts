@@ -1431,6 +1431,14 @@
         <source>Pressure: opacity</source>
         <translation>笔压：不透明度</translation>
     </message>
+    <message>
+        <source>Explain</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click takes; a drag after the press changes the tolerance</source>
+        <translation>指针停留之处显示单击会选取的内容；按下后拖动可改变容差</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -2025,6 +2033,14 @@
     <message>
         <source>Writes a copy that is as large as it may be, or as small as looks the same</source>
         <translation>写入一份不超过所给大小、或看起来相同且最小的副本</translation>
+    </message>
+    <message>
+        <source>Explain the Wand</source>
+        <translation>说明魔棒</translation>
+    </message>
+    <message>
+        <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
+        <translation>指针停留之处显示魔棒单击会选取的内容，以及某个像素为何未被选取</translation>
     </message>
 </context>
 <context>
@@ -3049,6 +3065,10 @@
         <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
         <translation>拖动可移动 · 控制柄可缩放和旋转，%1：每次 15° · 回车固定，Esc 放弃</translation>
     </message>
+    <message>
+        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
+        <translation>停留：单击会选取的内容闪动 · 按下并向右或向左拖动：增减容差 · %1 添加，%2 减去</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -3436,6 +3456,37 @@
     <message>
         <source>Apply</source>
         <translation>应用</translation>
+    </message>
+</context>
+<context>
+    <name>Wand</name>
+    <message>
+        <source>Outside: red differs by %1, the tolerance allows %2</source>
+        <translation>在外：红色相差 %1，容差允许 %2</translation>
+    </message>
+    <message>
+        <source>Outside: green differs by %1, the tolerance allows %2</source>
+        <translation>在外：绿色相差 %1，容差允许 %2</translation>
+    </message>
+    <message>
+        <source>Outside: blue differs by %1, the tolerance allows %2</source>
+        <translation>在外：蓝色相差 %1，容差允许 %2</translation>
+    </message>
+    <message>
+        <source>Outside: opacity differs by %1, the tolerance allows %2</source>
+        <translation>在外：不透明度相差 %1，容差允许 %2</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>在内</translation>
+    </message>
+    <message>
+        <source>Outside: within the tolerance, but not connected</source>
+        <translation>在外：在容差之内，但不相连</translation>
+    </message>
+    <message>
+        <source>Outside: a tolerance of 0 takes nothing</source>
+        <translation>在外：容差为 0 时不选取任何内容</translation>
     </message>
 </context>
 <context>
@@ -3878,6 +3929,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>zp::WandExplainer</name>
+    <message>
+        <source>A click takes %1 px</source>
+        <translation>单击会选取 %1 px</translation>
+    </message>
+    <message>
+        <source>A click takes at least %1 px</source>
+        <translation>单击至少会选取 %1 px</translation>
     </message>
 </context>
 </TS>

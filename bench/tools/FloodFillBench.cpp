@@ -3,6 +3,7 @@
 #include "base/BitmapRep.h"
 #include "tools/FloodFill.h"
 #include "tools/MagicWand.h"
+#include "tools/TileBounds.h"
 #include "tools/TileRegion.h"
 #include <benchmark/benchmark.h>
 #include <map>
@@ -183,11 +184,50 @@ void wandPeer(benchmark::State& state, Kind kind)
     state.counters["pixels"] = filled;
 }
 
+/// What the wand would take, found and shown before a press: nothing is marked.
+/// @param looked  the picture was looked over beforehand
+void previewed(benchmark::State& state, Kind kind, bool looked)
+{
+    const Subject& s = subject(kind);
+    const std::shared_ptr<BitmapRep> picture = canvasCopy(s.grey);
+    const ConstBitmapView view = picture->view();
+    const std::uint32_t target = view.row(s.seed.y)[s.seed.x];
+    TileBounds bounds;
+    bounds.reset(kWidth, kHeight);
+    const auto always = [] { return true; };
+    if (looked) bounds.goOn(view, always);
+    TileRegion found;
+    std::size_t pixels = 0;
+    for (auto _ : state) {
+        found.start(view, {}, {s.seed.x, s.seed.y}, {target, s.tolerance, false}, &bounds);
+        found.goOn(always);
+        pixels = found.count();
+        benchmark::DoNotOptimize(found.box());
+    }
+    state.counters["pixels"] = double(pixels);
+}
+void preview(benchmark::State& state, Kind kind) { previewed(state, kind, true); }
+void previewAtFirst(benchmark::State& state, Kind kind) { previewed(state, kind, false); }
+
+/// The look over the picture.
+void look(benchmark::State& state, Kind kind)
+{
+    const std::shared_ptr<BitmapRep> picture = canvasCopy(subject(kind).grey);
+    TileBounds bounds;
+    for (auto _ : state) {
+        bounds.reset(kWidth, kHeight);
+        benchmark::DoNotOptimize(bounds.goOn(std::as_const(*picture).view(), [] { return true; }));
+    }
+}
+
 struct Run {
     const char* name;
     void (*run)(benchmark::State&, Kind);
 };
-constexpr Run kRuns[] = {{"fill", fill}, {"fill, OpenCV", fillPeer}, {"wand", wand}, {"wand, OpenCV", wandPeer}};
+constexpr Run kRuns[] = {{"fill", fill},       {"fill, OpenCV", fillPeer},
+                         {"wand", wand},       {"wand, OpenCV", wandPeer},
+                         {"preview", preview}, {"preview, not looked", previewAtFirst},
+                         {"look", look}};
 
 const bool registered = [] {
     for (const Kind kind : {Uniform, Photo, Drawing, Percolation, Percolation60, Comb, Columns, Rows, Spiral, Checker})

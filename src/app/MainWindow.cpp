@@ -58,6 +58,17 @@ static_assert(std::size(kZoomTitles) == kZoomLevels.size());
 /// What the notice's button about a key does; no menu has these.
 const QString kControlForOption = "controlForOption:", kControlForCommand = "controlForCommand:";
 
+/// A switch that is on is seen in the dark colours too.
+void showWhetherOn(QToolButton& button, const QPalette& window)
+{
+    QPalette colours; // none of its own
+    if (button.isChecked()) {
+        colours.setColor(QPalette::Button, window.color(QPalette::Highlight));
+        colours.setColor(QPalette::ButtonText, window.color(QPalette::HighlightedText));
+    }
+    button.setPalette(colours);
+}
+
 QString tool(const char* text) { return QCoreApplication::translate("Tools", text); }
 
 } // namespace
@@ -273,12 +284,32 @@ void MainWindow::setUpSwitches()
             for (const Switch& s : mSwitches)
                 if (s.button->isChecked()) bits |= s.keyBit;
             setSwitchedKeyModifiers(bits);
+            showSwitches();
         });
         connect(button, &QToolButton::clicked, this, &MainWindow::giveFocusBack);
     }
+    mExplain = new QToolButton(mUi->switches);
+    mExplain->setObjectName("mExplain");
+    mExplain->setText(tr("Explain"));
+    mExplain->setToolTip(
+        tr("Where the pointer rests, what a click takes; a drag after the press changes the tolerance"));
+    mExplain->setCheckable(true);
+    mExplain->setFocusPolicy(Qt::TabFocus);
+    mUi->switchRow->insertWidget(0, mExplain); // beside the tolerance
+    connect(mExplain, &QToolButton::toggled, this, [this](bool on) {
+        mDocument.setExplainsWand(on);
+        showSwitches();
+    });
+    connect(mExplain, &QToolButton::clicked, this, &MainWindow::giveFocusBack);
     NotificationCenter::defaultCenter().addObserver(this, "KeyRolesNotif",
                                                     [this](const Notification&) { showKeysOfRoles(); });
     showKeysOfRoles();
+}
+
+void MainWindow::showSwitches()
+{
+    for (const Switch& s : mSwitches) showWhetherOn(*s.button, palette());
+    if (mExplain) showWhetherOn(*mExplain, palette());
 }
 
 void MainWindow::showKeysOfRoles()
@@ -394,6 +425,8 @@ void MainWindow::showTool()
         s.button->setVisible(has(s.option));
         if (!has(s.option)) s.button->setChecked(false);
     }
+    mExplain->setVisible(has(options::Explain));
+    mExplain->setChecked(mDocument.view().explainsWand());
     mToolButtons[std::size_t(row.tool)]->setChecked(true);
     const QSignalBlocker quiet(mUi->mToolPopUp); // what follows a choice by hand has been done
     mUi->mToolPopUp->setCurrentIndex(int(row.tool));
@@ -406,6 +439,10 @@ void MainWindow::showPaint()
     const QSignalBlocker quietSlider(mUi->mSizeSlider), quietField(mUi->mSizeField);
     mUi->mSizeSlider->setValue(size);
     mUi->mSizeField->setValue(size);
+    const int tolerance = mDocument.paint().toleranceSetting();
+    const QSignalBlocker quietTolerance(mUi->mToleranceSlider), quietPercent(mUi->mToleranceField);
+    mUi->mToleranceSlider->setValue(tolerance);
+    mUi->mToleranceField->setValue(tolerance);
     const QSignalBlocker quietPressure(mUi->mPressurePopUp);
     mUi->mPressurePopUp->setCurrentIndex(int(mDocument.paint().penPressure()));
 }
@@ -495,6 +532,7 @@ void MainWindow::changeEvent(QEvent* event)
         // A dialog that came up from a menu bar still waiting for a letter would leave the keys with the bar.
         if (menuBar()->hasFocus()) giveFocusBack();
     }
-    if (event->type() == QEvent::PaletteChange && !mToolButtons.empty() && !mToolButtons[0]->icon().isNull())
-        setToolImages();
+    if (event->type() != QEvent::PaletteChange || mToolButtons.empty()) return;
+    if (!mToolButtons[0]->icon().isNull()) setToolImages();
+    showSwitches();
 }

@@ -74,6 +74,7 @@ private:
     void showZoom();   ///< the level nearest to the zoom, and on the closed pop-up the zoom itself
     void showStatus(); ///< status line and title, all of it from the document
     void showNotice();
+    void showSwitches();    ///< which of them are on
     void showKeysOfRoles(); ///< in the tips of the switches, and in the hint
     void giveFocusBack();
     /// The window moves while a key is held over the picture: the window manager has taken key and drag for itself.
@@ -95,5 +96,6 @@ private:
         unsigned option; ///< the bit of a tool's row that shows it
     };
     std::vector<Switch> mSwitches;
+    QToolButton* mExplain = nullptr; ///< holds no key, and stays as it is with another tool
     bool mTakenKeySaid = false;
 };

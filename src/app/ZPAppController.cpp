@@ -103,6 +103,7 @@ ZPAppController::ZPAppController()
     mMenu->setState("chequerboard:", [this] { return mDocument->view().isChequered(); });
     mMenu->setState("removeBrush:", [this] { return mDocument->gesture().removes(); });
     mMenu->setState("pixelGrid:", [this] { return mDocument->view().hasGrid(); });
+    mMenu->setState("explainWand:", [this] { return mDocument->view().explainsWand(); });
     mMenu->setState("keyboardPointer:", [this] { return mCanvas->hasKeyboardPointer(); });
     const auto showKeys = [this] {
         mWindow->showKeys([this](const QString& action) { return mMenu->keyNameOf(action); },
@@ -268,6 +269,7 @@ void ZPAppController::remember()
     kept.setValue("last/otherColor", colorText(mDocument->paint().otherColor()));
     kept.setValue("last/chequered", mDocument->view().isChequered());
     kept.setValue("last/grid", mDocument->view().hasGrid());
+    kept.setValue("last/explainsWand", mDocument->view().explainsWand());
     kept.setValue("last/font", ZPTextEditor::lastFamily());
     kept.setValue("last/docks", mWindow->saveState());
 }
@@ -283,6 +285,7 @@ void ZPAppController::bringBackChoices()
         mDocument->setPaintColor(*color);
     mDocument->setChequered(kept.value("last/chequered").toBool());
     mDocument->setGrid(kept.value("last/grid").toBool());
+    mDocument->setExplainsWand(kept.value("last/explainsWand").toBool());
     if (kept.value("last/size").isValid()) mDocument->setBrushSize(kept.value("last/size").toFloat());
     const int pressure = kept.value("last/pressure").toInt();
     if (pressure >= 0 && pressure <= int(PenPressure::Opacity)) mDocument->setPenPressure(PenPressure(pressure));
@@ -586,6 +589,7 @@ void ZPAppController::buildShell()
     mShell["chequerboard:"] = [this] { mDocument->setChequered(!mDocument->view().isChequered()); };
     mShell["removeBrush:"] = [this] { mDocument->setRemoving(!mDocument->gesture().removes()); };
     mShell["pixelGrid:"] = [this] { mDocument->setGrid(!mDocument->view().hasGrid()); };
+    mShell["explainWand:"] = [this] { mDocument->setExplainsWand(!mDocument->view().explainsWand()); };
     mShell["keyboardPointer:"] = [this] { mCanvas->setKeyboardPointer(!mCanvas->hasKeyboardPointer()); };
     mShell["largerBrush:"] = [this] { mDocument->stepBrushSize(1); };
     mShell["smallerBrush:"] = [this] { mDocument->stepBrushSize(-1); };

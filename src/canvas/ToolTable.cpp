@@ -72,8 +72,8 @@ constexpr std::array<ToolRow, kToolCount> kTools{{
      .key = '3',
      .hint = QT_TRANSLATE_NOOP(
          "Tools", "Click a colour · {Shift} adds, {Option} subtracts · Tolerance says how far colours may differ"),
-     .options = options::Tolerance | kCombining | options::Float,
-     .actions = selecting(kMove, pressWand, moveSelection, releaseWand)},
+     .options = options::Tolerance | options::Explain | kCombining | options::Float,
+     .actions = selecting(kMove, pressWand, dragWand, releaseWand)},
     {.tool = Tool::Brush,
      .title = QT_TRANSLATE_NOOP("Tools", "Brush"),
      .tip = QT_TRANSLATE_NOOP("Tools", "Paints with a brush tip"),

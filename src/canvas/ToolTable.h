@@ -28,6 +28,7 @@ enum Bits : unsigned {
     Float = 256,
     Straight = 512,
     SetSource = 1024,
+    Explain = 2048,
 };
 }
 

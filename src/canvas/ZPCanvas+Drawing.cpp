@@ -5,6 +5,7 @@
 #include "canvas/Backdrop.h"
 #include "canvas/DrawingState.h"
 #include "canvas/ToolTable.h"
+#include "canvas/WandExplainer.h"
 #include "canvas/ZPCanvas.h"
 #include "document/Document.h"
 #include "document/Gesture.h"
@@ -254,6 +255,7 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
     if (mDocument.gesture().pencilPath() && (tool == Tool::Pencil || tool == Tool::Eraser))
         logLine(tool == Tool::Pencil ? "drawInRect tool 4" : "drawInRect tool 5");
 
+    mWandExplainer->draw(target, deviceScale, pixelsPerPoint(deviceScale));
     if (mDocument.view().hasGrid() && mDocument.view().effectiveZoom() >= kGridZoom) drawPixelGrid(target, deviceScale);
     drawOutlines(target, deviceScale);
     painter.drawImage(deviceRect.topLeft(), buffer, QRect(0, 0, mine.width(), mine.height()));

@@ -3,6 +3,7 @@
 /// selection.
 #include "base/Folders.h"
 #include "canvas/ToolTable.h"
+#include "canvas/WandExplainer.h"
 #include "canvas/ZPCanvas.h"
 #include "desktop/KeyModifiers.h"
 #include "document/Document.h"
@@ -74,8 +75,7 @@ void ZPCanvas::keyPressEvent(QKeyEvent* event)
 {
     event->accept(); // a key that means nothing here means nothing at all
     if (mKeyboardPointer && keyboardPointerKey(event)) return;
-    if (isModifier(event->key())) mCursorTimer.start(0);
-    if (isModifier(event->key())) return mDocument.followPointer(); // the marquee may become a square or an oval
+    if (isModifier(event->key())) return modifierChanged();
     switch (event->key()) {
     case Qt::Key_Up:
         return keyDown(kUp);
@@ -99,11 +99,15 @@ void ZPCanvas::keyPressEvent(QKeyEvent* event)
 
 void ZPCanvas::keyReleaseEvent(QKeyEvent* event)
 {
-    if (isModifier(event->key())) {
-        mCursorTimer.start(0);
-        mDocument.followPointer();
-    }
+    if (isModifier(event->key())) modifierChanged();
     QWidget::keyReleaseEvent(event);
+}
+
+void ZPCanvas::modifierChanged()
+{
+    mCursorTimer.start(0);
+    mWandExplainer->look();
+    mDocument.followPointer(); // the marquee may become a square or an oval
 }
 
 void ZPCanvas::setTool(int index)

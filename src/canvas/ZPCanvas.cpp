@@ -6,6 +6,7 @@
 #include "canvas/Cursors.h"
 #include "canvas/DrawingState.h"
 #include "canvas/ToolTable.h"
+#include "canvas/WandExplainer.h"
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
 #include "document/Gesture.h"
@@ -28,7 +29,10 @@ constexpr int kRevealMargin = 12;
 } // namespace
 
 ZPCanvas::ZPCanvas(Document& document, QWidget* parent)
-    : QWidget(parent), mDocument(document), mDrawing(std::make_unique<DrawingState>())
+    : QWidget(parent),
+      mDocument(document),
+      mDrawing(std::make_unique<DrawingState>()),
+      mWandExplainer(std::make_unique<WandExplainer>(document, nullptr))
 {
     setObjectName("mCanvas");
     setAccessibleName(tr("Canvas"));
@@ -54,6 +58,7 @@ ZPCanvas::ZPCanvas(Document& document, QWidget* parent)
         ringNeedsDisplay(); // the new tool may have one where the pointer rests
         setNeedsDisplay();
     });
+    connect(mWandExplainer.get(), &WandExplainer::needsDisplay, this, &ZPCanvas::setNeedsDisplayInRect);
     connect(&mRestTimer, &QTimer::timeout, this, &ZPCanvas::repeatDrag);
     NotificationCenter::defaultCenter().addObserver(this, "TextEditorNotif",
                                                     [this](const Notification&) { textEditorNotif(mDocument); });

@@ -17,6 +17,7 @@ namespace zp
 class Document;
 class OutlineDrawing;
 class ScreenColours;
+class WandExplainer;
 struct ScreenTarget;
 struct ToolRow;
 } // namespace zp
@@ -37,6 +38,9 @@ public:
     /// says arrives as it was said.
     void setExactPointer(zp::Point point) { mExactPointer = point; }
     bool awaitsExactPointer() const { return mExactPointer.has_value(); }
+
+    /// What the wand says of itself where the pointer rests.
+    const zp::WandExplainer& wandExplainer() const { return *mWandExplainer; }
 
     // ---- looking (ZPCanvas+Drawing.cpp) ----------------------------------------------------------------------------
     void setNeedsDisplay() { setNeedsDisplayInRect(bounds().inset(-4)); }
@@ -112,6 +116,7 @@ private:
     void repeatDrag();
     void repeatWhileResting(QPointF pointer);
     void escape();
+    void modifierChanged();
     bool keyboardPointerKey(QKeyEvent* event); ///< whether it was one
     void moveKeyboardPointer(double dx, double dy, bool goesOn);
     void pressKeyboardPointer();
@@ -128,6 +133,7 @@ private:
 
     zp::Document& mDocument;
     std::unique_ptr<DrawingState> mDrawing;
+    std::unique_ptr<zp::WandExplainer> mWandExplainer;
     std::optional<zp::Point> mExactPointer;
     bool mKeyboardPointer = false;
     bool mButtonDown = false; ///< the platform said the button is down, whatever the document made of it

@@ -119,7 +119,12 @@ void Document::setOnScreen(bool on) { mView.setOnScreen(on); }
 
 void Document::setBrushShape(int index) { mPaint.setBrushShape(index); }
 
-void Document::setToleranceSetting(int setting) { mPaint.setToleranceSetting(setting); }
+void Document::setToleranceSetting(int setting)
+{
+    if (setting == mPaint.toleranceSetting()) return;
+    mPaint.setToleranceSetting(setting);
+    emit paintChanged();
+}
 
 std::string Document::infoText() const
 {
@@ -209,6 +214,14 @@ void Document::setGrid(bool on)
 {
     mView.setGrid(on);
     emit touched(mPicture.bounds());
+}
+
+void Document::setExplainsWand(bool on)
+{
+    if (on == mView.explainsWand()) return;
+    mView.setExplainsWand(on);
+    emit toolChosen(); // what it does, and says of itself, is another thing now
+    emit changed();
 }
 
 bool Document::compareWith(std::shared_ptr<const BitmapRep> before)

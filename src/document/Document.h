@@ -136,6 +136,7 @@ public:
     void setRetina(bool on);
     void setChequered(bool on);
     void setGrid(bool on);
+    void setExplainsWand(bool on);
     /// Shows pixels over the picture that are no part of it, or none (null), until another bitmap becomes the picture.
     void showPreview(std::shared_ptr<const Preview> preview);
     /// Shows an earlier state of the picture left of the pointer, or none (null), until another bitmap becomes the
@@ -186,7 +187,7 @@ signals:
     void pictureReplaced();            ///< another bitmap or another size
     void zoomChanged();
     void pointerMoved();
-    void paintChanged(); ///< colour or size
+    void paintChanged(); ///< colour, size, pressure or tolerance
     void toolChosen();
     void stepsChanged(); ///< another step, another position, or a step was written
     void noticed();      ///< another notice is on show, or none

@@ -15,10 +15,17 @@ void Gesture::begin(const ToolActions* actions, Point point, std::shared_ptr<Sel
     mBefore = std::move(before);
     mJournal = {};
     mLiftedHole = false;
+    mWandPress.reset();
+}
+
+std::optional<int> Gesture::toleranceBefore() const
+{
+    return mActions && mWandPress ? std::optional(mWandPress->settingBefore) : std::nullopt;
 }
 
 void Gesture::takeBack()
 {
+    mWandPress.reset();
     mPt1 = mPointsBefore.pt1;
     mPt2 = mPointsBefore.pt2;
     mCloneStampRefPt = mPointsBefore.reference;

@@ -20,6 +20,19 @@ struct MarqueeRule {
     float width = 1, height = 1; ///< of the ratio, or in pixels; above zero
 };
 
+/// A press of the wand that explains itself: what it looked for, and what it left selected.
+struct WandPress {
+    Point at;
+    std::uint32_t target = 0;
+    int settingBefore = 0;    ///< of the tolerance
+    int setting = 0;          ///< that the last search had
+    bool adding = false;      ///< earlier selections are walls, and stay
+    bool joins = false;       ///< an earlier selection waits for what is selected now
+    bool repeatable = false;  ///< nothing is gone with the first search that a second one would need
+    std::uint64_t result = 0; ///< the outline's version; 0 while the gesture is open
+    std::uint64_t pixels = 0; ///< Picture::writes() at that time
+};
+
 /// A gesture is open from an accepted press to its release, or until a command ends it or Escape takes it back. Points
 /// are image coordinates, y downwards. Main thread.
 class Gesture
@@ -50,8 +63,14 @@ public:
     Point gripPoint() const { return mGripPoint; }
     const _ZPTransform& gripRecord() const { return mGripRecord; }
 
+    /// The last gesture's press, if the wand made it and explains itself.
+    const std::optional<WandPress>& wandPress() const { return mWandPress; }
+    /// The setting that a drag of the open gesture has changed; nothing when none has.
+    std::optional<int> toleranceBefore() const;
+
     // ---- transitions ---------------------------------------------------------------------------------------------
 
+    void setWandPress(std::optional<WandPress> press) { mWandPress = press; }
     void chooseTool(Tool tool) { mTool = tool, mRemoves = false; }
     /// The brush removes what it is drawn over, until another tool is chosen.
     void setRemoving(bool on) { mTool = on ? Tool::Brush : mTool, mRemoves = on; }
@@ -105,6 +124,7 @@ private:
     bool mPolygonLasso = false;
     std::optional<BezierPath> mPencilPath;
     bool mReferenceClick = false, mStamped = false;
+    std::optional<WandPress> mWandPress;
     std::unique_ptr<BrushStroke> mStroke;
     std::shared_ptr<Selection::Memento> mBefore;
     TileJournal mJournal;

@@ -162,9 +162,11 @@ bool Document::cancelGesture()
     stroke.forgetBefore();
     bringBack(mGesture.journal());
     if (mGesture.before()) mSelection.bringBack(*mGesture.before());
+    const std::optional<int> toleranceBefore = mGesture.toleranceBefore();
     mGesture.takeBack();
     mOwesStep = false;
     if (mPaint.color() != mColorBefore) movePaintColor(mColorBefore);
+    if (toleranceBefore) setToleranceSetting(*toleranceBefore);
     emit handMoved(Hand::TakenBack, mGesture.lastPoint());
     emit touched(mPicture.bounds());
     emit changed();

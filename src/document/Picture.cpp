@@ -27,6 +27,7 @@ void Picture::replace(std::shared_ptr<BitmapRep> rep, const Replacement& how)
     if (how.makeGWorld && mBitmapRep) mGWorld = GWorld::over(*mBitmapRep);
     mImage = std::move(image);
     ++mPictureGeneration;
+    ++mWrites;
 }
 
 void Picture::noteWritten(const std::string& path)

@@ -83,6 +83,10 @@ public:
     /// Rises when another bitmap takes the picture's place, when its pixels change places, and when a step of the
     /// history comes back: what was computed from an older generation is nobody's result any more.
     std::uint64_t generation() const { return mPictureGeneration; }
+    /// Rises whenever somebody has been given the pixels to write, and when others take their place: what was computed
+    /// under another number may be of other pixels. A stroke that is still painted writes on under the number of its
+    /// press.
+    std::uint64_t writes() const { return mWrites; }
     /// Held while pixels are written off the main thread (a stamp, a segment), and by the main thread while it draws
     /// from them meanwhile. Never held across a wait.
     std::mutex& pixelLock() const { return mPixelLock; }
@@ -92,10 +96,18 @@ public:
     /// Another bitmap, or none, becomes the picture. Nobody may be at work on the old one.
     void replace(std::shared_ptr<BitmapRep> rep, const Replacement& how);
     /// The bytes, to be written by whoever holds an edit; empty without a picture.
-    BitmapView writablePixels() { return mBitmapRep ? mBitmapRep->view() : BitmapView{}; }
-    std::shared_ptr<BitmapRep> writableBitmap() { return mBitmapRep; }
+    BitmapView writablePixels()
+    {
+        ++mWrites;
+        return mBitmapRep ? mBitmapRep->view() : BitmapView{};
+    }
+    std::shared_ptr<BitmapRep> writableBitmap()
+    {
+        ++mWrites;
+        return mBitmapRep;
+    }
     /// A step of the history is in the pixels.
-    void restored() { ++mPictureGeneration; }
+    void restored() { ++mPictureGeneration, ++mWrites; }
     void setPath(std::string path) { mImagePath = std::move(path); }
     void setFiles(PictureFiles files) { mFiles = std::move(files); }
     /// The file of that path holds the picture now.
@@ -112,7 +124,7 @@ private:
     std::shared_ptr<BitmapRep> mBitmapRep;
     std::uint8_t* mBitmap = nullptr;
     std::optional<GWorld> mGWorld;
-    std::uint64_t mPictureGeneration = 0;
+    std::uint64_t mPictureGeneration = 0, mWrites = 0;
     mutable std::mutex mPixelLock;
 };
 

@@ -28,6 +28,8 @@ public:
     bool isClear() const { return mSelectionMaskClear || mMaskStale; }
     /// One byte as it stands; 255 where none was needed yet. The point must lie inside.
     std::uint8_t at(int x, int y) const;
+    /// The bytes that are there; empty where none was needed yet: all would be 255.
+    ConstMaskView known() const { return mSelectionMask && !mMaskStale ? *mSelectionMask : ConstMaskView{}; }
     /// All bytes as they stand. Empty without a picture, and when memory fails.
     ConstMaskView bytes();
     /// Whether the bytes are the rendering of the outline of that version.

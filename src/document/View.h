@@ -52,6 +52,8 @@ public:
     bool isChequered() const { return mChequered; }
     /// Lines between the pixels, from a zoom on at which they are large.
     bool hasGrid() const { return mGrid; }
+    /// The wand shows what it would take, follows a drag with its tolerance, and says why a pixel is out.
+    bool explainsWand() const { return mExplainsWand; }
     /// What is shown over the picture for a window to ask "like this?"; null for nothing.
     const std::shared_ptr<const Preview>& preview() const { return mPreview; }
 
@@ -63,6 +65,7 @@ public:
     void setCompared(std::shared_ptr<const BitmapRep> before) { mCompared = std::move(before); }
     void setChequered(bool on) { mChequered = on; }
     void setGrid(bool on) { mGrid = on; }
+    void setExplainsWand(bool on) { mExplainsWand = on; }
     void setPreview(std::shared_ptr<const Preview> preview) { mPreview = std::move(preview); }
     void setZoom(float factor) { mZoom = factor, mFit = Fit::No; }
     void setFit(Fit fit) { mFit = fit; }
@@ -87,7 +90,7 @@ private:
     Size mRoom;
     bool m2xRetina = false;
     Point mPointer;
-    bool mPointerInside = false, mOnScreen = false, mChequered = false, mGrid = false;
+    bool mPointerInside = false, mOnScreen = false, mChequered = false, mGrid = false, mExplainsWand = false;
     const char* mInfoWithoutSelection = "";
     std::shared_ptr<const Preview> mPreview;
     std::shared_ptr<const BitmapRep> mCompared;

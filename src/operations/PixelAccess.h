@@ -6,11 +6,18 @@
 #include "base/Geometry.h"
 #include "document/Paint.h"
 #include "tools/PixelCompare.h"
+#include <algorithm>
 
 namespace zp
 {
 
 inline std::uint32_t colorAtPoint(ConstBitmapView pixels, Point p) { return pixels.row(int(p.y))[int(p.x)]; }
+/// What the wand looks for: read where the point is, not at the rounded start; a point just before the first pixel
+/// reads that.
+inline std::uint32_t wordUnder(ConstBitmapView pixels, Point p)
+{
+    return colorAtPoint(pixels, {std::max(0.0f, p.x), std::max(0.0f, p.y)});
+}
 inline void setColor(BitmapView pixels, std::uint32_t word, Point p) { pixels.row(int(p.y))[int(p.x)] = word; }
 inline std::uint8_t maskPixelAtPoint(ConstMaskView mask, Point p) { return mask.row(int(p.y))[int(p.x)]; }
 inline void setMaskPixel(MaskView mask, Point p) { mask.row(int(p.y))[int(p.x)] = 0; }

@@ -49,6 +49,10 @@ std::string itemLine(const char* outlet, int item)
     return lineOf({"set", outlet, word});
 }
 
+constexpr std::string_view kToleranceSlider = "set mToleranceSlider";
+
+std::string toleranceLine(int setting) { return lineOf({kToleranceSlider, scriptNumber(double(setting))}); }
+
 std::string outlineLine(const Selection& selection)
 {
     const BezierPath* const outline = selection.outline();
@@ -122,6 +126,21 @@ void SessionScript::replaceLast(const std::string& line)
     add(line);
 }
 
+void SessionScript::pressWithTolerance(int setting)
+{
+    if (mFull) return;
+    const std::string line = toleranceLine(setting);
+    const auto at = mLines.begin() + std::ptrdiff_t(std::min(mBefore.toleranceAt, mLines.size()));
+    mBytes += line.size() + 1;
+    if (at != mLines.end() && at->starts_with(kToleranceSlider)) {
+        mBytes -= at->size() + 1;
+        *at = line;
+    } else {
+        mLines.insert(at, line);
+        ++mGesture;
+    }
+}
+
 void SessionScript::forgetGesture()
 {
     if (mFull) return;
@@ -161,7 +180,8 @@ void SessionScript::keep(std::optional<Value>& known, const Value& now, const st
 void SessionScript::settleTolerance()
 {
     const int setting = mDocument.paint().toleranceSetting();
-    keep(mKnown.tolerance, setting, lineOf({"set mToleranceSlider", scriptNumber(double(setting))}));
+    mBefore.toleranceAt = mLines.size();
+    keep(mKnown.tolerance, setting, toleranceLine(setting));
 }
 
 void SessionScript::settle(bool forGesture)
@@ -290,6 +310,10 @@ void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions
     case Hand::Drag:
     case Hand::Move:
         if (!mDragging && what == Hand::Drag) return;
+        // Drags of the wand that move nothing: what tolerance came of them is written down at the end.
+        if (what == Hand::Drag && mDocument.gesture().tool() == Tool::Wand && !mGripped &&
+            !mDocument.gesture().isMoving())
+            return;
         settlePressure();
         hold(currentKeyModifiers());
         return add(pointLine(what == Hand::Drag ? "drag" : "move", point));
@@ -304,6 +328,10 @@ void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions
         mFloats = mDocument.selection().floating() != nullptr;
         if (mDocument.gesture().tool() == Tool::Eyedropper)
             mKnown.color = mDocument.paint().color(); // it brings it along
+        if (const auto& press = mDocument.gesture().wandPress(); press && press->setting != mKnown.tolerance) {
+            mKnown.tolerance = press->setting;
+            pressWithTolerance(press->setting);
+        }
         if (mGripped) {
             const _ZPTransform record = mDocument.selection().record();
             forgetGesture();

@@ -69,6 +69,7 @@ private:
     void hold(std::uint32_t keys);
     void add(const std::string& line);
     void replaceLast(const std::string& line);
+    void pressWithTolerance(int setting); ///< the last press was done with that one, it turned out
     /// The gesture's lines from its press on go away, and with them what they were to do.
     void forgetGesture();
     /// The same, and the settings that it was done with.
@@ -83,14 +84,15 @@ private:
         std::size_t lines = 0;
         Settings known;
         std::uint32_t keys = 0;
-    } mBefore;                ///< the last press, and what it is done with
-    float mPressure = 1;      ///< of the pen
-    std::size_t mGesture = 0; ///< where the last gesture's lines begin
-    bool mDragging = false;   ///< between a press and its release
-    bool mGripped = false;    ///< by a handle of what floats: they lie where the zoom puts them
-    bool mTextPlaced = false; ///< the last press was the text tool's, and its line is the outline
-    bool mStroke = false;     ///< the last gesture was the brush's, and may still be painted
-    bool mFloats = false;     ///< something did when the last command or gesture had ended
+        std::size_t toleranceAt = 0; ///< where the tolerance's line is, or would be
+    } mBefore;                       ///< the last press, and what it is done with
+    float mPressure = 1;             ///< of the pen
+    std::size_t mGesture = 0;        ///< where the last gesture's lines begin
+    bool mDragging = false;          ///< between a press and its release
+    bool mGripped = false;           ///< by a handle of what floats: they lie where the zoom puts them
+    bool mTextPlaced = false;        ///< the last press was the text tool's, and its line is the outline
+    bool mStroke = false;            ///< the last gesture was the brush's, and may still be painted
+    bool mFloats = false;            ///< something did when the last command or gesture had ended
     bool mFull = false;
 };
 

@@ -12,7 +12,7 @@ using Action = ToolActions::Action;
 
 Action pressRectangle, dragRectangle, releaseRectangle;
 Action pressLasso, dragLasso, releaseLasso;
-Action pressWand, releaseWand;
+Action pressWand, dragWand, releaseWand;
 Action pressBrush;
 Action pressPencil, dragPencil, releasePencil, releaseEraser;
 Action pressRemove, releaseRemove;

@@ -14,17 +14,6 @@
 namespace zp
 {
 
-namespace
-{
-
-/// The colour is read where the point is, not at the rounded start; a point just before the first pixel reads that.
-std::uint32_t wordUnder(ConstBitmapView pixels, Point point)
-{
-    return colorAtPoint(pixels, {std::max(0.0f, point.x), std::max(0.0f, point.y)});
-}
-
-} // namespace
-
 void markByWand(Edit& edit, Point point, bool adding)
 {
     edit.paint().takeNewColor();

@@ -128,27 +128,4 @@ void tool::releaseLasso(Edit& edit, Point)
     renderMask(edit);
 }
 
-// ---- magic wand -----------------------------------------------------------------------------------------------------
-
-void tool::pressWand(Edit& edit, Point point)
-{
-    Selection& selection = edit.selection();
-    if (selection.contains(point)) return startMoving(edit, point);
-    edit.gesture().openPolygon(false);
-    const bool adding = currentKeyModifiers() & kShiftKey;
-    if (!adding && !selection.parked()) selection.beginShape();
-    markByWand(edit, pixelUnder(point), adding);
-    logLine("magicWand done");
-    selection.selectTraced(tracedMask(selection));
-    logLine("ZPPathBuilder done");
-    edit.redraw();
-}
-
-void tool::releaseWand(Edit& edit, Point)
-{
-    // Joined with what was selected before, the outline is no longer what the wand marked.
-    Selection& selection = edit.selection();
-    if (!edit.gesture().isMoving() && !selection.isNil()) selection.renderedMask();
-}
-
 } // namespace zp

@@ -4,6 +4,7 @@
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
 #include "base/Folders.h"
+#include "canvas/WandExplainer.h"
 #include "canvas/ZPCanvas.h"
 #include "desktop/KeyModifiers.h"
 #include "document/Document.h"
@@ -231,7 +232,8 @@ void ScriptDriver::addInputCommands()
         waitUntil(
             [this, quiet] {
                 const bool busy = mDocument.anyWorkerRunning() || mDocument.firstStepPending() ||
-                                  mDocument.isComputing() || mDocument.requestsWait();
+                                  mDocument.isComputing() || mDocument.requestsWait() ||
+                                  mCanvas.wandExplainer().isPending();
                 // Quiet for a few rounds of the event loop: the end of one worker may be the start of the next.
                 *quiet = busy ? 0 : *quiet + 1;
                 return *quiet > 3;

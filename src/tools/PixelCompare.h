@@ -32,6 +32,29 @@ constexpr bool wordsMatch(std::uint32_t a, std::uint32_t b, int t)
     return true;
 }
 
+/// A place in a pixel's word.
+enum class Channel { Red, Green, Blue, Alpha };
+struct ChannelDistance {
+    Channel channel = Channel::Red;
+    int distance = 0;
+};
+
+/// The place in which two pixel words differ most, the first of equals. wordsMatch is true exactly when the distance is
+/// less than its tolerance.
+constexpr ChannelDistance farthestChannel(std::uint32_t a, std::uint32_t b)
+{
+    constexpr struct {
+        Channel channel;
+        int shift;
+    } kPlaces[] = {{Channel::Red, 8}, {Channel::Green, 16}, {Channel::Blue, 24}, {Channel::Alpha, 0}};
+    ChannelDistance farthest;
+    for (const auto& [channel, shift] : kPlaces) {
+        const int x = int(a >> shift & 0xFF), y = int(b >> shift & 0xFF), distance = x > y ? x - y : y - x;
+        if (distance > farthest.distance) farthest = {channel, distance};
+    }
+    return farthest;
+}
+
 /// Whether red, green and blue each differ by less than t / 255 * 0.5 (single precision); alpha is not compared.
 bool ColorsWithinTolerance(const Color& a, const Color& b, int t);
 /// Whether red, green and blue, as bytes, are equal; alpha is not compared.

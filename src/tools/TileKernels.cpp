@@ -147,6 +147,39 @@ HWY_INLINE void writeBits(T* row, std::uint64_t bits, T value, int room)
     }
 }
 
+void widenBounds(const std::uint8_t* row, int width, ByteBounds* tiles)
+{
+    const hn::CappedTag<std::uint8_t, 4 * kTileSide> d;
+    const hn::Repartition<std::uint32_t, decltype(d)> d32;
+    for (int x = 0; x < width; x += kTileSide, ++tiles, row += 4 * kTileSide) {
+        alignas(64) std::uint8_t pixels[4 * kTileSide];
+        const std::uint8_t* from = row;
+        if (const int count = std::min(kTileSide, width - x); count < kTileSide) {
+            // The last pixel again, up to the tile's end.
+            std::memcpy(pixels, row, 4 * std::size_t(count));
+            for (int i = count; i < kTileSide; ++i) std::memcpy(pixels + 4 * i, row + 4 * (count - 1), 4);
+            from = pixels;
+        }
+        auto low = hn::BitCast(d, hn::Set(d32, tiles->low)), high = hn::BitCast(d, hn::Set(d32, tiles->high));
+        for (std::size_t at = 0; at < 4 * kTileSide; at += hn::Lanes(d)) {
+            const auto v = hn::LoadU(d, from + at);
+            low = hn::Min(low, v), high = hn::Max(high, v);
+        }
+        alignas(64) std::uint8_t lows[4 * kTileSide], highs[4 * kTileSide];
+        hn::Store(low, d, lows);
+        hn::Store(high, d, highs);
+        std::uint8_t least[4], most[4];
+        std::memcpy(least, lows, 4);
+        std::memcpy(most, highs, 4);
+        for (std::size_t at = 4; at < hn::Lanes(d); ++at) {
+            least[at % 4] = std::min(least[at % 4], lows[at]);
+            most[at % 4] = std::max(most[at % 4], highs[at]);
+        }
+        std::memcpy(&tiles->low, least, 4);
+        std::memcpy(&tiles->high, most, 4);
+    }
+}
+
 void paintBits(std::uint32_t* row, std::uint64_t bits, std::uint32_t word, int room)
 {
     writeBits(row, bits, word, room);
@@ -181,6 +214,7 @@ namespace zp
 {
 
 HWY_EXPORT(loadTile);
+HWY_EXPORT(widenBounds);
 HWY_EXPORT(paintBits);
 HWY_EXPORT(clearBits);
 HWY_EXPORT(paintBox);
@@ -189,6 +223,10 @@ HWY_EXPORT(clearBox);
 TileEdges loadTile(const TileSource& source, const TileQuery& query, TileRows& open, const TileSource* next)
 {
     return HWY_DYNAMIC_DISPATCH(loadTile)(source, query, open, next);
+}
+void widenBounds(const std::uint8_t* row, int width, ByteBounds* tiles)
+{
+    HWY_DYNAMIC_DISPATCH(widenBounds)(row, width, tiles);
 }
 void paintBits(std::uint32_t* row, std::uint64_t bits, std::uint32_t word, int room)
 {

@@ -37,6 +37,15 @@ struct TileEdges {
 /// for next, if known: its lines are called from memory meanwhile
 TileEdges loadTile(const TileSource& source, const TileQuery& query, TileRows& open, const TileSource* next);
 
+/// The lowest and the highest byte of each place in a word, over some pixels; of none: low above high.
+struct ByteBounds {
+    std::uint32_t low = 0xFFFFFFFF, high = 0;
+};
+
+/// Widens the bounds of the tiles side by side that a row of @p width pixels runs through: those of pixels 0 to 63 are
+/// the first's.
+void widenBounds(const std::uint8_t* row, int width, ByteBounds* tiles);
+
 /// row[x] = word for every bit x that is set. @param room  elements that the row has from here on: bits lie within it,
 /// and nothing beyond it is touched
 void paintBits(std::uint32_t* row, std::uint64_t bits, std::uint32_t word, int room);

@@ -2,6 +2,7 @@
 /// The walk over tiles and the spreading of words inside them.
 #include "tools/TileRegion.h"
 #include "base/BitmapRep.h"
+#include "tools/TileBounds.h"
 #include <algorithm>
 #include <bit>
 #include <utility>
@@ -49,9 +50,17 @@ TileRegion::TileRegion()
 {
 }
 
-bool TileRegion::begin(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query)
+void TileRegion::forget()
 {
-    mPixels = pixels, mMask = mask, mQuery = query;
+    mReached = {};
+    mHead = mTail = 0;
+    mColumns = mRows = 0;
+}
+
+bool TileRegion::begin(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query,
+                       const TileBounds* bounds)
+{
+    mPixels = pixels, mMask = mask, mQuery = query, mBounds = bounds;
     mReached = {};
     mHead = mTail = 0;
     mColumns = (pixels.width + kTileSide - 1) / kTileSide;
@@ -128,15 +137,35 @@ TileSource TileRegion::sourceOf(const Tile& tile) const
             box.height()};
 }
 
+bool TileRegion::loadByBounds(Tile& tile)
+{
+    if (!mBounds) return false;
+    const TileMatch match = mBounds->matchOf(tile.column, tile.row, mQuery);
+    if (match == TileMatch::None) {
+        tile.open.fill(0);
+        tile.leftOpen = tile.rightOpen = 0;
+        tile.allOpen = false;
+        return true;
+    }
+    const PixelBox box = boxOf(tile);
+    const bool whole = box.width() == kTileSide && box.height() == kTileSide;
+    if (match != TileMatch::All || !whole || !mMask.isEmpty()) return false;
+    tile.open.fill(kAll);
+    tile.leftOpen = tile.rightOpen = kAll;
+    tile.allOpen = true;
+    return true;
+}
+
 void TileRegion::load(Tile& tile)
 {
+    tile.region.fill(0);
+    tile.loaded = true;
+    if (loadByBounds(tile)) return;
     const Tile* const next = mHead == mTail ? nullptr : mTiles + mQueue[mHead];
     TileSource ahead{};
     if (next && !next->loaded) ahead = sourceOf(*next);
     const TileEdges edges = loadTile(sourceOf(tile), mQuery, tile.open, next && !next->loaded ? &ahead : nullptr);
-    tile.region.fill(0);
     tile.leftOpen = edges.left, tile.rightOpen = edges.right, tile.allOpen = edges.allOpen;
-    tile.loaded = true;
 }
 
 void TileRegion::takeWhole(Tile& tile)
@@ -244,6 +273,18 @@ void TileRegion::wakeNeighbours(Tile& tile, std::uint64_t left, std::uint64_t ri
         other.fromAbove |= down;
         if (down) enqueue(other);
     }
+}
+
+std::size_t TileRegion::count() const
+{
+    std::size_t count = 0;
+    for (int row = mReached.y0; row < mReached.y1; ++row)
+        for (int column = mReached.x0; column < mReached.x1; ++column) {
+            const Tile& tile = mTiles[std::size_t(row) * std::size_t(mColumns) + std::size_t(column)];
+            if (tile.generation != mGeneration || !tile.loaded) continue;
+            for (const std::uint64_t bits : tile.region) count += std::size_t(std::popcount(bits));
+        }
+    return count;
 }
 
 PixelBox TileRegion::box() const

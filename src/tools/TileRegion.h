@@ -9,6 +9,8 @@
 namespace zp
 {
 
+class TileBounds;
+
 /// Work space for fills: finds a region, keeps its bits until the next one is looked for.
 ///
 /// A tile's match bits are made when the region first reaches the tile. Within a tile whole words spread: along a row
@@ -19,6 +21,8 @@ class TileRegion
 {
 public:
     TileRegion();
+    TileRegion(const TileRegion&) = delete;
+    TileRegion& operator=(const TileRegion&) = delete;
 
     /// Looks for the 4-connected region of open pixels around @p seed (see TileQuery); finds nothing when the seed
     /// itself is not open.
@@ -29,7 +33,7 @@ public:
     template <class FullTile>
     void find(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query, FullTile&& fullTile)
     {
-        if (!begin(pixels, mask, seed, query)) return;
+        if (!begin(pixels, mask, seed, query, nullptr)) return;
         while (Tile* tile = nextTile()) {
             if (tile->allOpen) {
                 takeWhole(*tile);
@@ -39,6 +43,38 @@ public:
             }
         }
     }
+
+    /// The same search in steps: begins it. Pixels, mask and bounds must stay as they are until it is at its end.
+    /// @param bounds  of the picture's tiles, so that only those that are partly open are read; null: all are read
+    /// @return whether the seed is open
+    bool start(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query,
+               const TileBounds* bounds)
+    {
+        return begin(pixels, mask, seed, query, bounds);
+    }
+    /// Goes on with it as long as goesOn(), asked before every tile, is true. @return whether it is at its end
+    template <class GoesOn>
+    bool goOn(GoesOn&& goesOn)
+    {
+        while (mHead != mTail && goesOn()) {
+            Tile& tile = *nextTile();
+            tile.allOpen ? takeWhole(tile) : spread(tile, 0);
+        }
+        return mHead == mTail;
+    }
+    /// Nothing is found.
+    void forget();
+
+    /// Pixels found so far.
+    std::size_t count() const;
+    /// Bit i: pixel 64 * column + i of row y is found. Anywhere: outside the picture nothing is.
+    std::uint64_t bitsOf(int column, int y) const
+    {
+        if (column < 0 || y < 0 || column >= mColumns || y >= mPixels.height) return 0;
+        const Tile& tile = mTiles[std::size_t(y / kTileSide) * std::size_t(mColumns) + std::size_t(column)];
+        return tile.generation == mGeneration && tile.loaded ? tile.region[std::size_t(y % kTileSide)] : 0;
+    }
+    bool contains(int x, int y) const { return x >= 0 && bitsOf(x / kTileSide, y) >> (x % kTileSide) & 1; }
 
     /// Box of the region found last; empty when there was none.
     PixelBox box() const;
@@ -71,7 +107,8 @@ private:
         TileRows region;                    ///< reached
     };
 
-    bool begin(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query);
+    bool begin(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query,
+               const TileBounds* bounds);
     Tile* nextTile();
     void takeWhole(Tile& tile);
     /// Takes all that can be reached inside the tile. @p dirty: rows into which something comes already, in mComing.
@@ -80,6 +117,7 @@ private:
     Tile& touch(Tile* tile, int column, int row);
     void enqueue(Tile& tile);
     void load(Tile& tile);
+    bool loadByBounds(Tile& tile); ///< whether the tile's bounds said enough
     PixelBox boxOf(const Tile& tile) const;
     TileSource sourceOf(const Tile& tile) const;
 
@@ -93,6 +131,7 @@ private:
     ConstBitmapView mPixels;
     ConstMaskView mMask;
     TileQuery mQuery;
+    const TileBounds* mBounds = nullptr;
     TileRows mComing{}; ///< within spread(): what comes into each row; zero between calls
 };
 

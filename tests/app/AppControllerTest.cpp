@@ -128,6 +128,8 @@ TEST(RememberedChoices, ComeBackAtTheNextStart)
         first.document().setPaintColor(colour);
         first.document().setChequered(true);
         first.document().setGrid(true);
+        EXPECT_FALSE(first.document().view().explainsWand()) << "off as given";
+        first.document().setExplainsWand(true);
         first.window().chooseBrush(2, 41);
         first.document().setPenPressure(PenPressure::Opacity);
         first.canvas().setTool(int(Tool::CloneStamp));
@@ -149,12 +151,13 @@ TEST(RememberedChoices, ComeBackAtTheNextStart)
         EXPECT_EQ(paint.penPressure() == PenPressure::Opacity, c.remembers);
         EXPECT_EQ(next.document().view().isChequered(), c.remembers);
         EXPECT_EQ(next.document().view().hasGrid(), c.remembers);
+        EXPECT_EQ(next.document().view().explainsWand(), c.remembers);
         EXPECT_EQ(std::abs(paint.color().blue - colour.blue) < 0.01f &&
                       std::abs(paint.color().alpha - colour.alpha) < 0.01f,
                   c.remembers);
     }
     for (const char* key : {"tool", "size", "brush", "tolerance", "pressure", "color", "otherColor", "chequered",
-                            "grid", "font", "docks"})
+                            "grid", "explainsWand", "font", "docks"})
         settings().remove(QString("last/%1").arg(key));
 }
 

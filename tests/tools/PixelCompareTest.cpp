@@ -37,6 +37,31 @@ TEST(WordsMatch, AlphaCountsLikeColour)
     EXPECT_TRUE(wordsMatch(0x102030F0, 0x102030E6, 11));
 }
 
+TEST(FarthestChannel, IsTheOneThatDecides)
+{
+    struct Case {
+        std::uint32_t a, b;
+        Channel channel;
+        int distance;
+    };
+    // Blue, green, red, alpha from the high byte down.
+    for (const auto& [a, b, channel, distance] : {Case{0x10203040, 0x10203040, Channel::Red, 0},
+                                                  {0x10203040, 0x10203140, Channel::Red, 1},
+                                                  {0x10453040, 0x10203040, Channel::Green, 0x25},
+                                                  {0xFF203040, 0x00203040, Channel::Blue, 255},
+                                                  {0x10203040, 0x10203080, Channel::Alpha, 0x40},
+                                                  {0x05050505, 0x00000000, Channel::Red, 5}}) {
+        EXPECT_EQ(farthestChannel(a, b).channel, channel) << std::hex << a << ' ' << b;
+        EXPECT_EQ(farthestChannel(a, b).distance, distance) << std::hex << a << ' ' << b;
+    }
+    std::uint32_t a = 1, b = 2;
+    for (int i = 0; i < 20'000; ++i) {
+        a = a * 1664525 + 1013904223, b = b * 22695477 + 1;
+        for (const int t : {0, 1, farthestChannel(a, b).distance, farthestChannel(a, b).distance + 1, 128})
+            ASSERT_EQ(farthestChannel(a, b).distance < t, wordsMatch(a, b, t)) << std::hex << a << ' ' << b << ' ' << t;
+    }
+}
+
 TEST(PackColor, PutsAlphaFirstInMemory)
 {
     const std::uint32_t word = packColor({1, 0.5f, 0, 0.25f});
