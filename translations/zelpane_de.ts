@@ -3076,8 +3076,8 @@
         <translation>Ziehen verschiebt · die Griffe skalieren und drehen, %1: Schritte von 15° · Eingabetaste verankert, Escape hebt auf</translation>
     </message>
     <message>
-        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
-        <translation>Ruhen: was ein Klick nimmt, schimmert · drücken und nach rechts oder links ziehen: mehr oder weniger Toleranz · %1 fügt hinzu, %2 zieht ab</translation>
+        <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
+        <translation>Ruhen: was ein Klick nimmt · nach rechts ziehen: mehr Toleranz, links: weniger · %1 fügt hinzu, %2 zieht ab</translation>
     </message>
 </context>
 <context>

@@ -3076,8 +3076,8 @@
         <translation>Arrastrar mueve · los tiradores escalan y giran, %1: pasos de 15° · Intro ancla, Escape descarta</translation>
     </message>
     <message>
-        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
-        <translation>Descansar: brilla lo que toma un clic · pulsar y arrastrar a la derecha o izquierda: más o menos tolerancia · %1 suma, %2 resta</translation>
+        <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
+        <translation>Descansar: lo que toma un clic · arrastrar a la derecha: más tolerancia, izquierda: menos · %1 suma, %2 resta</translation>
     </message>
 </context>
 <context>

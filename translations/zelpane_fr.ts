@@ -3076,8 +3076,8 @@
         <translation>Glisser déplace · les poignées mettent à l’échelle et tournent, %1&#xa0;: par 15° · Entrée ancre, Échap abandonne</translation>
     </message>
     <message>
-        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
-        <translation>Arrêt : ce que prend un clic scintille · appuyer et glisser à droite ou à gauche : plus ou moins de tolérance · %1 ajoute, %2 soustrait</translation>
+        <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
+        <translation>Arrêt : ce que prend un clic · glisser à droite : plus de tolérance, à gauche : moins · %1 ajoute, %2 soustrait</translation>
     </message>
 </context>
 <context>

@@ -3066,8 +3066,8 @@
         <translation>ドラッグで移動 · ハンドルで拡大縮小と回転、%1: 15° 刻み · Return で固定、Escape で破棄</translation>
     </message>
     <message>
-        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
-        <translation>止める: クリックで選ばれる範囲がゆらめく · 押して右か左へドラッグ: 許容値を増減 · %1 で追加、%2 で減算</translation>
+        <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
+        <translation>止める: クリックで選ばれる範囲 · 右へドラッグ: 許容値を増やす、左: 減らす · %1 で追加、%2 で減算</translation>
     </message>
 </context>
 <context>

@@ -3076,8 +3076,8 @@
         <translation>Arrastar move · as alças redimensionam e giram, %1: passos de 15° · Enter ancora, Escape descarta</translation>
     </message>
     <message>
-        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
-        <translation>Repousar: cintila o que um clique pega · pressionar e arrastar para a direita ou esquerda: mais ou menos tolerância · %1 soma, %2 subtrai</translation>
+        <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
+        <translation>Repousar: o que um clique pega · arrastar à direita: mais tolerância, à esquerda: menos · %1 soma, %2 subtrai</translation>
     </message>
 </context>
 <context>

@@ -3066,8 +3066,8 @@
         <translation>拖动可移动 · 控制柄可缩放和旋转，%1：每次 15° · 回车固定，Esc 放弃</translation>
     </message>
     <message>
-        <source>Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · %1 adds, %2 subtracts</source>
-        <translation>停留：单击会选取的内容闪动 · 按下并向右或向左拖动：增减容差 · %1 添加，%2 减去</translation>
+        <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
+        <translation>停留：单击会选取的内容 · 向右拖动：增大容差，向左：减小 · %1 添加，%2 减去</translation>
     </message>
 </context>
 <context>

@@ -173,8 +173,7 @@ QString StatusLine::hint() const
         return tr("Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops")
             .arg(keyNameOf(kShiftKey));
     if (row.options & options::Explain && mDocument.view().explainsWand())
-        return tr("Rest: what a click takes shimmers · press and drag right or left: more or less tolerance · "
-                  "%1 adds, %2 subtracts")
+        return tr("Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts")
             .arg(keyNameOf(kShiftKey), keyNameOf(kOptionKey));
     return withKeys(hintOf(row));
 }
