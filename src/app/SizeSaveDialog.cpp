@@ -69,6 +69,7 @@ public:
     }
     ~Seeker()
     {
+        const std::lock_guard hold(mGuard); // the worker takes no wish between the two
         mStop = true;
         mWorker.request_stop();
     }
