@@ -654,6 +654,30 @@
         <source>Opens the selected image in the editor (Return)</source>
         <translation>Öffnet das gewählte Bild im Editor (Eingabetaste)</translation>
     </message>
+    <message>
+        <source>Re&amp;link</source>
+        <translation>&amp;Neu verknüpfen</translation>
+    </message>
+    <message>
+        <source>Lets the selected link lead to the image that was found</source>
+        <translation>Lässt die gewählte Verknüpfung zum gefundenen Bild führen</translation>
+    </message>
+    <message>
+        <source>Relin&amp;k All…</source>
+        <translation>Alle &amp;verknüpfen …</translation>
+    </message>
+    <message>
+        <source>Lets every broken link lead to its image, where that was found by its content</source>
+        <translation>Lässt jede defekte Verknüpfung zu ihrem Bild führen, wo es am Inhalt wiedererkannt wurde</translation>
+    </message>
+    <message>
+        <source>Show D&amp;uplicates</source>
+        <translation>&amp;Doppelte zeigen</translation>
+    </message>
+    <message>
+        <source>Shows only images that are here more than once: the same file, the same content, or the same look</source>
+        <translation>Zeigt nur Bilder, die mehrmals da sind: dieselbe Datei, derselbe Inhalt oder dasselbe Aussehen</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -1200,6 +1224,22 @@
     <message>
         <source>Path</source>
         <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>sieht gleich aus</translation>
+    </message>
+    <message>
+        <source>same content</source>
+        <translation>gleicher Inhalt</translation>
+    </message>
+    <message>
+        <source>same file</source>
+        <translation>dieselbe Datei</translation>
+    </message>
+    <message>
+        <source>Likeness</source>
+        <translation>Gleichheit</translation>
     </message>
 </context>
 <context>
@@ -3803,6 +3843,63 @@
     <message>
         <source>Enter a valid new name.</source>
         <translation>Geben Sie einen gültigen neuen Namen ein.</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>sieht gleich aus</translation>
+    </message>
+    <message>
+        <source>Found again: “%1” in %2</source>
+        <translation>Wiedergefunden: „%1“ in %2</translation>
+    </message>
+    <message>
+        <source>An image of the same name, maybe another one: “%1” in %2</source>
+        <translation>Ein Bild desselben Namens, vielleicht ein anderes: „%1“ in %2</translation>
+    </message>
+    <message>
+        <source>Not found again in its old folder, below it or beside it.</source>
+        <translation>Nicht wiedergefunden: weder im alten Ordner noch darunter oder daneben.</translation>
+    </message>
+    <message>
+        <source>Looking for the image of this link…</source>
+        <translation>Das Bild dieser Verknüpfung wird gesucht …</translation>
+    </message>
+    <message numerus="yes">
+        <source>Found again: the images of %n broken link(s).</source>
+        <translation>
+            <numerusform>Wiedergefunden: das Bild von %n defekten Verknüpfung.</numerusform>
+            <numerusform>Wiedergefunden: die Bilder von %n defekten Verknüpfungen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you wish to relink %n image(s)?</source>
+        <translation>
+            <numerusform>Möchten Sie %n Bild neu verknüpfen?</numerusform>
+            <numerusform>Möchten Sie %n Bilder neu verknüpfen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Relink</source>
+        <translation>Neu verknüpfen</translation>
+    </message>
+    <message>
+        <source>A link could not be changed.</source>
+        <translation>Eine Verknüpfung konnte nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Comparing %1 of %2</source>
+        <translation>Vergleiche %1 von %2</translation>
+    </message>
+    <message>
+        <source>No duplicates</source>
+        <translation>Nichts ist doppelt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) more than once</source>
+        <translation>
+            <numerusform>%n Bild mehrfach</numerusform>
+            <numerusform>%n Bilder mehrfach</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -654,6 +654,30 @@
         <source>Opens the selected image in the editor (Return)</source>
         <translation>Abre la imagen elegida en el editor (Intro)</translation>
     </message>
+    <message>
+        <source>Re&amp;link</source>
+        <translation>&amp;Volver a enlazar</translation>
+    </message>
+    <message>
+        <source>Lets the selected link lead to the image that was found</source>
+        <translation>Hace que el enlace elegido lleve a la imagen encontrada</translation>
+    </message>
+    <message>
+        <source>Relin&amp;k All…</source>
+        <translation>Enlazar &amp;todas…</translation>
+    </message>
+    <message>
+        <source>Lets every broken link lead to its image, where that was found by its content</source>
+        <translation>Hace que cada enlace roto lleve a su imagen, si se encontró por su contenido</translation>
+    </message>
+    <message>
+        <source>Show D&amp;uplicates</source>
+        <translation>Mostrar &amp;duplicados</translation>
+    </message>
+    <message>
+        <source>Shows only images that are here more than once: the same file, the same content, or the same look</source>
+        <translation>Muestra solo las imágenes que están más de una vez: el mismo archivo, el mismo contenido o el mismo aspecto</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -1200,6 +1224,22 @@
     <message>
         <source>Path</source>
         <translation>Ruta</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>mismo aspecto</translation>
+    </message>
+    <message>
+        <source>same content</source>
+        <translation>mismo contenido</translation>
+    </message>
+    <message>
+        <source>same file</source>
+        <translation>mismo archivo</translation>
+    </message>
+    <message>
+        <source>Likeness</source>
+        <translation>Parecido</translation>
     </message>
 </context>
 <context>
@@ -3803,6 +3843,63 @@
     <message>
         <source>Enter a valid new name.</source>
         <translation>Escriba un nombre nuevo válido.</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>mismo aspecto</translation>
+    </message>
+    <message>
+        <source>Found again: “%1” in %2</source>
+        <translation>Encontrada de nuevo: «%1» en %2</translation>
+    </message>
+    <message>
+        <source>An image of the same name, maybe another one: “%1” in %2</source>
+        <translation>Una imagen del mismo nombre, quizá otra: «%1» en %2</translation>
+    </message>
+    <message>
+        <source>Not found again in its old folder, below it or beside it.</source>
+        <translation>No se encontró en su carpeta anterior, ni dentro ni al lado de ella.</translation>
+    </message>
+    <message>
+        <source>Looking for the image of this link…</source>
+        <translation>Buscando la imagen de este enlace…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Found again: the images of %n broken link(s).</source>
+        <translation>
+            <numerusform>Encontrada: la imagen de %n enlace roto.</numerusform>
+            <numerusform>Encontradas: las imágenes de %n enlaces rotos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you wish to relink %n image(s)?</source>
+        <translation>
+            <numerusform>¿Desea volver a enlazar %n imagen?</numerusform>
+            <numerusform>¿Desea volver a enlazar %n imágenes?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Relink</source>
+        <translation>Volver a enlazar</translation>
+    </message>
+    <message>
+        <source>A link could not be changed.</source>
+        <translation>No se pudo cambiar un enlace.</translation>
+    </message>
+    <message>
+        <source>Comparing %1 of %2</source>
+        <translation>Comparando %1 de %2</translation>
+    </message>
+    <message>
+        <source>No duplicates</source>
+        <translation>No hay duplicados</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) more than once</source>
+        <translation>
+            <numerusform>%n imagen repetida</numerusform>
+            <numerusform>%n imágenes repetidas</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -654,6 +654,30 @@
         <source>Opens the selected image in the editor (Return)</source>
         <translation>Ouvre l’image choisie dans l’éditeur (Entrée)</translation>
     </message>
+    <message>
+        <source>Re&amp;link</source>
+        <translation>Re&amp;lier</translation>
+    </message>
+    <message>
+        <source>Lets the selected link lead to the image that was found</source>
+        <translation>Fait mener le lien choisi à l’image retrouvée</translation>
+    </message>
+    <message>
+        <source>Relin&amp;k All…</source>
+        <translation>Relier &amp;tout…</translation>
+    </message>
+    <message>
+        <source>Lets every broken link lead to its image, where that was found by its content</source>
+        <translation>Fait mener chaque lien rompu à son image, si elle a été retrouvée par son contenu</translation>
+    </message>
+    <message>
+        <source>Show D&amp;uplicates</source>
+        <translation>Afficher les &amp;doublons</translation>
+    </message>
+    <message>
+        <source>Shows only images that are here more than once: the same file, the same content, or the same look</source>
+        <translation>Ne montre que les images présentes plusieurs fois&#xa0;: même fichier, même contenu ou même aspect</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -1200,6 +1224,22 @@
     <message>
         <source>Path</source>
         <translation>Chemin</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>même aspect</translation>
+    </message>
+    <message>
+        <source>same content</source>
+        <translation>même contenu</translation>
+    </message>
+    <message>
+        <source>same file</source>
+        <translation>même fichier</translation>
+    </message>
+    <message>
+        <source>Likeness</source>
+        <translation>Ressemblance</translation>
     </message>
 </context>
 <context>
@@ -3803,6 +3843,63 @@
     <message>
         <source>Enter a valid new name.</source>
         <translation>Saisissez un nouveau nom valable.</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>même aspect</translation>
+    </message>
+    <message>
+        <source>Found again: “%1” in %2</source>
+        <translation>Retrouvée&#xa0;: «&#xa0;%1&#xa0;» dans %2</translation>
+    </message>
+    <message>
+        <source>An image of the same name, maybe another one: “%1” in %2</source>
+        <translation>Une image du même nom, peut-être une autre&#xa0;: «&#xa0;%1&#xa0;» dans %2</translation>
+    </message>
+    <message>
+        <source>Not found again in its old folder, below it or beside it.</source>
+        <translation>Introuvable dans son ancien dossier, dessous ou à côté.</translation>
+    </message>
+    <message>
+        <source>Looking for the image of this link…</source>
+        <translation>Recherche de l’image de ce lien…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Found again: the images of %n broken link(s).</source>
+        <translation>
+            <numerusform>Retrouvée&#xa0;: l’image de %n lien rompu.</numerusform>
+            <numerusform>Retrouvées&#xa0;: les images de %n liens rompus.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you wish to relink %n image(s)?</source>
+        <translation>
+            <numerusform>Voulez-vous relier %n image&#x202f;?</numerusform>
+            <numerusform>Voulez-vous relier %n images&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Relink</source>
+        <translation>Relier</translation>
+    </message>
+    <message>
+        <source>A link could not be changed.</source>
+        <translation>Un lien n’a pas pu être modifié.</translation>
+    </message>
+    <message>
+        <source>Comparing %1 of %2</source>
+        <translation>Comparaison de %1 sur %2</translation>
+    </message>
+    <message>
+        <source>No duplicates</source>
+        <translation>Aucun doublon</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) more than once</source>
+        <translation>
+            <numerusform>%n image en double</numerusform>
+            <numerusform>%n images en double</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -645,6 +645,30 @@
         <source>Opens the selected image in the editor (Return)</source>
         <translation>選んだ画像をエディターで開きます (Return)</translation>
     </message>
+    <message>
+        <source>Re&amp;link</source>
+        <translation>再リンク(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Lets the selected link lead to the image that was found</source>
+        <translation>選んだリンクの行き先を、見つかった画像にします</translation>
+    </message>
+    <message>
+        <source>Relin&amp;k All…</source>
+        <translation>すべて再リンク(&amp;K)…</translation>
+    </message>
+    <message>
+        <source>Lets every broken link lead to its image, where that was found by its content</source>
+        <translation>内容から画像が見つかった切れたリンクを、すべてその画像につなぎ直します</translation>
+    </message>
+    <message>
+        <source>Show D&amp;uplicates</source>
+        <translation>重複を表示(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Shows only images that are here more than once: the same file, the same content, or the same look</source>
+        <translation>二つ以上ある画像だけを表示します: 同じファイル、同じ内容、同じ見た目</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -1190,6 +1214,22 @@
     <message>
         <source>Path</source>
         <translation>パス</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>見た目が同じ</translation>
+    </message>
+    <message>
+        <source>same content</source>
+        <translation>内容が同じ</translation>
+    </message>
+    <message>
+        <source>same file</source>
+        <translation>同じファイル</translation>
+    </message>
+    <message>
+        <source>Likeness</source>
+        <translation>類似</translation>
     </message>
 </context>
 <context>
@@ -3792,6 +3832,60 @@
     <message>
         <source>Enter a valid new name.</source>
         <translation>正しい新しい名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>見た目が同じ</translation>
+    </message>
+    <message>
+        <source>Found again: “%1” in %2</source>
+        <translation>見つかりました:「%1」(%2)</translation>
+    </message>
+    <message>
+        <source>An image of the same name, maybe another one: “%1” in %2</source>
+        <translation>同じ名前の画像(別の画像かもしれません):「%1」(%2)</translation>
+    </message>
+    <message>
+        <source>Not found again in its old folder, below it or beside it.</source>
+        <translation>元のフォルダ、その中、その隣には見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Looking for the image of this link…</source>
+        <translation>このリンクの画像を探しています…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Found again: the images of %n broken link(s).</source>
+        <translation>
+            <numerusform>切れたリンク %n 件の画像が見つかりました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you wish to relink %n image(s)?</source>
+        <translation>
+            <numerusform>%n 枚の画像をリンクし直しますか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Relink</source>
+        <translation>再リンク</translation>
+    </message>
+    <message>
+        <source>A link could not be changed.</source>
+        <translation>リンクを変更できませんでした。</translation>
+    </message>
+    <message>
+        <source>Comparing %1 of %2</source>
+        <translation>%2 枚中 %1 枚を比較中</translation>
+    </message>
+    <message>
+        <source>No duplicates</source>
+        <translation>重複はありません</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) more than once</source>
+        <translation>
+            <numerusform>%n 枚が重複</numerusform>
+        </translation>
     </message>
 </context>
 <context>

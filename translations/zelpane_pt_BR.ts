@@ -654,6 +654,30 @@
         <source>Opens the selected image in the editor (Return)</source>
         <translation>Abre a imagem escolhida no editor (Enter)</translation>
     </message>
+    <message>
+        <source>Re&amp;link</source>
+        <translation>Re&amp;vincular</translation>
+    </message>
+    <message>
+        <source>Lets the selected link lead to the image that was found</source>
+        <translation>Faz o link escolhido levar à imagem encontrada</translation>
+    </message>
+    <message>
+        <source>Relin&amp;k All…</source>
+        <translation>Vincular &amp;todas…</translation>
+    </message>
+    <message>
+        <source>Lets every broken link lead to its image, where that was found by its content</source>
+        <translation>Faz cada link quebrado levar à sua imagem, se ela foi encontrada pelo conteúdo</translation>
+    </message>
+    <message>
+        <source>Show D&amp;uplicates</source>
+        <translation>Mostrar &amp;duplicatas</translation>
+    </message>
+    <message>
+        <source>Shows only images that are here more than once: the same file, the same content, or the same look</source>
+        <translation>Mostra só as imagens que estão aqui mais de uma vez: o mesmo arquivo, o mesmo conteúdo ou a mesma aparência</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -1200,6 +1224,22 @@
     <message>
         <source>Path</source>
         <translation>Caminho</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>mesma aparência</translation>
+    </message>
+    <message>
+        <source>same content</source>
+        <translation>mesmo conteúdo</translation>
+    </message>
+    <message>
+        <source>same file</source>
+        <translation>mesmo arquivo</translation>
+    </message>
+    <message>
+        <source>Likeness</source>
+        <translation>Semelhança</translation>
     </message>
 </context>
 <context>
@@ -3803,6 +3843,63 @@
     <message>
         <source>Enter a valid new name.</source>
         <translation>Digite um novo nome válido.</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>mesma aparência</translation>
+    </message>
+    <message>
+        <source>Found again: “%1” in %2</source>
+        <translation>Encontrada de novo: “%1” em %2</translation>
+    </message>
+    <message>
+        <source>An image of the same name, maybe another one: “%1” in %2</source>
+        <translation>Uma imagem do mesmo nome, talvez outra: “%1” em %2</translation>
+    </message>
+    <message>
+        <source>Not found again in its old folder, below it or beside it.</source>
+        <translation>Não foi encontrada na pasta antiga, nem dentro nem ao lado dela.</translation>
+    </message>
+    <message>
+        <source>Looking for the image of this link…</source>
+        <translation>Procurando a imagem deste link…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Found again: the images of %n broken link(s).</source>
+        <translation>
+            <numerusform>Encontrada: a imagem de %n link quebrado.</numerusform>
+            <numerusform>Encontradas: as imagens de %n links quebrados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you wish to relink %n image(s)?</source>
+        <translation>
+            <numerusform>Deseja vincular de novo %n imagem?</numerusform>
+            <numerusform>Deseja vincular de novo %n imagens?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Relink</source>
+        <translation>Revincular</translation>
+    </message>
+    <message>
+        <source>A link could not be changed.</source>
+        <translation>Não foi possível alterar um link.</translation>
+    </message>
+    <message>
+        <source>Comparing %1 of %2</source>
+        <translation>Comparando %1 de %2</translation>
+    </message>
+    <message>
+        <source>No duplicates</source>
+        <translation>Nenhuma duplicata</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) more than once</source>
+        <translation>
+            <numerusform>%n imagem repetida</numerusform>
+            <numerusform>%n imagens repetidas</numerusform>
+        </translation>
     </message>
 </context>
 <context>

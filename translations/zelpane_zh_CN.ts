@@ -645,6 +645,30 @@
         <source>Opens the selected image in the editor (Return)</source>
         <translation>在编辑器中打开所选图片 (回车)</translation>
     </message>
+    <message>
+        <source>Re&amp;link</source>
+        <translation>重新链接(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Lets the selected link lead to the image that was found</source>
+        <translation>让选中的链接指向找到的图像</translation>
+    </message>
+    <message>
+        <source>Relin&amp;k All…</source>
+        <translation>全部重新链接(&amp;K)…</translation>
+    </message>
+    <message>
+        <source>Lets every broken link lead to its image, where that was found by its content</source>
+        <translation>让每个按内容找到图像的失效链接重新指向其图像</translation>
+    </message>
+    <message>
+        <source>Show D&amp;uplicates</source>
+        <translation>显示重复项(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Shows only images that are here more than once: the same file, the same content, or the same look</source>
+        <translation>只显示重复出现的图像：同一文件、相同内容或相同外观</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -1190,6 +1214,22 @@
     <message>
         <source>Path</source>
         <translation>路径</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>外观相同</translation>
+    </message>
+    <message>
+        <source>same content</source>
+        <translation>内容相同</translation>
+    </message>
+    <message>
+        <source>same file</source>
+        <translation>同一文件</translation>
+    </message>
+    <message>
+        <source>Likeness</source>
+        <translation>相似</translation>
     </message>
 </context>
 <context>
@@ -3792,6 +3832,60 @@
     <message>
         <source>Enter a valid new name.</source>
         <translation>请输入有效的新名称。</translation>
+    </message>
+    <message>
+        <source>looks the same</source>
+        <translation>外观相同</translation>
+    </message>
+    <message>
+        <source>Found again: “%1” in %2</source>
+        <translation>已找到：“%1”，位于 %2</translation>
+    </message>
+    <message>
+        <source>An image of the same name, maybe another one: “%1” in %2</source>
+        <translation>同名图像（可能是另一张）：“%1”，位于 %2</translation>
+    </message>
+    <message>
+        <source>Not found again in its old folder, below it or beside it.</source>
+        <translation>在原文件夹、其子文件夹及相邻文件夹中都没有找到。</translation>
+    </message>
+    <message>
+        <source>Looking for the image of this link…</source>
+        <translation>正在查找此链接的图像…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Found again: the images of %n broken link(s).</source>
+        <translation>
+            <numerusform>已找到 %n 个失效链接的图像。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you wish to relink %n image(s)?</source>
+        <translation>
+            <numerusform>要重新链接 %n 张图像吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Relink</source>
+        <translation>重新链接</translation>
+    </message>
+    <message>
+        <source>A link could not be changed.</source>
+        <translation>无法更改某个链接。</translation>
+    </message>
+    <message>
+        <source>Comparing %1 of %2</source>
+        <translation>正在比较第 %1 张，共 %2 张</translation>
+    </message>
+    <message>
+        <source>No duplicates</source>
+        <translation>没有重复项</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) more than once</source>
+        <translation>
+            <numerusform>%n 张图像重复</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -95,14 +95,19 @@ const std::string& machineName()
     return name;
 }
 
+/// A name for a file of this program's in @p folder that is not the target's, which may be as long as names can be.
+std::string partName(const std::string& folder)
+{
+    static std::atomic<unsigned> counter{0};
+    const std::string own =
+        kPartPrefix + machineName() + "-" + std::to_string(::getpid()) + "-" + std::to_string(counter++) + kPartSuffix;
+    return folder.empty() ? own : pathByAppending(folder, own);
+}
+
 int createBeside(const std::string& folder, mode_t mode, std::string& name)
 {
-    // Not made from the target's name, which may already be as long as names can be.
-    static std::atomic<unsigned> counter{0};
     for (int attempt = 0; attempt < 100; ++attempt) {
-        const std::string own = kPartPrefix + machineName() + "-" + std::to_string(::getpid()) + "-" +
-                                std::to_string(counter++) + kPartSuffix;
-        name = folder.empty() ? own : pathByAppending(folder, own);
+        name = partName(folder);
         const int fd = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
         if (fd >= 0 || errno != EEXIST) return fd;
     }
@@ -255,6 +260,15 @@ bool writeFileSafely(const std::string& path, const void* bytes, std::size_t cou
     if (failure == 0) failure = replaceFile(target, static_cast<const char*>(bytes), count);
     if (error) *error = failure == 0 ? std::string() : sentenceFor(failure);
     return failure == 0;
+}
+
+bool replaceLink(const std::string& path, const std::string& target)
+{
+    const std::string beside = partName(folderOfPath(path));
+    if (::symlink(target.c_str(), beside.c_str()) != 0) return false;
+    if (::rename(beside.c_str(), path.c_str()) == 0) return true;
+    ::unlink(beside.c_str());
+    return false;
 }
 
 bool processIsGone(int process) { return process > 0 && ::kill(process, 0) != 0 && errno == ESRCH; }

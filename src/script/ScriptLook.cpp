@@ -261,7 +261,8 @@ void ScriptDriver::addLookCommands()
         for (const QStringList& row : library->rows()) rows.append(QJsonArray::fromStringList(row));
         return QJsonObject{{"columns", QJsonArray::fromStringList(library->columns())},
                            {"rows", rows},
-                           {"selected", library->selectedRow()}};
+                           {"selected", library->selectedRow()},
+                           {"busy", library->isBusy()}};
     });
     addImmediate("select-row", [](const Words& w) {
         if (w.size() != 2) throw Failure{"select-row N"};

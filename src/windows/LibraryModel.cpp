@@ -9,20 +9,64 @@
 
 using namespace zp;
 
+namespace
+{
+
+/// Behind the columns of the table.
+constexpr int kLikenessColumn = int(kLibraryColumns.size());
+
+} // namespace
+
 bool LibraryModel::reload()
 {
     std::vector<std::string> names = libraryRows(contentsOfFolder(libraryFolder()));
-    if (names == mNames) {
+    if (names == mListing) {
         // The same entries, but a file behind one may have changed.
         mShown.clear();
         if (!mNames.empty()) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
         return false;
     }
     beginResetModel();
-    mNames = std::move(names);
-    mShown.clear();
+    mListing = std::move(names);
+    arrange();
     endResetModel();
     return true;
+}
+
+void LibraryModel::showDuplicates(std::optional<DuplicateGroups> groups)
+{
+    if (!groups && !mGroups) return;
+    beginResetModel();
+    mGroups = std::move(groups);
+    arrange();
+    endResetModel();
+}
+
+void LibraryModel::arrange()
+{
+    mShown.clear();
+    mRowGroups.clear();
+    mNames = mListing;
+    if (!mGroups) return;
+    mNames.clear();
+    const std::set<std::string> there(mListing.begin(), mListing.end());
+    int number = 0;
+    for (std::vector<DuplicateEntry> group : *mGroups) {
+        std::erase_if(group, [&](const DuplicateEntry& each) { return !there.contains(each.name); });
+        if (group.size() < 2) continue;
+        for (const DuplicateEntry& each : group) {
+            mNames.push_back(each.name);
+            mRowGroups.emplace_back(number, each.why);
+        }
+        ++number;
+    }
+}
+
+QString LibraryModel::likenessText(int row) const
+{
+    const auto [group, why] = mRowGroups.at(std::size_t(row));
+    const QString words[] = {tr("looks the same"), tr("same content"), tr("same file")};
+    return QString("%1 · %2").arg(group + 1).arg(words[int(why)]);
 }
 
 LibraryItem LibraryModel::item(int row) const { return libraryItem(libraryFolder(), mNames.at(std::size_t(row))); }
@@ -37,6 +81,7 @@ QStringList LibraryModel::values(int row) const
 {
     QStringList texts;
     for (const char* column : kLibraryColumns) texts << textFromPath(libraryValue(shown(row), column, mDimensions));
+    if (mGroups) texts << likenessText(row);
     return texts;
 }
 
@@ -44,13 +89,17 @@ int LibraryModel::rowCount(const QModelIndex& parent) const { return parent.isVa
 
 int LibraryModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(kLibraryColumns.size());
+    return parent.isValid() ? 0 : kLikenessColumn + (mGroups ? 1 : 0);
 }
 
 QVariant LibraryModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount()) return {};
-    const char* column = kLibraryColumns[std::size_t(index.column())];
+    // Groups take turns, as rows do otherwise.
+    if (role == Qt::BackgroundRole && mGroups && mRowGroups.at(std::size_t(index.row())).first % 2 == 1)
+        return QGuiApplication::palette().brush(QPalette::AlternateBase);
+    if (index.column() == kLikenessColumn && role == Qt::DisplayRole) return likenessText(index.row());
+    const char* column = index.column() == kLikenessColumn ? "" : kLibraryColumns[std::size_t(index.column())];
     const bool number = qstrcmp(column, "SIZE") == 0 || qstrcmp(column, "DIMENSIONS") == 0;
     switch (role) {
     case Qt::DisplayRole:
@@ -80,10 +129,13 @@ QVariant LibraryModel::data(const QModelIndex& index, int role) const
 QVariant LibraryModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
-    if (role == Qt::UserRole) return QString::fromLatin1(kLibraryColumns[std::size_t(section)]);
+    if (role == Qt::UserRole)
+        return section == kLikenessColumn ? QString("LIKENESS")
+                                          : QString::fromLatin1(kLibraryColumns[std::size_t(section)]);
     if (role == Qt::TextAlignmentRole)
         return int((section == 2 || section == 3 ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     if (role != Qt::DisplayRole) return {};
-    const QStringList titles{tr("Name"), tr("Kind"), tr("Size"), tr("Dimensions"), tr("Modified"), tr("Path")};
+    const QStringList titles{tr("Name"),     tr("Kind"), tr("Size"),    tr("Dimensions"),
+                             tr("Modified"), tr("Path"), tr("Likeness")};
     return titles.at(section);
 }

@@ -11,6 +11,7 @@
 #include "ui_FileManager.h"
 #include "ui_Rename.h"
 #include "windows/LibraryDelegate.h"
+#include "windows/LibraryHealth.h"
 #include "windows/LibraryModel.h"
 #include <QCoreApplication>
 #include <QDialog>
@@ -88,6 +89,13 @@ ZPFileManager::ZPFileManager() : mUi(std::make_unique<Ui::FileManager>()), mRena
     connect(mUi->mOpenButton, &QPushButton::clicked, this, &ZPFileManager::open);
     connect(mUi->mDeleteButton, &QPushButton::clicked, this, &ZPFileManager::deleteSelected);
     connect(mUi->mRenameButton, &QPushButton::clicked, this, &ZPFileManager::renameSelected);
+    connect(mUi->mDuplicatesButton, &QPushButton::toggled, this, &ZPFileManager::showDuplicates);
+    connect(mUi->mRelinkButton, &QPushButton::clicked, this, &ZPFileManager::relinkSelected);
+    connect(mUi->mRelinkAllButton, &QPushButton::clicked, this, &ZPFileManager::relinkAll);
+    mHealth = new LibraryHealth(this);
+    connect(mHealth, &LibraryHealth::searched, this, &ZPFileManager::showFound);
+    connect(mHealth, &LibraryHealth::progressed, this, &ZPFileManager::showCount);
+    connect(mHealth, &LibraryHealth::compared, this, &ZPFileManager::showCompared);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
 
     mRename_Window = new QDialog(this);
@@ -113,6 +121,7 @@ void ZPFileManager::showWindow()
 {
     keepFolderStore(libraryFolder());
     reload();
+    if (isVisible()) examine();
     bringToFront(this);
     mTableView->setFocus();
 }
@@ -120,24 +129,32 @@ void ZPFileManager::showWindow()
 void ZPFileManager::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
+    examine();
     selectionChanged(); // the preview knows its size from here on
+}
+
+void ZPFileManager::hideEvent(QHideEvent* event)
+{
+    mHealth->stop();
+    QWidget::hideEvent(event);
 }
 
 void ZPFileManager::reload()
 {
     const int row = selectedRow();
     const std::string name = row >= 0 ? mModel->names()[std::size_t(row)] : std::string();
-    mModel->reload();
+    const bool changed = mModel->reload();
     if (!name.empty()) selectName(name);
-    mUi->mCountLabel->setText(
-        QString::fromStdString(translated("ZPFileManager", "%n image(s)", nullptr, mModel->rowCount())));
+    if (changed && isVisible()) examine();
+    showCount();
     selectionChanged();
 }
 
 QStringList ZPFileManager::columns() const
 {
     QStringList identifiers;
-    for (const char* column : kLibraryColumns) identifiers << QString::fromLatin1(column);
+    for (int i = 0; i < mModel->columnCount(); ++i)
+        identifiers << mModel->headerData(i, Qt::Horizontal, Qt::UserRole).toString();
     return identifiers;
 }
 
@@ -194,12 +211,15 @@ void ZPFileManager::selectionChanged()
     mUi->mOpenButton->setEnabled(row >= 0);
     mUi->mDeleteButton->setEnabled(row >= 0);
     if (!isVisible()) return;
+    showFound();
     if (row < 0) return mUi->mPreview->showText(mModel->rowCount() ? tr("No image selected") : tr("Drop images here"));
     const LibraryItem item = mModel->item(row);
     if (item.broken)
         mUi->mPreview->showText(tr("The file that this link leads to is gone."));
     else
         mUi->mPreview->showFile(item.file());
+    if (!item.broken && mRemembered != item.file()) mHealth->remember(mModel->names()[std::size_t(row)]);
+    mRemembered = item.file();
 }
 
 void ZPFileManager::add()
@@ -279,6 +299,13 @@ void ZPFileManager::rename_ok()
 }
 
 void ZPFileManager::rename_cancel() { mRename_Window->reject(); }
+
+bool ZPFileManager::event(QEvent* event)
+{
+    // Back from the file manager, maybe, where something was moved.
+    if (event->type() == QEvent::WindowActivate && isVisible()) mHealth->findMoved(mModel->listing());
+    return QWidget::event(event);
+}
 
 bool ZPFileManager::eventFilter(QObject* watched, QEvent* event)
 {

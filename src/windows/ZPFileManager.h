@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The image library's window: a table over a folder of links to favourite pictures.
 #pragma once
+#include "library/LibraryExamination.h"
 #include <QStringList>
 #include <QWidget>
 #include <memory>
 #include <string>
 #include <vector>
 
+class LibraryHealth;
 class LibraryModel;
 class QDialog;
 class QLineEdit;
@@ -35,6 +37,8 @@ public:
     QStringList columns() const;
     /// All rows as they are now, a text for each column.
     QList<QStringList> rows();
+    /// Whether broken links' pictures or duplicates are being looked for.
+    bool isBusy() const;
     /// -1 when none is selected.
     int selectedRow() const;
     /// A number that is no row clears the selection.
@@ -47,10 +51,18 @@ public slots:
     void open();
     void deleteSelected();
     void renameSelected();
+    /// The list is all entries, or, where @p on, only those that are there more than once.
+    void showDuplicates(bool on);
+    /// Lets the selected link lead to the picture that was found for it.
+    void relinkSelected();
+    /// All of those found by content, after a question.
+    void relinkAll();
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     ZPFileManager();
@@ -63,6 +75,14 @@ private:
     void selectName(const std::string& name);
     void selectionChanged();
     bool handleDrag(QEvent* event);
+    /// Whatever is to be known about the entries, afresh.
+    void examine();
+    void showFound();
+    void showCompared();
+    void arrange(std::optional<zp::DuplicateGroups> groups);
+    void relinkEntries(const std::vector<std::string>& names);
+    void showCount();
+    std::vector<std::string> relinkable() const;
 
     std::unique_ptr<Ui::FileManager> mUi;
     std::unique_ptr<Ui::Rename> mRenameUi;
@@ -70,6 +90,8 @@ private:
     QDialog* mRename_Window = nullptr;
     QLineEdit* mRename_Name_Field = nullptr;
     LibraryModel* mModel = nullptr;
-    std::string mRenamed; ///< the entry that the rename window is about
-    QString mProposed;    ///< what its field held at first
+    LibraryHealth* mHealth = nullptr;
+    std::string mRenamed;    ///< the entry that the rename window is about
+    QString mProposed;       ///< what its field held at first
+    std::string mRemembered; ///< the file that was last asked to be remembered
 };

@@ -321,6 +321,210 @@ TEST_F(FileManager, PreviewsTheSelectedPicture)
     EXPECT_TRUE(preview->picture().isNull());
 }
 
+namespace
+{
+
+class FileManagerHealing : public FileManager
+{
+protected:
+    void SetUp() override
+    {
+        removeItem(homeFolder() + "/photos");
+        FileManager::SetUp();
+    }
+    static std::string tinted(const std::string& name, int size, unsigned seed)
+    {
+        const std::string path = homeFolder() + "/photos/" + name;
+        QImage image(size, size, QImage::Format_RGB32);
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x) {
+                const unsigned cell =
+                    (unsigned(x * 6 / size) * 7 + unsigned(y * 6 / size) * 13 + 1) * (seed * 2654435761u);
+                image.setPixelColor(x, y, QColor::fromHsv(int(cell % 360), 120, int((cell >> 9) % 256)));
+            }
+        createFolder(folderOfPath(path));
+        EXPECT_TRUE(image.save(QString::fromStdString(path)));
+        return path;
+    }
+    bool settles()
+    {
+        return QTest::qWaitFor([this] { return !mWindow->isBusy(); }, 20000);
+    }
+    template <class Widget>
+    Widget* part(const char* name) const
+    {
+        return mWindow->findChild<Widget*>(name);
+    }
+    QString offer() const
+    {
+        return part<QWidget>("mHealBar")->isVisible() ? part<QLabel>("mHealLabel")->text() : QString();
+    }
+    static void move(const std::string& from, const std::string& to)
+    {
+        createFolder(folderOfPath(homeFolder() + "/photos/" + to));
+        ASSERT_TRUE(moveItem(homeFolder() + "/photos/" + from, homeFolder() + "/photos/" + to));
+    }
+    static std::string target(const char* name) { return resolveAlias(libraryFolder() + "/" + name).value_or(""); }
+};
+
+} // namespace
+
+TEST_F(FileManagerHealing, DuplicatesAreShownInGroupsWhileTheSwitchIsOn)
+{
+    const std::string a = tinted("a.jpg", 200, 1);
+    ASSERT_TRUE(copyItem(a, homeFolder() + "/photos/c.jpg"));
+    mWindow->dropFiles({a, tinted("b.jpg", 150, 2), homeFolder() + "/photos/c.jpg", tinted("d.jpg", 90, 1), a});
+    fs::create_symlink("/nowhere/x.jpg", libraryFolder() + "/x.jpg");
+    const QStringList all = names();
+    ASSERT_EQ(all.size(), 6);
+    auto* button = part<QPushButton>("mDuplicatesButton");
+    mWindow->selectRow(1);
+    const auto widths = [this] {
+        std::vector<int> each;
+        for (int column = 0; column < 6; ++column) each.push_back(table()->columnWidth(column));
+        return each;
+    };
+    const std::vector<int> widthsBefore = widths();
+    EXPECT_FALSE(button->isChecked());
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Space);
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(mWindow->columns().last(), "LIKENESS");
+    const QList<QStringList> rows = mWindow->rows();
+    ASSERT_EQ(rows.size(), 4);
+    const QStringList wanted[] = {{"a 2.jpg •", "1 · same file"},
+                                  {"a.jpg •", "1 · same file"},
+                                  {"c.jpg •", "1 · same content"},
+                                  {"d.jpg •", "1 · looks the same"}};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(rows[i].first(), wanted[i].first());
+        EXPECT_EQ(rows[i].last(), wanted[i].last());
+    }
+    EXPECT_EQ(part<QLabel>("mCountLabel")->text(), "1 image more than once");
+    // Rows are entries: what is deleted is the one that is seen.
+    mWindow->selectRow(2);
+    whenModal([](QWidget*) { answerAlert("Delete"); });
+    mWindow->deleteSelected();
+    ASSERT_TRUE(settles());
+    EXPECT_FALSE(fileAttributes(libraryFolder() + "/c.jpg"));
+    EXPECT_TRUE(fileExists(homeFolder() + "/photos/c.jpg"));
+    EXPECT_EQ(names(), (QStringList{"a 2.jpg •", "a.jpg •", "d.jpg •"}));
+    mWindow->selectRow(2);
+    button->click();
+    EXPECT_EQ(widths(), widthsBefore) << "columns are as they were";
+    EXPECT_EQ(mWindow->columns().size(), 6);
+    EXPECT_EQ(names().size(), 5);
+    EXPECT_EQ(names().at(mWindow->selectedRow()), "d.jpg •") << "the selection stays with its entry";
+}
+
+TEST_F(FileManagerHealing, ALibraryWithoutDuplicatesSaysSo)
+{
+    mWindow->dropFiles({tinted("a.jpg", 100, 1), tinted("b.jpg", 100, 2)});
+    mWindow->showDuplicates(true);
+    ASSERT_TRUE(settles());
+    EXPECT_TRUE(mWindow->rows().isEmpty());
+    EXPECT_EQ(part<QLabel>("mCountLabel")->text(), "No duplicates");
+    // What comes while the switch is on is compared too.
+    mWindow->dropFiles({homeFolder() + "/photos/a.jpg"});
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(mWindow->rows().size(), 2);
+    mWindow->close();
+    mWindow->showWindow();
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(mWindow->rows().size(), 2) << "closing ended nothing for good";
+    mWindow->showDuplicates(false);
+}
+
+TEST_F(FileManagerHealing, AMovedPictureIsOfferedAndRelinkedWhenToldTo)
+{
+    mWindow->dropFiles({tinted("trip/a.jpg", 100, 1), tinted("trip/b.jpg", 100, 2)});
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(offer(), "");
+    move("trip/a.jpg", "2025/old.jpg");
+    mWindow->showWindow();
+    mWindow->selectRow(0);
+    ASSERT_TRUE(settles());
+    const QString folder = QString::fromStdString(homeFolder() + "/photos/2025");
+    EXPECT_EQ(offer(), "Found again: “old.jpg” in " + folder);
+    EXPECT_TRUE(part<QPushButton>("mRelinkButton")->isVisible());
+    EXPECT_FALSE(part<QPushButton>("mRelinkAllButton")->isVisible());
+    EXPECT_EQ(target("a.jpg"), "") << "nothing changes by itself";
+    mWindow->selectRow(1);
+    EXPECT_EQ(offer(), "Found again: the images of 1 broken link.");
+    mWindow->selectRow(0);
+    part<QPushButton>("mRelinkButton")->setFocus();
+    QTest::keyClick(part<QPushButton>("mRelinkButton"), Qt::Key_Space);
+    EXPECT_EQ(target("a.jpg"), homeFolder() + "/photos/2025/old.jpg");
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(offer(), "");
+    EXPECT_EQ(names(), (QStringList{"a.jpg •", "b.jpg •"}));
+    EXPECT_EQ(mWindow->selectedRow(), 0);
+}
+
+TEST_F(FileManagerHealing, AllAreRelinkedAfterAQuestion)
+{
+    mWindow->dropFiles({tinted("trip/a.jpg", 100, 1), tinted("trip/b.jpg", 100, 2), tinted("trip/c.jpg", 100, 3)});
+    ASSERT_TRUE(settles());
+    fs::rename(homeFolder() + "/photos/trip", homeFolder() + "/photos/journey");
+    removeItem(homeFolder() + "/photos/journey/c.jpg");
+    mWindow->showWindow();
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(offer(), "Found again: the images of 2 broken links.");
+    auto* all = part<QPushButton>("mRelinkAllButton");
+    whenModal([](QWidget*) {
+        EXPECT_EQ(currentAlert()->title, "Do you wish to relink 2 images?");
+        EXPECT_EQ(currentAlert()->buttons, (QStringList{"Relink", "Cancel"}));
+        answerAlert("Cancel");
+    });
+    all->click();
+    EXPECT_EQ(target("a.jpg"), "");
+    whenModal([](QWidget*) { answerAlert("Relink"); });
+    all->click();
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(target("a.jpg"), homeFolder() + "/photos/journey/a.jpg");
+    EXPECT_EQ(target("b.jpg"), homeFolder() + "/photos/journey/b.jpg");
+    EXPECT_EQ(offer(), "");
+    mWindow->selectRow(2);
+    EXPECT_EQ(offer(), "Not found again in its old folder, below it or beside it.");
+    EXPECT_FALSE(part<QPushButton>("mRelinkButton")->isVisible());
+}
+
+TEST_F(FileManagerHealing, APictureThatWasNeverSeenIsOfferedByItsNameAlone)
+{
+    const std::string there = tinted("found/x.jpg", 100, 1);
+    createFolder(homeFolder() + "/photos/gone");
+    fs::create_symlink(homeFolder() + "/photos/gone/x.jpg", libraryFolder() + "/x.jpg");
+    mWindow->showWindow();
+    mWindow->selectRow(0);
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(offer(), QString::fromStdString("An image of the same name, maybe another one: “x.jpg” in " +
+                                              folderOfPath(there)));
+    mWindow->relinkAll(); // never without a look at it
+    EXPECT_EQ(takeSounds(), std::vector<std::string>{"beep"});
+    mWindow->relinkSelected();
+    EXPECT_EQ(target("x.jpg"), there);
+}
+
+TEST_F(FileManagerHealing, ALinkThatBreaksUnderTheEyesIsLookedForToo)
+{
+    mWindow->dropFiles({tinted("trip/a.jpg", 100, 1)});
+    ASSERT_TRUE(settles());
+    move("trip/a.jpg", "trip/b.jpg");
+    mWindow->selectRow(0);
+    ASSERT_TRUE(settles());
+    EXPECT_TRUE(offer().startsWith("Found again")) << offer().toStdString();
+    // It went on while the offer stood: said, and looked for again.
+    move("trip/b.jpg", "trip/c.jpg");
+    whenModal([](QWidget*) {
+        EXPECT_EQ(currentAlert()->title, "A link could not be changed.");
+        answerAlert("OK");
+    });
+    mWindow->relinkSelected();
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(offer(), QString::fromStdString("Found again: “c.jpg” in " + homeFolder() + "/photos/trip"));
+    EXPECT_EQ(target("a.jpg"), "");
+}
+
 TEST_F(FileManager, FiveThousandEntriesAreShownAtOnce)
 {
     const std::string file = photo("many.jpg");
