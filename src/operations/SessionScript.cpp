@@ -22,8 +22,9 @@ namespace
 /// An hour of fast drawing is about 60 MB. Beyond it the script ends with a line that says so.
 constexpr std::size_t kMostBytes = 256u << 20;
 
-/// Settings of a slider: each replaces the one before it.
-constexpr std::string_view kSliders[] = {"send adjust_set: ", "send transform_set: "};
+/// Settings of sliders, each of which replaces the one before it: colours are made from the pixels that were lifted.
+/// Scale and turn are not among them, for each goes on from the outline that the one before it left.
+constexpr std::string_view kSlider = "send adjust_set: ";
 
 /// The words with blanks between them.
 std::string lineOf(std::initializer_list<std::string_view> words)
@@ -256,6 +257,7 @@ void SessionScript::begin(const Command& command, const Arguments* arguments)
 void SessionScript::performed(const Command& command, const Arguments* arguments)
 {
     if (command.begins) return begin(command, arguments);
+    keepTurn(false); // it has ended the gesture
     const std::string_view action = command.action;
     if (action == "placeText") {
         // The press opened the editor; a script needs neither it nor its font.
@@ -280,10 +282,15 @@ void SessionScript::performed(const Command& command, const Arguments* arguments
     }
     // Shift keeps what was anchored selected.
     hold(action.starts_with("anchorSelection") ? currentKeyModifiers() & kShiftKey : 0);
-    const bool again = !mLines.empty() && std::ranges::any_of(kSliders, [&](std::string_view slider) {
-        return line.starts_with(slider) && mLines.back().starts_with(slider);
-    });
+    const bool again = line.starts_with(kSlider) && !mLines.empty() && mLines.back().starts_with(kSlider);
     again ? replaceLast(line) : add(line);
+}
+
+void SessionScript::keepTurn(bool another)
+{
+    const _ZPTransform& record = mDocument.selection().record();
+    if (mTurned) add(lineOf({"send transform_set:", scriptNumber(record.scale), scriptNumber(record.rotate)}));
+    mTurned = another;
 }
 
 void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions)
@@ -306,14 +313,14 @@ void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions
         mGesture = mLines.size();
         mDragging = true;
         mGripped = actions == &floatHandleActions();
-        return add(pointLine("press", point));
+        mTurned = false;
+        return mGripped ? void() : add(pointLine("press", point));
     case Hand::Drag:
     case Hand::Move:
         if (!mDragging && what == Hand::Drag) return;
+        if (mGripped) return keepTurn(true);
         // Drags of the wand that move nothing: what tolerance came of them is written down at the end.
-        if (what == Hand::Drag && mDocument.gesture().tool() == Tool::Wand && !mGripped &&
-            !mDocument.gesture().isMoving())
-            return;
+        if (what == Hand::Drag && mDocument.gesture().tool() == Tool::Wand && !mDocument.gesture().isMoving()) return;
         settlePressure();
         hold(currentKeyModifiers());
         return add(pointLine(what == Hand::Drag ? "drag" : "move", point));
@@ -332,12 +339,7 @@ void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions
             mKnown.tolerance = press->setting;
             pressWithTolerance(press->setting);
         }
-        if (mGripped) {
-            const _ZPTransform record = mDocument.selection().record();
-            forgetGesture();
-            return add(lineOf({"send transform_set:", scriptNumber(record.scale), scriptNumber(record.rotate)}));
-        }
-        return add(pointLine("release", point));
+        return mGripped ? keepTurn(false) : add(pointLine("release", point));
     case Hand::TakenBack: // and what it was to be done with
         return forgetPress();
     }

@@ -121,15 +121,16 @@ protected:
     void check(const Look& before, bool leavesSteps)
     {
         const Look now = look();
+        const int fills = std::exchange(runFills, 0);
         checkColour(now.picture);
         checkMask(now);
         EXPECT_TRUE(!now.state["floating"].toBool() || now.state["selection"].toBool()) << where().toStdString();
         EXPECT_TRUE(!now.state["pasteInto"].toBool() || now.state["floating"].toBool()) << where().toStdString();
         EXPECT_LE(now.position, now.newest) << where().toStdString();
         if (!leavesSteps) return;
-        EXPECT_LE(now.position, before.position + 1) << where().toStdString();
+        EXPECT_LE(now.position, before.position + 1 + fills) << where().toStdString();
         if (now.picture == before.picture) return;
-        EXPECT_EQ(now.position, before.position + 1) << "a change is one step" << where().toStdString();
+        EXPECT_GT(now.position, before.position) << "a change is one step" << where().toStdString();
     }
 
     QString someMenuCommand()
@@ -239,7 +240,7 @@ protected:
             }
             if (name == "SmartFill") {
                 maskIsItsOwn = true;
-                if (upTo(2)) say("click run:");
+                if (upTo(2) && say("click run:")["ok"].toBool()) ++runFills;
                 if (upTo(3) == 0) say("click cancel:");
                 say("click closeMe:");
             }
@@ -286,6 +287,7 @@ protected:
     QStringList said;
     int x = 30, y = 30;
     bool maskIsItsOwn = false;
+    int runFills = 0; ///< by smart fill's own window since the last check, a step each
 };
 
 int fromEnvironment(const char* name, int otherwise)

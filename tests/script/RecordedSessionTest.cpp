@@ -116,6 +116,11 @@ const Deed kDeeds[] = {
      {"press 50 50", "drag 200 150", "release 200 150", "key Return", "press 100 100", "drag 130 90", "release 130 90",
       "send transform_set: 0.8 25", "send transform_set: 0.75 30.5", "key Up", "key Left", "key Return"},
      {}},
+    {"APieceTurnedStepByStep",
+     {"press 50 50", "drag 200 150", "release 200 150", "key Return", "send transform_set: 1.25 33",
+      "send transform_set: 0.9 16", "send transform_set: 0.75 85", "menu rotateCCW:", "key Return",
+      "send transform_set: 1.5 300", "send transform_set: 1.25 33", "key Return"},
+     {}},
     {"ASliderIsWhatItEndedWith",
      {"menu selectAll:", "menu adjust:", "set mAdjust_HueField 30", "set mAdjust_HueField 60",
       "set mAdjust_SharpnessField 40", "click mAdjust_ApplyButton", "key Return"},
@@ -263,7 +268,10 @@ TEST(RecordedSession, AScriptIsPlayedOnThePictureThatIsOpen)
 /// Hands at work for as long as wanted: everything that leaves the picture its own.
 TEST(RecordedSession, AnHourReplaysToTheSameBytes)
 {
-    const int events = std::getenv("ZP_LONG") ? 4000 : 150;
+    const char* const wanted = std::getenv("ZELPANE_RECORDED_EVENTS");
+    const int events = wanted ? std::atoi(wanted) : std::getenv("ZP_LONG") ? 4000 : 150;
+    constexpr int kBrush = 3;
+    int tool = 0;
     std::mt19937 random(20'261'122);
     const auto upTo = [&random](int n) { return int(random() % unsigned(n)); };
     const auto at = [&] { return QString(" %1 %2").arg(upTo(1400) / 4.0 - 20).arg(upTo(1100) / 4.0 - 20); };
@@ -278,7 +286,8 @@ TEST(RecordedSession, AnHourReplaysToTheSameBytes)
             session.must(QString("set mColorWell #%1").arg(random() | 0xC0u, 8, 16, QChar('0')));
             break;
         case 1:
-            session.must(QString("set mToolPopUp #%1").arg(upTo(8) == 7 ? 9 : upTo(8)));
+            tool = upTo(8) == 7 ? 9 : upTo(8);
+            session.must(QString("set mToolPopUp #%1").arg(tool));
             session.must(QString("set mSizeField %1").arg(1 + upTo(30)));
             break;
         case 2:
@@ -292,7 +301,10 @@ TEST(RecordedSession, AnHourReplaysToTheSameBytes)
             session.must(QString("send transform_set: %1 %2").arg(0.5 + upTo(10) / 8.0).arg(upTo(90)));
             break;
         default: {
-            session.must(QString("modifiers") + (QStringList{"", "", " shift", " option", " control"})[upTo(5)]);
+            // With Control held the brush leaves a trace of what was refreshed, for as long as it is held while it
+            // paints.
+            const int keys = upTo(tool == kBrush ? 4 : 5);
+            session.must(QString("modifiers") + (QStringList{"", "", " shift", " option", " control"})[keys]);
             session.must("press" + at());
             for (int n = upTo(4); n > 0; --n) session.must("drag" + at());
             session.must("release" + at());
