@@ -143,11 +143,10 @@ public:
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins(20, 20, 20, 16);
         column->setSpacing(10);
-        mView = new TwinView(this);
+        mView = new TwinView(mPicture, this);
         mView->setObjectName("mSize_View");
         mView->setAccessibleName(Texts::tr("The image before and after"));
         mView->setToolTip(Texts::tr("Drag to see another place; the wheel zooms"));
-        mView->setPictures(mPicture, nullptr);
         column->addWidget(mView, 1);
         auto* captions = new QHBoxLayout;
         captions->setSpacing(8);
@@ -306,24 +305,13 @@ private:
     Seeker mSeeker;                  // last: its news need the rest
 };
 
-/// Apart from the document's own, which a worker may still be about to write.
-std::shared_ptr<const BitmapRep> copyOfPicture(const Document& document)
-{
-    const std::shared_ptr<const BitmapRep> shown = pictureAsShown(document);
-    if (!shown || shown != document.picture().bitmap()) return shown;
-    auto copy = BitmapRep::createUninitialized(shown->pixelsWide(), shown->pixelsHigh());
-    if (!copy) throw std::bad_alloc();
-    copyPixels(shown->view(), copy->view());
-    copy->properties = shown->properties;
-    return copy;
-}
-
 } // namespace
 
 void runSizeSaveDialog(Document& document, QWidget* parent)
 {
     document.endGesture();
-    std::shared_ptr<const BitmapRep> picture = copyOfPicture(document);
+    // Apart from the document's own, which a worker may still be about to write.
+    std::shared_ptr<const BitmapRep> picture = copyAsShown(document);
     if (!picture) return beep();
     SizeSaveDialog dialog(document, std::move(picture), parent);
     centerWindow(&dialog, parent);

@@ -29,23 +29,15 @@ QImage screenImage(const BitmapRep& picture, const QRect& box)
 
 } // namespace
 
-TwinView::TwinView(QWidget* parent) : QWidget(parent)
+TwinView::TwinView(std::shared_ptr<const BitmapRep> left, QWidget* parent)
+    : QWidget(parent),
+      mPictures{std::move(left), nullptr},
+      mMiddle(QPointF(mPictures[0]->pixelsWide(), mPictures[0]->pixelsHigh()) / 2)
 {
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::OpenHandCursor);
     setMinimumSize(320, 160);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-}
-
-void TwinView::setPictures(std::shared_ptr<const BitmapRep> left, std::shared_ptr<const BitmapRep> right)
-{
-    const bool stays = left && mPictures[0] && left->pixelsWide() == mPictures[0]->pixelsWide() &&
-                       left->pixelsHigh() == mPictures[0]->pixelsHigh();
-    mPictures[0] = std::move(left);
-    mPictures[1] = std::move(right);
-    if (!stays && mPictures[0]) mMiddle = QPointF(mPictures[0]->pixelsWide(), mPictures[0]->pixelsHigh()) / 2;
-    keepInside();
-    update();
 }
 
 void TwinView::setRight(std::shared_ptr<const BitmapRep> right)
@@ -87,7 +79,6 @@ void TwinView::paintEvent(QPaintEvent*)
 
 void TwinView::keepInside()
 {
-    if (!mPictures[0]) return;
     mMiddle.setX(std::clamp(mMiddle.x(), 0.0, double(mPictures[0]->pixelsWide())));
     mMiddle.setY(std::clamp(mMiddle.y(), 0.0, double(mPictures[0]->pixelsHigh())));
 }

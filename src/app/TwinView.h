@@ -10,12 +10,10 @@
 class TwinView : public QWidget
 {
 public:
-    explicit TwinView(QWidget* parent = nullptr);
-    /// Either may be null: its half stays empty. The place stays when the size does.
-    void setPictures(std::shared_ptr<const zp::BitmapRep> left, std::shared_ptr<const zp::BitmapRep> right);
+    /// @param left  stays as it is
+    explicit TwinView(std::shared_ptr<const zp::BitmapRep> left, QWidget* parent = nullptr);
+    /// Of the left one's size; null: the half stays empty.
     void setRight(std::shared_ptr<const zp::BitmapRep> right);
-    /// Screen pixels a picture's pixel: 1 to 8.
-    int zoom() const { return mZoom; }
 
     QSize sizeHint() const override { return {640, 300}; }
 
@@ -34,7 +32,7 @@ private:
     void keepInside();
 
     std::shared_ptr<const zp::BitmapRep> mPictures[2];
-    int mZoom = 1;
+    int mZoom = 1;   ///< screen pixels a picture's pixel
     QPointF mMiddle; ///< of both halves, in the picture's pixels
     QPointF mHand;   ///< where the button was last
 };

@@ -52,10 +52,15 @@ std::string writeResult(const std::vector<std::uint8_t>& bytes, const std::strin
 
 } // namespace
 
-BatchPicture::BatchPicture(const BatchSettings& settings, std::string name, int preview)
-    : mSettings(settings), mName(std::move(name)), mFile(settings.source + "/" + mName), mPreviewSide(preview)
+std::string batchSource(const BatchSettings& settings, const std::string& name)
 {
-    if (auto target = resolveAlias(mFile)) mFile = std::move(*target);
+    const std::string path = settings.source + "/" + name;
+    return resolveAlias(path).value_or(path);
+}
+
+BatchPicture::BatchPicture(const BatchSettings& settings, std::string name, int preview)
+    : mSettings(settings), mName(std::move(name)), mFile(batchSource(settings, mName)), mPreviewSide(preview)
+{
 }
 
 std::string BatchPicture::tiffPath() const { return batchOutput(mSettings.destination, mName, "tiff"); }

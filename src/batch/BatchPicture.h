@@ -10,6 +10,9 @@
 namespace zp
 {
 
+/// The file of an entry of the source folder, through a link.
+std::string batchSource(const BatchSettings& settings, const std::string& name);
+
 /// Each step: any thread. Sentences are for people; an empty one means that the step was done.
 class BatchPicture
 {

@@ -19,12 +19,6 @@ constexpr double kSameShape = 0.01;
 double flatness(const PixelDimensions& size) { return std::log(double(size.width) / size.height); }
 std::int64_t area(const PixelDimensions& size) { return std::int64_t{size.width} * size.height; }
 
-std::string fileOf(const BatchSettings& settings, const std::string& name)
-{
-    const std::string path = settings.source + "/" + name;
-    return resolveAlias(path).value_or(path);
-}
-
 std::shared_ptr<BitmapRep> copyOf(const BitmapRep& picture)
 {
     auto copy = BitmapRep::createUninitialized(picture.pixelsWide(), picture.pixelsHigh());
@@ -91,7 +85,7 @@ const PreviewChoice& BatchPreview::choose(const BatchSettings& settings, const C
     };
     for (std::size_t i = 0; i < count; ++i) {
         if (cancelled()) return mChoice;
-        sizes[i] = imageFileDimensions(fileOf(settings, nameAt(i)));
+        sizes[i] = imageFileDimensions(batchSource(settings, nameAt(i)));
     }
     mChoice.looked = count;
     for (const std::size_t i : picturesOfDifferentShape(sizes, mChoice.alike)) mChoice.names.push_back(nameAt(i));

@@ -22,7 +22,7 @@ public:
     {
         std::iota(mParent.begin(), mParent.end(), std::size_t{0});
     }
-    void join(std::size_t a, std::size_t b, Likeness why)
+    void join(std::size_t a, std::size_t b, DuplicateKind why)
     {
         for (const std::size_t each : {a, b}) mWhy[each] = std::max(mWhy[each].value_or(why), why);
         const auto [first, second] = std::minmax({root(a), root(b)});
@@ -46,7 +46,7 @@ private:
         return i;
     }
     std::vector<std::size_t> mParent; ///< towards the group's first one
-    std::vector<std::optional<Likeness>> mWhy;
+    std::vector<std::optional<DuplicateKind>> mWhy;
 };
 
 } // namespace
@@ -76,13 +76,13 @@ std::vector<std::vector<Duplicate>> duplicatesAmong(std::span<const ComparedPict
     for (std::size_t i = 0; i < pictures.size(); ++i) {
         const PictureMark& mark = pictures[i].mark;
         if (const auto [known, isNew] = files.emplace(fileOf(pictures[i]), i); !isNew) {
-            groups.join(known->second, i, Likeness::SameFile);
+            groups.join(known->second, i, DuplicateKind::SameFile);
             continue;
         }
         if (mark.whole) {
             const auto [known, isNew] = contents.emplace(std::tuple{mark.size, mark.samples, *mark.whole}, i);
             if (!isNew) {
-                groups.join(known->second, i, Likeness::SameContent);
+                groups.join(known->second, i, DuplicateKind::SameContent);
                 continue;
             }
         }
@@ -91,7 +91,7 @@ std::vector<std::vector<Duplicate>> duplicatesAmong(std::span<const ComparedPict
     for (std::size_t a = 0; a < looks.size() && !stop.stop_requested(); ++a)
         for (std::size_t b = a + 1; b < looks.size(); ++b)
             if (looksTheSame(*pictures[looks[a]].mark.look, *pictures[looks[b]].mark.look))
-                groups.join(looks[a], looks[b], Likeness::SameLook);
+                groups.join(looks[a], looks[b], DuplicateKind::SameLook);
     return groups.all();
 }
 

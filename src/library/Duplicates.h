@@ -15,11 +15,11 @@ struct ComparedPicture {
     PictureMark mark{};
 };
 
-enum class Likeness { SameLook, SameContent, SameFile }; // the stronger the later
+enum class DuplicateKind { SameLook, SameContent, SameFile }; // the stronger the later
 
 struct Duplicate {
     std::size_t index = 0; ///< in the span that was given
-    Likeness why{};        ///< the strongest that it shares with another of its group
+    DuplicateKind why{};   ///< the strongest that it shares with another of its group
     bool operator==(const Duplicate&) const = default;
 };
 

@@ -19,7 +19,7 @@ using MovedPictures = std::map<std::string, MovedPicture>;
 
 struct DuplicateEntry {
     std::string name;
-    Likeness why{};
+    DuplicateKind why{};
     bool operator==(const DuplicateEntry&) const = default;
 };
 /// Entries that are the same picture, group by group, in the table's order.

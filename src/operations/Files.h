@@ -81,6 +81,8 @@ bool tellNotSaved(Edit& edit, const std::string& path);
 /// The picture with the floating piece in its place; the picture itself when nothing floats. Null without a picture.
 /// @throws std::bad_alloc
 std::shared_ptr<const BitmapRep> pictureAsShown(const Document& document);
+/// The same in a bitmap of its own, which nobody writes any more.
+std::shared_ptr<const BitmapRep> copyAsShown(const Document& document);
 /// What Copy would hand over: the selected pixels, or the whole picture without a selection; nothing is lifted for it.
 /// Null when there is nothing.
 std::shared_ptr<const BitmapRep> selectedPicture(const Document& document);

@@ -142,21 +142,16 @@ void SessionScript::pressWithTolerance(int setting)
     }
 }
 
-void SessionScript::forgetGesture()
-{
-    if (mFull) return;
-    for (std::size_t i = mGesture; i < mLines.size(); ++i) mBytes -= mLines[i].size() + 1;
-    mLines.resize(std::min(mGesture, mLines.size()));
-    mDragging = false;
-    emit grown();
-}
-
 void SessionScript::forgetPress()
 {
     mGesture = mBefore.lines;
     mKnown = mBefore.known;
     mKeys = mBefore.keys;
-    forgetGesture();
+    if (mFull) return;
+    for (std::size_t i = mGesture; i < mLines.size(); ++i) mBytes -= mLines[i].size() + 1;
+    mLines.resize(std::min(mGesture, mLines.size()));
+    mDragging = false;
+    emit grown();
 }
 
 // ---- settings -------------------------------------------------------------------------------------------------------

@@ -72,9 +72,7 @@ private:
     void add(const std::string& line);
     void replaceLast(const std::string& line);
     void pressWithTolerance(int setting); ///< the last press was done with that one, it turned out
-    /// The gesture's lines from its press on go away, and with them what they were to do.
-    void forgetGesture();
-    /// The same, and the settings that it was done with.
+    /// The gesture's lines from its press on go away, and with them the settings that it was done with.
     void forgetPress();
 
     const Document& mDocument;

@@ -183,9 +183,13 @@ std::vector<std::string> foldersSavedTo()
 
 std::shared_ptr<const BitmapRep> pictureAsShown(const Document& document)
 {
+    return document.selection().floating() ? copyAsShown(document) : document.picture().bitmap();
+}
+
+std::shared_ptr<const BitmapRep> copyAsShown(const Document& document)
+{
     const std::shared_ptr<const BitmapRep> picture = document.picture().bitmap();
-    const Selection& selection = document.selection();
-    if (!picture || !selection.floating()) return picture;
+    if (!picture) return nullptr;
     auto shown = BitmapRep::createUninitialized(picture->pixelsWide(), picture->pixelsHigh());
     if (!shown) throw std::bad_alloc();
     copyPixels(picture->view(), shown->view());

@@ -40,7 +40,7 @@ private:
     void arrange();
     std::vector<std::string> mListing, mNames;
     std::optional<zp::DuplicateGroups> mGroups;
-    std::vector<std::pair<int, zp::Likeness>> mRowGroups; ///< of each row, while duplicates are shown
+    std::vector<std::pair<int, zp::DuplicateKind>> mRowGroups; ///< of each row, while duplicates are shown
     mutable std::unordered_map<int, zp::LibraryItem> mShown;
     mutable zp::DimensionsMemory mDimensions;
 };

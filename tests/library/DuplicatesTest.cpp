@@ -8,7 +8,7 @@ using namespace zp;
 namespace
 {
 
-constexpr auto kFile = Likeness::SameFile, kContent = Likeness::SameContent, kLook = Likeness::SameLook;
+constexpr auto kFile = DuplicateKind::SameFile, kContent = DuplicateKind::SameContent, kLook = DuplicateKind::SameLook;
 
 /// @param whole  0: not known
 ComparedPicture picture(std::uint64_t file, std::uint64_t samples, std::uint64_t whole, std::uint64_t waves)

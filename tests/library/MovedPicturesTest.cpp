@@ -215,9 +215,10 @@ TEST_F(Moved, DuplicatesOfTheLibraryAreGrouped)
     fs::create_symlink("/nowhere", mLibrary + "/f.jpg");
     fs::create_symlink("/nowhere", mLibrary + "/g.jpg");
     fs::create_directory(mLibrary + "/h");
-    const DuplicateGroups wanted{
-        {{"a.jpg", Likeness::SameContent}, {"c.jpg", Likeness::SameContent}, {"d.jpg", Likeness::SameLook}},
-        {{"b.jpg", Likeness::SameFile}, {"e.jpg", Likeness::SameFile}}};
+    const DuplicateGroups wanted{{{"a.jpg", DuplicateKind::SameContent},
+                                  {"c.jpg", DuplicateKind::SameContent},
+                                  {"d.jpg", DuplicateKind::SameLook}},
+                                 {{"b.jpg", DuplicateKind::SameFile}, {"e.jpg", DuplicateKind::SameFile}}};
     std::vector<int> progress;
     LibraryExaminer examiner(mLibrary, mIndex);
     EXPECT_EQ(examiner.findDuplicates(names(), {}, [&](int done) { progress.push_back(done); }), wanted);
