@@ -117,6 +117,7 @@ static int run(int argc, char** argv)
     if (!scripted && instance.handOver(requests)) return 0;
 
     installKeyModifierWatch();
+    for (const std::string& file : line.files) codec::readyForeignDecoder(file); // it begins while the windows are made
     ZPAppController controller;
     running = &controller;
     // The end of the desktop's session: nothing is asked, and nothing lost.

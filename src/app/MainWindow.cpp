@@ -11,6 +11,7 @@
 #include "canvas/HandlesOverlay.h"
 #include "canvas/ToolTable.h"
 #include "canvas/ZPCanvas.h"
+#include "codecs/ForeignDecoder.h"
 #include "codecs/ImageImporter.h"
 #include "desktop/ColorWell.h"
 #include "desktop/Desktop.h"
@@ -499,6 +500,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     if (!event->mimeData()->hasUrls()) return;
     event->acceptProposedAction();
+    codec::readyForeignDecoder();
     mEmpty->setHovered(true);
 }
 

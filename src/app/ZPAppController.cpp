@@ -21,6 +21,7 @@
 #include "base/Log.h"
 #include "base/NotificationCenter.h"
 #include "canvas/ZPCanvas.h"
+#include "codecs/ForeignDecoder.h"
 #include "desktop/ColorWell.h"
 #include "desktop/Desktop.h"
 #include "desktop/KeyModifiers.h"
@@ -320,6 +321,7 @@ void ZPAppController::fillRecentMenu()
 {
     QMenu* menu = mMenu->recentMenu();
     menu->clear();
+    codec::readyForeignDecoder();
     for (const std::string& path : recentFiles()) {
         // Names are shown as they are: an ampersand marks no key, and markup is text.
         QAction* item =

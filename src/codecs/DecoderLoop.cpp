@@ -2,11 +2,13 @@
 /// The decoder's side: one job after the other, until one goes wrong.
 #include "base/Translation.h"
 #include "codecs/DecoderMessage.h"
+#include "codecs/DecoderRows.h"
 #include "codecs/DecoderWalls.h"
 #include "codecs/ForeignDecoder.h"
 #include "codecs/MagickReader.h"
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <new>
 #include <poll.h>
@@ -22,12 +24,12 @@ namespace
 {
 
 constexpr int kJobs = STDIN_FILENO, kResults = STDOUT_FILENO;
-/// A program that opens one picture after the other finds the decoder still there.
-constexpr int kIdleMilliseconds = 10'000;
+/// A person who looks for a picture in a panel finds the decoder still there that was started when the panel came up.
+/// Idle, it has 2.5 MB to itself.
+constexpr int kIdleMilliseconds = 5 * 60'000;
 /// What one process reads in all: leaks of the library end with it.
 constexpr int kMostJobs = 200;
 constexpr long kMostSeconds = 30;
-constexpr std::size_t kBlockBytes = std::size_t{256} << 10;
 
 /// @return false when nobody reads any more
 bool send(const void* bytes, std::size_t count)
@@ -43,38 +45,59 @@ bool send(const void* bytes, std::size_t count)
     return true;
 }
 
-bool sendBlock(BlockKind kind, const void* bytes = nullptr, std::size_t count = 0)
+bool sendBlock(BlockKind kind, std::size_t count = 0)
 {
     const BlockHead head{kind, std::uint32_t(count)};
-    return send(&head, sizeof head) && (count == 0 || send(bytes, count));
+    return send(&head, sizeof head);
 }
 
-/// Rows leave in blocks while the next ones are made.
+bool sendBlock(BlockKind kind, const void* bytes, std::size_t count)
+{
+    return sendBlock(kind, count) && send(bytes, count);
+}
+
+/// Rows are made in the shared memory, and taken from there while the next ones are made.
 class Sending : public RowTarget
 {
 public:
+    explicit Sending(SharedRows& rows) : mRows(rows) {}
     bool begin(int width, int height) override
     {
         const std::array<std::int32_t, 2> size{width, height};
         mRowBytes = std::size_t(BitmapRep::rowBytesForWidth(width));
-        mBlock.reserve(std::max(kBlockBytes, mRowBytes));
         return sendBlock(BlockKind::Size, size.data(), sizeof size);
     }
     std::uint8_t* row(int) override
     {
-        if (mBlock.size() + mRowBytes > mBlock.capacity()) flush();
-        mBlock.resize(mBlock.size() + mRowBytes, 0);
-        return mBlock.data() + mBlock.size() - mRowBytes;
+        if (mFilled + mRowBytes > kSlotBytes) flush();
+        if (mFilled == 0)
+            while (mWaiting == kRowSlots) awaitTaken();
+        std::uint8_t* const there = mRows.slot() + mFilled;
+        std::memset(there, 0, mRowBytes);
+        mFilled += mRowBytes;
+        return there;
     }
     void flush()
     {
-        if (!mBlock.empty()) sendBlock(BlockKind::Rows, mBlock.data(), mBlock.size());
-        mBlock.clear();
+        if (mFilled == 0) return;
+        if (!sendBlock(BlockKind::Rows, mFilled)) giveUp();
+        ++mWaiting;
+        mRows.next();
+        mFilled = 0;
     }
 
 private:
-    std::size_t mRowBytes = 0;
-    std::vector<std::uint8_t> mBlock;
+    void awaitTaken()
+    {
+        char answer = 0;
+        if (::recv(kJobs, &answer, sizeof answer, 0) != 1 || answer != kSlotTaken) giveUp();
+        --mWaiting;
+    }
+    /// Nobody wants the picture any more.
+    [[noreturn]] static void giveUp() { std::_Exit(0); }
+
+    SharedRows& mRows;
+    std::size_t mRowBytes = 0, mFilled = 0, mWaiting = 0;
 };
 
 /// The bytes of a job, and the file that came with it.
@@ -105,21 +128,26 @@ private:
 /// Waits for a job. @return false when there will be none
 bool receive(DecoderJob& job, int& file)
 {
-    pollfd there{kJobs, POLLIN, 0};
-    if (poll(&there, 1, kIdleMilliseconds) <= 0) return false;
+    ssize_t got = 0;
     JobMessage message(job);
-    if (recvmsg(kJobs, &message.head, MSG_CMSG_CLOEXEC) != ssize_t(sizeof job)) return false;
+    do { // answers to the last job's rows come before the next job
+        pollfd there{kJobs, POLLIN, 0};
+        if (poll(&there, 1, kIdleMilliseconds) <= 0) return false;
+        message.head.msg_controllen = message.room.size();
+        got = recvmsg(kJobs, &message.head, MSG_CMSG_CLOEXEC);
+    } while (got == 1);
+    if (got != ssize_t(sizeof job)) return false;
     const cmsghdr* const with = CMSG_FIRSTHDR(&message.head);
     if (!with || with->cmsg_type != SCM_RIGHTS) return false;
     std::memcpy(&file, CMSG_DATA(with), sizeof file);
     return true;
 }
 
-DecodedRest decode(const DecoderJob& job, const Input& input)
+DecodedRest decode(const DecoderJob& job, const Input& input, SharedRows& rows)
 {
     try {
         if (input.isThere()) {
-            Sending target;
+            Sending target(rows);
             DecodedRest rest = readByMagick(input.bytes(), Format(job.format), job.properties != 0, target);
             target.flush();
             return rest;
@@ -141,6 +169,9 @@ bool isTired()
 
 int runDecoder()
 {
+    SharedRows rows(kRowsDescriptor, true);
+    ::close(kRowsDescriptor);
+    if (!rows.isThere()) return 1;
     buildWalls();
     prepareMagick();
     for (int jobs = 0; jobs < kMostJobs && !isTired(); ++jobs) {
@@ -149,7 +180,7 @@ int runDecoder()
         if (!receive(job, file)) break;
         const Input input(file, job.bytes);
         if (!sendBlock(BlockKind::Accepted)) break;
-        const DecodedRest rest = decode(job, input);
+        const DecodedRest rest = decode(job, input, rows);
         const std::vector<std::uint8_t> bytes = packed(rest);
         if (!sendBlock(BlockKind::End, bytes.data(), bytes.size())) break;
         if (!rest.error.empty()) break; // nobody knows what is left behind in the library

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// What the program and its decoder say to each other: jobs one way, blocks with a picture's rows and the rest the
-/// other.
+/// What the program and its decoder say to each other: jobs one way, what becomes of them the other.
 #pragma once
 #include "codecs/Codec.h"
 #include <array>
@@ -41,13 +40,13 @@ struct JobMessage {
 enum class BlockKind : std::uint32_t {
     Accepted = 1, ///< the job has arrived; no content
     Size,         ///< two numbers, width and height; once, before the rows
-    Rows,         ///< as many bytes as follow, in the order of the bitmap's memory
+    Rows,         ///< so many bytes lie in the next slot (DecoderRows.h), in the order of the bitmap's memory
     End,          ///< packed(): the job is done
 };
 
 struct BlockHead {
     BlockKind kind = BlockKind::End;
-    std::uint32_t bytes = 0; ///< that follow
+    std::uint32_t bytes = 0; ///< that follow, but for rows
 };
 
 /// Everything of a result but its pixels.

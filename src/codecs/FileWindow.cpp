@@ -5,9 +5,12 @@
 #include "codecs/TIFFTags.h"
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
+#include <fcntl.h>
 #include <set>
 #include <sys/mman.h>
 #include <unistd.h>
+#include <vector>
 
 namespace zp::codec
 {
@@ -17,6 +20,8 @@ namespace
 
 /// A tag's values, a profile, a packet beyond this is not looked at.
 constexpr std::uint64_t kMostOfOneEntry = 64u << 20;
+/// What is copied at a time stays in the processor's cache.
+constexpr std::size_t kPartBytes = std::size_t{128} << 10;
 constexpr int kMostPages = 100'000, kDeepest = 3;
 
 void takePNG(FileWindow& window)
@@ -108,17 +113,29 @@ void takePSD(FileWindow& window)
 
 } // namespace
 
-FileWindow::FileWindow(int fd, std::uint64_t size, std::uint64_t budget)
+FileWindow::FileWindow(int fd, std::uint64_t size, std::uint64_t budget, bool forOthers)
     : mFd(fd), mSize(std::size_t(size)), mBudget(budget)
 {
-    void* const place =
-        ::mmap(nullptr, mSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    int kind = MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, rights = PROT_READ | PROT_WRITE;
+    if (forOthers) {
+        mMemory = ::memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING);
+        if (mMemory < 0 || ::ftruncate(mMemory, off_t(mSize)) != 0) return;
+        kind = MAP_PRIVATE, rights = PROT_READ; // one that could write would stand in the way of the seals
+    }
+    void* const place = ::mmap(nullptr, mSize, rights, kind, mMemory, 0);
     if (place != MAP_FAILED) mBytes = static_cast<std::uint8_t*>(place);
 }
 
 FileWindow::~FileWindow()
 {
     if (mBytes) ::munmap(mBytes, mSize);
+    if (mMemory >= 0) ::close(mMemory);
+}
+
+int FileWindow::sealed()
+{
+    constexpr int kSeals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL;
+    return mMemory >= 0 && ::fcntl(mMemory, F_ADD_SEALS, kSeals) == 0 ? mMemory : -1;
 }
 
 void FileWindow::take(std::uint64_t offset, std::uint64_t count)
@@ -131,13 +148,31 @@ void FileWindow::take(std::uint64_t offset, std::uint64_t count)
     }
     mTaken += count;
     mEnd = std::max(mEnd, offset + count);
+    std::vector<std::uint8_t> part(mMemory >= 0 ? std::min<std::uint64_t>(count, kPartBytes) : 0);
     while (count > 0) {
-        const ssize_t got = ::pread(mFd, mBytes + offset, count, off_t(offset));
+        const std::size_t most = part.empty() ? count : std::min<std::uint64_t>(count, part.size());
+        const ssize_t got = ::pread(mFd, part.empty() ? mBytes + offset : part.data(), most, off_t(offset));
         if (got < 0 && errno == EINTR) continue;
         if (got <= 0) return; // it shrank: what is there may still be a picture
+        if (!part.empty() && !put(offset, part.data(), std::size_t(got))) return;
         offset += std::uint64_t(got);
         count -= std::uint64_t(got);
     }
+}
+
+/// Zeros are there already, and cost nothing.
+bool FileWindow::put(std::uint64_t offset, const std::uint8_t* bytes, std::size_t count)
+{
+    if (bytes[0] == 0 && std::memcmp(bytes, bytes + 1, count - 1) == 0) return true;
+    while (count > 0) {
+        const ssize_t n = ::pwrite(mMemory, bytes, count, off_t(offset));
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+        offset += std::uint64_t(n);
+        bytes += n;
+        count -= std::size_t(n);
+    }
+    return true;
 }
 
 void takeNeededParts(FileWindow& window, Format format, std::size_t start)

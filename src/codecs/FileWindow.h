@@ -12,7 +12,8 @@ class FileWindow
 {
 public:
     /// @param budget  how many bytes may be taken in all
-    FileWindow(int fd, std::uint64_t size, std::uint64_t budget);
+    /// @param forOthers  sealed() will be asked for
+    FileWindow(int fd, std::uint64_t size, std::uint64_t budget, bool forOthers = false);
     ~FileWindow();
     FileWindow(const FileWindow&) = delete;
     FileWindow& operator=(const FileWindow&) = delete;
@@ -26,9 +27,14 @@ public:
     /// Something that was asked for was beyond the budget.
     bool ranOut() const { return mRanOut; }
     std::uint64_t taken() const { return mTaken; }
+    /// A descriptor of what was taken, for another process, which cannot change it; valid as long as this window, which
+    /// takes no more from now on. -1 for a window that is not for others, or when the system refuses.
+    int sealed();
 
 private:
-    int mFd;
+    bool put(std::uint64_t offset, const std::uint8_t* bytes, std::size_t count);
+
+    int mFd, mMemory = -1; ///< mMemory: a file without a name, of a window for others
     std::size_t mSize;
     std::uint64_t mBudget, mTaken = 0, mEnd = 0;
     std::uint8_t* mBytes = nullptr;

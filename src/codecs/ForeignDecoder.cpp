@@ -4,6 +4,7 @@
 #include "codecs/ForeignDecoder.h"
 #include "base/Translation.h"
 #include "codecs/DecoderMessage.h"
+#include "codecs/DecoderRows.h"
 #include "codecs/MagickReader.h"
 #include <algorithm>
 #include <array>
@@ -16,6 +17,7 @@
 #include <spawn.h>
 #include <sys/mman.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
@@ -34,8 +36,6 @@ using Clock = std::chrono::steady_clock;
 constexpr int kSliceMilliseconds = 50;
 /// Pictures of a folder are read several at a time.
 constexpr std::size_t kMostIdle = 8;
-/// Rows come while the next are made; the system's own measure makes both sides wait for each other.
-constexpr int kPipeBytes = 1 << 20;
 /// Of a file of which only parts were taken, what was not is left out.
 constexpr std::size_t kHoleBytes = std::size_t{64} << 10;
 
@@ -62,6 +62,7 @@ private:
 /// A running decoder. Going away ends it.
 struct Decoder {
     Descriptor jobs, results;
+    SharedRows rows;
     pid_t process = 0;
     bool isUsed = false;
 
@@ -69,6 +70,7 @@ struct Decoder {
     Decoder(Decoder&& other) noexcept
         : jobs(std::move(other.jobs)),
           results(std::move(other.results)),
+          rows(std::move(other.rows)),
           process(std::exchange(other.process, 0)),
           isUsed(other.isUsed)
     {
@@ -102,12 +104,14 @@ Decoder start(const ForeignDecoding& how)
     int socket[2], pipe[2];
     if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, socket) != 0) return decoder;
     decoder.jobs = Descriptor(socket[0]);
-    const Descriptor jobs(socket[1]);
+    const Descriptor jobs(socket[1]), rows(makeSharedRows());
+    if (rows < 0) return decoder;
+    decoder.rows = SharedRows(rows, false);
+    if (!decoder.rows.isThere()) return decoder;
     if (::pipe2(pipe, O_CLOEXEC) != 0) return decoder;
     decoder.results = Descriptor(pipe[0]);
     const Descriptor results(pipe[1]);
     ::fcntl(decoder.results, F_SETFL, O_NONBLOCK);
-    ::fcntl(decoder.results, F_SETPIPE_SZ, kPipeBytes);
 
     std::vector<char*> words{const_cast<char*>("zelpane")};
     for (const std::string& argument : how.arguments) words.push_back(const_cast<char*>(argument.c_str()));
@@ -118,6 +122,7 @@ Decoder start(const ForeignDecoding& how)
     posix_spawnattr_init(&attributes);
     posix_spawn_file_actions_adddup2(&files, jobs, STDIN_FILENO);
     posix_spawn_file_actions_adddup2(&files, results, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&files, rows, kRowsDescriptor);
     posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0); // the library's chatter
     // The decoder dies of what the program survives, and a terminal's keys are not meant for it.
     sigset_t usual, none;
@@ -193,9 +198,9 @@ class Answer
 public:
     enum class End { Whole, Died, Hung, GivenUp, NoMemory };
 
-    End take(const Decoder& decoder, const ForeignDecoding& how, std::uint64_t fileBytes)
+    End take(Decoder& decoder, const ForeignDecoding& how, std::uint64_t fileBytes)
     {
-        mResults = decoder.results;
+        mDecoder = &decoder;
         mPatience = how.patience;
         mFileBytes = fileBytes;
         const auto wait = how.wait ? how.wait() : nullptr;
@@ -223,10 +228,13 @@ private:
         case BlockKind::Size:
             return takeSize(head.bytes);
         case BlockKind::Rows: {
-            if (!bitmap || head.bytes > mMissing) return false;
+            if (!bitmap || head.bytes > mMissing || head.bytes > kSlotBytes) return false;
             std::uint8_t* const end = bitmap->bitmapData() + bitmap->bytesPerRow() * bitmap->pixelsHigh();
-            if (!read(end - mMissing, head.bytes)) return false;
+            std::memcpy(end - mMissing, mDecoder->rows.slot(), head.bytes);
+            mDecoder->rows.next();
             mMissing -= head.bytes;
+            // Nobody hears it when these were the last rows of the decoder's last job; its end shows elsewhere.
+            (void)!::send(mDecoder->jobs, &kSlotTaken, sizeof kSlotTaken, MSG_NOSIGNAL | MSG_DONTWAIT);
             return true;
         }
         case BlockKind::End: {
@@ -259,7 +267,7 @@ private:
         auto* at = static_cast<std::uint8_t*>(to);
         auto lastSign = Clock::now();
         while (count > 0) {
-            const ssize_t n = ::read(mResults, at, count);
+            const ssize_t n = ::read(mDecoder->results, at, count);
             if (n > 0) {
                 at += n;
                 count -= std::size_t(n);
@@ -267,7 +275,7 @@ private:
                 continue;
             }
             if (n == 0 || (errno != EAGAIN && errno != EINTR)) return stop(End::Died);
-            pollfd there{mResults, POLLIN, 0};
+            pollfd there{mDecoder->results, POLLIN, 0};
             if (::poll(&there, 1, kSliceMilliseconds) != 0) continue;
             if (mWait && !mWait->goOn()) return stop(End::GivenUp);
             if (Clock::now() - lastSign > mPatience) return stop(End::Hung);
@@ -281,7 +289,7 @@ private:
         return false;
     }
 
-    int mResults = -1;
+    Decoder* mDecoder = nullptr;
     std::chrono::milliseconds mPatience{};
     std::uint64_t mFileBytes = 0;
     DecodingWait* mWait = nullptr;
@@ -340,7 +348,33 @@ void setForeignDecoding(ForeignDecoding how)
     all.how = std::move(how);
 }
 
-Decoded decodeForeign(Bytes bytes, Format format, const ImportOptions& options)
+bool readyForeignDecoder()
+{
+    State& all = state();
+    ForeignDecoding how;
+    {
+        const std::lock_guard lock(all.mutex);
+        if (all.how.program.empty()) return false;
+        if (!all.idle.empty()) return true;
+        how = all.how;
+    }
+    Decoder decoder = start(how);
+    if (decoder.process > 0) keep(std::move(decoder));
+    return true;
+}
+
+void readyForeignDecoder(const std::string& path)
+{
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    struct stat facts {
+    };
+    if (file < 0 || ::fstat(file, &facts) != 0 || !S_ISREG(facts.st_mode)) return;
+    std::array<std::uint8_t, 512> head{};
+    const ssize_t got = ::pread(file, head.data(), head.size(), 0);
+    if (got > 0 && magickName(sniffFormat({head.data(), std::size_t(got)}))) readyForeignDecoder();
+}
+
+Decoded decodeForeign(Bytes bytes, Format format, const ImportOptions& options, int sealed)
 {
     if (!magickName(format))
         return Decoded::failure(translated("Codecs", "It is not an image of a kind that can be opened."));
@@ -356,7 +390,9 @@ Decoded decodeForeign(Bytes bytes, Format format, const ImportOptions& options)
         answer.bitmap = std::move(target.bitmap);
         return result(answer, Answer::End::Whole, format);
     }
-    const Descriptor file = fileOf(bytes);
+    if (sealed < 0) readyForeignDecoder(); // it begins while the bytes are copied
+    const Descriptor copy = sealed < 0 ? fileOf(bytes) : Descriptor();
+    const int file = sealed < 0 ? int(copy) : sealed;
     if (file < 0) return Decoded::failure(translated("Codecs", "There is not enough memory to read the file."));
     const DecoderJob job{bytes.size(), std::uint32_t(format), options.properties};
     for (;;) {

@@ -32,9 +32,17 @@ struct ForeignDecoding {
 /// Before the first picture is read, and again when something of it becomes known. Main thread.
 void setForeignDecoding(ForeignDecoding how);
 
-/// As decodeByMagick() was: the picture, or a sentence why not, which also stands for a decoder that died, hung or was
-/// given up. Any thread.
-Decoded decodeForeign(Bytes bytes, Format format, const ImportOptions& options);
+/// Starts a decoder where none is waiting, so that the next picture does not wait for its beginnings: when a panel for
+/// files comes up, or a file is about to be read. Comes back at once. Any thread. @return whether pictures are read by
+/// another process at all
+bool readyForeignDecoder();
+/// The same if the file at @p path begins as one that a decoder reads.
+void readyForeignDecoder(const std::string& path);
+
+/// The picture, or a sentence why not, which also stands for a decoder that died, hung or was
+/// given up. Any thread. @param sealed  a file without a name that begins with just these bytes and that nobody can
+/// change (FileWindow::sealed()), which spares a copy; -1 when there is none
+Decoded decodeForeign(Bytes bytes, Format format, const ImportOptions& options, int sealed = -1);
 
 /// What the decoder's program does: takes jobs from standard input, a local socket, and writes what becomes of them
 /// to standard output, behind walls (DecoderWalls.h), until the other side is gone or for some seconds has nothing to

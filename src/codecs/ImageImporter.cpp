@@ -6,6 +6,8 @@
 #include "codecs/Codec.h"
 #include "codecs/FileWindow.h"
 #include "codecs/ForeignDecoder.h"
+#include "codecs/MagickReader.h"
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <exception>
@@ -25,11 +27,12 @@ using codec::Format;
 
 constexpr std::int64_t kMaxFileBytes = std::int64_t{4} << 30;
 /// Up to this a file is read as it is; of a larger one, what its picture needs.
-constexpr std::int64_t kReadWhole = std::int64_t{64} << 20;
+constexpr std::uint64_t kReadWhole = std::uint64_t{64} << 20;
 /// Enough to tell the kind of a file.
 constexpr std::size_t kHeadBytes = 72u << 10;
 
-Decoded decodeAs(Format format, Bytes bytes, const ImportOptions& options)
+/// @param sealed  as decodeForeign() takes it
+Decoded decodeAs(Format format, Bytes bytes, const ImportOptions& options, int sealed)
 {
     switch (format) {
     case Format::Unknown:
@@ -44,17 +47,17 @@ Decoded decodeAs(Format format, Bytes bytes, const ImportOptions& options)
         if (codec::isIndexedPSD(bytes)) return codec::decodeIndexedPSD(bytes, options);
         [[fallthrough]];
     default:
-        return codec::decodeForeign(bytes, format, options);
+        return codec::decodeForeign(bytes, format, options, sealed);
     }
 }
 
-Decoded decode(Bytes bytes, const ImportOptions& options)
+Decoded decode(Bytes bytes, const ImportOptions& options, int sealed)
 {
     if (bytes.empty()) return Decoded::failure(translated("Codecs", "The file is empty."));
     std::size_t start = 0;
     const Format format = codec::sniffFormat(bytes, &start);
     bytes = bytes.subspan(start);
-    Decoded decoded = decodeAs(format, bytes, options);
+    Decoded decoded = decodeAs(format, bytes, options, start == 0 ? sealed : -1);
     if (decoded.bitmap) codec::readFacts(bytes, format, decoded.facts);
     return decoded;
 }
@@ -110,34 +113,11 @@ private:
     int mFd;
 };
 
-ImportedImage importLargeFile(const OpenFile& file, const std::string& path, std::uint64_t size,
-                              const ImportOptions& options)
-{
-    std::vector<std::uint8_t> head(kHeadBytes);
-    const ssize_t got = pread(file.fd(), head.data(), head.size(), 0);
-    if (got < 0) return {.error = sentenceFor(errno)};
-    head.resize(std::size_t(got));
-    std::size_t start = 0;
-    const Format format = codec::sniffFormat(head, &start);
-    if (format == Format::Unknown)
-        return {.error = translated("Codecs", "It is not an image of a kind that can be opened.")};
-    const PixelDimensions dimensions = imageFileDimensions(path);
-    std::string error;
-    if (dimensions.width > 0 && !codec::checkSize(dimensions.width, dimensions.height, size, error))
-        return {.error = error};
-    codec::FileWindow window(file.fd(), size, codec::mostBytesFor(format, dimensions.width, dimensions.height));
-    if (!window.isOpen()) return {.error = translated("Codecs", "There is not enough memory to read the file.")};
-    codec::takeNeededParts(window, format, start);
-    return importImage(window.bytes().first(window.end()), options);
-}
-
-} // namespace
-
-ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptions& options)
+ImportedImage import(Bytes bytes, const ImportOptions& options, int sealed = -1)
 {
     ImportedImage image;
     try {
-        Decoded decoded = decode(bytes, options);
+        Decoded decoded = decode(bytes, options, sealed);
         if (decoded.bitmap && decoded.orientation > 1) {
             decoded.bitmap = codec::turnedUpright(*decoded.bitmap, decoded.orientation);
             if (!decoded.bitmap) decoded.error = translated("Codecs", "There is not enough memory for this image.");
@@ -158,6 +138,37 @@ ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptio
     return image;
 }
 
+/// Whether another process reads that kind. If so, it begins now.
+bool isReadApart(Format format) { return codec::magickName(format) && codec::readyForeignDecoder(); }
+
+/// A large file, of which only parts are needed, or one that another process reads.
+ImportedImage importByWindow(const OpenFile& file, const std::string& path, std::uint64_t size, Bytes head,
+                             const ImportOptions& options)
+{
+    std::size_t start = 0;
+    const Format format = codec::sniffFormat(head, &start);
+    if (format == Format::Unknown)
+        return {.error = translated("Codecs", "It is not an image of a kind that can be opened.")};
+    const bool whole = size <= kReadWhole;
+    PixelDimensions dimensions;
+    std::string error;
+    if (!whole) dimensions = imageFileDimensions(path);
+    if (dimensions.width > 0 && !codec::checkSize(dimensions.width, dimensions.height, size, error))
+        return {.error = error};
+    const std::uint64_t most = whole ? size : codec::mostBytesFor(format, dimensions.width, dimensions.height);
+    codec::FileWindow window(file.fd(), size, most, isReadApart(format));
+    if (!window.isOpen()) return {.error = translated("Codecs", "There is not enough memory to read the file.")};
+    whole ? window.take(0, size) : codec::takeNeededParts(window, format, start);
+    return import(window.bytes().first(window.end()), options, window.sealed());
+}
+
+} // namespace
+
+ImportedImage importImage(std::span<const std::uint8_t> bytes, const ImportOptions& options)
+{
+    return import(bytes, options);
+}
+
 ImportedImage importImageFile(const std::string& path, const ImportOptions& options)
 try {
     const OpenFile file(path);
@@ -170,9 +181,15 @@ try {
     if (facts.st_size == 0) return {.error = translated("Codecs", "The file is empty.")};
     if (facts.st_size > kMaxFileBytes) return {.error = translated("Codecs", "The file is larger than 4 GiB.")};
 
-    if (facts.st_size > kReadWhole) return importLargeFile(file, path, std::uint64_t(facts.st_size), options);
+    const auto size = std::uint64_t(facts.st_size);
+    std::vector<std::uint8_t> head(std::min<std::uint64_t>(kHeadBytes, size));
+    const ssize_t ofHead = pread(file.fd(), head.data(), head.size(), 0);
+    if (ofHead < 0) return {.error = sentenceFor(errno)};
+    head.resize(std::size_t(ofHead));
+    if (size > kReadWhole || isReadApart(codec::sniffFormat(head)))
+        return importByWindow(file, path, size, head, options);
     // Read, not mapped: a mapped file that shrinks meanwhile would take the program down.
-    const auto wanted = std::size_t(facts.st_size);
+    const auto wanted = std::size_t(size);
     auto memory = allocatePixelsUninitialized(wanted);
     if (!memory) return {.error = translated("Codecs", "There is not enough memory to read the file.")};
     std::size_t got = 0;

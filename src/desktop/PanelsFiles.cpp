@@ -2,6 +2,7 @@
 /// Open, save and folder panels: the desktop's own for people, a queue of answers for scripts.
 #include "base/Folders.h"
 #include "codecs/FileNames.h"
+#include "codecs/ForeignDecoder.h"
 #include "desktop/Desktop.h"
 #include "desktop/Panels.h"
 #include "desktop/PanelsState.h"
@@ -172,6 +173,7 @@ std::optional<std::string> runOpenPanel(PanelRequest request)
     request.kind = "open";
     last = request;
     if (automated) return nextChoice();
+    codec::readyForeignDecoder();
     QFileDialog dialog(parentForPanel());
     dialog.setFileMode(QFileDialog::ExistingFile);
     prepare(dialog, request);

@@ -102,6 +102,70 @@ TEST_F(ForeignDecoder, ReadsSeveralAtOnce)
     EXPECT_EQ(read, 30);
 }
 
+/// A picture of that size whose pixels all differ from their neighbours, below @p folder.
+std::string noise(const fs::path& folder, int width, int height)
+{
+    const std::string path = folder / (std::to_string(width) + ".ppm");
+    std::ofstream file(path, std::ios::binary);
+    file << "P6\n" << width << ' ' << height << "\n255\n";
+    std::string pixels(std::size_t(width) * std::size_t(height) * 3, '\0');
+    for (std::size_t i = 0; i < pixels.size(); ++i) pixels[i] = char(i * 2654435761u >> 24);
+    file << pixels;
+    return path;
+}
+
+TEST_F(ForeignDecoder, TakesPicturesLargerThanTheMemoryBothShare)
+{
+    const test::TemporaryFolder folder;
+    for (const auto& [width, height] : {std::pair{1501, 1201}, {1500, 900}, {15'000, 40}, {7, 3}}) {
+        SCOPED_TRACE(width);
+        const std::string path = noise(folder.path(), width, height);
+        setForeignDecoding({});
+        const ImportedImage here = importImageFile(path);
+        ASSERT_TRUE(here.bitmap) << here.error;
+        byProgram();
+        for (int time = 0; time < 3; ++time) { // the second begins at another slot
+            const ImportedImage there = importImageFile(path);
+            ASSERT_TRUE(there.bitmap) << there.error;
+            EXPECT_EQ(std::memcmp(there.bitmap->bitmapData(), here.bitmap->bitmapData(),
+                                  std::size_t(here.bitmap->bytesPerRow()) * std::size_t(height)),
+                      0);
+        }
+    }
+}
+
+TEST_F(ForeignDecoder, IsFollowedByAnotherWhenItHasReadEnough)
+{
+    const test::TemporaryFolder folder;
+    const std::string path = noise(folder.path(), 9, 5);
+    byProgram();
+    for (int i = 0; i < 450; ++i) {
+        const ImportedImage image = importImageFile(path);
+        ASSERT_TRUE(image.bitmap) << i << ": " << image.error;
+    }
+}
+
+TEST_F(ForeignDecoder, IsReadyBeforeThePictureWhereOneIsExpected)
+{
+    EXPECT_FALSE(codec::readyForeignDecoder()) << "images are read in this very process";
+    const test::TemporaryFolder folder;
+    const std::string begun = folder.path() / "begun";
+    const auto appears = [&begun](int times) {
+        for (int i = 0; i < times && !fs::exists(begun); ++i) usleep(20'000);
+        return fs::exists(begun);
+    };
+    byShell("touch " + begun + "; exec sleep 100");
+    codec::readyForeignDecoder(test::sample("photos/seeding-600-grey.jpg"));
+    codec::readyForeignDecoder(folder.path());
+    codec::readyForeignDecoder("/no/such/file");
+    EXPECT_FALSE(appears(10));
+    codec::readyForeignDecoder(test::sample("made/valid/base.gif"));
+    EXPECT_TRUE(appears(1000));
+    fs::remove(begun);
+    EXPECT_TRUE(codec::readyForeignDecoder());
+    EXPECT_FALSE(appears(10)) << "one is enough";
+}
+
 struct Failure {
     const char *name, *commands, *sentence;
 };
@@ -129,6 +193,8 @@ INSTANTIATE_TEST_SUITE_P(
         Failure{"StopsInTheRows", R"(printf '\1\0\0\0\0\0\0\0\2\0\0\0\10\0\0\0\3\0\0\0\2\0\0\0')", kDied},
         Failure{"GivesTooManyRows",
                 R"(printf '\2\0\0\0\10\0\0\0\3\0\0\0\2\0\0\0\3\0\0\0\377\377\377\177'; cat /dev/zero)", kDied},
+        Failure{"GivesMoreThanASlotHolds",
+                R"(printf '\2\0\0\0\10\0\0\0\0\4\0\0\0\4\0\0\3\0\0\0\0\0\20\0'; exec sleep 100)", kDied},
         Failure{"ClaimsAnAbsurdSize", R"(printf '\2\0\0\0\10\0\0\0\377\377\377\177\377\377\377\177')", kDied},
         Failure{"EndsWithoutRows", R"(printf '\2\0\0\0\10\0\0\0\3\0\0\0\2\0\0\0\4\0\0\0\0\0\0\0')", kDied},
         Failure{"Hangs", "exec sleep 100", "The GIF image cannot be read: its reader did not come to an end."}),
