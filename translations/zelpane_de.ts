@@ -191,6 +191,10 @@
         <source>The clipboard&apos;s image cannot be read.</source>
         <translation>Das Bild in der Zwischenablage kann nicht gelesen werden.</translation>
     </message>
+    <message>
+        <source>The clipboard&apos;s image is larger than %1 MB.</source>
+        <translation>Das Bild in der Zwischenablage ist größer als %1 MB.</translation>
+    </message>
 </context>
 <context>
     <name>Codecs</name>

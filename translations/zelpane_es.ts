@@ -191,6 +191,10 @@
         <source>The clipboard&apos;s image cannot be read.</source>
         <translation>No se puede leer la imagen del portapapeles.</translation>
     </message>
+    <message>
+        <source>The clipboard&apos;s image is larger than %1 MB.</source>
+        <translation>La imagen del portapapeles ocupa más de %1 MB.</translation>
+    </message>
 </context>
 <context>
     <name>Codecs</name>

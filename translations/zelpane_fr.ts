@@ -191,6 +191,10 @@
         <source>The clipboard&apos;s image cannot be read.</source>
         <translation>L’image du presse-papiers est illisible.</translation>
     </message>
+    <message>
+        <source>The clipboard&apos;s image is larger than %1 MB.</source>
+        <translation>L’image du presse-papiers dépasse %1 Mo.</translation>
+    </message>
 </context>
 <context>
     <name>Codecs</name>

@@ -191,6 +191,10 @@
         <source>The clipboard&apos;s image cannot be read.</source>
         <translation>クリップボードの画像を読み込めません。</translation>
     </message>
+    <message>
+        <source>The clipboard&apos;s image is larger than %1 MB.</source>
+        <translation>クリップボードの画像が %1 MB を超えています。</translation>
+    </message>
 </context>
 <context>
     <name>Codecs</name>

@@ -191,6 +191,10 @@
         <source>The clipboard&apos;s image cannot be read.</source>
         <translation>A imagem da área de transferência não pode ser lida.</translation>
     </message>
+    <message>
+        <source>The clipboard&apos;s image is larger than %1 MB.</source>
+        <translation>A imagem da área de transferência tem mais de %1 MB.</translation>
+    </message>
 </context>
 <context>
     <name>Codecs</name>

@@ -191,6 +191,10 @@
         <source>The clipboard&apos;s image cannot be read.</source>
         <translation>无法读取剪贴板中的图片。</translation>
     </message>
+    <message>
+        <source>The clipboard&apos;s image is larger than %1 MB.</source>
+        <translation>剪贴板中的图像大于 %1 MB。</translation>
+    </message>
 </context>
 <context>
     <name>Codecs</name>

@@ -5,6 +5,8 @@
 #include "codecs/ImageEncoder.h"
 #include "codecs/ImageImporter.h"
 #include "desktop/Desktop.h"
+#include "desktop/ReadingWait.h"
+#include "desktop/X11Clipboard.h"
 #include <QBuffer>
 #include <QClipboard>
 #include <QCoreApplication>
@@ -15,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QUrl>
 #include <array>
+#include <chrono>
 
 namespace zp
 {
@@ -36,9 +39,16 @@ constexpr std::array kAccepted{kTIFF,
                                "image/webp",
                                "image/jpeg",
                                "image/jpg"};
-/// The toolkit waits five seconds for each kind that the clipboard's owner does not give; one that was silent for that
-/// long is not asked for the ten others.
+/// The toolkit waits five seconds for each kind that the clipboard's owner does not give, and so do we for one; an
+/// owner that was silent for that long is not asked for the ten others.
 constexpr int kNoAnswerMilliseconds = 2000;
+constexpr std::chrono::milliseconds kPatience{5000};
+/// Menus ask which kinds there are: nobody waits long for that, nor again and again.
+constexpr std::chrono::milliseconds kPatienceForKinds{1000};
+constexpr qint64 kAskAgainMilliseconds = 10'000;
+/// An image of 268 million pixels as it is in memory.
+constexpr std::size_t kMostBytes = std::size_t{1} << 30;
+constexpr int kMegabytesOfMost = int(kMostBytes >> 20);
 constexpr const char* kUriList = "text/uri-list";
 constexpr const char* kQtImage = "application/x-qt-image";
 
@@ -115,7 +125,65 @@ private:
     static inline int mCount = 0;
 };
 
-const QMimeData* clipboardData() { return QGuiApplication::clipboard()->mimeData(); }
+/// What another program offers by an X server, taken within bounds.
+class OfferedByAnother : public QMimeData
+{
+public:
+    OfferedByAnother()
+    {
+        mAge.start();
+        for (const QByteArray& kind : kindsOnX11Clipboard(kPatienceForKinds)) mKinds << QString::fromLatin1(kind);
+    }
+    QStringList formats() const override { return mKinds; }
+    bool hasFormat(const QString& type) const override { return mKinds.contains(type); }
+    bool isTooLarge() const { return mIsTooLarge; }
+    /// One that gave no kinds may do so later without a sign.
+    bool isOld() const { return mKinds.isEmpty() && mAge.hasExpired(kAskAgainMilliseconds); }
+
+protected:
+    QVariant retrieveData(const QString& type, QMetaType) const override
+    {
+        mIsTooLarge = false;
+        if (!hasFormat(type)) return {};
+        const auto wait = readingWait();
+        ClipboardAnswer answer =
+            askX11Clipboard({.kind = type.toLatin1(), .most = kMostBytes, .patience = kPatience, .goOn = [&wait] {
+                                 return wait->goOn();
+                             }});
+        mIsTooLarge = answer.end == ClipboardAnswer::End::TooLarge;
+        return std::move(answer.bytes);
+    }
+
+private:
+    QStringList mKinds;
+    QElapsedTimer mAge;
+    mutable bool mIsTooLarge = false;
+};
+
+/// Kept until the clipboard changes hands or content, and by whoever reads from it just then; null where another
+/// program's offer comes through the toolkit.
+std::shared_ptr<const OfferedByAnother> offeredByAnother()
+{
+    static std::shared_ptr<const OfferedByAnother> offer;
+    const QClipboard* const board = QGuiApplication::clipboard();
+    if (board->ownsClipboard() || QGuiApplication::platformName() != "xcb") return nullptr;
+    static const auto change = QObject::connect(board, &QClipboard::dataChanged, qApp, [] { offer.reset(); });
+    if (!offer || offer->isOld()) offer = std::make_shared<OfferedByAnother>();
+    return offer;
+}
+
+std::shared_ptr<const QMimeData> clipboardData()
+{
+    if (auto offer = offeredByAnother()) return offer;
+    return {std::shared_ptr<void>(), QGuiApplication::clipboard()->mimeData()}; // the toolkit's own
+}
+
+std::string tooLarge()
+{
+    return QCoreApplication::translate("Clipboard", "The clipboard's image is larger than %1 MB.")
+        .arg(kMegabytesOfMost)
+        .toStdString();
+}
 
 } // namespace
 
@@ -136,20 +204,25 @@ void Pasteboard::setTIFF(std::vector<std::uint8_t> tiff)
     QGuiApplication::clipboard()->setMimeData(new CopiedPicture(std::move(bytes)));
 }
 
-std::vector<std::uint8_t> Pasteboard::imageData() const
+std::vector<std::uint8_t> Pasteboard::imageData(std::string* why) const
 {
-    const QMimeData* data = clipboardData();
+    const auto data = clipboardData();
     if (!data) return {};
     for (const char* type : kAccepted) {
         if (!data->hasFormat(type)) continue;
         QElapsedTimer clock;
         clock.start();
         const QByteArray bytes = data->data(type);
+        const auto* const offer = dynamic_cast<const OfferedByAnother*>(data.get());
+        if (std::size_t(bytes.size()) > kMostBytes || (offer && offer->isTooLarge())) {
+            if (why) *why = tooLarge();
+            return {};
+        }
         if (!bytes.isEmpty()) return {bytes.begin(), bytes.end()};
         if (clock.elapsed() > kNoAnswerMilliseconds) return {};
     }
     // Files that a file manager copied: the first that is a picture.
-    if (const std::optional<std::string> file = copiedPictureFile(data))
+    if (const std::optional<std::string> file = copiedPictureFile(data.get()))
         if (const std::optional<std::string> bytes = readWholeFile(*file)) return {bytes->begin(), bytes->end()};
     // A picture handed over inside the toolkit has no bytes yet.
     if (data->hasImage()) {
@@ -163,16 +236,16 @@ std::vector<std::uint8_t> Pasteboard::imageData() const
 
 bool Pasteboard::hasImageData() const
 {
-    const QMimeData* data = clipboardData();
+    const auto data = clipboardData();
     if (!data) return false;
     for (const char* type : kAccepted)
         if (data->hasFormat(type)) return true;
-    return copiedPictureFile(data) || data->hasFormat(kQtImage);
+    return copiedPictureFile(data.get()) || data->hasFormat(kQtImage);
 }
 
 QStringList Pasteboard::types() const
 {
-    const QMimeData* data = clipboardData();
+    const auto data = clipboardData();
     return data ? data->formats() : QStringList();
 }
 

@@ -24,8 +24,9 @@ public:
     /// Offers image/tiff, and the same picture as PNG for programs that read only that (made when asked for).
     void setTIFF(std::vector<std::uint8_t> tiff);
     /// TIFF bytes offered, or image bytes of another kind (PNG, BMP, JPEG), as they came; empty when none.
-    /// Decode by content.
-    std::vector<std::uint8_t> imageData() const;
+    /// Decode by content. An owner that gives no sign for five seconds is not waited for, nor more taken from it than a
+    /// gigabyte. @param why  becomes a sentence where there is one to say why nothing came
+    std::vector<std::uint8_t> imageData(std::string* why = nullptr) const;
     /// Data of type TIFF, or image data that is accepted in its stead.
     bool hasImageData() const;
     QStringList types() const;

@@ -48,13 +48,17 @@ bool putOnPasteboard(Edit& edit)
     return true;
 }
 
-/// The pasteboard's picture, ready to float; null when there is none that can be read.
-std::shared_ptr<Image> pictureToPaste()
+/// The pasteboard's picture, ready to float; null when there is none that can be read. @param why  becomes a sentence
+std::shared_ptr<Image> pictureToPaste(std::string& why)
 {
-    const std::vector<std::uint8_t> data = Pasteboard::general().imageData();
+    why = QCoreApplication::translate("Clipboard", "The clipboard's image cannot be read.").toStdString();
+    const std::vector<std::uint8_t> data = Pasteboard::general().imageData(&why);
     if (data.empty()) return nullptr;
     const ImportedImage imported = importImage(data);
-    if (!imported.bitmap) return nullptr;
+    if (!imported.bitmap) {
+        why = imported.error;
+        return nullptr;
+    }
     // One pixel of the pasted picture is one of the image, whatever resolution it speaks of.
     auto image =
         std::make_shared<Image>(Size{float(imported.bitmap->pixelsWide()), float(imported.bitmap->pixelsHigh())});
@@ -65,10 +69,11 @@ std::shared_ptr<Image> pictureToPaste()
 
 void place(Edit& edit, bool into)
 {
-    std::shared_ptr<Image> picture = pictureToPaste();
+    std::string why;
+    std::shared_ptr<Image> picture = pictureToPaste(why);
     if (!picture || !edit.picture().bitmap())
         return edit.refuse(QCoreApplication::translate("Clipboard", "Nothing could be pasted."),
-                           QCoreApplication::translate("Clipboard", "The clipboard's image cannot be read."));
+                           QString::fromStdString(why));
     const Size size = picture->size();
     Rect box{{0, 0}, size};
     if (into) {

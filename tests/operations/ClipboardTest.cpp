@@ -9,6 +9,8 @@
 #include <QClipboard>
 #include <QImage>
 #include <QMimeData>
+#include <cstring>
+#include <zlib.h>
 
 using namespace zp;
 using namespace zp::test;
@@ -202,6 +204,77 @@ TEST_F(Clipboard, UnreadableDataLeavesEverythingAsItIs)
         ASSERT_EQ(watch.seen.size(), 2u);
         EXPECT_EQ(watch.seen[0].title, "Nothing could be pasted.");
     }
+}
+
+/// A TIFF file with no more than tags, @p width by @p height.
+QByteArray claimingTIFF(quint32 width, quint32 height)
+{
+    QByteArray file("II\x2A\0\x08\0\0\0\x06\0", 10);
+    const auto tag = [&file](quint16 number, quint16 type, quint32 value) {
+        const quint32 one = 1;
+        for (const auto& [bytes, count] : {std::pair<const void*, int>{&number, 2}, {&type, 2}, {&one, 4}, {&value, 4}})
+            file.append(static_cast<const char*>(bytes), count);
+    };
+    tag(256, 4, width), tag(257, 4, height), tag(258, 3, 8), tag(262, 3, 1), tag(273, 4, 8), tag(279, 4, 100);
+    return file.append(200, '\0');
+}
+QByteArray claimingPNG(quint32 width, quint32 height)
+{
+    QByteArray head("IHDR");
+    for (const quint32 side : {width, height})
+        for (int shift = 24; shift >= 0; shift -= 8) head.append(char(side >> shift));
+    head.append("\x08\x06\0\0\0", 5);
+    const quint32 sum = quint32(crc32(0, reinterpret_cast<const Bytef*>(head.constData()), uInt(head.size())));
+    QByteArray file("\x89PNG\r\n\x1A\n\0\0\0\x0D", 12);
+    file += head;
+    for (int shift = 24; shift >= 0; shift -= 8) file.append(char(sum >> shift));
+    return file.append(QByteArray(60, '\0'));
+}
+
+struct Lie {
+    const char *name, *kind;
+    QByteArray bytes;
+    const char* sentence; ///< its beginning
+};
+
+TEST_F(Clipboard, AnOwnerThatLiesLeavesEverythingAsItIs)
+{
+    const auto before = allPixels();
+    const int step = history().position();
+    const Lie lies[] = {
+        {"TIFF that is text", "image/tiff", "no picture at all", "It is not an image of a kind that can be opened."},
+        {"PNG that is a page", "image/png", "<html><img src=x></html>",
+         "It is not an image of a kind that can be opened."},
+        {"a TIFF file of half the earth", "image/tiff", claimingTIFF(4'000'000'000u, 4'000'000'000u),
+         "The TIFF data cannot be read: "},
+        {"a TIFF file of as much as there may be", "image/tiff", claimingTIFF(30'000, 30'000),
+         "The file is far too small for the 30000 x 30000 pixels it claims to hold."},
+        {"a PNG file as large as one can be", "image/png", claimingPNG(0x7FFFFFFFu, 0x7FFFFFFFu),
+         "The PNG data cannot be read: "},
+        {"a PNG file without a pixel", "image/png", claimingPNG(0, 5), "The PNG data cannot be read: "},
+        {"zeros", "image/bmp", QByteArray(1 << 20, '\0'), "It is not an image of a kind that can be opened."},
+    };
+    for (const Lie& lie : lies) {
+        SCOPED_TRACE(lie.name);
+        auto* const data = new QMimeData;
+        data->setData(lie.kind, lie.bytes);
+        QApplication::clipboard()->setMimeData(data);
+        AlertWatch watch;
+        EXPECT_FALSE(perform("paste:"));
+        EXPECT_FALSE(floating());
+        EXPECT_EQ(allPixels(), before);
+        EXPECT_EQ(history().position(), step);
+        ASSERT_EQ(watch.seen.size(), 1u);
+        EXPECT_EQ(watch.seen[0].title, "Nothing could be pasted.");
+        EXPECT_TRUE(watch.seen[0].message.startsWith(lie.sentence)) << watch.seen[0].message.toStdString();
+    }
+    // What is there counts, not what it was called.
+    auto* const data = new QMimeData;
+    const std::vector<std::uint8_t> tiff = tiffOf(10, 10, word(255, 1, 2, 3));
+    data->setData("image/png", QByteArray(reinterpret_cast<const char*>(tiff.data()), qsizetype(tiff.size())));
+    QApplication::clipboard()->setMimeData(data);
+    EXPECT_TRUE(perform("paste:"));
+    EXPECT_TRUE(floating());
 }
 
 TEST_F(Clipboard, PasteIntoCentresAndIsCutByTheOldSelection)

@@ -12,6 +12,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <set>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -154,6 +155,106 @@ TEST_F(SnapshotStoreTest, ANameThatIsTakenIsLeftToItsOwner)
     store.remove();
     EXPECT_FALSE(fs::exists(beside()));
     EXPECT_EQ(text(folder() / "C_0.jpg"), "theirs");
+}
+
+/// What somebody does to the name of our folder, again and again, as quickly as it goes.
+void swapForEver(const fs::path& name, const fs::path& trap, const fs::path& aside)
+{
+    for (;;) {
+        (void)!::symlink(trap.c_str(), name.c_str());
+        ::unlink(name.c_str());
+        ::mkdir(name.c_str(), 0777);
+        ::rename(name.c_str(), aside.c_str());
+        (void)!::symlink(trap.c_str(), name.c_str());
+        ::rename(aside.c_str(), name.c_str());
+        ::rename(name.c_str(), aside.c_str());
+        ::unlink(name.c_str());
+        ::rmdir(name.c_str());
+        ::rmdir(aside.c_str());
+    }
+}
+
+/// Lives as long as the test, and ends with it.
+class Swapper
+{
+public:
+    /// @param user  who does it; 0: this one
+    Swapper(uid_t user, const fs::path& name, const fs::path& trap, const fs::path& aside) : mProcess(fork())
+    {
+        if (mProcess != 0) return;
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (user != 0 && setresuid(user, user, user) != 0) _exit(1);
+        swapForEver(name, trap, aside);
+    }
+    ~Swapper()
+    {
+        kill(mProcess, SIGKILL);
+        waitpid(mProcess, nullptr, 0);
+    }
+    Swapper(const Swapper&) = delete;
+    Swapper& operator=(const Swapper&) = delete;
+
+private:
+    pid_t mProcess;
+};
+
+constexpr int kRacingRounds = 300;
+
+TEST_F(SnapshotStoreTest, ANameThatIsSwappedBetweenTwoLooksLeadsNowhereElse)
+{
+    fs::create_directory(temporary / "trap");
+    write(temporary / "trap" / "C_0.jpg", "precious");
+    fs::create_directory(temporary / "aside");
+    const Swapper swapper(0, folder(), temporary / "trap", temporary / "aside" / "it");
+    int taken = 0;
+    for (int round = 0; round < kRacingRounds; ++round) {
+        SnapshotStore store;
+        taken += take(store, 0);
+        ASSERT_EQ(text(temporary / "trap" / "C_0.jpg"), "precious");
+        ASSERT_EQ(names(temporary / "trap").size(), 1u);
+        store.remove();
+        ASSERT_EQ(text(temporary / "trap" / "C_0.jpg"), "precious");
+    }
+    EXPECT_GT(taken, 0) << "nothing was tried";
+}
+
+/// A folder that everybody may write to, as the system's for temporary files: names there are only their owner's to
+/// take away.
+TEST_F(SnapshotStoreTest, AnotherUserWinsNoRaceForTheNameInAFolderForEverybody)
+{
+    if (geteuid() != 0) GTEST_SKIP() << "only root can be two users";
+    constexpr uid_t kProgram = 4343, kOther = 4242;
+    ASSERT_EQ(chmod(temporary.c_str(), 01777), 0);
+    fs::create_directory(temporary / "trap");
+    chmod((temporary / "trap").c_str(), 0777);
+    fs::create_directory(temporary / "aside");
+    chmod((temporary / "aside").c_str(), 0777);
+    const Swapper swapper(kOther, folder(), temporary / "trap", temporary / "aside" / "it");
+    const pid_t program = fork();
+    if (program == 0) { // the program has no rights but its user's
+        if (setresgid(kProgram, kProgram, kProgram) != 0 || setresuid(kProgram, kProgram, kProgram) != 0) _exit(2);
+        int taken = 0, beside = 0;
+        for (int round = 0; round < kRacingRounds; ++round) {
+            SnapshotStore store;
+            if (!take(store, 0)) continue;
+            ++taken;
+            struct stat status {
+            };
+            // By the time of this look the folder cannot be anybody else's: it is held, and ours.
+            if (lstat(store.folder().c_str(), &status) != 0 || status.st_uid != kProgram || !S_ISDIR(status.st_mode) ||
+                (status.st_mode & 07777) != 0700)
+                _exit(3);
+            beside += store.folder() != folder();
+            store.remove();
+        }
+        _exit(taken < kRacingRounds ? 4 : beside == 0 ? 5 : 0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(program, &status, 0), program);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 0) << "3: not our folder; 4: no folder; 5: the other user was never there first";
+    EXPECT_TRUE(names(temporary / "trap").empty());
+    EXPECT_TRUE(names(temporary / "aside").size() <= 1);
 }
 
 TEST_F(SnapshotStoreTest, TwoRunningProgramsHaveFoldersOfTheirOwn)
