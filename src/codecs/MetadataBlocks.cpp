@@ -163,6 +163,12 @@ std::vector<std::uint8_t> encodeUserComment(const std::string& utf8, bool bigEnd
             put(0xDC00 + ((c - 0x10000) & 0x3FF));
         }
     }
+    // Without a mark readers guess, this one among them: 一 looks like the other byte order's zeros, 中午 like Latin.
+    if (decodeUserComment(out, bigEndian) != utf8) {
+        const std::array<std::uint8_t, 2> mark =
+            bigEndian ? std::array<std::uint8_t, 2>{0xFE, 0xFF} : std::array<std::uint8_t, 2>{0xFF, 0xFE};
+        out.insert(out.begin() + 8, mark.begin(), mark.end());
+    }
     return out;
 }
 

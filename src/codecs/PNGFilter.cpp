@@ -66,11 +66,12 @@ void weigh(const std::uint8_t* row, const std::uint8_t* above, std::size_t count
 {
     const D8 d;
     const hn::Repartition<std::uint64_t, D8> d64;
+    const std::uint8_t *const before = row - step, *const aboveBefore = above - step;
     auto sub = hn::Zero(d64), up = hn::Zero(d64), paeth = hn::Zero(d64);
     std::size_t i = 0;
     for (; i + hn::Lanes(d) <= count; i += hn::Lanes(d)) {
-        const V8 x = hn::LoadU(d, row + i), left = hn::LoadU(d, row + i - step);
-        const V8 over = hn::LoadU(d, above + i), corner = hn::LoadU(d, above + i - step);
+        const V8 x = hn::LoadU(d, row + i), left = hn::LoadU(d, before + i);
+        const V8 over = hn::LoadU(d, above + i), corner = hn::LoadU(d, aboveBefore + i);
         sub = hn::Add(sub, weights(hn::Sub(x, left)));
         up = hn::Add(up, weights(hn::Sub(x, over)));
         paeth = hn::Add(paeth, weights(hn::Sub(x, nearestOf(left, over, corner))));
@@ -78,7 +79,7 @@ void weigh(const std::uint8_t* row, const std::uint8_t* above, std::size_t count
     const auto total = [&](auto v) HWY_ATTR { return hn::GetLane(hn::SumOfLanes(d64, v)); };
     std::uint64_t subSum = total(sub), upSum = total(up), paethSum = total(paeth);
     for (; i < count; ++i) {
-        const std::uint8_t left = row[i - step], corner = above[i - step];
+        const std::uint8_t left = before[i], corner = aboveBefore[i];
         subSum += weight(std::uint8_t(row[i] - left));
         upSum += weight(std::uint8_t(row[i] - above[i]));
         paethSum += weight(std::uint8_t(row[i] - nearest(left, above[i], corner)));
@@ -93,14 +94,15 @@ void apply(PNGFilter filter, const std::uint8_t* row, const std::uint8_t* above,
 {
     const D8 d;
     const std::size_t n = hn::Lanes(d), whole = count / n * n;
-    const std::uint8_t* const other = filter == PNGFilter::Up ? above : row - step;
+    const std::uint8_t *const before = row - step, *const aboveBefore = above - step;
+    const std::uint8_t* const other = filter == PNGFilter::Up ? above : before;
     std::size_t i = 0;
     if (filter == PNGFilter::Paeth) {
         for (; i < whole; i += n) {
-            const V8 left = hn::LoadU(d, row + i - step), corner = hn::LoadU(d, above + i - step);
+            const V8 left = hn::LoadU(d, before + i), corner = hn::LoadU(d, aboveBefore + i);
             hn::StoreU(hn::Sub(hn::LoadU(d, row + i), nearestOf(left, hn::LoadU(d, above + i), corner)), d, out + i);
         }
-        for (; i < count; ++i) out[i] = std::uint8_t(row[i] - nearest(row[i - step], above[i], above[i - step]));
+        for (; i < count; ++i) out[i] = std::uint8_t(row[i] - nearest(before[i], above[i], aboveBefore[i]));
     } else {
         for (; i < whole; i += n) hn::StoreU(hn::Sub(hn::LoadU(d, row + i), hn::LoadU(d, other + i)), d, out + i);
         for (; i < count; ++i) out[i] = std::uint8_t(row[i] - other[i]);

@@ -182,7 +182,13 @@ std::size_t LZWDecoder::decode(std::span<const std::uint8_t> strip, std::uint8_t
     const auto put = [&](const Entry& entry) {
         const std::size_t length = std::min<std::size_t>(entry.length, size - written);
         std::memcpy(to + written, &entry.head, 8);
-        for (std::size_t i = 8; i < length; i += 16) std::memcpy(to + written + i, to + entry.at + i, 16);
+        for (std::size_t i = 8; i < length; i += 16) {
+            // Taken before any is put: a string that repeats itself lies over its own end, by the byte that the head
+            // has put there already.
+            std::uint8_t sixteen[16];
+            std::memcpy(sixteen, to + entry.at + i, 16);
+            std::memcpy(to + written + i, sixteen, 16);
+        }
         written += length;
     };
     for (std::uint64_t byte = 0; byte < 256; ++byte) mTable[byte] = {byte, 0, 1};

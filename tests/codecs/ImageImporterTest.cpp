@@ -252,6 +252,15 @@ TEST_P(UserComment, IsReadAsText)
     EXPECT_EQ(rep->properties.userComment.substr(0, 60), GetParam().text);
 }
 
+TEST(UserComments, OfAnyScriptAreReadAsTheyWereWritten)
+{
+    // The second could be taken for the other byte order, the third for Latin, the last two begin like a mark of order.
+    for (const std::string text : {"Grüße 日本 😀", "一二三", "中午", "䡥汬漠", "\uFEFFé", "\uFFFEé"})
+        for (const bool bigEndian : {false, true})
+            EXPECT_EQ(codec::decodeUserComment(codec::encodeUserComment(text, bigEndian), bigEndian), text)
+                << bigEndian;
+}
+
 TEST(ImageImporter, HostileMetadataIsDroppedAndThePictureOpens)
 {
     for (const char* name :
