@@ -86,6 +86,10 @@ SECTIONS = [
         Row("picture drawn at exactly half its size", ms("BM_Reduce", 3000), [("cv::resize, area", ms("BM_ReduceOpenCv", 3000))], 0.6),
         Row("picture drawn at 1600 across", ms("BM_Reduce", 1600), [("cv::resize, area", ms("BM_ReduceOpenCv", 1600))], 0.4),
         Row("picture drawn at twice its size", ms("BM_Enlarge"), [("cv::resize, cubic", ms("BM_EnlargeOpenCv"))], 0.4),
+        Row("picture in perspective, four corners pulled", ms("BM_Perspective"),
+            [("cv::warpPerspective, cubic", ms("BM_PerspectiveOpenCv"))]),
+        Row("its halves, quarters and so on, for drawing it reduced", ms("BM_Levels"),
+            [("cv::resize, area", ms("BM_LevelsOpenCv"))]),
         Row("picture turned by 7 degrees", ms("BM_Turn"), [("cv::warpAffine, cubic", ms("BM_TurnOpenCv"))], 0.4),
     ]),
     Section("imageops", "imageops/bench_imageops", [
@@ -119,6 +123,8 @@ SECTIONS = [
         *[Row(f"redraw of 1600 x 1000 at {z} %", ms("BM_RedrawView", z)) for z in (25, 100, 400)],
         Row("a tick of the marching ants", ms("BM_AntsTick")),
         *[Row(f"a step of dragging 6 megapixels at {z} %", ms("BM_DragFloatingSixMegapixels", z, "iterations:40")) for z in (25, 100)],
+        *[Row(f"a step of pulling a corner of 24 megapixels at {z} %", ms("BM_PullCorner", k, "iterations:40"))
+          for z, k in (("12.5", 125), ("25", 250), ("100", 1000))],
         Row("a JPEG opened until it can be drawn", ms("BM_OpenJPEG"), [("libjpeg-turbo, into warm memory", ms("BM_OpenJPEG_TurboIntoWarmMemory"))], 0.9),
     ], targets=False),
     Section("batch", "batch/bench_batch", [

@@ -580,6 +580,25 @@
     </message>
 </context>
 <context>
+    <name>Corners</name>
+    <message>
+        <source>The selection does not have four corners.</source>
+        <translation>Die Auswahl hat keine vier Ecken.</translation>
+    </message>
+    <message>
+        <source>The selection could not be made upright.</source>
+        <translation>Die Auswahl konnte nicht gerade gemacht werden.</translation>
+    </message>
+    <message>
+        <source>It is seen from too far aside.</source>
+        <translation>Sie wird zu sehr von der Seite gesehen.</translation>
+    </message>
+    <message>
+        <source>With Polygon beside the lasso, click the corners of what is to become upright one by one.</source>
+        <translation>Klicken Sie mit „Vieleck“ neben dem Lasso die Ecken dessen an, was gerade werden soll, eine nach der anderen.</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>The file is too large for a small image of it.</source>
@@ -2096,6 +2115,30 @@
         <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
         <translation>Wo der Zeiger ruht, was ein Klick des Zauberstabs nimmt; und warum er ein Pixel ausließ</translation>
     </message>
+    <message>
+        <source>Free Corners</source>
+        <translation>Freie Ecken</translation>
+    </message>
+    <message>
+        <source>The handles at the corners of what floats pull their corner alone: perspective</source>
+        <translation>Die Griffe an den Ecken des Schwebenden ziehen nur ihre Ecke: Perspektive</translation>
+    </message>
+    <message>
+        <source>Straighten Corners</source>
+        <translation>Ecken ausrichten</translation>
+    </message>
+    <message>
+        <source>What a selection of four corners holds becomes upright, as if seen from straight ahead</source>
+        <translation>Was eine Auswahl mit vier Ecken enthält, wird gerade, wie von vorn gesehen</translation>
+    </message>
+    <message>
+        <source>Put Corners Back</source>
+        <translation>Ecken zurücksetzen</translation>
+    </message>
+    <message>
+        <source>The corners of what floats go back to where they were before they were pulled</source>
+        <translation>Die Ecken des Schwebenden kehren dorthin zurück, wo sie vor dem Ziehen waren</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -3116,12 +3159,20 @@
         <translation>Nächste Ecke anklicken · Eingabetaste schließt die Form, Escape gibt sie auf</translation>
     </message>
     <message>
-        <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
-        <translation>Ziehen verschiebt · die Griffe skalieren und drehen, %1: Schritte von 15° · Eingabetaste verankert, Escape hebt auf</translation>
-    </message>
-    <message>
         <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
         <translation>Ruhen: was ein Klick nimmt · nach rechts ziehen: mehr Toleranz, links: weniger · %1 fügt hinzu, %2 zieht ab</translation>
+    </message>
+    <message>
+        <source>Drag a corner&apos;s handle: it goes alone, %1: along a side, %2: all scale · Return anchors, Escape drops</source>
+        <translation>Griff einer Ecke ziehen: nur sie geht mit, %1: entlang einer Seite, %2: alles skalieren · Eingabetaste verankert, Escape hebt auf</translation>
+    </message>
+    <message>
+        <source>Drag to move · the handles scale and turn, %1: steps of 15°, %2: one corner alone · Return anchors, Escape drops</source>
+        <translation>Ziehen verschiebt · die Griffe skalieren und drehen, %1: Schritte von 15°, %2: eine Ecke allein · Eingabetaste verankert, Escape hebt auf</translation>
+    </message>
+    <message>
+        <source>in perspective</source>
+        <translation>in Perspektive</translation>
     </message>
 </context>
 <context>

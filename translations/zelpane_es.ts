@@ -580,6 +580,25 @@
     </message>
 </context>
 <context>
+    <name>Corners</name>
+    <message>
+        <source>The selection does not have four corners.</source>
+        <translation>La selección no tiene cuatro esquinas.</translation>
+    </message>
+    <message>
+        <source>The selection could not be made upright.</source>
+        <translation>No se pudo enderezar la selección.</translation>
+    </message>
+    <message>
+        <source>It is seen from too far aside.</source>
+        <translation>Se ve demasiado de lado.</translation>
+    </message>
+    <message>
+        <source>With Polygon beside the lasso, click the corners of what is to become upright one by one.</source>
+        <translation>Con «Polígono» junto al lazo, haga clic una a una en las esquinas de lo que debe quedar recto.</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>The file is too large for a small image of it.</source>
@@ -2096,6 +2115,30 @@
         <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
         <translation>Donde el puntero descansa, lo que toma un clic de la varita mágica; y por qué dejó fuera un píxel</translation>
     </message>
+    <message>
+        <source>Free Corners</source>
+        <translation>Esquinas libres</translation>
+    </message>
+    <message>
+        <source>The handles at the corners of what floats pull their corner alone: perspective</source>
+        <translation>Los tiradores de las esquinas de lo flotante mueven solo su esquina: perspectiva</translation>
+    </message>
+    <message>
+        <source>Straighten Corners</source>
+        <translation>Enderezar esquinas</translation>
+    </message>
+    <message>
+        <source>What a selection of four corners holds becomes upright, as if seen from straight ahead</source>
+        <translation>Lo que contiene una selección de cuatro esquinas queda recto, como visto de frente</translation>
+    </message>
+    <message>
+        <source>Put Corners Back</source>
+        <translation>Devolver las esquinas</translation>
+    </message>
+    <message>
+        <source>The corners of what floats go back to where they were before they were pulled</source>
+        <translation>Las esquinas de lo flotante vuelven a donde estaban antes de moverlas</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -3116,12 +3159,20 @@
         <translation>Pulse la esquina siguiente · Intro cierra la forma, Escape la abandona</translation>
     </message>
     <message>
-        <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
-        <translation>Arrastrar mueve · los tiradores escalan y giran, %1: pasos de 15° · Intro ancla, Escape descarta</translation>
-    </message>
-    <message>
         <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
         <translation>Descansar: lo que toma un clic · arrastrar a la derecha: más tolerancia, izquierda: menos · %1 suma, %2 resta</translation>
+    </message>
+    <message>
+        <source>Drag a corner&apos;s handle: it goes alone, %1: along a side, %2: all scale · Return anchors, Escape drops</source>
+        <translation>Arrastrar el tirador de una esquina: va sola, %1: por un lado, %2: escalar todo · Intro ancla, Escape descarta</translation>
+    </message>
+    <message>
+        <source>Drag to move · the handles scale and turn, %1: steps of 15°, %2: one corner alone · Return anchors, Escape drops</source>
+        <translation>Arrastrar mueve · los tiradores escalan y giran, %1: pasos de 15°, %2: una esquina sola · Intro ancla, Escape descarta</translation>
+    </message>
+    <message>
+        <source>in perspective</source>
+        <translation>en perspectiva</translation>
     </message>
 </context>
 <context>

@@ -580,6 +580,25 @@
     </message>
 </context>
 <context>
+    <name>Corners</name>
+    <message>
+        <source>The selection does not have four corners.</source>
+        <translation>La sélection n’a pas quatre coins.</translation>
+    </message>
+    <message>
+        <source>The selection could not be made upright.</source>
+        <translation>La sélection n’a pas pu être redressée.</translation>
+    </message>
+    <message>
+        <source>It is seen from too far aside.</source>
+        <translation>Elle est vue de trop loin de côté.</translation>
+    </message>
+    <message>
+        <source>With Polygon beside the lasso, click the corners of what is to become upright one by one.</source>
+        <translation>Avec «&#xa0;Polygone&#xa0;» à côté du lasso, cliquez un à un les coins de ce qui doit devenir droit.</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>The file is too large for a small image of it.</source>
@@ -2096,6 +2115,30 @@
         <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
         <translation>Là où le pointeur s’arrête, ce que prend un clic de la baguette magique ; et pourquoi elle a laissé un pixel</translation>
     </message>
+    <message>
+        <source>Free Corners</source>
+        <translation>Coins libres</translation>
+    </message>
+    <message>
+        <source>The handles at the corners of what floats pull their corner alone: perspective</source>
+        <translation>Les poignées aux coins de ce qui flotte ne tirent que leur coin&#xa0;: perspective</translation>
+    </message>
+    <message>
+        <source>Straighten Corners</source>
+        <translation>Redresser les coins</translation>
+    </message>
+    <message>
+        <source>What a selection of four corners holds becomes upright, as if seen from straight ahead</source>
+        <translation>Ce que contient une sélection à quatre coins devient droit, comme vu de face</translation>
+    </message>
+    <message>
+        <source>Put Corners Back</source>
+        <translation>Remettre les coins</translation>
+    </message>
+    <message>
+        <source>The corners of what floats go back to where they were before they were pulled</source>
+        <translation>Les coins de ce qui flotte reviennent là où ils étaient avant d’être tirés</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -3116,12 +3159,20 @@
         <translation>Cliquez le coin suivant · Entrée ferme la forme, Échap l’abandonne</translation>
     </message>
     <message>
-        <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
-        <translation>Glisser déplace · les poignées mettent à l’échelle et tournent, %1&#xa0;: par 15° · Entrée ancre, Échap abandonne</translation>
-    </message>
-    <message>
         <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
         <translation>Arrêt : ce que prend un clic · glisser à droite : plus de tolérance, à gauche : moins · %1 ajoute, %2 soustrait</translation>
+    </message>
+    <message>
+        <source>Drag a corner&apos;s handle: it goes alone, %1: along a side, %2: all scale · Return anchors, Escape drops</source>
+        <translation>Tirer la poignée d’un coin&#xa0;: il va seul, %1&#xa0;: le long d’un côté, %2&#xa0;: tout à l’échelle · Entrée ancre, Échap abandonne</translation>
+    </message>
+    <message>
+        <source>Drag to move · the handles scale and turn, %1: steps of 15°, %2: one corner alone · Return anchors, Escape drops</source>
+        <translation>Glisser déplace · les poignées mettent à l’échelle et tournent, %1&#xa0;: par 15°, %2&#xa0;: un coin seul · Entrée ancre, Échap abandonne</translation>
+    </message>
+    <message>
+        <source>in perspective</source>
+        <translation>en perspective</translation>
     </message>
 </context>
 <context>

@@ -571,6 +571,25 @@
     </message>
 </context>
 <context>
+    <name>Corners</name>
+    <message>
+        <source>The selection does not have four corners.</source>
+        <translation>選択範囲に四つの角がありません。</translation>
+    </message>
+    <message>
+        <source>The selection could not be made upright.</source>
+        <translation>選択範囲をまっすぐにできませんでした。</translation>
+    </message>
+    <message>
+        <source>It is seen from too far aside.</source>
+        <translation>横から見すぎています。</translation>
+    </message>
+    <message>
+        <source>With Polygon beside the lasso, click the corners of what is to become upright one by one.</source>
+        <translation>なげなわの横の「多角形」で、まっすぐにするものの角を一つずつクリックしてください。</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>The file is too large for a small image of it.</source>
@@ -2086,6 +2105,30 @@
         <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
         <translation>ポインターを止めた場所で自動選択が選ぶ範囲と、選ばれなかったピクセルの理由を示します</translation>
     </message>
+    <message>
+        <source>Free Corners</source>
+        <translation>自由な角</translation>
+    </message>
+    <message>
+        <source>The handles at the corners of what floats pull their corner alone: perspective</source>
+        <translation>浮動部分の角のハンドルがその角だけを動かします（遠近）</translation>
+    </message>
+    <message>
+        <source>Straighten Corners</source>
+        <translation>角をまっすぐに</translation>
+    </message>
+    <message>
+        <source>What a selection of four corners holds becomes upright, as if seen from straight ahead</source>
+        <translation>四つの角を持つ選択範囲の中身が、正面から見たようにまっすぐになります</translation>
+    </message>
+    <message>
+        <source>Put Corners Back</source>
+        <translation>角を元に戻す</translation>
+    </message>
+    <message>
+        <source>The corners of what floats go back to where they were before they were pulled</source>
+        <translation>浮動部分の角が、動かす前の場所に戻ります</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -3106,12 +3149,20 @@
         <translation>次の角をクリック · Return で形を閉じ、Escape で中止</translation>
     </message>
     <message>
-        <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
-        <translation>ドラッグで移動 · ハンドルで拡大縮小と回転、%1: 15° 刻み · Return で固定、Escape で破棄</translation>
-    </message>
-    <message>
         <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
         <translation>止める: クリックで選ばれる範囲 · 右へドラッグ: 許容値を増やす、左: 減らす · %1 で追加、%2 で減算</translation>
+    </message>
+    <message>
+        <source>Drag a corner&apos;s handle: it goes alone, %1: along a side, %2: all scale · Return anchors, Escape drops</source>
+        <translation>角のハンドルをドラッグ：その角だけ動く、%1: 辺に沿って、%2: 全体を拡大縮小 · Return で固定、Escape で破棄</translation>
+    </message>
+    <message>
+        <source>Drag to move · the handles scale and turn, %1: steps of 15°, %2: one corner alone · Return anchors, Escape drops</source>
+        <translation>ドラッグで移動 · ハンドルで拡大縮小と回転、%1: 15° 刻み、%2: 一つの角だけ · Return で固定、Escape で破棄</translation>
+    </message>
+    <message>
+        <source>in perspective</source>
+        <translation>遠近あり</translation>
     </message>
 </context>
 <context>

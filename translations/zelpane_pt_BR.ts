@@ -580,6 +580,25 @@
     </message>
 </context>
 <context>
+    <name>Corners</name>
+    <message>
+        <source>The selection does not have four corners.</source>
+        <translation>A seleção não tem quatro cantos.</translation>
+    </message>
+    <message>
+        <source>The selection could not be made upright.</source>
+        <translation>Não foi possível endireitar a seleção.</translation>
+    </message>
+    <message>
+        <source>It is seen from too far aside.</source>
+        <translation>Ela é vista muito de lado.</translation>
+    </message>
+    <message>
+        <source>With Polygon beside the lasso, click the corners of what is to become upright one by one.</source>
+        <translation>Com “Polígono” ao lado do laço, clique um a um nos cantos do que deve ficar reto.</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>The file is too large for a small image of it.</source>
@@ -2096,6 +2115,30 @@
         <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
         <translation>Onde o ponteiro repousa, o que um clique da varinha mágica pega; e por que deixou um pixel de fora</translation>
     </message>
+    <message>
+        <source>Free Corners</source>
+        <translation>Cantos livres</translation>
+    </message>
+    <message>
+        <source>The handles at the corners of what floats pull their corner alone: perspective</source>
+        <translation>As alças nos cantos do que flutua puxam só o seu canto: perspectiva</translation>
+    </message>
+    <message>
+        <source>Straighten Corners</source>
+        <translation>Endireitar cantos</translation>
+    </message>
+    <message>
+        <source>What a selection of four corners holds becomes upright, as if seen from straight ahead</source>
+        <translation>O que uma seleção de quatro cantos contém fica reto, como visto de frente</translation>
+    </message>
+    <message>
+        <source>Put Corners Back</source>
+        <translation>Repor os cantos</translation>
+    </message>
+    <message>
+        <source>The corners of what floats go back to where they were before they were pulled</source>
+        <translation>Os cantos do que flutua voltam para onde estavam antes de serem puxados</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -3116,12 +3159,20 @@
         <translation>Clique no próximo canto · Enter fecha a forma, Escape desiste dela</translation>
     </message>
     <message>
-        <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
-        <translation>Arrastar move · as alças redimensionam e giram, %1: passos de 15° · Enter ancora, Escape descarta</translation>
-    </message>
-    <message>
         <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
         <translation>Repousar: o que um clique pega · arrastar à direita: mais tolerância, à esquerda: menos · %1 soma, %2 subtrai</translation>
+    </message>
+    <message>
+        <source>Drag a corner&apos;s handle: it goes alone, %1: along a side, %2: all scale · Return anchors, Escape drops</source>
+        <translation>Arrastar a alça de um canto: ele vai sozinho, %1: ao longo de um lado, %2: redimensiona tudo · Enter ancora, Escape descarta</translation>
+    </message>
+    <message>
+        <source>Drag to move · the handles scale and turn, %1: steps of 15°, %2: one corner alone · Return anchors, Escape drops</source>
+        <translation>Arrastar move · as alças redimensionam e giram, %1: passos de 15°, %2: um canto sozinho · Enter ancora, Escape descarta</translation>
+    </message>
+    <message>
+        <source>in perspective</source>
+        <translation>em perspectiva</translation>
     </message>
 </context>
 <context>

@@ -571,6 +571,25 @@
     </message>
 </context>
 <context>
+    <name>Corners</name>
+    <message>
+        <source>The selection does not have four corners.</source>
+        <translation>选区没有四个角。</translation>
+    </message>
+    <message>
+        <source>The selection could not be made upright.</source>
+        <translation>无法把选区变正。</translation>
+    </message>
+    <message>
+        <source>It is seen from too far aside.</source>
+        <translation>观看角度太斜。</translation>
+    </message>
+    <message>
+        <source>With Polygon beside the lasso, click the corners of what is to become upright one by one.</source>
+        <translation>用套索旁的“多边形”逐个点击要变正之物的四角。</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>The file is too large for a small image of it.</source>
@@ -2086,6 +2105,30 @@
         <source>Where the pointer rests, what a click of the magic wand takes; and why it left a pixel out</source>
         <translation>指针停留之处显示魔棒单击会选取的内容，以及某个像素为何未被选取</translation>
     </message>
+    <message>
+        <source>Free Corners</source>
+        <translation>自由角点</translation>
+    </message>
+    <message>
+        <source>The handles at the corners of what floats pull their corner alone: perspective</source>
+        <translation>浮动部分四角的控制柄只移动各自的角：透视</translation>
+    </message>
+    <message>
+        <source>Straighten Corners</source>
+        <translation>拉直四角</translation>
+    </message>
+    <message>
+        <source>What a selection of four corners holds becomes upright, as if seen from straight ahead</source>
+        <translation>四角选区内的内容变正，如同从正面看</translation>
+    </message>
+    <message>
+        <source>Put Corners Back</source>
+        <translation>复位四角</translation>
+    </message>
+    <message>
+        <source>The corners of what floats go back to where they were before they were pulled</source>
+        <translation>浮动部分的四角回到移动前的位置</translation>
+    </message>
 </context>
 <context>
     <name>Name</name>
@@ -3106,12 +3149,20 @@
         <translation>单击下一个角 · 回车闭合形状，Esc 放弃</translation>
     </message>
     <message>
-        <source>Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops</source>
-        <translation>拖动可移动 · 控制柄可缩放和旋转，%1：每次 15° · 回车固定，Esc 放弃</translation>
-    </message>
-    <message>
         <source>Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts</source>
         <translation>停留：单击会选取的内容 · 向右拖动：增大容差，向左：减小 · %1 添加，%2 减去</translation>
+    </message>
+    <message>
+        <source>Drag a corner&apos;s handle: it goes alone, %1: along a side, %2: all scale · Return anchors, Escape drops</source>
+        <translation>拖动角的控制柄：只移动该角，%1：沿一边，%2：整体缩放 · 回车固定，Escape 放弃</translation>
+    </message>
+    <message>
+        <source>Drag to move · the handles scale and turn, %1: steps of 15°, %2: one corner alone · Return anchors, Escape drops</source>
+        <translation>拖动可移动 · 控制柄可缩放和旋转，%1：每次 15°，%2：单独一角 · 回车固定，Escape 放弃</translation>
+    </message>
+    <message>
+        <source>in perspective</source>
+        <translation>透视</translation>
     </message>
 </context>
 <context>

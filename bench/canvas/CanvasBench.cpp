@@ -136,6 +136,27 @@ BENCHMARK(BM_DragFloatingSixMegapixels)
     ->UseRealTime()
     ->Iterations(40);
 
+/// A corner of the whole picture, floating, pulled a few pixels further.
+void BM_PullCorner(benchmark::State& state)
+{
+    Document& document = view().document;
+    view().canvas->setZoom(float(state.range(0)) / 1000);
+    document.perform(kSetUp, [](Edit& edit) {
+        edit.selection().select(BezierPath::withRect(edit.picture().bounds()));
+        edit.selection().lift(edit.picture());
+    });
+    double pull = 40;
+    const auto step = [&] {
+        document.perform("transform_corners:", {{pull, pull / 2, -100, 50, 0, 0, 0, -30}, {}});
+        QApplication::processEvents();
+        pull = pull > 400 ? 40 : pull + 7;
+    };
+    step(); // the smaller copies are made once
+    for (auto _ : state) step();
+    document.perform(kSetUp, [](Edit& edit) { edit.selection().drop(); });
+}
+BENCHMARK(BM_PullCorner)->Arg(125)->Arg(250)->Arg(1000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(40);
+
 const std::vector<std::uint8_t>& jpegBytes()
 {
     static const std::vector<std::uint8_t> bytes = [] {

@@ -2,12 +2,14 @@
 /// Coverage, blending and image drawing beside AGG and OpenCV on pictures of 24 megapixels.
 #include "base/BitmapRep.h"
 #include "drawing/BitmapContext.h"
+#include "drawing/ImageLevels.h"
 #include "support/OpenCvPeer.h"
 #include <agg_pixfmt_gray.h>
 #include <agg_pixfmt_rgba.h>
 #include <agg_rasterizer_scanline_aa.h>
 #include <agg_renderer_scanline.h>
 #include <agg_scanline_u.h>
+#include <array>
 #include <benchmark/benchmark.h>
 #include <cstring>
 #include <numbers>
@@ -201,6 +203,51 @@ void BM_TurnOpenCv(benchmark::State& state)
     perPixel(state, std::int64_t{kWidth} * kHeight);
 }
 
+/// Where the corners of the whole picture are pulled to, as when a wall is photographed from below.
+const std::array<CurvePoint, 4> kPulled{CurvePoint{400, 150}, {5700, 0}, {6000, 4000}, {0, 3900}};
+
+void BM_Perspective(benchmark::State& state)
+{
+    const auto canvas = photo(kWidth, kHeight, false), image = photo(kWidth, kHeight, false);
+    BitmapContext context(canvas->view());
+    const ImageLevels levels(image);
+    const auto map = ProjectiveTransform::ofRect(image->view().box().rect(), kPulled);
+    for (auto _ : state) context.drawLevels(levels, *map);
+    perPixel(state, std::int64_t{kWidth} * kHeight);
+}
+void BM_PerspectiveOpenCv(benchmark::State& state)
+{
+    const auto canvas = photo(kWidth, kHeight, false), image = photo(kWidth, kHeight, false);
+    const cv::Mat to = matOf(*canvas), from = matOf(*image);
+    std::array<cv::Point2f, 4> own{cv::Point2f{0, 0}, {kWidth, 0}, {kWidth, kHeight}, {0, kHeight}}, pulled;
+    for (std::size_t i = 0; i < 4; ++i) pulled[i] = {float(kPulled[i].x), float(kPulled[i].y)};
+    const cv::Mat map = cv::getPerspectiveTransform(own.data(), pulled.data());
+    for (auto _ : state) cv::warpPerspective(from, to, map, to.size(), cv::INTER_CUBIC);
+    perPixel(state, std::int64_t{kWidth} * kHeight);
+}
+
+void BM_Levels(benchmark::State& state)
+{
+    const auto image = photo(kWidth, kHeight, false);
+    for (auto _ : state) benchmark::DoNotOptimize(ImageLevels(image).count());
+    perPixel(state, std::int64_t{kWidth} * kHeight);
+}
+void BM_LevelsOpenCv(benchmark::State& state)
+{
+    const auto image = photo(kWidth, kHeight, false);
+    std::vector<cv::Mat> levels;
+    for (auto _ : state) {
+        levels.assign(1, matOf(*image));
+        while (levels.back().rows > 1 && levels.back().cols > 1) {
+            cv::Mat half;
+            cv::resize(levels.back(), half, {(levels.back().cols + 1) / 2, (levels.back().rows + 1) / 2}, 0, 0,
+                       cv::INTER_AREA);
+            levels.push_back(half);
+        }
+    }
+    perPixel(state, std::int64_t{kWidth} * kHeight);
+}
+
 void BM_Reduce(benchmark::State& state)
 {
     const int width = int(state.range(0)), height = width * 2 / 3;
@@ -245,6 +292,10 @@ BENCHMARK(BM_DrawImageThroughOval)->DenseRange(0, 2)->Unit(benchmark::kMilliseco
 BENCHMARK(BM_DrawImageAgg)->DenseRange(0, 2)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_Turn)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_TurnOpenCv)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_Perspective)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_PerspectiveOpenCv)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_Levels)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_LevelsOpenCv)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_Reduce)->Arg(1600)->Arg(3000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_ReduceOpenCv)->Arg(1600)->Arg(3000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_Enlarge)->Unit(benchmark::kMillisecond)->UseRealTime();

@@ -13,6 +13,7 @@
 #include "document/Selection.h"
 #include "document/View.h"
 #include "operations/Files.h"
+#include "selection/FloatingImage.h"
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDrag>
@@ -170,8 +171,14 @@ QString StatusLine::hint() const
     if (mDocument.gesture().polygonIsOpen())
         return tr("Click the next corner · Return closes the shape, Escape gives it up");
     if (selection.floating() && row.actions.moves)
-        return tr("Drag to move · the handles scale and turn, %1: steps of 15° · Return anchors, Escape drops")
-            .arg(keyNameOf(kShiftKey));
+        return mDocument.view().freesCorners()
+                   ? tr("Drag a corner's handle: it goes alone, %1: along a side, %2: all scale · Return anchors, "
+                        "Escape "
+                        "drops")
+                         .arg(keyNameOf(kShiftKey), keyNameOf(kControlKey))
+                   : tr("Drag to move · the handles scale and turn, %1: steps of 15°, %2: one corner alone · Return "
+                        "anchors, Escape drops")
+                         .arg(keyNameOf(kShiftKey), keyNameOf(kControlKey));
     if (row.options & options::Explain && mDocument.view().explainsWand())
         return tr("Rest: what a click takes · drag right: more tolerance, left: less · %1 adds, %2 subtracts")
             .arg(keyNameOf(kShiftKey), keyNameOf(kOptionKey));
@@ -201,6 +208,7 @@ QString StatusLine::selectionInWords() const
     if (selection.floating() && record.rotate != 0)
         words +=
             QString(" · %1°").arg(double(record.rotate), 0, 'f', record.rotate == std::round(record.rotate) ? 0 : 1);
+    if (selection.floating() && hasPulledCorners(record)) words += " · " + tr("in perspective");
     return words;
 }
 

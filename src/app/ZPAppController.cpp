@@ -105,6 +105,7 @@ ZPAppController::ZPAppController()
     mMenu->setState("removeBrush:", [this] { return mDocument->gesture().removes(); });
     mMenu->setState("pixelGrid:", [this] { return mDocument->view().hasGrid(); });
     mMenu->setState("explainWand:", [this] { return mDocument->view().explainsWand(); });
+    mMenu->setState("freeCorners:", [this] { return mDocument->view().freesCorners(); });
     mMenu->setState("keyboardPointer:", [this] { return mCanvas->hasKeyboardPointer(); });
     const auto showKeys = [this] {
         mWindow->showKeys([this](const QString& action) { return mMenu->keyNameOf(action); },
@@ -592,6 +593,11 @@ void ZPAppController::buildShell()
     mShell["removeBrush:"] = [this] { mDocument->setRemoving(!mDocument->gesture().removes()); };
     mShell["pixelGrid:"] = [this] { mDocument->setGrid(!mDocument->view().hasGrid()); };
     mShell["explainWand:"] = [this] { mDocument->setExplainsWand(!mDocument->view().explainsWand()); };
+    mShell["freeCorners:"] = [this] {
+        mDocument->setFreesCorners(!mDocument->view().freesCorners());
+        // There are handles only on what floats.
+        if (mDocument->view().freesCorners() && !mDocument->selection().isNil()) mDocument->perform("transform");
+    };
     mShell["keyboardPointer:"] = [this] { mCanvas->setKeyboardPointer(!mCanvas->hasKeyboardPointer()); };
     mShell["largerBrush:"] = [this] { mDocument->stepBrushSize(1); };
     mShell["smallerBrush:"] = [this] { mDocument->stepBrushSize(-1); };

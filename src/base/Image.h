@@ -52,12 +52,12 @@ public:
         std::erase_if(mRepresentations, [](const ImageRepresentation& r) { return r.filtered; });
     }
     /// What is drawn: the first filtered representation when there are two or more, else the first. Null when empty.
-    BitmapRep* drawn() const
+    std::shared_ptr<BitmapRep> drawn() const
     {
         if (mRepresentations.size() >= 2)
             for (const ImageRepresentation& r : mRepresentations)
-                if (r.filtered) return r.bitmap.get();
-        return mRepresentations.empty() ? nullptr : mRepresentations[0].bitmap.get();
+                if (r.filtered) return r.bitmap;
+        return mRepresentations.empty() ? nullptr : mRepresentations[0].bitmap;
     }
 
 private:

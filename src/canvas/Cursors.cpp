@@ -113,6 +113,7 @@ const QCursor& kept(int which, qreal ratio)
 QCursor handleCursor(const Selection& selection, FloatHandle handle, qreal ratio)
 {
     if (handle == FloatHandle::Turn) return kept(kToolCount, ratio);
+    if (handle >= FloatHandle::PullTopLeft) return Qt::SizeAllCursor;
     // Arrows along the line from the piece's middle, of which four directions can be had.
     constexpr std::array<Qt::CursorShape, 4> kArrows{Qt::SizeHorCursor, Qt::SizeFDiagCursor, Qt::SizeVerCursor,
                                                      Qt::SizeBDiagCursor};

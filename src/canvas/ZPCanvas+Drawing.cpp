@@ -16,12 +16,14 @@
 #include "document/View.h"
 #include "drawing/AntsPainter.h"
 #include "drawing/ScreenRenderer.h"
+#include "drawing/ScreenRows.h"
 #include "operations/Files.h"
 #include <QElapsedTimer>
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
+#include <cstring>
 #include <mutex>
 
 using namespace zp;
@@ -33,6 +35,8 @@ namespace
 constexpr int kOutlineMargin = 3;
 /// The ants around what floats are so much longer than around what is only selected, and march so much faster.
 constexpr double kFloatingAnts = 2;
+/// Device pixels an image pixel, from which on down what floats is drawn for the screen alone.
+constexpr double kReduced = 0.5;
 
 /// Image coordinates to the canvas's device pixels.
 AffineTransform toDevicePixels(double deviceScale)
@@ -162,22 +166,52 @@ PixelBox ZPCanvas::overlayBox() const
     return box;
 }
 
+bool ZPCanvas::makeScratch(PixelBox box)
+{
+    std::shared_ptr<BitmapRep>& scratch = mDrawing->scratch;
+    if (!scratch || scratch->pixelsWide() < box.width() || scratch->pixelsHigh() < box.height())
+        scratch = BitmapRep::createUninitialized(box.width(), box.height());
+    return scratch != nullptr;
+}
+
+bool ZPCanvas::showsPieceAlone() const
+{
+    const View& view = mDocument.view();
+    return mDocument.selection().floating() && !mDocument.selection().isNil() && !view.isChequered() &&
+           !view.preview() && !view.compared() && !(row().preview && mDocument.gesture().actions());
+}
+
+bool ZPCanvas::drawPieceReduced(const ScreenTarget& target, PixelBox part, double deviceScale)
+{
+    if (!makeScratch(part)) return false;
+    BitmapView piece = mDrawing->scratch->view();
+    piece.width = part.width(), piece.height = part.height();
+    for (int y = 0; y < piece.height; ++y) std::memset(piece.rowData(y), 0, std::size_t(piece.width) * 4);
+    logPiece();
+    drawFloatingPieceReduced(mDocument, piece, part.x0, part.y0, deviceScale);
+    for (int y = 0; y < piece.height; ++y)
+        layOnScreen(piece.row(y),
+                    target.pixels + target.stride * (part.y0 - target.box.y0 + y) + (part.x0 - target.box.x0),
+                    piece.width);
+    return true;
+}
+
+void ZPCanvas::logPiece() const
+{
+    mDocument.selection().floating()->logDrawing(mDocument.selection().isTransforming() ? " 2" : " 1");
+}
+
 bool ZPCanvas::composeOverlays(PixelBox box)
 {
     // Overlays that change pixels are drawn over a copy of the picture's part, by the very operations that will write
     // them into the picture: what is seen is what comes.
-    if (box.isEmpty()) return false;
-    std::shared_ptr<BitmapRep>& scratch = mDrawing->scratch;
-    if (!scratch || scratch->pixelsWide() < box.width() || scratch->pixelsHigh() < box.height()) {
-        scratch = BitmapRep::createUninitialized(box.width(), box.height());
-        if (!scratch) return false;
-    }
-    BitmapView copy = scratch->view();
+    if (box.isEmpty() || !makeScratch(box)) return false;
+    BitmapView copy = mDrawing->scratch->view();
     copy.width = box.width(), copy.height = box.height();
     copyPixels(mDocument.picture().pixels().part(box), copy);
     if (row().preview && mDocument.gesture().actions()) row().preview(mDocument, copy, box.x0, box.y0);
-    if (const Floating* floating = mDocument.selection().floating()) {
-        floating->logDrawing(mDocument.selection().isTransforming() ? " 2" : " 1");
+    if (mDocument.selection().floating()) {
+        logPiece();
         drawFloatingPiece(mDocument, copy, box.x0, box.y0);
     }
     // Over what floats: the result is written when that has become part of the picture.
@@ -205,6 +239,8 @@ void ZPCanvas::drawOverlays(const ScreenTarget& target, double deviceScale)
     const PixelBox part{first(overlay.x0, box.x0), first(overlay.y0, box.y0), last(overlay.x1, box.x1),
                         last(overlay.y1, box.y1)};
     if (part.isEmpty()) return;
+    // A piece of many times the screen's pixels would be drawn in all of them to be averaged at once.
+    if (deviceScale <= kReduced && showsPieceAlone() && drawPieceReduced(target, part, deviceScale)) return;
     const auto under = [deviceScale](int edge, double margin) { return int(std::floor(edge / deviceScale + margin)); };
     const PixelBox pixels =
         PixelBox{under(part.x0, -1), under(part.y0, -1), under(part.x1, 2), under(part.y1, 2)}.intersected(

@@ -123,7 +123,11 @@ private:
 
     zp::PixelBox overlayBox() const; ///< image pixels that the stroke being drawn and the floating image may cover
     bool composeOverlays(zp::PixelBox box); ///< the picture's part with those drawn over it, into the scratch bitmap
-    const zp::ScreenColours* colours();     ///< null where the picture's are the screen's
+    bool makeScratch(zp::PixelBox box);     ///< at least that large
+    bool showsPieceAlone() const;           ///< of all that changes pixels
+    void logPiece() const;
+    bool drawPieceReduced(const zp::ScreenTarget& target, zp::PixelBox part, double deviceScale);
+    const zp::ScreenColours* colours(); ///< null where the picture's are the screen's
     void showThroughProfile(const zp::ScreenTarget& target, double deviceScale);
     void drawOverlays(const zp::ScreenTarget& target, double deviceScale);
     void drawSplit(QPainter& painter, const QRect& deviceRect, QPoint origin, double deviceScale) const;

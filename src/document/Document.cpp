@@ -224,6 +224,12 @@ void Document::setExplainsWand(bool on)
     emit changed();
 }
 
+void Document::setFreesCorners(bool on)
+{
+    mView.setFreesCorners(on);
+    emit changed();
+}
+
 bool Document::compareWith(std::shared_ptr<const BitmapRep> before)
 {
     if (before && (before->pixelsWide() != mPicture.width() || before->pixelsHigh() != mPicture.height())) before = {};

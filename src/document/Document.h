@@ -137,6 +137,8 @@ public:
     void setChequered(bool on);
     void setGrid(bool on);
     void setExplainsWand(bool on);
+    /// The corner handles of what floats pull their corner alone.
+    void setFreesCorners(bool on);
     /// Shows pixels over the picture that are no part of it, or none (null), until another bitmap becomes the picture.
     void showPreview(std::shared_ptr<const Preview> preview);
     /// Shows an earlier state of the picture left of the pointer, or none (null), until another bitmap becomes the

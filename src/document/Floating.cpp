@@ -35,6 +35,7 @@ Floating::Adjusting Floating::adjust(const _ZPFilters& filters, bool atOnce)
     mAdjustFilters = filters;
     mSliderRest.stop();
     mFilteredTiles = {};
+    mLevels.reset();
     mFilterSettings = filterSettings(filters);
     // Always from the lifted pixels, never from what an earlier change made of them.
     if (!mLifted) mLifted = mSelectionImage->representations().front().bitmap;
@@ -65,6 +66,7 @@ void Floating::compute(PixelBox box)
 {
     if (!box.isEmpty()) applyFilters(std::as_const(*mLifted).view(), mFiltered->view(), mFilterSettings, box);
     mFilteredTiles.markDone(box);
+    mLevels.reset();
 }
 
 void Floating::computeNext()
@@ -85,6 +87,7 @@ void Floating::finishAdjustment()
 void Floating::prepareAdjustment(const _ZPTransform& record, PixelBox box)
 {
     if (mFilteredTiles.isComplete()) return;
+    if (hasPulledCorners(record)) return finishAdjustment(); // drawn from its smaller copies, which need all of it
     // From the picture's pixels to the piece's own, and as far around as drawing them smoothly reaches.
     AffineTransform placement = floatingPlacement(record);
     const Point corner = mSelectionImage->pixelOrigin();
@@ -99,7 +102,18 @@ void Floating::prepareAdjustment(const _ZPTransform& record, PixelBox box)
 
 void Floating::draw(BitmapContext& context, const _ZPTransform& record, float opacity) const
 {
-    drawFloating(context, *mSelectionImage, record, opacity);
+    drawFloating(context, *mSelectionImage, record, opacity, hasPulledCorners(record) ? &levels() : nullptr);
+}
+
+void Floating::drawReduced(BitmapContext& context, const _ZPTransform& record, float opacity) const
+{
+    drawFloatingReduced(context, *mSelectionImage, record, opacity, levels());
+}
+
+const ImageLevels& Floating::levels() const
+{
+    if (!mLevels) mLevels = std::make_unique<const ImageLevels>(mSelectionImage->drawn());
+    return *mLevels;
 }
 
 void Floating::logDrawing(const char* mark) const

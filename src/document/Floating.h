@@ -3,6 +3,7 @@
 #pragma once
 #include "base/Image.h"
 #include "drawing/BitmapContext.h"
+#include "drawing/ImageLevels.h"
 #include "imageops/Adjustment.h"
 #include "imageops/TileLedger.h"
 #include "selection/TransformRecord.h"
@@ -44,10 +45,14 @@ public:
 
     /// Draws the piece by its record; the caller has set the clips.
     void draw(BitmapContext& context, const _ZPTransform& record, float opacity) const;
+    /// The same onto a picture of the screen, of which the context's transform makes the piece a half of its size or
+    /// less: from smaller copies of it, which the first drawing after a change of its pixels makes.
+    void drawReduced(BitmapContext& context, const _ZPTransform& record, float opacity) const;
     /// Says in the log what a piece of several representations is drawn from, with @p mark behind the words.
     void logDrawing(const char* mark) const;
 
 private:
+    const ImageLevels& levels() const;
     void compute(PixelBox box);
     void computeNext();
 
@@ -58,6 +63,7 @@ private:
     FilterSettings mFilterSettings;
     TileLedger mFilteredTiles;
     QTimer mSliderRest;
+    mutable std::unique_ptr<const ImageLevels> mLevels; ///< of what is drawn, once they were needed
 };
 
 } // namespace zp

@@ -16,6 +16,8 @@ namespace
 
 constexpr std::chrono::milliseconds kAntsStep{200};
 constexpr float kPhaseStep = 2.5f, kPhases = 10;
+/// Pixels by which a pulled corner counts as in its place.
+constexpr float kNoPull = 1.0f / 1024;
 
 } // namespace
 
@@ -39,6 +41,7 @@ void Selection::endFloating()
 {
     mFloating.reset();
     mPasteIntoSelectionPath.reset();
+    mUnpulled.reset();
     mTransform = false;
     mTransformMode = -1;
 }
@@ -265,6 +268,63 @@ void Selection::transform(float scale, float rotate)
     outlineChanged();
 }
 
+BezierPath Selection::outlineBeforePulling() const
+{
+    if (!mUnpulled) return *mSelectionPath;
+    BezierPath outline = mUnpulled->outline;
+    const auto isThere = [this](const _ZPTransform& r) {
+        return r.position == mTransformRecord.position && r.scale == mTransformRecord.scale &&
+               r.rotate == mTransformRecord.rotate;
+    };
+    if (isThere(mUnpulled->record)) return outline;
+    AffineTransform moved = floatingPlacement(mTransformRecord);
+    moved.prepend(floatingPlacement(mUnpulled->record).inverted());
+    outline.transform(moved);
+    return outline;
+}
+
+bool Selection::pullCorners(const std::array<Point, 4>& pulls)
+{
+    if (!mFloating || !mSelectionPath) return false;
+    _ZPTransform pulled = mTransformRecord;
+    for (std::size_t i = 0; i < 4; ++i)
+        pulled.corners[i] = std::abs(pulls[i].x) < kNoPull && std::abs(pulls[i].y) < kNoPull ? Point{} : pulls[i];
+    const auto placement = pulledPlacement(pulled);
+    bool ok = false;
+    const AffineTransform back = floatingPlacement(mTransformRecord).inverted(&ok);
+    if (!placement || !ok) return false;
+    if (pulled.corners != mTransformRecord.corners) mFloating->markChanged();
+    BezierPath outline = outlineBeforePulling();
+    if (!hasPulledCorners(pulled)) {
+        mUnpulled.reset();
+        mSelectionPath = std::move(outline);
+    } else {
+        if (!mUnpulled) mUnpulled = std::make_shared<const Unpulled>(Unpulled{outline, mTransformRecord});
+        mSelectionPath = placement->after(ProjectiveTransform(back)).apply(outline);
+    }
+    mTransformRecord.corners = pulled.corners;
+    outlineChanged();
+    return true;
+}
+
+bool Selection::straightenCorners()
+{
+    if (!mFloating || !hasFourCorners()) return false;
+    const auto pulls = straighteningPulls(mTransformRecord, ownCorners());
+    return pulls && pullCorners(*pulls);
+}
+
+bool Selection::hasFourCorners() const
+{
+    return mSelectionPath && fourCorners(mUnpulled ? mUnpulled->outline : *mSelectionPath);
+}
+
+FloatQuad Selection::ownCorners() const
+{
+    return mUnpulled ? zp::ownCorners(mUnpulled->record, mUnpulled->outline)
+                     : zp::ownCorners(mTransformRecord, *mSelectionPath);
+}
+
 void Selection::anchor(BitmapView pixels, float opacity)
 {
     if (!mFloating || !mSelectionPath) return;
@@ -318,6 +378,7 @@ struct Selection::Memento {
     std::shared_ptr<Floating> floating;
     bool floatingChanged;
     _ZPTransform record;
+    std::shared_ptr<const Unpulled> unpulled;
     bool marched;
 };
 
@@ -325,7 +386,7 @@ std::shared_ptr<Selection::Memento> Selection::remember() const
 {
     return std::make_shared<Memento>(Memento{mSelectionPath, mAuxSelectionPath, mPasteIntoSelectionPath, mParkedFor,
                                              mFloating, mFloating && mFloating->isChanged(), mTransformRecord,
-                                             antsMarch()});
+                                             mUnpulled, antsMarch()});
 }
 
 void Selection::bringBack(const Memento& memento)
@@ -337,6 +398,7 @@ void Selection::bringBack(const Memento& memento)
     mFloating = memento.floating;
     if (mFloating && !memento.floatingChanged) mFloating->markUnchanged();
     mTransformRecord = memento.record;
+    mUnpulled = memento.unpulled;
     mTransformMode = -1; // a handle that was held is let go
     outlineChanged();
     memento.marched ? marchAnts() : restAnts();

@@ -5,8 +5,10 @@
 #include "base/BezierPath.h"
 #include "document/Floating.h"
 #include "document/SelectionMask.h"
+#include "selection/FloatingImage.h"
 #include "selection/TransformRecord.h"
 #include <QTimer>
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -115,6 +117,17 @@ public:
     void place(std::shared_ptr<Image> image, Rect box, bool into);
     /// New scale and rotation about the record's position, outline included.
     void transform(float scale, float rotate);
+    /// The corners of the floating piece are pulled to @p pulls (see _ZPTransform), the outline with them; all zero
+    /// gives back the very outline it had before. @return false, and nothing changes, when nothing floats or the
+    /// corners are not those of a convex shape that can be looked at
+    bool pullCorners(const std::array<Point, 4>& pulls);
+    /// Whether the outline, as it was before corners were pulled, has four straight sides.
+    bool hasFourCorners() const;
+    /// The corners of the floating piece that its handles take, in its own coordinates, before any was pulled.
+    FloatQuad ownCorners() const;
+    /// The corners of the piece are pulled so that its outline, of four straight sides, becomes an upright rectangle.
+    /// @return false, and nothing changes, when the outline has not four corners or lies too slanted
+    bool straightenCorners();
     void setTransforming(bool on) { mTransform = on; }
     void setTransformMode(int handle) { mTransformMode = handle; } ///< the one that is dragged; -1 for none
     /// Draws the floating piece into @p pixels, clipped as the screen shows it; then nothing floats, the outline stays.
@@ -141,6 +154,7 @@ private:
     void outlineChanged();
     void rememberDropped();
     void endFloating();
+    BezierPath outlineBeforePulling() const;
 
     std::optional<BezierPath> mSelectionPath, mAuxSelectionPath, mPasteIntoSelectionPath;
     std::optional<BezierPath> mDroppedPath;
@@ -149,7 +163,14 @@ private:
     SelectionMask mMaskOfOutline;
     std::shared_ptr<Floating> mFloating;
     _ZPTransform mTransformRecord; ///< stays as it was when nothing floats any more
-    bool mTransform = false;       ///< the piece is being scaled or turned by hand
+    /// What the outline was, and where its piece, when the first corner was pulled: each pull begins there again, so
+    /// that nothing adds up.
+    struct Unpulled {
+        BezierPath outline;
+        _ZPTransform record;
+    };
+    std::shared_ptr<const Unpulled> mUnpulled;
+    bool mTransform = false; ///< the piece is being scaled or turned by hand
     std::int32_t mTransformMode = -1;
     float mSelectionPhase = 0;
     std::unique_ptr<QTimer> mSelectionTimer;

@@ -54,6 +54,8 @@ public:
     bool hasGrid() const { return mGrid; }
     /// The wand shows what it would take, follows a drag with its tolerance, and says why a pixel is out.
     bool explainsWand() const { return mExplainsWand; }
+    /// The corner handles of what floats pull their corner alone instead of scaling the whole.
+    bool freesCorners() const { return mFreesCorners; }
     /// What is shown over the picture for a window to ask "like this?"; null for nothing.
     const std::shared_ptr<const Preview>& preview() const { return mPreview; }
 
@@ -66,6 +68,7 @@ public:
     void setChequered(bool on) { mChequered = on; }
     void setGrid(bool on) { mGrid = on; }
     void setExplainsWand(bool on) { mExplainsWand = on; }
+    void setFreesCorners(bool on) { mFreesCorners = on; }
     void setPreview(std::shared_ptr<const Preview> preview) { mPreview = std::move(preview); }
     void setZoom(float factor) { mZoom = factor, mFit = Fit::No; }
     void setFit(Fit fit) { mFit = fit; }
@@ -91,6 +94,7 @@ private:
     bool m2xRetina = false;
     Point mPointer;
     bool mPointerInside = false, mOnScreen = false, mChequered = false, mGrid = false, mExplainsWand = false;
+    bool mFreesCorners = false;
     const char* mInfoWithoutSelection = "";
     std::shared_ptr<const Preview> mPreview;
     std::shared_ptr<const BitmapRep> mCompared;

@@ -6,6 +6,7 @@
 #include "drawing/CoverageStroke.h"
 #include "drawing/ImageDrawingBlend.h"
 #include "drawing/ImageDrawingSampler.h"
+#include "drawing/PerspectiveSampler.h"
 #include <array>
 #include <climits>
 
@@ -124,6 +125,28 @@ private:
     CompositingOperation mOperation;
     unsigned mOpacity;
     std::vector<std::uint32_t> mRoom;
+};
+
+/// Paint taken from an image in perspective.
+class PerspectiveSink final : public CoverageSink
+{
+public:
+    PerspectiveSink(BitmapView pixels, const PerspectiveSampler& sampler, unsigned opacity)
+        : mPixels(pixels), mSampler(sampler), mOpacity(opacity)
+    {
+    }
+    void solid(int y, int x0, int x1) override { partial(y, x0, x1, nullptr); }
+    void partial(int y, int x0, int x1, const std::uint8_t* cover) override
+    {
+        blendRun({mPixels.row(y) + x0, mSampler.generate(y, x0, x1, mRoom), 0, cover, x1 - x0},
+                 CompositingOperation::SourceOver, mOpacity);
+    }
+
+private:
+    BitmapView mPixels;
+    const PerspectiveSampler& mSampler;
+    unsigned mOpacity;
+    PerspectiveSampler::Room mRoom;
 };
 } // namespace
 
@@ -294,6 +317,22 @@ void BitmapContext::drawImageAt(ConstBitmapView image, Point origin, Compositing
     if (image.isEmpty()) return;
     const Size size{float(image.width), float(image.height)};
     drawImage(image, {origin, size}, {{0, 0}, size}, operation, fraction);
+}
+
+void BitmapContext::drawLevels(const ImageLevels& levels, const ProjectiveTransform& placement, float fraction)
+{
+    const Clip& clip = d->state.clip;
+    if (clip.box.isEmpty() || !isFinite(d->state.transform)) return;
+    const auto fromTarget = ProjectiveTransform(d->state.transform).after(placement).inverted();
+    if (!fromTarget) return;
+    const PerspectiveSampler sampler(levels, *fromTarget);
+    const unsigned opacity = opacityByte(fraction);
+    const PixelBox box = clip.box;
+    parallelBands(box.height(), kPixelsPerBand / 4 / box.width() + 1, [&](int first, int last) {
+        PerspectiveSink paint(d->pixels, sampler, opacity);
+        ClipSink clipped(clip, paint);
+        for (int y = box.y0 + first; y < box.y0 + last; ++y) clipped.solid(y, box.x0, box.x1);
+    });
 }
 
 } // namespace zp

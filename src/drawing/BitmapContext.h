@@ -5,10 +5,13 @@
 #include "base/BezierPath.h"
 #include "base/BitmapView.h"
 #include "base/Color.h"
+#include "base/ProjectiveTransform.h"
 #include <memory>
 
 namespace zp
 {
+
+class ImageLevels;
 
 /// How drawn pixels meet the ones that are there. Source-in keeps the source where the destination has alpha.
 enum class CompositingOperation : int { Clear = 0, Copy = 1, SourceOver = 2, SourceIn = 3 };
@@ -68,6 +71,10 @@ public:
     /// The whole of @p image at @p origin, unscaled.
     void drawImageAt(ConstBitmapView image, Point origin,
                      CompositingOperation operation = CompositingOperation::SourceOver, float fraction = 1);
+    /// Draws the image source-over as @p placement, from the pixels of level 0, and then the current transform place
+    /// it. It goes on beyond its borders: the clip alone makes its edge. Reduced, it is taken from the smaller levels,
+    /// so that the cost is that of the pixels drawn. A placement that flattens the image draws nothing.
+    void drawLevels(const ImageLevels& levels, const ProjectiveTransform& placement, float fraction = 1);
 
 private:
     struct State;

@@ -58,6 +58,14 @@ Operation floatSelection, anchorSelection, anchorOrFloatSelection;
 Operation transform;
 /// Scale, rotation in degrees; -1, -1 is neutral.
 Operation transform_set;
+/// The corners of what floats, upper left, upper right, lower right, lower left: for each how far it is pulled to the
+/// right and down from where it was when the piece began to float, in the piece's own pixels. Refused when nothing
+/// floats, and where the shape would fold over.
+Operation transform_corners;
+/// Floats the selection if nothing floats and makes its outline, of four corners, an upright rectangle.
+Operation straightenCorners;
+/// No corner is pulled any more.
+Operation resetCorners;
 /// Before the adjust dialog opens.
 Operation adjust;
 /// Hue, saturation, brightness, contrast, sharpness.

@@ -88,5 +88,8 @@ std::shared_ptr<const BitmapRep> copyAsShown(const Document& document);
 std::shared_ptr<const BitmapRep> selectedPicture(const Document& document);
 /// Draws the floating piece into @p pixels, whose corner is the picture's pixel (x, y), as anchoring would.
 void drawFloatingPiece(const Document& document, BitmapView pixels, int x, int y);
+/// The same for a picture of the screen: @p pixels are the device pixels from (x, y) on, @p scale of them an image
+/// pixel and at most a half. Costs the device pixels.
+void drawFloatingPieceReduced(const Document& document, BitmapView pixels, int x, int y, double scale);
 
 } // namespace zp

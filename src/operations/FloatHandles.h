@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Scaling and turning the floating piece by hand: where its handles lie, and what dragging one does.
+/// Scaling, turning and pulling the floating piece by hand: where its handles lie, and what dragging one does.
 #pragma once
 #include "document/Tool.h"
 #include <optional>
@@ -10,8 +10,20 @@ namespace zp
 class Document;
 class Selection;
 
-/// The corners in the order of the piece's own box, and the one that turns it, above its upper edge.
-enum class FloatHandle : std::int32_t { None = -1, TopLeft, TopRight, BottomRight, BottomLeft, Turn };
+/// The corners in the order of the piece's own box, and the one that turns it, above its upper edge; then the corners
+/// again, while one is pulled by itself.
+enum class FloatHandle : std::int32_t {
+    None = -1,
+    TopLeft,
+    TopRight,
+    BottomRight,
+    BottomLeft,
+    Turn,
+    PullTopLeft,
+    PullTopRight,
+    PullBottomRight,
+    PullBottomLeft,
+};
 inline constexpr int kFloatHandles = 5;
 
 /// Screen points: the side of a handle, and what lies between it and the piece.
@@ -26,7 +38,9 @@ Point floatHandleCenter(const Selection& selection, float zoom, FloatHandle hand
 /// The handle at that image point; None between them and when nothing floats.
 FloatHandle floatHandleAt(const Selection& selection, float zoom, Point point);
 /// The gesture of the handle at its press: what the Transform dialog does by number, about the piece's centre, within
-/// the dialog's limits. Shift keeps angles to whole steps of 15 degrees. Leaves no step: nothing is painted.
+/// the dialog's limits. Shift keeps angles to whole steps of 15 degrees. With free corners, or with Control held where
+/// they are not free (and the other way round), a corner is pulled by itself, with Shift along one of the piece's sides
+/// only; it stays where the shape would fold over. Leaves no step: nothing is painted.
 const ToolActions& floatHandleActions();
 
 } // namespace zp

@@ -252,7 +252,7 @@ void SessionScript::begin(const Command& command, const Arguments* arguments)
 void SessionScript::performed(const Command& command, const Arguments* arguments)
 {
     if (command.begins) return begin(command, arguments);
-    keepTurn(false); // it has ended the gesture
+    keepGrip(Grip::None); // it has ended the gesture
     const std::string_view action = command.action;
     if (action == "placeText") {
         // The press opened the editor; a script needs neither it nor its font.
@@ -281,11 +281,17 @@ void SessionScript::performed(const Command& command, const Arguments* arguments
     again ? replaceLast(line) : add(line);
 }
 
-void SessionScript::keepTurn(bool another)
+void SessionScript::keepGrip(Grip another)
 {
     const _ZPTransform& record = mDocument.selection().record();
-    if (mTurned) add(lineOf({"send transform_set:", scriptNumber(record.scale), scriptNumber(record.rotate)}));
-    mTurned = another;
+    if (mGrip == Grip::Pulls) {
+        std::string line = "send transform_corners:";
+        for (const Point p : record.corners) line += ' ' + scriptNumber(p.x) + ' ' + scriptNumber(p.y);
+        add(line);
+    } else if (mGrip == Grip::Scales) {
+        add(lineOf({"send transform_set:", scriptNumber(record.scale), scriptNumber(record.rotate)}));
+    }
+    mGrip = another;
 }
 
 void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions)
@@ -308,12 +314,15 @@ void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions
         mGesture = mLines.size();
         mDragging = true;
         mGripped = actions == &floatHandleActions();
-        mTurned = false;
+        mGrip = Grip::None;
         return mGripped ? void() : add(pointLine("press", point));
     case Hand::Drag:
     case Hand::Move:
         if (!mDragging && what == Hand::Drag) return;
-        if (mGripped) return keepTurn(true);
+        if (mGripped)
+            return keepGrip(FloatHandle(mDocument.selection().transformMode()) >= FloatHandle::PullTopLeft
+                                ? Grip::Pulls
+                                : Grip::Scales);
         // Drags of the wand that move nothing: what tolerance came of them is written down at the end.
         if (what == Hand::Drag && mDocument.gesture().tool() == Tool::Wand && !mDocument.gesture().isMoving()) return;
         settlePressure();
@@ -334,7 +343,7 @@ void SessionScript::handMoved(Hand what, Point point, const ToolActions* actions
             mKnown.tolerance = press->setting;
             pressWithTolerance(press->setting);
         }
-        return mGripped ? keepTurn(false) : add(pointLine("release", point));
+        return mGripped ? keepGrip(Grip::None) : add(pointLine("release", point));
     case Hand::TakenBack: // and what it was to be done with
         return forgetPress();
     }

@@ -68,7 +68,9 @@ private:
     void settlePressure(); ///< as hard as the pen does
     void hold(std::uint32_t keys);
     /// What the last position of a handle made, now that it was acted on. @param another  whether one follows
-    void keepTurn(bool another);
+    /// What the handle that is held does.
+    enum class Grip { None, Scales, Pulls };
+    void keepGrip(Grip another);
     void add(const std::string& line);
     void replaceLast(const std::string& line);
     void pressWithTolerance(int setting); ///< the last press was done with that one, it turned out
@@ -90,7 +92,7 @@ private:
     std::size_t mGesture = 0;        ///< where the last gesture's lines begin
     bool mDragging = false;          ///< between a press and its release
     bool mGripped = false;           ///< by a handle of what floats: they lie where the zoom puts them
-    bool mTurned = false;            ///< a position of that handle is not written down yet
+    Grip mGrip = Grip::None;         ///< a position of that handle is not written down yet
     bool mTextPlaced = false;        ///< the last press was the text tool's, and its line is the outline
     bool mStroke = false;            ///< the last gesture was the brush's, and may still be painted
     bool mFloats = false;            ///< something did when the last command or gesture had ended

@@ -8,6 +8,7 @@
 #include "operations/FloatHandles.h"
 #include "selection/FloatingImage.h"
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -38,13 +39,38 @@ float angleOf(Point p, Point centre)
 /// The same turn between -180 and 180.
 float wrapped(float degrees) { return degrees - 360 * std::round(degrees / 360); }
 
+Point scaled(Point p, float by) { return {p.x * by, p.y * by}; }
+Point between(Point a, Point b) { return {(a.x + b.x) / 2, (a.y + b.y) / 2}; }
+Point unit(Point p)
+{
+    const float length = std::hypot(p.x, p.y);
+    return length > 0 ? scaled(p, 1 / length) : Point{};
+}
+
 void pressHandle(Edit& edit, Point point)
 {
     const FloatHandle handle = floatHandleAt(edit.selection(), edit.view().effectiveZoom(), point);
     if (handle == FloatHandle::None) return edit.gesture().refuse();
+    const bool pulls =
+        handle != FloatHandle::Turn && edit.view().freesCorners() != ((currentKeyModifiers() & kControlKey) != 0);
     edit.gesture().startMoving(point);
     edit.gesture().setGrip(point, edit.selection().record());
-    edit.selection().setTransformMode(int(handle));
+    edit.selection().setTransformMode(int(handle) + (pulls ? int(FloatHandle::PullTopLeft) : 0));
+}
+
+/// The pulls when that corner goes on by the way from @p from to @p to, in image coordinates. Nothing where it cannot.
+std::optional<std::array<Point, 4>> pulledBy(const _ZPTransform& start, const FloatQuad& own, std::size_t corner,
+                                             Point from, Point to)
+{
+    AffineTransform straight;
+    straight.rotateByDegrees(double(start.rotate));
+    straight.scale(double(start.scale), double(start.scale));
+    Point way = straight.inverted().apply(to - from);
+    if (currentKeyModifiers() & kShiftKey) (std::abs(way.x) < std::abs(way.y) ? way.x : way.y) = 0;
+    auto there = pulledQuad(start, own);
+    if (!there) return std::nullopt;
+    (*there)[corner].x += double(way.x), (*there)[corner].y += double(way.y);
+    return pullsThatBring(start, own, *there);
 }
 
 void dragHandle(Edit& edit, Point point)
@@ -53,6 +79,12 @@ void dragHandle(Edit& edit, Point point)
     if (!selection.floating()) return;
     const _ZPTransform& start = edit.gesture().gripRecord();
     const Point from = edit.gesture().gripPoint(), centre = selection.record().position;
+    edit.redraw(selection.bounds().inset(-2));
+    if (const int pulled = selection.transformMode() - int(FloatHandle::PullTopLeft); pulled >= 0) {
+        if (const auto pulls = pulledBy(start, selection.ownCorners(), std::size_t(pulled), from, point))
+            selection.pullCorners(*pulls);
+        return edit.redraw(selection.bounds().inset(-2));
+    }
     float scale = selection.record().scale, rotate = selection.record().rotate;
     if (FloatHandle(selection.transformMode()) == FloatHandle::Turn) {
         rotate = wrapped(start.rotate + angleOf(point, centre) - angleOf(from, centre));
@@ -61,7 +93,6 @@ void dragHandle(Edit& edit, Point point)
         const float ratio = distance(point, centre) / std::max(kLeastDistance, distance(from, centre));
         scale = std::copysign(std::clamp(std::abs(start.scale) * ratio, kSmallestScale, kLargestScale), start.scale);
     }
-    edit.redraw(selection.bounds().inset(-2));
     selection.transform(scale, rotate);
     edit.redraw(selection.bounds().inset(-2));
 }
@@ -79,27 +110,23 @@ bool showsFloatHandles(const Document& document, const ToolActions& tool)
 
 Point floatHandleCenter(const Selection& selection, float zoom, FloatHandle handle)
 {
-    const _ZPTransform& record = selection.record();
-    const Size size = selection.floating()->size();
-    // In the piece's own coordinates, whose unit is a pixel of it.
-    const float point = 1 / (zoom * std::max(kSmallestScale, std::abs(record.scale)));
-    const float out = (kHandleSide / 2 + kHandleGap) * point, x = size.width / 2 + out, y = size.height / 2 + out;
-    const auto place = [&record](float px, float py) { return floatingPlacement(record).apply(Point{px, py}); };
-    switch (handle) {
-    case FloatHandle::TopLeft:
-        return place(-x, -y);
-    case FloatHandle::TopRight:
-        return place(x, -y);
-    case FloatHandle::BottomRight:
-        return place(x, y);
-    case FloatHandle::BottomLeft:
-        return place(-x, y);
-    case FloatHandle::Turn:
-        return place(0, -y - kTurnDistance * point);
-    case FloatHandle::None:
-        break;
+    const FloatQuad own = selection.ownCorners();
+    const std::array<Point, 4> corners =
+        placedQuad(selection.record(), pulledQuad(selection.record(), own).value_or(own));
+    const float out = (kHandleSide / 2 + kHandleGap) / zoom;
+    if (handle == FloatHandle::Turn) {
+        // Straight up from the middle of the upper side, away from the lower one.
+        const Point side = unit(corners[1] - corners[0]), middle = between(corners[0], corners[1]);
+        const Point down = between(corners[2], corners[3]) - middle;
+        const Point across{-side.y, side.x};
+        const float up = across.x * down.x + across.y * down.y > 0 ? -1.0f : 1.0f;
+        return middle + scaled(across, up * (out + kTurnDistance / zoom));
     }
-    return record.position;
+    // Outwards in the middle between the two sides that meet there.
+    const auto i = std::size_t(handle);
+    const Point corner = corners[i];
+    const Point away = unit(corner - corners[(i + 1) % 4]) + unit(corner - corners[(i + 3) % 4]);
+    return corner + scaled(unit(away), out * std::numbers::sqrt2_v<float>);
 }
 
 FloatHandle floatHandleAt(const Selection& selection, float zoom, Point point)

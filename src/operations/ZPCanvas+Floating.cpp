@@ -2,6 +2,7 @@
 /// The floating selection: lifted, scaled and turned, adjusted, anchored.
 #include "desktop/KeyModifiers.h"
 #include "desktop/Sounds.h"
+#include "document/Gesture.h"
 #include "document/Paint.h"
 #include "document/Picture.h"
 #include "document/Selection.h"
@@ -9,6 +10,7 @@
 #include "operations/Commands.h"
 #include "operations/SelectedPixels.h"
 #include <QCoreApplication>
+#include <array>
 #include <cmath>
 #include <new>
 
@@ -17,6 +19,8 @@ namespace zp
 
 bool liftSelection(Edit& edit)
 {
+    // What floats is a shape that is done: a later click would be a corner of it.
+    if (edit.gesture().polygonIsOpen()) operations::endPolygon(edit, {});
     if (!edit.selection().lift(edit.picture())) {
         const Rect box = edit.selection().bounds();
         if (!box.isEmpty() && intersects(box, edit.picture().bounds())) throw std::bad_alloc();
@@ -70,6 +74,35 @@ void operations::transform_set(Edit& edit, const Arguments& values)
     edit.selection().transform(scale, rotate);
     edit.redraw();
 }
+
+void operations::transform_corners(Edit& edit, const Arguments& values)
+{
+    std::array<Point, 4> pulls;
+    for (std::size_t i = 0; i < 4; ++i) pulls[i] = {values.number(2 * i), values.number(2 * i + 1)};
+    edit.redraw(edit.selection().bounds().inset(-2));
+    if (!edit.selection().pullCorners(pulls)) return edit.refuse();
+    edit.redraw(edit.selection().bounds().inset(-2));
+}
+
+void operations::straightenCorners(Edit& edit, const Arguments& none)
+{
+    Selection& selection = edit.selection();
+    if (edit.gesture().polygonIsOpen()) endPolygon(edit, none);
+    if (!selection.hasFourCorners())
+        return edit.refuse(
+            QCoreApplication::translate("Corners", "The selection does not have four corners."),
+            QCoreApplication::translate(
+                "Corners",
+                "With Polygon beside the lasso, click the corners of what is to become upright one by one."));
+    if (!selection.floating()) floatSelection(edit, none);
+    edit.redraw(selection.bounds().inset(-2));
+    if (!selection.straightenCorners())
+        return edit.refuse(QCoreApplication::translate("Corners", "The selection could not be made upright."),
+                           QCoreApplication::translate("Corners", "It is seen from too far aside."));
+    edit.redraw(selection.bounds().inset(-2));
+}
+
+void operations::resetCorners(Edit& edit, const Arguments&) { transform_corners(edit, {}); }
 
 void operations::adjust(Edit& edit, const Arguments& none)
 {

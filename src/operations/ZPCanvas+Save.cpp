@@ -198,19 +198,44 @@ std::shared_ptr<const BitmapRep> copyAsShown(const Document& document)
     return shown;
 }
 
+namespace
+{
+
+/// The context's coordinates are the picture's from here on, cut to the piece's outline and to what it is pasted into.
+void clipToPiece(BitmapContext& context, const Selection& selection, const AffineTransform& toPixels)
+{
+    context.concat(toPixels);
+    context.addClip(*selection.outline());
+    if (selection.pasteInto()) context.addClip(*selection.pasteInto());
+}
+
+} // namespace
+
 void drawFloatingPiece(const Document& document, BitmapView pixels, int x, int y)
 {
     const Selection& selection = document.selection();
     Floating* floating = selection.floating();
     if (!floating || selection.isNil()) return;
     floating->prepareAdjustment(selection.record(), {x, y, x + pixels.width, y + pixels.height});
-    BitmapContext context(pixels);
     AffineTransform toPart;
     toPart.translate(-x, -y);
-    context.concat(toPart);
-    context.addClip(*selection.outline());
-    if (selection.pasteInto()) context.addClip(*selection.pasteInto());
+    BitmapContext context(pixels);
+    clipToPiece(context, selection, toPart);
     floating->draw(context, selection.record(), document.paint().opacity());
+}
+
+void drawFloatingPieceReduced(const Document& document, BitmapView pixels, int x, int y, double scale)
+{
+    const Selection& selection = document.selection();
+    Floating* floating = selection.floating();
+    if (!floating || selection.isNil()) return;
+    floating->finishAdjustment();
+    AffineTransform toDevice;
+    toDevice.translate(-x, -y);
+    toDevice.scale(scale, scale);
+    BitmapContext context(pixels);
+    clipToPiece(context, selection, toDevice);
+    floating->drawReduced(context, selection.record(), document.paint().opacity());
 }
 
 void operations::saveImage(Edit& edit, const Arguments&)

@@ -81,11 +81,10 @@ QJsonValue pathFields(const BezierPath* path)
 
 QJsonObject recordFields(const _ZPTransform& record)
 {
-    return {{"position", pair(record.position)},
-            {"scale", double(record.scale)},
-            {"rotate", double(record.rotate)},
-            {"oldPos", pair(record.oldPos)},
-            {"oldSize", pair(record.oldSize)}};
+    QJsonArray corners;
+    for (const Point pull : record.corners) corners.append(pair(pull));
+    return {{"position", pair(record.position)}, {"scale", double(record.scale)},   {"rotate", double(record.rotate)},
+            {"oldPos", pair(record.oldPos)},     {"oldSize", pair(record.oldSize)}, {"corners", corners}};
 }
 
 QJsonObject stateFields(const Document& document)
@@ -211,7 +210,7 @@ void ScriptDriver::addLookCommands()
         Floating* floating = mDocument.selection().floating();
         if (!floating) throw Failure{"nothing floats"};
         floating->finishAdjustment();
-        const BitmapRep* rep = floating->image().drawn();
+        const std::shared_ptr<const BitmapRep> rep = floating->image().drawn();
         if (!rep) throw Failure{"nothing floats"};
         return written(writeBitmap(file(w, 1), std::as_const(*rep).view()));
     });

@@ -4,7 +4,10 @@
 #include "base/WorkPool.h"
 #include "selection/SelectionRows.h"
 #include <algorithm>
+#include <cmath>
 #include <cstring>
+#include <utility>
+#include <vector>
 
 namespace zp
 {
@@ -29,6 +32,54 @@ bool touchedPixels(Rect box, WholePixels& pixels)
     pixels.x0 = std::int64_t(whole.origin.x), pixels.y0 = std::int64_t(whole.origin.y);
     pixels.x1 = pixels.x0 + std::int64_t(whole.size.width), pixels.y1 = pixels.y0 + std::int64_t(whole.size.height);
     return true;
+}
+
+/// A corner this near to the last one is the same, as when a polygon's last click meets its first; and one this near to
+/// the line between its neighbours is none. In pixels.
+constexpr float kSamePlace = 1, kOnSide = 0.5f;
+/// An outline of more is not searched for four corners again and again.
+constexpr int kFewElements = 12;
+
+/// The box that was lifted or pasted, in the piece's own coordinates.
+Rect ownBox(const _ZPTransform& record)
+{
+    return makeRect(-record.oldSize.width / 2, -record.oldSize.height / 2, record.oldSize.width, record.oldSize.height);
+}
+
+FloatQuad cornersOf(Rect box)
+{
+    const double x0 = double(box.minX()), y0 = double(box.minY()), x1 = double(box.maxX()), y1 = double(box.maxY());
+    return {CurvePoint{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}};
+}
+
+/// The corners in turn clockwise, as the screen shows them, from the one on whose right the upper side begins.
+FloatQuad fromUpperLeft(FloatQuad turn)
+{
+    double area = 0;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const CurvePoint a = turn[i], b = turn[(i + 1) % 4];
+        area += a.x * b.y - b.x * a.y;
+    }
+    if (area < 0) std::reverse(turn.begin(), turn.end());
+    const auto slope = [&turn](std::size_t i) { // 1: the side from this corner leads straight to the right
+        const CurvePoint a = turn[i], b = turn[(i + 1) % 4];
+        return (b.x - a.x) / std::max(1e-9, std::hypot(b.x - a.x, b.y - a.y));
+    };
+    std::size_t first = 0;
+    for (std::size_t i = 1; i < 4; ++i)
+        if (slope(i) > slope(first)) first = i;
+    std::rotate(turn.begin(), turn.begin() + std::ptrdiff_t(first), turn.end());
+    return turn;
+}
+
+/// From the pixels of the image to its coordinates as a piece. In double precision: a single-precision corner could be
+/// off the pixel grid.
+AffineTransform toPlace(const Image& image)
+{
+    AffineTransform place;
+    place.translate(double(image.pixelOrigin().x) - double(image.size().width) / 2,
+                    double(image.pixelOrigin().y) - double(image.size().height) / 2);
+    return place;
 }
 
 /// Copies what @p from, its corner at (x, y) of @p to, has there; the rest of @p to becomes transparent.
@@ -81,6 +132,140 @@ AffineTransform floatingStep(const _ZPTransform& record, float scale, float rota
     return step;
 }
 
+bool hasPulledCorners(const _ZPTransform& record)
+{
+    return std::any_of(record.corners.begin(), record.corners.end(), [](Point p) { return p != Point{}; });
+}
+
+std::optional<ProjectiveTransform> pulledPlacement(const _ZPTransform& record)
+{
+    const Rect box = ownBox(record);
+    std::array<CurvePoint, 4> corners = cornersOf(box);
+    for (std::size_t i = 0; i < 4; ++i) {
+        corners[i].x += double(record.corners[i].x);
+        corners[i].y += double(record.corners[i].y);
+    }
+    const auto pulled = ProjectiveTransform::ofRect(box, corners);
+    if (!pulled) return std::nullopt;
+    return ProjectiveTransform(floatingPlacement(record)).after(*pulled);
+}
+
+std::optional<FloatQuad> pulledQuad(const _ZPTransform& record, const FloatQuad& own)
+{
+    _ZPTransform unmoved = record;
+    unmoved.position = {}, unmoved.scale = 1, unmoved.rotate = 0;
+    const auto pulled = pulledPlacement(unmoved);
+    if (!pulled) return std::nullopt;
+    FloatQuad corners;
+    for (std::size_t i = 0; i < 4; ++i) {
+        if (!(pulled->divisor(own[i]) > 0)) return std::nullopt;
+        corners[i] = pulled->apply(own[i]);
+    }
+    return corners;
+}
+
+std::optional<std::array<Point, 4>> pullsThatBring(const _ZPTransform& record, const FloatQuad& own,
+                                                   const FloatQuad& to)
+{
+    const Rect unit = makeRect(0, 0, 1, 1);
+    const auto from = ProjectiveTransform::ofRect(unit, own), there = ProjectiveTransform::ofRect(unit, to);
+    const auto back = from ? from->inverted() : std::nullopt;
+    if (!back || !there) return std::nullopt;
+    const ProjectiveTransform map = there->after(*back);
+    std::array<Point, 4> pulls;
+    const FloatQuad corners = cornersOf(ownBox(record));
+    for (std::size_t i = 0; i < 4; ++i) {
+        if (!(map.divisor(corners[i]) > 0)) return std::nullopt; // this corner would be beyond the horizon
+        const CurvePoint pulled = map.apply(corners[i]);
+        pulls[i] = {float(pulled.x - corners[i].x), float(pulled.y - corners[i].y)};
+    }
+    return pulls;
+}
+
+FloatQuad ownCorners(const _ZPTransform& record, const BezierPath& outline)
+{
+    const FloatQuad box = cornersOf(ownBox(record));
+    const auto quad = outline.elementCount() <= kFewElements ? fourCorners(outline) : std::nullopt;
+    bool ok = false;
+    const AffineTransform toPiece = floatingPlacement(record).inverted(&ok);
+    if (!quad || !ok) return box;
+    FloatQuad own;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const Point p = toPiece.apply((*quad)[i]);
+        own[i] = {double(p.x), double(p.y)};
+    }
+    own = fromUpperLeft(own);
+    if (!ProjectiveTransform::ofRect(makeRect(0, 0, 1, 1), own)) return box;
+    bool isBox = true;
+    for (std::size_t i = 0; i < 4; ++i)
+        isBox = isBox && std::hypot(own[i].x - box[i].x, own[i].y - box[i].y) < double(kOnSide);
+    return isBox ? box : own;
+}
+
+std::array<Point, 4> placedQuad(const _ZPTransform& record, const FloatQuad& corners)
+{
+    std::array<Point, 4> placed;
+    for (std::size_t i = 0; i < 4; ++i)
+        placed[i] = floatingPlacement(record).apply(Point{float(corners[i].x), float(corners[i].y)});
+    return placed;
+}
+
+std::optional<std::array<Point, 4>> straighteningPulls(const _ZPTransform& record, const FloatQuad& own)
+{
+    FloatQuad from;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const Point p = placedQuad(record, own)[i];
+        from[i] = {double(p.x), double(p.y)};
+    }
+    from = fromUpperLeft(from);
+    const auto side = [&from](std::size_t a, std::size_t b) {
+        return std::hypot(from[b].x - from[a].x, from[b].y - from[a].y);
+    };
+    const double width = (side(0, 1) + side(3, 2)) / 2, height = (side(0, 3) + side(1, 2)) / 2;
+    CurvePoint middle;
+    for (const CurvePoint p : from) middle.x += p.x / 4, middle.y += p.y / 4;
+    const std::array<Point, 4> upright{Point{float(middle.x - width / 2), float(middle.y - height / 2)},
+                                       {float(middle.x + width / 2), float(middle.y - height / 2)},
+                                       {float(middle.x + width / 2), float(middle.y + height / 2)},
+                                       {float(middle.x - width / 2), float(middle.y + height / 2)}};
+    bool ok = false;
+    const AffineTransform toPiece = floatingPlacement(record).inverted(&ok);
+    if (!ok) return std::nullopt;
+    FloatQuad to;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const Point p = toPiece.apply(upright[i]), q = toPiece.apply(Point{float(from[i].x), float(from[i].y)});
+        to[i] = {double(p.x), double(p.y)};
+        from[i] = {double(q.x), double(q.y)};
+    }
+    return pullsThatBring(record, from, to);
+}
+
+std::optional<std::array<Point, 4>> fourCorners(const BezierPath& outline)
+{
+    std::vector<Point> corners;
+    bool plain = true;
+    outline.forEach([&](PathElement kind, const Point* p) {
+        if (kind == PathElement::CurveTo || (kind == PathElement::MoveTo && !corners.empty())) plain = false;
+        if (kind != PathElement::ClosePath) corners.push_back(*p);
+    });
+    if (!plain) return std::nullopt;
+    for (std::size_t i = 0; i < corners.size() && corners.size() > 2;) {
+        const std::size_t count = corners.size();
+        const Point before = corners[(i + count - 1) % count], at = corners[i], after = corners[(i + 1) % count];
+        const float length = std::hypot(after.x - before.x, after.y - before.y);
+        const float area = (after.x - before.x) * (at.y - before.y) - (after.y - before.y) * (at.x - before.x);
+        const bool repeated = std::hypot(at.x - before.x, at.y - before.y) < kSamePlace;
+        if (!repeated && std::abs(area) >= kOnSide * length) {
+            ++i;
+            continue;
+        }
+        corners.erase(corners.begin() + std::ptrdiff_t(i));
+        i = i > 0 ? i - 1 : 0;
+    }
+    if (corners.size() != 4) return std::nullopt;
+    return std::array{corners[0], corners[1], corners[2], corners[3]};
+}
+
 std::shared_ptr<Image> liftFloatingImage(ConstBitmapView image, Rect box)
 {
     WholePixels pixels;
@@ -101,21 +286,28 @@ std::shared_ptr<Image> liftFloatingImage(ConstBitmapView image, Rect box)
     return lifted;
 }
 
-void drawFloating(BitmapContext& context, const Image& image, const _ZPTransform& record, float opacity)
+void drawFloating(BitmapContext& context, const Image& image, const _ZPTransform& record, float opacity,
+                  const ImageLevels* levels)
 {
-    const BitmapRep* const rep = image.drawn();
+    const std::shared_ptr<BitmapRep> rep = image.drawn();
     if (!rep) return;
-    const ConstBitmapView pixels = rep->view();
-    const Size size = image.size();
-    // The half sizes in double precision and as part of the map: a single-precision corner could be off the pixel grid.
+    if (hasPulledCorners(record))
+        return drawFloatingReduced(context, image, record, opacity, levels ? *levels : ImageLevels(rep));
     AffineTransform placement = floatingPlacement(record);
-    placement.translate(double(image.pixelOrigin().x) - double(size.width) / 2,
-                        double(image.pixelOrigin().y) - double(size.height) / 2);
+    placement.prepend(toPlace(image));
     context.saveGraphicsState();
     context.concat(placement);
     context.setImageEdgesExtend(true);
-    context.drawImageAt(pixels, {0, 0}, CompositingOperation::SourceOver, opacity);
+    context.drawImageAt(std::as_const(*rep).view(), {0, 0}, CompositingOperation::SourceOver, opacity);
     context.restoreGraphicsState();
+}
+
+void drawFloatingReduced(BitmapContext& context, const Image& image, const _ZPTransform& record, float opacity,
+                         const ImageLevels& levels)
+{
+    const auto placement =
+        hasPulledCorners(record) ? pulledPlacement(record) : ProjectiveTransform(floatingPlacement(record));
+    if (placement) context.drawLevels(levels, placement->after(ProjectiveTransform(toPlace(image))), opacity);
 }
 
 std::shared_ptr<BitmapRep> copyOfFloating(const Image& image, const _ZPTransform& record, const BezierPath& clip,

@@ -2,6 +2,7 @@
 /// The placement of the floating selection as a plain record.
 #pragma once
 #include "base/Geometry.h"
+#include <array>
 
 /// Where the floating image is: drawn centred on position, scaled and turned about its centre.
 struct _ZPTransform {
@@ -11,4 +12,7 @@ struct _ZPTransform {
     bool flipH = false, flipV = false; ///< kept in the record; nothing sets or reads them
     zp::Point oldPos;                  ///< near corner of the selection's box when it was floated
     zp::Size oldSize;                  ///< size of that box
+    /// How far each corner of that box was pulled from its place, in the piece's own pixels, before it is scaled and
+    /// turned: upper left, upper right, lower right, lower left. All zero: it is the rectangle it was.
+    std::array<zp::Point, 4> corners{};
 };

@@ -2,6 +2,8 @@
 /// What floats is scaled and turned by its handles.
 #include "operations/FloatHandles.h"
 #include "canvas/ToolTable.h"
+#include "desktop/KeyModifiers.h"
+#include "selection/FloatingImage.h"
 #include "support/DocumentFixture.h"
 #include <cmath>
 #include <numbers>
@@ -132,6 +134,150 @@ TEST_F(FloatHandlesTest, AreThereForToolsThatMoveWhatFloats)
     for (const ToolRow& row : toolTable()) EXPECT_EQ(showsFloatHandles(*document, row.actions), row.actions.moves);
     perform("anchorSelection");
     EXPECT_FALSE(showsFloatHandles(*document, rowOf(Tool::Rectangle).actions));
+}
+
+// ---- corners by themselves
+// -------------------------------------------------------------------------------------------
+
+class FreeCornersTest : public FloatHandlesTest
+{
+protected:
+    FreeCornersTest() { document->setFreesCorners(true); }
+    ~FreeCornersTest() override { setScriptedKeyModifiers(std::nullopt); }
+    std::array<Point, 4> corners() const { return record().corners; }
+    void pullBy(FloatHandle handle, Point way) { pull(handle, center(handle) + way); }
+};
+
+TEST_F(FreeCornersTest, ADragTakesItsCornerAlong)
+{
+    pullBy(FloatHandle::TopRight, {12, -7});
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_NEAR(corners()[i].x, i == 1 ? 12 : 0, 1e-4f);
+        EXPECT_NEAR(corners()[i].y, i == 1 ? -7 : 0, 1e-4f);
+    }
+    EXPECT_EQ(record().scale, 1);
+    EXPECT_TRUE(floating()->isChanged());
+    const Rect box = outline()->bounds();
+    EXPECT_NEAR(box.maxX(), 192, 0.01f);
+    EXPECT_NEAR(box.minY(), 93, 0.01f);
+    EXPECT_EQ(selection().transformMode(), -1) << "let go";
+}
+
+TEST_F(FreeCornersTest, AreFollowedByTheirHandlesWhateverTheScaleAndTurn)
+{
+    performNumbers("transform_set:", {0.5, 90});
+    pullBy(FloatHandle::TopLeft, {10, 0});
+    const Point first = corners()[0];
+    EXPECT_NEAR(first.x, 0, 1e-3f);
+    EXPECT_NEAR(first.y, -20, 1e-3f) << "turned by 90 degrees and a half of its size";
+    const Point before = center(FloatHandle::TopLeft);
+    pullBy(FloatHandle::TopLeft, {5, 5});
+    EXPECT_NEAR(center(FloatHandle::TopLeft).x, before.x + 5, 2);
+    EXPECT_NEAR(center(FloatHandle::TopLeft).y, before.y + 5, 2);
+    for (int i = 0; i < kFloatHandles; ++i)
+        EXPECT_EQ(floatHandleAt(selection(), zoom(), center(FloatHandle(i))), FloatHandle(i));
+}
+
+TEST_F(FreeCornersTest, ControlAsksForTheOther)
+{
+    setScriptedKeyModifiers(kControlKey);
+    pull(FloatHandle::BottomRight, around(FloatHandle::BottomRight, 2, 0));
+    EXPECT_NEAR(record().scale, 2, 0.01f);
+    EXPECT_FALSE(hasPulledCorners(record()));
+    document->setFreesCorners(false);
+    pullBy(FloatHandle::BottomRight, {8, 6});
+    EXPECT_NEAR(record().scale, 2, 0.01f);
+    EXPECT_TRUE(hasPulledCorners(record()));
+}
+
+TEST_F(FreeCornersTest, ShiftKeepsToASide)
+{
+    setScriptedKeyModifiers(kShiftKey);
+    pullBy(FloatHandle::BottomLeft, {-9, 4});
+    EXPECT_NEAR(corners()[3].x, -9, 1e-4f);
+    EXPECT_NEAR(corners()[3].y, 0, 1e-4f);
+    pullBy(FloatHandle::BottomLeft, {2, 11});
+    EXPECT_NEAR(corners()[3].x, -9, 1e-4f);
+    EXPECT_NEAR(corners()[3].y, 11, 1e-4f);
+}
+
+TEST_F(FreeCornersTest, StayWhereTheShapeWouldFoldOver)
+{
+    pullBy(FloatHandle::TopLeft, {10, 10});
+    const auto before = corners();
+    const BezierPath outlineBefore = *outline();
+    pullBy(FloatHandle::TopLeft, {200, 200});
+    EXPECT_EQ(corners(), before);
+    EXPECT_TRUE(outline()->hasSameElements(outlineBefore));
+}
+
+TEST_F(FreeCornersTest, OfAnOutlineOfFourCornersAreTheOutlines)
+{
+    perform("selectNone:");
+    edit([](Edit& e) {
+        BezierPath quad;
+        quad.moveTo({100, 100}), quad.lineTo({180, 110}), quad.lineTo({170, 160}), quad.lineTo({110, 150});
+        quad.closePath();
+        e.selection().select(quad);
+    });
+    perform("straightenCorners:");
+    ASSERT_TRUE(floating());
+    const Rect box = outline()->bounds();
+    EXPECT_NEAR(center(FloatHandle::TopLeft).x, box.minX() - 7.5f, 0.1f);
+    EXPECT_NEAR(center(FloatHandle::BottomRight).y, box.maxY() + 7.5f, 0.1f);
+    EXPECT_NEAR(center(FloatHandle::Turn).x, box.center().x, 0.1f);
+    pullBy(FloatHandle::TopLeft, {-20, -5});
+    EXPECT_NEAR(outline()->bounds().minX(), box.minX() - 20, 0.1f);
+    EXPECT_NEAR(outline()->bounds().minY(), box.minY() - 5, 0.1f);
+    EXPECT_NEAR(outline()->bounds().maxX(), box.maxX(), 0.01f) << "the others stay";
+    EXPECT_NEAR(outline()->bounds().maxY(), box.maxY(), 0.01f);
+}
+
+TEST_F(FreeCornersTest, EscapeBringsThemBack)
+{
+    const BezierPath before = *outline();
+    const Point at = center(FloatHandle::TopLeft);
+    document->press(&floatHandleActions(), at);
+    document->drag({at.x + 20, at.y + 5});
+    ASSERT_TRUE(hasPulledCorners(record()));
+    document->cancelGesture();
+    EXPECT_FALSE(hasPulledCorners(record()));
+    EXPECT_TRUE(outline()->hasSameElements(before));
+}
+
+TEST_F(FreeCornersTest, PutBackGiveTheVeryOutlineAndPixelsAgain)
+{
+    const BezierPath before = *outline();
+    performNumbers("transform_corners:", {5, 5, -10, 3, 0, 0, 7, -7});
+    performNumbers("transform_corners:", {1, 2, 3, 4, 5, 6, 7, 8});
+    ASSERT_FALSE(outline()->hasSameElements(before));
+    perform("resetCorners:");
+    EXPECT_TRUE(outline()->hasSameElements(before));
+    EXPECT_FALSE(hasPulledCorners(record()));
+}
+
+TEST_F(FreeCornersTest, PulledScaledAndPutBackAreWhatScalingAloneGives)
+{
+    performNumbers("transform_corners:", {5, 5, -10, 3, 0, 0, 7, -7});
+    performNumbers("transform_set:", {1.5, 30});
+    perform("resetCorners:");
+    const Rect box = outline()->bounds();
+    performNumbers("transform_set:", {1, 0});
+    performNumbers("transform_set:", {1.5, 30});
+    EXPECT_NEAR(outline()->bounds().minX(), box.minX(), 0.01f);
+    EXPECT_NEAR(outline()->bounds().maxY(), box.maxY(), 0.01f);
+}
+
+TEST_F(FreeCornersTest, RefusalsChangeNothing)
+{
+    const std::vector<std::vector<double>> bad{{500, 500, 0, 0, 0, 0, 0, 0}, {std::nan(""), 0, 0, 0, 0, 0, 0, 0}};
+    for (const auto& pulls : bad) {
+        performNumbers("transform_corners:", pulls);
+        EXPECT_FALSE(hasPulledCorners(record()));
+    }
+    perform("anchorSelection");
+    performNumbers("transform_corners:", {5, 5, 0, 0, 0, 0, 0, 0});
+    EXPECT_EQ(floating(), nullptr) << "nothing floats";
 }
 
 } // namespace

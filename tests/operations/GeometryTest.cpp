@@ -32,7 +32,7 @@ protected:
         EXPECT_EQ(picture().gworld()->pixels.data, picture().bitmap()->bitmapData());
         EXPECT_EQ(picture().gworld()->bounds.right, width);
         EXPECT_EQ(picture().bitmapPointer(), picture().bitmap()->bitmapData());
-        EXPECT_EQ(picture().image().drawn(), picture().bitmap().get());
+        EXPECT_EQ(picture().image().drawn(), picture().bitmap());
         EXPECT_EQ(picture().bitmap()->properties.userComment, "kept");
         EXPECT_FALSE(outline());
         EXPECT_FALSE(floating());

@@ -409,3 +409,124 @@ TEST(CleanUp, ExactlyOpaqueBlackBecomesNothing)
     for (int y = 0; y < 2; ++y)
         for (int x = 0; x < 5; ++x) EXPECT_EQ(image->view().row(y)[x], after[x]);
 }
+
+// ---- pulled corners
+// --------------------------------------------------------------------------------------------------
+
+namespace
+{
+
+BezierPath polygon(std::initializer_list<Point> corners)
+{
+    BezierPath path;
+    for (const Point p : corners) path.isEmpty() ? path.moveTo(p) : path.lineTo(p);
+    path.closePath();
+    return path;
+}
+
+struct Shape {
+    const char* name;
+    BezierPath path;
+    bool hasFour;
+};
+class FourCorners : public testing::TestWithParam<Shape>
+{
+};
+TEST_P(FourCorners, AreThoseOfFourStraightSides)
+{
+    EXPECT_EQ(fourCorners(GetParam().path).has_value(), GetParam().hasFour);
+}
+INSTANTIATE_TEST_SUITE_P(
+    Shapes, FourCorners,
+    testing::Values(Shape{"rectangle", BezierPath::withRect(makeRect(1, 2, 30, 40)), true},
+                    Shape{"quadrangle", polygon({{10, 10}, {90, 20}, {80, 70}, {5, 60}}), true},
+                    Shape{"closed_by_a_click", polygon({{10, 10}, {90, 20}, {80, 70}, {5, 60}, {10, 10}}), true},
+                    Shape{"clicked_twice", polygon({{10, 10}, {90, 20}, {90, 20}, {80, 70}, {5, 60}}), true},
+                    Shape{"with_a_corner_on_a_side", polygon({{10, 10}, {50, 15.2f}, {90, 20}, {80, 70}, {5, 60}}),
+                          true},
+                    Shape{"triangle", polygon({{10, 10}, {90, 20}, {80, 70}}), false},
+                    Shape{"pentagon", polygon({{10, 10}, {50, 0}, {90, 20}, {80, 70}, {5, 60}}), false},
+                    Shape{"oval", BezierPath::withOvalInRect(makeRect(0, 0, 30, 30)), false},
+                    Shape{"nothing", {}, false}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+BezierPath outlineOf(const std::array<Point, 4>& corners)
+{
+    return polygon({corners[0], corners[1], corners[2], corners[3]});
+}
+
+TEST(OwnCorners, AreTheOutlinesWhereItHasFourAndTheBoxesElsewhere)
+{
+    const _ZPTransform record = floatingRecord(makeRect(0, 0, 100, 60));
+    const auto first = [&](const BezierPath& outline) {
+        const CurvePoint p = ownCorners(record, outline)[0];
+        return Point{float(p.x), float(p.y)};
+    };
+    EXPECT_EQ(first(BezierPath::withRect(makeRect(0, 0, 100, 60))), (Point{-50, -30}));
+    EXPECT_EQ(first(BezierPath::withOvalInRect(makeRect(0, 0, 100, 60))), (Point{-50, -30}));
+    EXPECT_EQ(first(polygon({{100, 60}, {0, 50}, {10, 0}, {90, 10}})), (Point{-40, -30}));
+    EXPECT_EQ(first(polygon({{0, 0}, {100, 0}, {20, 20}, {0, 60}})), (Point{-50, -30})) << "dented";
+}
+
+TEST(StraighteningCorners, MakeAnyQuadrangleAnUprightRectangleOfItsMeanSides)
+{
+    const std::array<Point, 4> quad{Point{20, 15}, {95, 30}, {90, 82}, {12, 70}};
+    std::array<Point, 4> turned = quad;
+    for (int round = 0; round < 8; ++round) {
+        if (round == 4) std::reverse(turned.begin(), turned.end()); // drawn the other way round
+        _ZPTransform record = floatingRecord(makeRect(12, 15, 83, 67));
+        const auto pulls = straighteningPulls(record, ownCorners(record, outlineOf(turned)));
+        ASSERT_TRUE(pulls);
+        record.corners = *pulls;
+        const auto placement = pulledPlacement(record);
+        ASSERT_TRUE(placement);
+        const auto at = [&](Point p) {
+            const Point c = record.position;
+            return placement->apply(CurvePoint{double(p.x - c.x), double(p.y - c.y)});
+        };
+        const CurvePoint a = at(quad[0]), b = at(quad[1]), c = at(quad[2]), d = at(quad[3]);
+        EXPECT_NEAR(a.y, b.y, 1e-3);
+        EXPECT_NEAR(c.y, d.y, 1e-3);
+        EXPECT_NEAR(a.x, d.x, 1e-3);
+        EXPECT_NEAR(b.x, c.x, 1e-3);
+        EXPECT_NEAR(b.x - a.x, (std::hypot(75, 15) + std::hypot(78, 12)) / 2, 1e-3);
+        EXPECT_NEAR(d.y - a.y, (std::hypot(5, 52) + std::hypot(8, 55)) / 2, 1e-3);
+        EXPECT_NEAR((a.x + c.x) / 2, (20 + 95 + 90 + 12) / 4.0, 1e-3);
+        std::rotate(turned.begin(), turned.begin() + 1, turned.end());
+    }
+}
+
+TEST(StraighteningCorners, AreRefusedForWhatCannotBeLookedAt)
+{
+    const _ZPTransform record = floatingRecord(makeRect(0, 0, 100, 100));
+    EXPECT_FALSE(straighteningPulls(record, {CurvePoint{-50, -50}, {50, -50}, {-30, -30}, {-50, 50}})) << "dented";
+    EXPECT_FALSE(straighteningPulls(record, {CurvePoint{-0.2, -50}, {0.2, -50}, {50, 50}, {-50, 50}})) << "too slanted";
+}
+
+TEST(PulledCorners, ShowAndAnchorTheSamePixels)
+{
+    const auto image = photo(120, 90);
+    const Rect box = makeRect(20, 15, 60, 50);
+    const auto lifted = liftFloatingImage(std::as_const(*image).view(), box);
+    _ZPTransform record = floatingRecord(box);
+    record.corners = {Point{5, 3}, {-8, 4}, {6, -5}, {0, 9}};
+    const auto placement = pulledPlacement(record);
+    ASSERT_TRUE(placement);
+    AffineTransform back;
+    back.translate(-double(record.position.x), -double(record.position.y));
+    const BezierPath outline = placement->after(ProjectiveTransform(back)).apply(BezierPath::withRect(box));
+    const auto whole = copyOf(*image);
+    anchor(*whole, *lifted, record, outline);
+    const auto copied = copyOfFloating(*lifted, record, outline, outline.bounds(), 1);
+    ASSERT_TRUE(copied);
+    const Rect at = integralRect(outline.bounds());
+    for (int y = 0; y < copied->pixelsHigh(); ++y)
+        for (int x = 0; x < copied->pixelsWide(); ++x) {
+            if (copied->view().pixel(x, y)[0] != 255) continue;
+            EXPECT_EQ(copied->view().row(y)[x], whole->view().row(y + int(at.origin.y))[x + int(at.origin.x)]);
+        }
+    // Far from the outline nothing has changed.
+    EXPECT_EQ(whole->view().row(2)[2], image->view().row(2)[2]);
+}
+
+} // namespace
