@@ -2,7 +2,7 @@
 /// Choices, the search behind them, and both pictures.
 #include "app/SizeSaveDialog.h"
 #include "app/TwinView.h"
-#include "desktop/MainThreadWake.h"
+#include "desktop/LatestWish.h"
 #include "desktop/Panels.h"
 #include "desktop/Settings.h"
 #include "desktop/Sounds.h"
@@ -22,12 +22,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTimer>
-#include <atomic>
-#include <condition_variable>
-#include <mutex>
 #include <optional>
-#include <system_error>
-#include <thread>
 
 using namespace zp;
 
@@ -47,96 +42,15 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(SizeSaveDialog)
 };
 
-/// Seeks one file after the other, the latest wish first; a newer one ends what is under way.
-class Seeker
-{
-public:
-    struct Wish {
-        SaveFormat format = SaveFormat::JPEG;
-        SizeGoal goal;
-    };
-
-    /// @param picture  stays as it is. @param news  on the main thread: progress or a result can be taken
-    Seeker(std::shared_ptr<const BitmapRep> picture, std::function<void()> news)
-        : mPicture(std::move(picture)), mNews(std::move(news))
-    {
-        try {
-            mWorker = std::jthread([this](const std::stop_token& end) { work(end); });
-        } catch (const std::system_error&) {
-            mFound.emplace().error = Texts::tr("There is not enough memory.").toStdString();
-            mNews.wake();
-        }
-    }
-    ~Seeker()
-    {
-        const std::lock_guard hold(mGuard); // the worker takes no wish between the two
-        mStop = true;
-        mWorker.request_stop();
-    }
-    void seek(const Wish& wish)
-    {
-        const std::lock_guard hold(mGuard);
-        mWish = wish;
-        mFound.reset();
-        mStop = true; // whatever it is at
-        mWake.notify_one();
-    }
-    int trying() const { return mTrying; }
-    /// The file of the last wish, once.
-    std::optional<SizedFile> take()
-    {
-        const std::lock_guard hold(mGuard);
-        return std::exchange(mFound, std::nullopt);
-    }
-
-private:
-    void work(const std::stop_token& end)
-    {
-        std::optional<SizeSearch> search;
-        SaveFormat of = SaveFormat::None;
-        while (true) {
-            Wish wish;
-            {
-                std::unique_lock hold(mGuard);
-                if (!mWake.wait(hold, end, [this] { return mWish.has_value(); })) return;
-                wish = *std::exchange(mWish, std::nullopt);
-                mStop = end.stop_requested();
-            }
-            SizedFile found;
-            try {
-                if (of != wish.format) search.emplace(mPicture, wish.format);
-                of = wish.format;
-                found = search->find(wish.goal, mStop, [this](int quality) {
-                    mTrying = quality;
-                    mNews.wake();
-                });
-            } catch (const std::exception&) {
-                found.error = Texts::tr("There is not enough memory.").toStdString();
-                of = SaveFormat::None;
-            }
-            const std::lock_guard hold(mGuard);
-            if (mWish || mStop) continue; // late
-            mFound = std::move(found);
-            mNews.wake();
-        }
-    }
-
-    const std::shared_ptr<const BitmapRep> mPicture;
-    MainThreadWake mNews;
-    std::mutex mGuard;
-    std::condition_variable_any mWake;
-    std::optional<Wish> mWish;
-    std::optional<SizedFile> mFound;
-    std::atomic<bool> mStop = false;
-    std::atomic<int> mTrying = 0;
-    std::jthread mWorker; // last: it ends before what it uses
-};
-
 class SizeSaveDialog : public QDialog
 {
 public:
     SizeSaveDialog(Document& document, std::shared_ptr<const BitmapRep> picture, QWidget* parent)
-        : QDialog(parent), mDocument(document), mPicture(std::move(picture)), mSeeker(mPicture, [this] { news(); })
+        : QDialog(parent),
+          mDocument(document),
+          mPicture(std::move(picture)),
+          mSeeker([this](const Wish& wish, const auto& turn) { return found(wish, turn); },
+                  [this](News news) { show(std::move(news)); })
     {
         setObjectName("SizeSave");
         setWindowTitle(Texts::tr("Save for a Size"));
@@ -177,6 +91,14 @@ public:
     }
 
 private:
+    struct Wish {
+        SaveFormat format{};
+        SizeGoal goal{};
+    };
+    struct News {
+        int trying = 0; ///< a quality, 0 when it is over
+        SizedFile file{};
+    };
     QLabel* caption(QHBoxLayout* row, const char* name)
     {
         auto* label = new QLabel(this);
@@ -252,6 +174,7 @@ private:
     }
     void forget()
     {
+        mSeeker.forget();
         mFound.reset();
         mSave->setEnabled(false);
         mKilobytes->setEnabled(mGoal.checkedId() == SizeGoal::AtMost);
@@ -263,20 +186,28 @@ private:
         mRest.stop();
         forget();
         constexpr std::size_t kKilo = 1024;
-        mSeeker.seek({kKinds[mKind->currentIndex()],
-                      {.kind = SizeGoal::Kind(mGoal.checkedId()),
-                       .bytes = std::size_t(mKilobytes->value()) * kKilo,
-                       .quality = mQuality->value()}});
+        const SizeGoal goal{.kind = SizeGoal::Kind(mGoal.checkedId()),
+                            .bytes = std::size_t(mKilobytes->value()) * kKilo,
+                            .quality = mQuality->value()};
+        if (!mSeeker.ask({format(), goal})) show({});
     }
-    /// From the search: another quality is tried, or it is over.
-    void news()
+    /// On the worker.
+    template <typename Turn>
+    News found(const Wish& wish, const Turn& turn)
     {
-        if (mRest.isActive() || mFound) return;
-        mFound = mSeeker.take();
-        if (!mFound) return mAfter->setText(Texts::tr("Trying quality %1…").arg(mSeeker.trying()));
+        if (std::exchange(mSearchOf, SaveFormat::None) != wish.format) mSearch.emplace(mPicture, wish.format);
+        mSearchOf = wish.format;
+        return {.file = mSearch->find(wish.goal, turn.late, [&](int quality) { turn.report({.trying = quality}); })};
+    }
+    void show(News news)
+    {
+        if (news.trying > 0) return mAfter->setText(Texts::tr("Trying quality %1…").arg(news.trying));
+        mFound = std::move(news.file);
         mSave->setEnabled(!mFound->bytes.empty());
         mView->setRight(mFound->shown);
-        if (mFound->bytes.empty()) return mAfter->setText(QString::fromStdString(mFound->error));
+        if (mFound->bytes.empty())
+            return mAfter->setText(mFound->error.empty() ? Texts::tr("There is not enough memory.")
+                                                         : QString::fromStdString(mFound->error));
         const auto number = [](double part) { return QLocale().toString(part, 'f', 3); };
         mAfter->setText(
             Texts::tr("After: %1 · %2").arg(formatTitle(format(), mFound->quality), sizeTitle(mFound->bytes.size())) +
@@ -301,8 +232,10 @@ private:
     QSpinBox *mKilobytes = nullptr, *mQuality = nullptr;
     QPushButton* mSave = nullptr;
     QTimer mRest;
-    std::optional<SizedFile> mFound; ///< of what is chosen now
-    Seeker mSeeker;                  // last: its news need the rest
+    std::optional<SizedFile> mFound;         ///< of what is chosen now
+    std::optional<SizeSearch> mSearch;       ///< the worker's, as is the next
+    SaveFormat mSearchOf = SaveFormat::None; ///< what it holds the picture for
+    LatestWish<Wish, News> mSeeker;          // last: it needs the rest
 };
 
 } // namespace

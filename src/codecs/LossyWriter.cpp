@@ -18,10 +18,10 @@ class JPEGTrials final : public LossyWriter
 public:
     JPEGTrials(ConstBitmapView pixels, const ImageProperties& properties) : mPixels(pixels), mProperties(properties) {}
 
-    std::vector<std::uint8_t> write(int quality, const std::atomic<bool>& stop) noexcept override
+    std::vector<std::uint8_t> write(int quality, const std::stop_token& stop) noexcept override
     {
         // A tenth of a second at 24 megapixels: nobody waits for it to be stopped.
-        if (stop) return {};
+        if (stop.stop_requested()) return {};
         return encodeJPEG(mPixels, mProperties, {.factor = quality / 100.0, .fallbackBackground = kWhite});
     }
     bool read(std::span<const std::uint8_t> file, BitmapView pixels) const noexcept override

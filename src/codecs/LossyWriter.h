@@ -3,10 +3,10 @@
 #pragma once
 #include "base/BitmapRep.h"
 #include "codecs/FileNames.h"
-#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -28,9 +28,9 @@ public:
 
     /// The whole file, the same bytes for the same picture on every machine. Transparent parts lie over white where the
     /// kind of file has none. Profile, EXIF and XMP go with it.
-    /// @param quality  kLeastQuality to kBestQuality. @param stop  may be set by another thread to end it soon
+    /// @param quality  kLeastQuality to kBestQuality. @param stop  ends it soon
     /// @return empty when it was stopped or memory ran out. Never throws.
-    virtual std::vector<std::uint8_t> write(int quality, const std::atomic<bool>& stop) noexcept = 0;
+    virtual std::vector<std::uint8_t> write(int quality, const std::stop_token& stop) noexcept = 0;
     /// What such a file shows, into pixels of its size. @return false when it is damaged or memory ran out. Never
     /// throws
     virtual bool read(std::span<const std::uint8_t> file, BitmapView pixels) const noexcept = 0;

@@ -28,7 +28,10 @@ struct Memory {
     Memory& operator=(const Memory&) = delete;
 };
 
-int goesOn(int, const WebPPicture* picture) { return !*static_cast<const std::atomic<bool>*>(picture->user_data); }
+int goesOn(int, const WebPPicture* picture)
+{
+    return !static_cast<const std::stop_token*>(picture->user_data)->stop_requested();
+}
 
 class WebPTrials final : public LossyWriter
 {
@@ -63,7 +66,7 @@ public:
     WebPTrials(const WebPTrials&) = delete;
     WebPTrials& operator=(const WebPTrials&) = delete;
 
-    std::vector<std::uint8_t> write(int quality, const std::atomic<bool>& stop) noexcept override
+    std::vector<std::uint8_t> write(int quality, const std::stop_token& stop) noexcept override
     {
         try {
             return around(coded(quality, stop));
@@ -87,17 +90,17 @@ public:
     }
 
 private:
-    std::vector<std::uint8_t> coded(int quality, const std::atomic<bool>& stop)
+    std::vector<std::uint8_t> coded(int quality, const std::stop_token& stop)
     {
         WebPConfig config;
-        if (stop || !WebPConfigPreset(&config, WEBP_PRESET_PHOTO, float(quality))) return {};
+        if (stop.stop_requested() || !WebPConfigPreset(&config, WEBP_PRESET_PHOTO, float(quality))) return {};
         config.method = kEffort;
         config.thread_level = 1;
         Memory memory;
         mPicture.writer = WebPMemoryWrite;
         mPicture.custom_ptr = &memory.writer;
         mPicture.progress_hook = goesOn;
-        mPicture.user_data = const_cast<std::atomic<bool>*>(&stop);
+        mPicture.user_data = const_cast<std::stop_token*>(&stop);
         if (!WebPEncode(&config, &mPicture)) return {};
         return {memory.writer.mem, memory.writer.mem + memory.writer.size};
     }

@@ -80,7 +80,7 @@ int largestTaken(int guess, Taken taken)
 class Search
 {
 public:
-    Search(const BitmapRep& picture, LossyWriter& writer, const SizeGoal& goal, const std::atomic<bool>& stop,
+    Search(const BitmapRep& picture, LossyWriter& writer, const SizeGoal& goal, const std::stop_token& stop,
            const std::function<void(int)>& trying)
         : mPicture(picture), mWriter(writer), mGoal(goal), mStop(stop), mTrying(trying)
     {
@@ -101,7 +101,7 @@ public:
 private:
     bool attempt(int quality)
     {
-        if (mStop || mFailed) return false;
+        if (mStop.stop_requested() || mFailed) return false;
         if (mTrying) mTrying(quality);
         Trial trial;
         trial.bytes = mWriter.write(quality, mStop);
@@ -116,7 +116,7 @@ private:
     const BitmapRep& mPicture;
     LossyWriter& mWriter;
     SizeGoal mGoal;
-    const std::atomic<bool>& mStop;
+    const std::stop_token& mStop;
     const std::function<void(int)>& mTrying;
     Trial mBest;
     bool mFailed = false;
@@ -134,7 +134,7 @@ SizeSearch::SizeSearch(std::shared_ptr<const BitmapRep> picture, SaveFormat form
     if (mSample) mSampleWriter = LossyWriter::make(format, mSample->view(), mSample->properties, ignored);
 }
 
-SizedFile SizeSearch::find(const SizeGoal& goal, const std::atomic<bool>& stop,
+SizedFile SizeSearch::find(const SizeGoal& goal, const std::stop_token& stop,
                            const std::function<void(int quality)>& trying) noexcept
 {
     SizedFile found;
@@ -153,13 +153,13 @@ SizedFile SizeSearch::find(const SizeGoal& goal, const std::atomic<bool>& stop,
         Search search(*mPicture, *mWriter, goal, stop, trying);
         int quality = search.run(guess);
         // Nothing is more alike than the best there is.
-        if (quality == 0 && goal.kind == SizeGoal::LooksSame && !search.failed() && !stop) {
+        if (quality == 0 && goal.kind == SizeGoal::LooksSame && !search.failed() && !stop.stop_requested()) {
             const SizeGoal best{.kind = SizeGoal::Quality, .quality = kBestQuality};
             Search last(*mPicture, *mWriter, best, stop, trying);
             quality = last.run(kBestQuality);
             search.best() = std::move(last.best());
         }
-        if (stop) return found;
+        if (stop.stop_requested()) return found;
         if (quality == 0) {
             found.error =
                 search.failed() ? noMemory : translated("Codecs", "Even at the lowest quality the file is larger.");

@@ -4,7 +4,6 @@
 #include "base/BitmapRep.h"
 #include "codecs/LossyWriter.h"
 #include "imageops/Likeness.h"
-#include <atomic>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -47,7 +46,7 @@ public:
     /// The same file on every machine. Any thread, one at a time. Cost at 24 megapixels: a second as JPEG, about eight
     /// as WebP. @param stop  set by another thread: ends soon, with nothing
     /// @param trying  told of each quality before it is written
-    SizedFile find(const SizeGoal& goal, const std::atomic<bool>& stop,
+    SizedFile find(const SizeGoal& goal, const std::stop_token& stop,
                    const std::function<void(int quality)>& trying = {}) noexcept;
 
 private:

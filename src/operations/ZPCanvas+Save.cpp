@@ -42,7 +42,7 @@ std::vector<std::uint8_t> encoded(ConstBitmapView pixels, const ImageProperties&
     case SaveFormat::WebP: {
         std::string error;
         const auto writer = LossyWriter::make(format, pixels, properties, error);
-        return writer ? writer->write(quality, false) : std::vector<std::uint8_t>();
+        return writer ? writer->write(quality, {}) : std::vector<std::uint8_t>();
     }
     default:
         return {};

@@ -19,7 +19,7 @@ void saveSized(Edit& edit, const std::string& path, const SizeGoal& goal)
     const SaveFormat format = formatOfExtension(pathExtension(path));
     const std::shared_ptr<const BitmapRep> shown = pictureAsShown(document);
     if (!shown) return edit.refuse();
-    const SizedFile found = SizeSearch(shown, format).find(goal, false);
+    const SizedFile found = SizeSearch(shown, format).find(goal, {});
     if (!found.bytes.empty()) {
         writeAndTell(edit, found.bytes, shown->properties, path, formatTitle(format, found.quality));
         return;

@@ -1,142 +1,101 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The worker behind the library's offers.
+/// The order of what is done behind the library's offers.
 #include "windows/LibraryHealth.h"
-#include <system_error>
 #include <utility>
 
 using namespace zp;
 
-LibraryHealth::LibraryHealth(QObject* parent) : QObject(parent), mTap([this] { take(); })
+LibraryHealth::LibraryHealth(QObject* parent)
+    : QObject(parent),
+      mWorker([this](const Task& task, const Worker::Turn& turn) { return examine(task, turn); },
+              [this](Findings findings) { take(std::move(findings)); })
 {
-    try {
-        mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
-    } catch (const std::system_error&) {
-        // no thread to be had: the list goes without offers
-    }
 }
-
-LibraryHealth::~LibraryHealth() { stop(); }
 
 void LibraryHealth::findMoved(const std::vector<std::string>& names)
 {
-    if (!mWorker.joinable()) return;
     mSearching = true;
-    {
-        const std::lock_guard hold(mGuard);
-        mWantedMoved = names;
-        mDoneMoved.reset();
-    }
-    mWake.notify_one();
+    mWaiting[Task::Search] = names;
+    next();
 }
 
 void LibraryHealth::findDuplicates(const std::vector<std::string>& names)
 {
-    if (!mWorker.joinable()) return;
     endDuplicates();
     mComparing = true;
-    {
-        const std::lock_guard hold(mGuard);
-        mWantedDuplicates = names;
-    }
-    mWake.notify_one();
+    mWaiting[Task::Compare] = names;
+    next();
 }
 
 void LibraryHealth::endDuplicates()
 {
-    const std::lock_guard hold(mGuard);
-    if (mComparing && !mWantedDuplicates && !mDoneDuplicates) mTask.request_stop();
+    if (!mWorker.isIdle() && mDoing == Task::Compare) mWorker.forget();
     mComparing = false;
     mShownProgress = {};
     mDuplicates.clear();
-    mWantedDuplicates.reset();
-    mDoneDuplicates.reset();
-    mProgress.reset();
+    mWaiting[Task::Compare].reset();
+    next();
 }
 
 void LibraryHealth::remember(const std::string& name)
 {
-    {
-        const std::lock_guard hold(mGuard);
-        mWantedMemory = name;
-    }
-    mWake.notify_one();
+    mWaiting[Task::Remember] = {name};
+    next();
 }
 
 void LibraryHealth::stop()
 {
-    endDuplicates();
-    const std::lock_guard hold(mGuard);
-    mTask.request_stop();
+    for (auto& waiting : mWaiting) waiting.reset();
+    mWorker.forget();
     mSearching = false;
-    mWantedMoved.reset();
-    mWantedMemory.reset();
-    mDoneMoved.reset();
+    endDuplicates();
 }
 
-void LibraryHealth::work(const std::stop_token& stop)
+void LibraryHealth::next()
 {
-    LibraryExaminer examiner(libraryFolder(), libraryIndexPath());
-    while (!stop.stop_requested()) {
-        std::optional<Names> moved, duplicates;
-        std::optional<std::string> memory;
-        std::stop_token task;
-        {
-            std::unique_lock hold(mGuard);
-            if (!mWake.wait(hold, stop, [this] { return mWantedMoved || mWantedMemory || mWantedDuplicates; })) return;
-            if (mWantedMoved)
-                moved = std::exchange(mWantedMoved, std::nullopt);
-            else if (mWantedMemory)
-                memory = std::exchange(mWantedMemory, std::nullopt);
-            else
-                duplicates = std::exchange(mWantedDuplicates, std::nullopt);
-            mTask = std::stop_source();
-            task = mTask.get_token();
-        }
-        if (moved) {
-            MovedPictures found = examiner.findMoved(*moved, {}, task);
-            const std::lock_guard hold(mGuard);
-            if (task.stop_requested() || mWantedMoved) continue; // given up, or to be done again
-            mDoneMoved = std::move(found);
-        } else if (memory) {
-            examiner.remember(*memory, task);
-            continue;
-        } else {
-            const auto progress = [&](int done) {
-                const std::lock_guard hold(mGuard);
-                if (!task.stop_requested()) mProgress = {done, int(duplicates->size())};
-                mTap.wake();
-            };
-            DuplicateGroups found = examiner.findDuplicates(*duplicates, task, progress);
-            const std::lock_guard hold(mGuard);
-            if (task.stop_requested()) continue;
-            mDoneDuplicates = std::move(found);
-        }
-        mTap.wake();
+    for (const auto kind : {Task::Search, Task::Remember, Task::Compare}) {
+        if (!mWorker.isIdle()) return;
+        if (!mWaiting[kind]) continue;
+        mDoing = kind;
+        if (mWorker.ask({kind, *std::exchange(mWaiting[kind], std::nullopt)})) return;
+        // no thread to be had: the list goes without offers
+        if (kind == Task::Search) mSearching = false;
+        if (kind == Task::Compare) mComparing = false;
     }
 }
 
-void LibraryHealth::take()
+LibraryHealth::Findings LibraryHealth::examine(const Task& task, const Worker::Turn& turn)
 {
-    std::optional<MovedPictures> moved;
-    std::optional<DuplicateGroups> duplicates;
-    std::optional<std::pair<int, int>> progress;
-    {
-        const std::lock_guard hold(mGuard);
-        moved = std::exchange(mDoneMoved, std::nullopt);
-        duplicates = std::exchange(mDoneDuplicates, std::nullopt);
-        progress = std::exchange(mProgress, std::nullopt);
+    if (!mExaminer) mExaminer.emplace(libraryFolder(), libraryIndexPath());
+    const auto progress = [&](int done) { turn.report({{}, {}, {done, int(task.names.size())}}); };
+    switch (task.kind) {
+    case Task::Search:
+        return {mExaminer->findMoved(task.names, {}, turn.late), {}, {}};
+    case Task::Compare:
+        return {{}, mExaminer->findDuplicates(task.names, turn.late, progress), {}};
+    case Task::Remember:
+        mExaminer->remember(task.names.front(), turn.late);
     }
-    if (moved) {
-        mMoved = std::move(*moved);
+    return {};
+}
+
+void LibraryHealth::take(Findings findings)
+{
+    if (!mWorker.isIdle()) {
+        mShownProgress = findings.progress;
+        emit progressed();
+        return;
+    }
+    const Task::Kind done = mDoing;
+    const bool again = done == Task::Search && mWaiting[Task::Search];
+    next();
+    if (done == Task::Search && !again) {
+        mMoved = std::move(findings.moved);
         mSearching = false;
         emit searched();
     }
-    if (progress && mComparing) {
-        mShownProgress = *progress;
-        emit progressed();
-    }
-    if (duplicates) {
-        mDuplicates = std::move(*duplicates);
+    if (done == Task::Compare) {
+        mDuplicates = std::move(findings.duplicates);
         mComparing = false;
         emit compared();
     }

@@ -1,23 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The library's second pair of eyes: looks for moved pictures and for duplicates while the table is used.
 #pragma once
-#include "desktop/MainThreadWake.h"
+#include "desktop/LatestWish.h"
 #include "library/LibraryExamination.h"
 #include <QObject>
-#include <condition_variable>
-#include <mutex>
-#include <thread>
 
-/// Main thread only; a worker reads the files and leaves its findings under a lock. It changes nothing but the
-/// library's index.
+/// Main thread only; a worker reads the files. It changes nothing but the library's index.
 class LibraryHealth : public QObject
 {
     Q_OBJECT
 
 public:
     explicit LibraryHealth(QObject* parent);
-    ~LibraryHealth() override;
-
     /// Searches for the pictures of broken links among these entries; searched() follows.
     void findMoved(const std::vector<std::string>& names);
     /// Compares these entries; progressed() and compared() follow.
@@ -43,23 +37,26 @@ signals:
 
 private:
     using Names = std::vector<std::string>;
-    void work(const std::stop_token& stop);
-    void take();
+    struct Task {
+        enum Kind { Search, Remember, Compare } kind{};
+        Names names;
+    };
+    struct Findings {
+        zp::MovedPictures moved;
+        zp::DuplicateGroups duplicates;
+        std::pair<int, int> progress;
+    };
+    using Worker = zp::LatestWish<Task, Findings>;
+    Findings examine(const Task& task, const Worker::Turn& turn);
+    void next();
+    void take(Findings findings);
 
     zp::MovedPictures mMoved;
     zp::DuplicateGroups mDuplicates;
     bool mSearching = false, mComparing = false;
     std::pair<int, int> mShownProgress;
-
-    std::mutex mGuard;
-    std::condition_variable_any mWake;
-    // Under mGuard: what is wanted (the search first), what was found, and how the present task is stopped.
-    std::optional<Names> mWantedMoved, mWantedDuplicates;
-    std::optional<std::string> mWantedMemory;
-    std::optional<zp::MovedPictures> mDoneMoved;
-    std::optional<zp::DuplicateGroups> mDoneDuplicates;
-    std::optional<std::pair<int, int>> mProgress;
-    std::stop_source mTask;
-    zp::MainThreadWake mTap;
-    std::jthread mWorker; ///< last: started after, and joined before, what it uses
+    std::optional<Names> mWaiting[Task::Compare + 1]; ///< what is still to be done, the first first
+    Task::Kind mDoing{};                              ///< while the worker is not idle
+    std::optional<zp::LibraryExaminer> mExaminer;     ///< the worker's
+    Worker mWorker;
 };

@@ -1,86 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The library's preview and its worker.
+/// What the library's preview asks for and how it is drawn.
 #include "windows/LibraryPreview.h"
-#include "desktop/Thumbnails.h"
 #include <QPainter>
 #include <algorithm>
-#include <system_error>
-#include <utility>
 
 using namespace zp;
 
-namespace
-{
-
-constexpr int kPollMilliseconds = 16; // a frame; looked only while a picture is on its way
-
-} // namespace
-
-LibraryPreview::LibraryPreview(QWidget* parent) : QWidget(parent)
+LibraryPreview::LibraryPreview(QWidget* parent)
+    : QWidget(parent),
+      mWorker([](const Wanted& wanted, const auto&) { return thumbnailOf(wanted.path, wanted.side); },
+              [this](const Thumbnail& made) { show(made); })
 {
     setMinimumSize(120, 120);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    mPoll.setInterval(kPollMilliseconds);
-    connect(&mPoll, &QTimer::timeout, this, &LibraryPreview::take);
-    try {
-        mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
-    } catch (const std::system_error&) {
-        // no thread to be had: the list goes without a preview
-    }
 }
-
-LibraryPreview::~LibraryPreview() = default;
 
 void LibraryPreview::showFile(const std::string& path)
 {
-    ++mRequest;
     if (path.empty()) return showText({});
     mText.clear();
     const int side = int(std::max(width(), height()) * devicePixelRatioF());
-    {
-        const std::lock_guard hold(mGuard);
-        mWanted = Wanted{path, mRequest, std::max(side, 64)};
-    }
-    mWake.notify_one();
-    mPoll.start();
+    if (!mWorker.ask({path, std::max(side, 64)})) showText({}); // no thread to be had: the list goes without
 }
 
 void LibraryPreview::showText(const QString& text)
 {
-    ++mRequest; // a picture still on its way comes too late
-    mPoll.stop();
+    mWorker.forget(); // a picture still on its way comes too late
     mPicture = {};
     mText = text;
     update();
 }
 
-void LibraryPreview::work(const std::stop_token& stop)
+void LibraryPreview::show(const Thumbnail& made)
 {
-    while (!stop.stop_requested()) {
-        Wanted wanted;
-        {
-            std::unique_lock hold(mGuard);
-            if (!mWake.wait(hold, stop, [this] { return mWanted.has_value(); })) return;
-            wanted = std::move(*mWanted);
-            mWanted.reset();
-        }
-        Thumbnail made = thumbnailOf(wanted.path, wanted.side);
-        const std::lock_guard hold(mGuard);
-        mDone = Done{wanted.request, std::move(made.image), std::move(made.error)};
-    }
-}
-
-void LibraryPreview::take()
-{
-    std::optional<Done> done;
-    {
-        const std::lock_guard hold(mGuard);
-        done = std::exchange(mDone, std::nullopt);
-    }
-    if (!done || done->request != mRequest) return; // still at work, or no longer wanted
-    mPoll.stop();
-    mPicture = done->picture;
-    mText = QString::fromStdString(done->error);
+    mPicture = made.image;
+    mText = QString::fromStdString(made.error);
     update();
 }
 

@@ -9,7 +9,6 @@
 #include <QDialog>
 #include <QScreen>
 #include <algorithm>
-#include <system_error>
 #include <utility>
 
 using namespace zp;
@@ -46,7 +45,8 @@ ProcessorPreview::ProcessorPreview(Ui::ImageProcessor& ui, std::function<BatchSe
       mSettings(std::move(settings)),
       mPictureLabels{ui.mPreviewPicture1, ui.mPreviewPicture2, ui.mPreviewPicture3},
       mNameLabels{ui.mPreviewName1, ui.mPreviewName2, ui.mPreviewName3},
-      mReady([this] { take(); })
+      mWorker([this](const Wanted& wanted, const Worker::Turn& turn) { return make(wanted, turn); },
+              [this](const Made& made) { show(made); })
 {
     mUi.mPreviewStrip->hide();
     for (QLabel* const label : mNameLabels) label->setMinimumHeight(2 * label->fontMetrics().lineSpacing());
@@ -54,28 +54,19 @@ ProcessorPreview::ProcessorPreview(Ui::ImageProcessor& ui, std::function<BatchSe
     mDebounce.setInterval(kDebounceMilliseconds);
     connect(&mDebounce, &QTimer::timeout, this, &ProcessorPreview::ask);
     const auto changed = [this] {
-        if (mShown) mDebounce.start();
+        if (mIsShown) mDebounce.start();
     };
     for (auto* field : mUi.settings->findChildren<QSpinBox*>()) connect(field, &QSpinBox::valueChanged, this, changed);
     for (auto* box : mUi.settings->findChildren<QCheckBox*>()) connect(box, &QCheckBox::toggled, this, changed);
     for (auto* menu : mUi.settings->findChildren<QComboBox*>())
         connect(menu, &QComboBox::currentIndexChanged, this, changed);
     connect(mUi.mSrcFolder, &QLineEdit::textChanged, this, changed);
-    connect(qApp, &QCoreApplication::aboutToQuit, this, &ProcessorPreview::stopWorker);
-}
-
-ProcessorPreview::~ProcessorPreview() { stopWorker(); }
-
-void ProcessorPreview::stopWorker()
-{
-    pause();
-    mWorker.request_stop();
-    if (mWorker.joinable()) mWorker.join();
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { mWorker.end(); });
 }
 
 void ProcessorPreview::begin()
 {
-    mShown = true;
+    mIsShown = true;
     mShownNames.clear();
     for (std::size_t i = 0; i < kPreviewPictures; ++i) {
         mPictureLabels[i]->clear();
@@ -89,7 +80,7 @@ void ProcessorPreview::begin()
 void ProcessorPreview::end()
 {
     pause();
-    mShown = false;
+    mIsShown = false;
     mUi.mPreviewStrip->hide();
     fitWindow();
 }
@@ -107,81 +98,44 @@ void ProcessorPreview::fitWindow()
 
 void ProcessorPreview::pause()
 {
-    ++mRequest;
     mDebounce.stop();
-    mAtWork = false;
+    mWorker.forget();
 }
 
-bool ProcessorPreview::isIdle() const { return !mAtWork && !mDebounce.isActive(); }
+bool ProcessorPreview::isIdle() const { return mWorker.isIdle() && !mDebounce.isActive(); }
 
 void ProcessorPreview::ask()
 {
-    mDebounce.stop();
-    Wanted wanted{mSettings(), ++mRequest, int(kSide * mUi.mPreviewStrip->devicePixelRatioF()), mShownNames.empty()};
+    pause();
+    Wanted wanted{mSettings(), int(kSide * mUi.mPreviewStrip->devicePixelRatioF()), mShownNames.empty()};
     if (wanted.settings.source.empty()) {
         say({});
         return mUi.mPreviewText->setText(
             QCoreApplication::translate("ZPImageProcessor", batchFaultText(BatchFolderFault::NoSource)));
     }
-    if (!mWorker.joinable()) {
-        try {
-            mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
-        } catch (const std::system_error&) {
-            return; // no thread to be had: the window goes without
-        }
-    }
-    mAtWork = true;
-    if (mShownNames.empty()) mUi.mPreviewText->setText(tr("Looking at the folder…"));
-    {
-        const std::lock_guard hold(mGuard);
-        mWanted = std::move(wanted);
-    }
-    mWake.notify_one();
+    if (mWorker.ask(std::move(wanted)) && mShownNames.empty()) mUi.mPreviewText->setText(tr("Looking at the folder…"));
 }
 
-void ProcessorPreview::work(const std::stop_token& stop)
+ProcessorPreview::Made ProcessorPreview::make(const Wanted& wanted, const Worker::Turn& turn)
 {
-    BatchPreview preview;
-    const auto leave = [this](Made made) {
-        const std::lock_guard hold(mGuard);
-        mMade.push_back(std::move(made));
-        mReady.wake();
-    };
-    while (!stop.stop_requested()) {
-        Wanted wanted;
-        {
-            std::unique_lock hold(mGuard);
-            if (!mWake.wait(hold, stop, [this] { return mWanted.has_value(); })) return;
-            wanted = std::move(*std::exchange(mWanted, std::nullopt));
-        }
-        const auto late = [&] { return stop.stop_requested() || mRequest != wanted.request; };
-        if (wanted.anew) preview.forget();
-        const PreviewChoice choice = preview.choose(wanted.settings, late);
-        const unsigned ground = wanted.settings.jpeg && !wanted.settings.tiff ? kWhite : kGrey;
-        if (choice.names.empty()) leave({wanted.request, choice, 0, {}, {}, true});
-        for (std::size_t i = 0; i < choice.names.size() && !late(); ++i) {
-            const BatchPreview::Picture made = preview.picture(wanted.settings, i, wanted.side);
-            QString text = QString::fromStdString(made.error);
-            if (made.bitmap) text = QString("%1 × %2").arg(int(made.result.width)).arg(int(made.result.height));
-            leave({wanted.request, choice, i, made.bitmap ? screenImage(*made.bitmap, ground) : QImage(),
-                   std::move(text), i + 1 == choice.names.size()});
-        }
+    const auto late = [&] { return turn.late.stop_requested(); };
+    if (wanted.anew) mMaker.forget();
+    Made all{mMaker.choose(wanted.settings, late), {}};
+    const unsigned ground = wanted.settings.jpeg && !wanted.settings.tiff ? kWhite : kGrey;
+    for (std::size_t i = 0; i < all.choice.names.size() && !late(); ++i) {
+        if (i > 0) turn.report(all);
+        const BatchPreview::Picture made = mMaker.picture(wanted.settings, i, wanted.side);
+        QString text = QString::fromStdString(made.error);
+        if (made.bitmap) text = QString("%1 × %2").arg(int(made.result.width)).arg(int(made.result.height));
+        all.shown.push_back({made.bitmap ? screenImage(*made.bitmap, ground) : QImage(), std::move(text)});
     }
+    return all;
 }
 
-void ProcessorPreview::take()
+void ProcessorPreview::show(const Made& made)
 {
-    std::vector<Made> all;
-    {
-        const std::lock_guard hold(mGuard);
-        all = std::exchange(mMade, {});
-    }
-    for (const Made& made : all) {
-        if (made.request != mRequest) continue; // no longer wanted
-        if (made.last) mAtWork = false;
-        if (made.choice.names != mShownNames || made.choice.names.empty()) say(made.choice);
-        if (!made.choice.names.empty()) showPicture(made);
-    }
+    if (made.choice.names != mShownNames || made.choice.names.empty()) say(made.choice);
+    for (std::size_t i = 0; i < made.shown.size(); ++i) showPicture(i, made.shown[i]);
 }
 
 void ProcessorPreview::say(const PreviewChoice& choice)
@@ -204,13 +158,13 @@ void ProcessorPreview::say(const PreviewChoice& choice)
     mUi.mPreviewText->setText(text);
 }
 
-void ProcessorPreview::showPicture(const Made& made)
+void ProcessorPreview::showPicture(std::size_t place, const Made::Shown& made)
 {
-    QLabel* const picture = mPictureLabels[made.place];
-    const QString name = textFromPath(made.choice.names[made.place]);
-    mNameLabels[made.place]->setText(mNameLabels[made.place]->fontMetrics().elidedText(name, Qt::ElideMiddle, kSide) +
-                                     (made.picture.isNull() ? QString() : "\n" + made.text));
-    mNameLabels[made.place]->setToolTip(name);
+    QLabel* const picture = mPictureLabels[place];
+    const QString name = textFromPath(mShownNames[place]);
+    mNameLabels[place]->setText(mNameLabels[place]->fontMetrics().elidedText(name, Qt::ElideMiddle, kSide) +
+                                (made.picture.isNull() ? QString() : "\n" + made.text));
+    mNameLabels[place]->setToolTip(name);
     if (made.picture.isNull()) return picture->setText(made.text);
     QPixmap pixmap = QPixmap::fromImage(made.picture);
     pixmap.setDevicePixelRatio(mUi.mPreviewStrip->devicePixelRatioF());

@@ -3,17 +3,12 @@
 #pragma once
 #include "batch/BatchJob.h"
 #include "batch/BatchPreview.h"
-#include "desktop/MainThreadWake.h"
+#include "desktop/LatestWish.h"
 #include <QImage>
 #include <QObject>
 #include <QTimer>
 #include <array>
-#include <atomic>
-#include <condition_variable>
 #include <functional>
-#include <mutex>
-#include <optional>
-#include <thread>
 
 class QLabel;
 namespace Ui
@@ -30,7 +25,6 @@ class ProcessorPreview : public QObject
 public:
     /// @param settings  what the fields say now
     ProcessorPreview(Ui::ImageProcessor& ui, std::function<zp::BatchSettings()> settings);
-    ~ProcessorPreview() override;
 
     /// Shows the strip and looks into the folder anew.
     void begin();
@@ -43,43 +37,36 @@ public:
 
 private:
     static constexpr int kSide = 180; ///< of a picture's square, in units of the screen
-    struct Made {
-        unsigned request = 0;
-        zp::PreviewChoice choice;
-        std::size_t place = 0; ///< of the picture
-        QImage picture;
-        QString text; ///< under it, or in its stead
-        bool last = false;
+    struct Wanted {
+        zp::BatchSettings settings;
+        int side = 0; ///< device pixels
+        bool anew = false;
     };
+    struct Made {
+        zp::PreviewChoice choice;
+        struct Shown {
+            QImage picture;
+            QString text; ///< under it, or in its stead
+        };
+        std::vector<Shown> shown; ///< the first of the choice, as far as they are made
+    };
+    using Worker = zp::LatestWish<Wanted, Made>;
 
     /// The window becomes as high as its contents and stays on its screen: the strip leaves no hole and hides no
     /// button.
     void fitWindow();
     void ask();
-    void take();
+    Made make(const Wanted& wanted, const Worker::Turn& turn);
+    void show(const Made& made);
     void say(const zp::PreviewChoice& choice);
-    void showPicture(const Made& made);
-    void work(const std::stop_token& stop);
-    void stopWorker();
+    void showPicture(std::size_t place, const Made::Shown& made);
 
     Ui::ImageProcessor& mUi;
     std::function<zp::BatchSettings()> mSettings;
     std::array<QLabel*, zp::kPreviewPictures> mPictureLabels, mNameLabels;
     QTimer mDebounce;
-    bool mShown = false, mAtWork = false;
+    bool mIsShown = false;
     std::vector<std::string> mShownNames;
-
-    std::atomic<unsigned> mRequest{0}; ///< the latest; work on an earlier one is given up
-    std::mutex mGuard;                 ///< of what follows
-    std::condition_variable_any mWake;
-    struct Wanted {
-        zp::BatchSettings settings;
-        unsigned request = 0;
-        int side = 0; ///< device pixels
-        bool anew = false;
-    };
-    std::optional<Wanted> mWanted;
-    std::vector<Made> mMade;
-    zp::MainThreadWake mReady;
-    std::jthread mWorker; ///< after all that it uses
+    zp::BatchPreview mMaker; ///< the worker's
+    Worker mWorker;
 };

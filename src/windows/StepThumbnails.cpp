@@ -6,7 +6,6 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <algorithm>
-#include <system_error>
 
 using namespace zp;
 
@@ -49,55 +48,40 @@ try {
 } // namespace
 
 StepThumbnails::StepThumbnails(int side, QObject* parent)
-    : QObject(parent), mSide(side), mReady([this] { emit made(); })
+    : QObject(parent),
+      mWorker([side](const Wish& wish, const auto&) { return thumbnail(wish.number, side); },
+              [this](QImage image) { keep(std::move(image)); })
 {
 }
-
-StepThumbnails::~StepThumbnails() = default;
 
 QImage StepThumbnails::of(std::int32_t number, std::int64_t time)
 {
     const Wish wish{number, time};
-    const std::lock_guard lock(mMutex);
     if (const auto made = mMade.find(wish); made != mMade.end()) return made->second;
-    if (!mWorker.joinable()) {
-        try {
-            mWorker = std::jthread([this](const std::stop_token& stop) { work(stop); });
-        } catch (const std::system_error&) {
-            return {}; // the list does without; the next look tries again
-        }
-    }
+    if (!isIdle() && mMaking == wish) return {};
     std::erase(mWishes, wish);
     mWishes.push_back(wish);
-    mWake.notify_one();
+    if (isIdle()) next();
     return {};
-}
-
-bool StepThumbnails::isIdle() const
-{
-    const std::lock_guard lock(mMutex);
-    return mWishes.empty() && !mWorking;
 }
 
 void StepThumbnails::clear()
 {
-    const std::lock_guard lock(mMutex);
     mMade.clear();
     mWishes.clear();
+    mWorker.forget();
 }
 
-void StepThumbnails::work(const std::stop_token& stop)
+void StepThumbnails::next()
 {
-    std::unique_lock lock(mMutex);
-    while (mWake.wait(lock, stop, [this] { return !mWishes.empty(); })) {
-        const Wish wish = mWishes.back();
-        mWishes.pop_back();
-        mWorking = true;
-        lock.unlock();
-        QImage image = thumbnail(wish.number, mSide);
-        lock.lock();
-        mMade[wish] = std::move(image);
-        mWorking = false;
-        if (mWishes.empty()) mReady.wake();
-    }
+    mMaking = mWishes.back();
+    mWishes.pop_back();
+    if (!mWorker.ask(mMaking)) mWishes.clear(); // the list does without; the next look tries again
+}
+
+void StepThumbnails::keep(QImage image)
+{
+    mMade[mMaking] = std::move(image);
+    if (!mWishes.empty()) next();
+    if (isIdle()) emit made();
 }

@@ -53,13 +53,13 @@ TEST_P(LossyKinds, GrowWithTheQualityAndShowThePicture)
     const auto writer = writerOf(GetParam(), *picture);
     std::size_t before = 0;
     for (const int quality : {5, 40, 75, 95}) {
-        const auto file = writer->write(quality, false);
+        const auto file = writer->write(quality, {});
         EXPECT_GT(file.size(), before) << quality;
         before = file.size();
         const auto shown = BitmapRep::create(203, 117);
         ASSERT_TRUE(writer->read(file, shown->view())) << quality;
         EXPECT_LE(greatestDifference(*picture, *shown), quality < 40 ? 110 : 40) << quality;
-        EXPECT_EQ(writer->write(quality, false), file) << "twice the same";
+        EXPECT_EQ(writer->write(quality, {}), file) << "twice the same";
         const ImportedImage opened = importImage(file);
         ASSERT_TRUE(opened.bitmap) << opened.error;
         EXPECT_LE(greatestDifference(*opened.bitmap, *shown), 2) << "as the program opens it";
@@ -71,7 +71,7 @@ TEST_P(LossyKinds, KeepWhatBelongsToThePicture)
     const auto picture = waves(40, 30, false);
     picture->properties.userComment = "of the lake";
     picture->properties.xmp = "<x:xmpmeta xmlns:x='adobe:ns:meta/'/>";
-    const auto file = writerOf(GetParam(), *picture)->write(80, false);
+    const auto file = writerOf(GetParam(), *picture)->write(80, {});
     const std::string bytes(file.begin(), file.end());
     EXPECT_NE(bytes.find("of the lake"), std::string::npos);
     EXPECT_NE(bytes.find("adobe:ns:meta/"), std::string::npos);
@@ -81,8 +81,10 @@ TEST_P(LossyKinds, StopAndRefuseWhatIsBroken)
 {
     const auto picture = waves(203, 117, false);
     const auto writer = writerOf(GetParam(), *picture);
-    EXPECT_TRUE(writer->write(75, true).empty());
-    auto file = writer->write(75, false);
+    std::stop_source stopped;
+    stopped.request_stop();
+    EXPECT_TRUE(writer->write(75, stopped.get_token()).empty());
+    auto file = writer->write(75, {});
     const auto other = BitmapRep::create(202, 117), same = BitmapRep::create(203, 117);
     EXPECT_FALSE(writer->read(file, other->view()));
     file.resize(file.size() / 2);
@@ -98,7 +100,7 @@ INSTANTIATE_TEST_SUITE_P(Both, LossyKinds, testing::Values(SaveFormat::JPEG, Sav
 TEST(LossyWriter, JPEGIsWhatSaveWrites)
 {
     const auto picture = waves(64, 64, true);
-    EXPECT_EQ(writerOf(SaveFormat::JPEG, *picture)->write(62, false),
+    EXPECT_EQ(writerOf(SaveFormat::JPEG, *picture)->write(62, {}),
               encodeJPEG(picture->view(), picture->properties, {.factor = 0.62, .fallbackBackground = kWhite}));
 }
 
@@ -106,7 +108,7 @@ TEST(LossyWriter, WebPKeepsTransparency)
 {
     const auto picture = waves(64, 64, true), shown = BitmapRep::create(64, 64);
     const auto writer = writerOf(SaveFormat::WebP, *picture);
-    ASSERT_TRUE(writer->read(writer->write(90, false), shown->view()));
+    ASSERT_TRUE(writer->read(writer->write(90, {}), shown->view()));
     for (const int x : {0, 31, 32, 63}) EXPECT_EQ(shown->view().rowData(5)[4 * x], x < 32 ? 128 : 255) << x;
     EXPECT_LE(greatestDifference(*picture, *shown), 40);
 }

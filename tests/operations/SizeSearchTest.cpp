@@ -36,15 +36,15 @@ TEST_P(SizeSearches, FindTheBestQualityThatIsSmallEnough)
     const auto picture = photo(c.width, c.height);
     SizeSearch search(picture, c.format);
     int trials = 0;
-    const SizedFile found = search.find({.kind = SizeGoal::AtMost, .bytes = c.bytes}, false, [&](int) { ++trials; });
+    const SizedFile found = search.find({.kind = SizeGoal::AtMost, .bytes = c.bytes}, {}, [&](int) { ++trials; });
     ASSERT_FALSE(found.bytes.empty()) << found.error;
     EXPECT_LE(found.bytes.size(), c.bytes);
     EXPECT_LE(trials, 20);
     std::string error;
     const auto writer = LossyWriter::make(c.format, picture->view(), picture->properties, error);
-    EXPECT_EQ(writer->write(found.quality, false), found.bytes);
+    EXPECT_EQ(writer->write(found.quality, {}), found.bytes);
     if (found.quality < kBestQuality) {
-        EXPECT_GT(writer->write(found.quality + 1, false).size(), c.bytes);
+        EXPECT_GT(writer->write(found.quality + 1, {}).size(), c.bytes);
     }
     ASSERT_TRUE(found.shown);
     EXPECT_NEAR(likenessOf(picture->view(), found.shown->view()).mean, found.likeness.mean, 1e-12);
@@ -64,10 +64,10 @@ TEST(SizeSearch, FindsTheLeastQualityThatLooksTheSame)
     for (const SaveFormat format : {SaveFormat::JPEG, SaveFormat::WebP}) {
         const auto picture = photo(400, 300);
         SizeSearch search(picture, format);
-        const SizedFile found = search.find({.kind = SizeGoal::LooksSame}, false);
+        const SizedFile found = search.find({.kind = SizeGoal::LooksSame}, {});
         ASSERT_FALSE(found.bytes.empty()) << found.error;
         EXPECT_TRUE(looksTheSame(found.likeness)) << found.likeness.mean << ' ' << found.likeness.worst;
-        const SizedFile below = search.find({.kind = SizeGoal::Quality, .quality = found.quality - 1}, false);
+        const SizedFile below = search.find({.kind = SizeGoal::Quality, .quality = found.quality - 1}, {});
         EXPECT_FALSE(looksTheSame(below.likeness)) << found.quality;
         EXPECT_EQ(below.quality, found.quality - 1);
     }
@@ -77,11 +77,12 @@ TEST(SizeSearch, SaysWhyThereIsNoFile)
 {
     const auto picture = photo(400, 300);
     SizeSearch search(picture, SaveFormat::JPEG);
-    EXPECT_EQ(search.find({.kind = SizeGoal::AtMost, .bytes = 100}, false).error,
+    EXPECT_EQ(search.find({.kind = SizeGoal::AtMost, .bytes = 100}, {}).error,
               "Even at the lowest quality the file is larger.");
-    const SizedFile stopped = search.find({.kind = SizeGoal::LooksSame}, true);
+    std::stop_source stop;
+    stop.request_stop();
+    const SizedFile stopped = search.find({.kind = SizeGoal::LooksSame}, stop.get_token());
     EXPECT_TRUE(stopped.bytes.empty());
     EXPECT_EQ(stopped.error, "");
-    EXPECT_EQ(SizeSearch(picture, SaveFormat::TIFF).find({}, false).error,
-              "This kind of file has no quality to choose.");
+    EXPECT_EQ(SizeSearch(picture, SaveFormat::TIFF).find({}, {}).error, "This kind of file has no quality to choose.");
 }
