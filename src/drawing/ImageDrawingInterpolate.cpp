@@ -201,6 +201,13 @@ void interpolateLine(ConstBitmapView image, PixelBox part, SampleLine line, std:
     std::int64_t first = 0, last = count;
     const std::int64_t half = std::int64_t{1} << 23;
     const auto position = [](int v) { return std::int64_t{v} * (std::int64_t{1} << 32); };
+    // Short lines lie inside as a whole, mostly: both ends tell.
+    const auto isInside = [&](std::int64_t k) {
+        const std::int64_t x = line.x + k * line.dx + half, y = line.y + k * line.dy + half;
+        return x >= position(part.x0 + 1) && x < position(part.x1 - 2) && y >= position(part.y0 + 1) &&
+               y < position(part.y1 - 2);
+    };
+    if (count > 0 && isInside(0) && isInside(count - 1)) return interpolateInside(image, line, out, 0, count);
     narrow(line.x + half, line.dx, position(part.x0 + 1), position(part.x1 - 2), first, last);
     narrow(line.y + half, line.dy, position(part.y0 + 1), position(part.y1 - 2), first, last);
     first = std::min<std::int64_t>(first, count);

@@ -17,7 +17,9 @@ constexpr int kLongestRun = 64;
 constexpr double kStray = 1.0 / 128;
 /// Reductions by less than this (as a power of two) are left to interpolation alone: it keeps them crisp, and what it
 /// skips cannot be told from grain.
-constexpr double kCrisp = 0.25;
+constexpr double kCrisp = 0.25, kCrispSquared = 1.4142135623730951; // 2^(2 * 0.25)
+/// How much the divisor may change along a run, in parts of itself, for what is reckoned at its beginning to hold.
+constexpr double kStraight = 0.1;
 /// Far outside every image, yet safely a whole number of 2^-32 pixels.
 constexpr double kFar = 1e8;
 
@@ -45,40 +47,54 @@ const std::uint32_t* PerspectiveSampler::generate(int y, int x0, int x1, Room& r
     const std::size_t count = std::size_t(std::max(0, x1 - x0));
     if (room.pixels.size() < count) room.pixels.resize(count);
     room.coarser.resize(kLongestRun);
-    for (int x = x0; x < x1; x += kLongestRun)
-        fill(y, x, std::min(kLongestRun, x1 - x), room.pixels.data() + (x - x0), room.coarser.data());
+    for (int x = x0; x < x1;) {
+        std::uint32_t* const out = room.pixels.data() + (x - x0);
+        const int run = runAt({x + 0.5, y + 0.5}, std::min(kLongestRun, x1 - x));
+        if (run > 0)
+            fill({x + 0.5, y + 0.5}, run, out, room.coarser.data());
+        else
+            *out = 0; // beyond the horizon
+        x += std::max(1, run);
+    }
     return room.pixels.data();
 }
 
-void PerspectiveSampler::fill(int y, int x0, int count, std::uint32_t* pixels, std::uint32_t* coarser) const
+int PerspectiveSampler::runAt(CurvePoint first, int most) const
 {
-    const CurvePoint first{x0 + 0.5, y + 0.5}, last{x0 + count - 0.5, y + 0.5};
-    const auto halve = [&] {
-        const int half = count / 2;
-        fill(y, x0, half, pixels, coarser);
-        fill(y, x0 + half, count - half, pixels + half, coarser);
-    };
-    if (!(mFromTarget.divisor(first) > 0 && mFromTarget.divisor(last) > 0)) {
-        if (count > 1) return halve();
-        *pixels = 0;
-        return;
-    }
-    const CurvePoint from = within(mFromTarget.apply(first)), to = within(mFromTarget.apply(last));
-    const CurvePoint middle{(first.x + last.x) / 2, first.y}, between = within(mFromTarget.apply(middle));
-    const double stray = std::max(std::abs(between.x - (from.x + to.x) / 2), std::abs(between.y - (from.y + to.y) / 2));
-    if (count > 1 && !(stray <= kStray)) return halve();
+    // Along a row x' = (a x + c) / (g x + w): its second derivative is -2 g / w times its first, and the middle of a
+    // run of n is off by an eighth of that times n squared.
+    const auto& m = mFromTarget.m;
+    const double w = mFromTarget.divisor(first);
+    if (!(w > 0)) return 0;
+    const CurvePoint from = mFromTarget.apply(first);
+    const double slope = std::max(std::abs(m[0] - from.x * m[6]), std::abs(m[3] - from.y * m[6])) / w;
+    const double bend = std::abs(m[6]) / w;
+    if (!(bend * most < kStraight)) most = std::max(1, int(kStraight / bend));
+    if (double(most) * most * bend * slope > 4 * kStray)
+        most = std::max(1, int(std::sqrt(4 * kStray / (bend * slope))));
+    return most;
+}
 
-    // How many image pixels a step along and a step down make, in the middle of the run.
+void PerspectiveSampler::fill(CurvePoint first, int count, std::uint32_t* pixels, std::uint32_t* coarser) const
+{
+    const CurvePoint last{first.x + count - 1, first.y}, middle{(first.x + last.x) / 2, first.y};
+    const CurvePoint from = within(mFromTarget.apply(first)), to = within(mFromTarget.apply(last));
+
+    // How many image pixels a step along and a step down make, in the middle of the run; squared.
     const auto& m = mFromTarget.m;
     const double w = mFromTarget.divisor(middle);
-    const double along = std::hypot(m[0] - between.x * m[6], m[3] - between.y * m[6]) / w;
-    const double down = std::hypot(m[1] - between.x * m[7], m[4] - between.y * m[7]) / w;
-    const double coarseness = std::clamp(std::log2(std::max({along, down, 1.0})) - kCrisp, 0.0, mLevels.count() - 1.0);
+    const CurvePoint between{(from.x + to.x) / 2, (from.y + to.y) / 2};
+    const auto squared = [](double a, double b) { return a * a + b * b; };
+    const double along = squared(m[0] - between.x * m[6], m[3] - between.y * m[6]);
+    const double down = squared(m[1] - between.x * m[7], m[4] - between.y * m[7]);
+    const double reduced = std::max(along, down) / (w * w);
+    const double coarseness =
+        reduced > kCrispSquared ? std::min(std::log2(reduced) / 2 - kCrisp, mLevels.count() - 1.0) : 0;
     const int level = int(coarseness), share = int((coarseness - level) * 256);
 
     const auto take = [&](int n, std::uint32_t* out) {
         const ConstBitmapView image = mLevels.level(n);
-        const double scale = std::ldexp(1.0, -n), steps = std::max(1, count - 1);
+        const double scale = 1.0 / double(std::int64_t{1} << n), steps = std::max(1, count - 1);
         const SampleLine line{fixed32(from.x * scale - 0.5), fixed32(from.y * scale - 0.5),
                               fixed32((to.x - from.x) * scale / steps), fixed32((to.y - from.y) * scale / steps)};
         interpolateLine(image, image.box(), line, out, count);

@@ -32,7 +32,9 @@ public:
     const std::uint32_t* generate(int y, int x0, int x1, Room& room) const;
 
 private:
-    void fill(int y, int x0, int count, std::uint32_t* pixels, std::uint32_t* coarser) const;
+    /// How many pixels from the middle of that one on may be taken for a straight run; none beyond the horizon.
+    int runAt(CurvePoint first, int most) const;
+    void fill(CurvePoint first, int count, std::uint32_t* pixels, std::uint32_t* coarser) const;
 
     const ImageLevels& mLevels;
     ProjectiveTransform mFromTarget;
