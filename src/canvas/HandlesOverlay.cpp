@@ -11,6 +11,8 @@
 #include "operations/FloatHandles.h"
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 using namespace zp;
 
@@ -19,6 +21,8 @@ namespace
 
 /// Half of what a handle covers, with its edge and its shadow.
 constexpr int kCover = 9;
+/// Points between the view's edge and a handle that came inside.
+constexpr double kInside = 2;
 constexpr QRgb kEdge = 0xFF0B57D0, kFace = 0xFFFFFFFF;
 
 } // namespace
@@ -58,16 +62,38 @@ Point HandlesOverlay::inImage(QPointF p) const
     return {float(onCanvas.x() / z), float(onCanvas.y() / z)};
 }
 
+QPointF HandlesOverlay::centreOf(int handle) const
+{
+    const Document& document = mCanvas.document();
+    const QPointF centre =
+        inView(floatHandleCenter(document.selection(), document.view().effectiveZoom(), FloatHandle(handle)));
+    const double room = double(kHandleSide) / 2 + kInside;
+    const QRectF within = QRectF(rect()).adjusted(room, room, -room, -room);
+    const QPointF anchor = inView(floatHandleAnchor(document.selection(), FloatHandle(handle)));
+    if (within.contains(centre) || within.isEmpty() || !QRectF(rect()).adjusted(-1, -1, 1, 1).contains(anchor))
+        return centre;
+    return {std::clamp(centre.x(), within.left(), within.right()),
+            std::clamp(centre.y(), within.top(), within.bottom())};
+}
+
+Point HandlesOverlay::shiftAt(QPointF viewPoint) const
+{
+    const Document& document = mCanvas.document();
+    for (int i = 0; i < kFloatHandles; ++i) {
+        const QPointF centre = centreOf(i), way = viewPoint - centre;
+        if (std::max(std::abs(way.x()), std::abs(way.y())) > double(kHandleSide) / 2 + 1) continue;
+        return floatHandleCenter(document.selection(), document.view().effectiveZoom(), FloatHandle(i)) -
+               inImage(centre);
+    }
+    return {};
+}
+
 void HandlesOverlay::follow()
 {
     QRegion covered;
     if (isShown()) {
-        const Document& document = mCanvas.document();
-        QPointF centres[kFloatHandles];
         for (int i = 0; i < kFloatHandles; ++i) {
-            centres[i] =
-                inView(floatHandleCenter(document.selection(), document.view().effectiveZoom(), FloatHandle(i)));
-            const QPoint at = centres[i].toPoint();
+            const QPoint at = centreOf(i).toPoint();
             // Far away is out of sight, and no matter for whole numbers.
             if (rect().adjusted(-kCover, -kCover, kCover, kCover).contains(at))
                 covered += QRect(at - QPoint(kCover, kCover), at + QPoint(kCover, kCover));
@@ -90,7 +116,7 @@ void HandlesOverlay::paintEvent(QPaintEvent*)
     const QRectF square(-kHandleSide / 2, -kHandleSide / 2, kHandleSide, kHandleSide);
     for (int i = 0; i < kFloatHandles; ++i) {
         painter.save();
-        painter.translate(inView(floatHandleCenter(selection, document.view().effectiveZoom(), FloatHandle(i))));
+        painter.translate(centreOf(i));
         painter.rotate(selection.record().rotate);
         if (FloatHandle(i) == FloatHandle::Turn)
             painter.drawEllipse(square);
@@ -104,7 +130,10 @@ bool HandlesOverlay::handleMouse(QObject* watched, QMouseEvent* event)
 {
     if (mCanvas.awaitsExactPointer()) return false; // a script's
     Document& document = mCanvas.document();
-    const Point point = inImage(event->position() + (watched == &mCanvas ? QPointF(mCanvas.pos()) : QPointF(0, 0)));
+    const QPointF place = event->position() + (watched == &mCanvas ? QPointF(mCanvas.pos()) : QPointF(0, 0));
+    const bool takes = event->type() == QEvent::MouseButtonPress || (event->type() == QEvent::MouseMove && !mHeld);
+    if (takes) mShift = isShown() ? shiftAt(place) : Point{};
+    const Point point = inImage(place) + mShift;
     const auto at = [&] { return floatHandleAt(document.selection(), document.view().effectiveZoom(), point); };
     switch (event->type()) {
     case QEvent::MouseButtonPress:

@@ -26,6 +26,10 @@ private:
     void follow(); ///< the handles are elsewhere now, or gone
     bool handleMouse(QObject* watched, QMouseEvent* event);
     bool isShown() const;
+    /// Where the handle is drawn: a handle that would lie beyond the view, whose corner is seen, comes inside.
+    QPointF centreOf(int handle) const;
+    /// How far it has come for that, in image coordinates: what the pointer does there is done that far off.
+    zp::Point shiftAt(QPointF viewPoint) const;
     QPointF inView(zp::Point imagePoint) const;
     zp::Point inImage(QPointF viewPoint) const;
 
@@ -33,4 +37,5 @@ private:
     QWidget* mViewport;
     QRegion mDrawn; ///< what the handles cover
     bool mHeld = false;
+    zp::Point mShift; ///< of the handle that is held
 };

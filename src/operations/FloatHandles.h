@@ -35,6 +35,8 @@ bool showsFloatHandles(const Document& document, const ToolActions& tool);
 /// The middle of a handle in image coordinates. The handles lie wholly outside the piece's outline, so that a press
 /// inside always moves it, and keep their size on screen. Something must float.
 Point floatHandleCenter(const Selection& selection, float zoom, FloatHandle handle);
+/// What the handle belongs to: the piece's corner, or the middle of its upper side.
+Point floatHandleAnchor(const Selection& selection, FloatHandle handle);
 /// The handle at that image point; None between them and when nothing floats.
 FloatHandle floatHandleAt(const Selection& selection, float zoom, Point point);
 /// The gesture of the handle at its press: what the Transform dialog does by number, about the piece's centre, within

@@ -58,6 +58,13 @@ void pressHandle(Edit& edit, Point point)
     edit.selection().setTransformMode(int(handle) + (pulls ? int(FloatHandle::PullTopLeft) : 0));
 }
 
+/// Where the corners that the handles take lie in the image.
+std::array<Point, 4> shownCorners(const Selection& selection)
+{
+    const FloatQuad own = selection.ownCorners();
+    return placedQuad(selection.record(), pulledQuad(selection.record(), own).value_or(own));
+}
+
 /// The pulls when that corner goes on by the way from @p from to @p to, in image coordinates. Nothing where it cannot.
 std::optional<std::array<Point, 4>> pulledBy(const _ZPTransform& start, const FloatQuad& own, std::size_t corner,
                                              Point from, Point to)
@@ -110,13 +117,11 @@ bool showsFloatHandles(const Document& document, const ToolActions& tool)
 
 Point floatHandleCenter(const Selection& selection, float zoom, FloatHandle handle)
 {
-    const FloatQuad own = selection.ownCorners();
-    const std::array<Point, 4> corners =
-        placedQuad(selection.record(), pulledQuad(selection.record(), own).value_or(own));
+    const std::array<Point, 4> corners = shownCorners(selection);
     const float out = (kHandleSide / 2 + kHandleGap) / zoom;
     if (handle == FloatHandle::Turn) {
         // Straight up from the middle of the upper side, away from the lower one.
-        const Point side = unit(corners[1] - corners[0]), middle = between(corners[0], corners[1]);
+        const Point side = unit(corners[1] - corners[0]), middle = floatHandleAnchor(selection, handle);
         const Point down = between(corners[2], corners[3]) - middle;
         const Point across{-side.y, side.x};
         const float up = across.x * down.x + across.y * down.y > 0 ? -1.0f : 1.0f;
@@ -127,6 +132,12 @@ Point floatHandleCenter(const Selection& selection, float zoom, FloatHandle hand
     const Point corner = corners[i];
     const Point away = unit(corner - corners[(i + 1) % 4]) + unit(corner - corners[(i + 3) % 4]);
     return corner + scaled(unit(away), out * std::numbers::sqrt2_v<float>);
+}
+
+Point floatHandleAnchor(const Selection& selection, FloatHandle handle)
+{
+    const std::array<Point, 4> corners = shownCorners(selection);
+    return handle == FloatHandle::Turn ? between(corners[0], corners[1]) : corners[std::size_t(handle)];
 }
 
 FloatHandle floatHandleAt(const Selection& selection, float zoom, Point point)

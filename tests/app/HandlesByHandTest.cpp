@@ -53,6 +53,21 @@ TEST_F(HandlesByHand, ACornerBesideThePictureScales)
     EXPECT_NE(floating(), nullptr);
 }
 
+TEST_F(HandlesByHand, ACornerAtTheViewsEdgeHasItsHandleInside)
+{
+    document->setZoom(16); // the picture fills the view and more
+    QApplication::processEvents();
+    ASSERT_GE(window.canvas()->pos().x(), -1) << "its upper left corner is seen";
+    const QPoint inside = window.canvas()->pos() + QPoint(6, 6);
+    drag(inside, inside + QPoint(160, 0)); // ten pixels to the middle
+    EXPECT_LT(record().scale, 0.999f);
+    EXPECT_EQ(record().position, (Point{150, 100})) << "it was scaled, not moved";
+    const float scaled = record().scale;
+    drag(window.canvas()->pos() + QPoint(800, 300), window.canvas()->pos() + QPoint(832, 300));
+    EXPECT_EQ(record().scale, scaled);
+    EXPECT_EQ(record().position, (Point{152, 100})) << "elsewhere a press moves it";
+}
+
 TEST_F(HandlesByHand, APressInsideMoves)
 {
     drag(inView({150, 100}), inView({170, 110}));
