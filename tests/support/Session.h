@@ -120,10 +120,10 @@ public:
     QProcess& process() { return mProcess; }
     bool ended() { return mProcess.waitForFinished(20'000) && mProcess.exitCode() == 0; }
     /// Ends the input. @return the exit status
-    int end()
+    int end(int milliseconds = 60'000)
     {
         mProcess.closeWriteChannel();
-        EXPECT_TRUE(mProcess.waitForFinished(60'000));
+        EXPECT_TRUE(mProcess.waitForFinished(milliseconds));
         return mProcess.exitCode();
     }
     void kill()
