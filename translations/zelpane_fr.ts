@@ -2237,6 +2237,13 @@
     </message>
 </context>
 <context>
+    <name>OverflowRow</name>
+    <message>
+        <source>More options</source>
+        <translation>Plus d’options</translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>The image could not be printed.</source>

@@ -2227,6 +2227,13 @@
     </message>
 </context>
 <context>
+    <name>OverflowRow</name>
+    <message>
+        <source>More options</source>
+        <translation>その他のオプション</translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>The image could not be printed.</source>

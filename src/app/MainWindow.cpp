@@ -59,6 +59,9 @@ static_assert(std::size(kZoomTitles) == kZoomLevels.size());
 /// What the notice's button about a key does; no menu has these.
 const QString kControlForOption = "controlForOption:", kControlForCommand = "controlForCommand:";
 
+/// A pop-up of words still says which they are, in pixels.
+constexpr int kNarrowPopUp = 80;
+
 /// A switch that is on is seen in the dark colours too.
 void showWhetherOn(QToolButton& button, const QPalette& window)
 {
@@ -101,6 +104,7 @@ MainWindow::MainWindow(Document& document)
     setUpSwitches();
     mChip = new SelectionChip(mUi->optionsBar);
     mUi->options->insertWidget(mUi->options->indexOf(mUi->switches) + 1, mChip);
+    mChip->setTabAfter(mUi->switches->more());
     connect(mChip, &SelectionChip::chosen, this, [this](const QString& action) {
         giveFocusBack();
         if (performAction) performAction(action);
@@ -128,13 +132,10 @@ MainWindow::MainWindow(Document& document)
     showZoom();
     showStatus();
     // Tool, colour, size, its options, zoom, picture.
-    QWidget* last = nullptr;
-    for (QWidget* next : std::initializer_list<QWidget*>{
-             mUi->mToolPopUp, mUi->mColorWell, mUi->mSizeSlider, mUi->mSizeField, mUi->mBrushPopUp, mUi->mPressurePopUp,
-             mUi->mToleranceSlider, mUi->mToleranceField, mUi->switches, mChip, mUi->mZoomPopUp, mCanvas}) {
-        if (last) setTabOrder(last, next);
-        last = next;
-    }
+    QWidgetList order{mUi->mToolPopUp,  mUi->mColorWell,     mUi->mSizeSlider,      mUi->mSizeField,
+                      mUi->mBrushPopUp, mUi->mPressurePopUp, mUi->mToleranceSlider, mUi->mToleranceField};
+    order << mUi->switches->buttons() << mUi->mZoomPopUp << mCanvas;
+    for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
     resize(sizeOnScreen(this, kWindowSize));
     setUpHistory();
     mCanvas->setFocus(); // single keys are commands of the canvas
@@ -197,6 +198,10 @@ void MainWindow::setUpToolOptions()
             mDocument.setPaintColor(c);
     });
 
+    // What they repeat the fields say: they go down to their least before a switch goes into the menu.
+    for (QSlider* slider : {mUi->mSizeSlider, mUi->mToleranceSlider})
+        slider->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+
     const auto setSize = [this](int size) { mDocument.setBrushSize(float(size)); };
     connect(mUi->mSizeSlider, &QSlider::valueChanged, this, setSize);
     connect(mUi->mSizeField, &QSpinBox::valueChanged, this, setSize);
@@ -210,6 +215,7 @@ void MainWindow::setUpToolOptions()
             [this](int index) { mDocument.setBrushShape(std::max(0, index)); });
     connect(mUi->mBrushPopUp, &QComboBox::activated, this, &MainWindow::giveFocusBack);
 
+    mUi->mPressurePopUp->setMinimumWidth(kNarrowPopUp); // then it is cut with dots
     // In the order of PenPressure.
     mUi->mPressurePopUp->addItems({tr("Even pressure"), tr("Pressure: size"), tr("Pressure: opacity")});
     connect(mUi->mPressurePopUp, &QComboBox::currentIndexChanged, this,
@@ -272,13 +278,26 @@ void MainWindow::setUpSwitches()
         {QT_TR_NOOP("Straight"), QT_TR_NOOP("One straight line from press to release"), kShiftKey, options::Straight},
         {QT_TR_NOOP("Set source"), QT_TR_NOOP("The click sets where pixels come from"), kOptionKey, options::SetSource},
     };
+    mExplain = new QToolButton(mUi->switches);
+    mExplain->setObjectName("mExplain");
+    mExplain->setText(tr("Explain"));
+    mExplain->setToolTip(
+        tr("Where the pointer rests, what a click takes; a drag after the press changes the tolerance"));
+    mExplain->setCheckable(true);
+    mExplain->setFocusPolicy(Qt::TabFocus);
+    mUi->switches->add(mExplain); // beside the tolerance
+    connect(mExplain, &QToolButton::toggled, this, [this](bool on) {
+        mDocument.setExplainsWand(on);
+        showSwitches();
+    });
+    connect(mExplain, &QToolButton::clicked, this, &MainWindow::giveFocusBack);
     for (const Role& role : roles) {
         auto* button = new QToolButton(mUi->switches);
         button->setText(tr(role.title));
         button->setCheckable(true);
         button->setFocusPolicy(Qt::TabFocus);
         button->setObjectName(QString("mSwitch_%1").arg(QString(role.title).remove(' ')));
-        mUi->switchRow->addWidget(button);
+        mUi->switches->add(button);
         mSwitches.push_back({button, role.tip, role.bit, role.option});
         connect(button, &QToolButton::toggled, this, [this] {
             unsigned bits = 0;
@@ -289,19 +308,7 @@ void MainWindow::setUpSwitches()
         });
         connect(button, &QToolButton::clicked, this, &MainWindow::giveFocusBack);
     }
-    mExplain = new QToolButton(mUi->switches);
-    mExplain->setObjectName("mExplain");
-    mExplain->setText(tr("Explain"));
-    mExplain->setToolTip(
-        tr("Where the pointer rests, what a click takes; a drag after the press changes the tolerance"));
-    mExplain->setCheckable(true);
-    mExplain->setFocusPolicy(Qt::TabFocus);
-    mUi->switchRow->insertWidget(0, mExplain); // beside the tolerance
-    connect(mExplain, &QToolButton::toggled, this, [this](bool on) {
-        mDocument.setExplainsWand(on);
-        showSwitches();
-    });
-    connect(mExplain, &QToolButton::clicked, this, &MainWindow::giveFocusBack);
+    connect(mUi->switches->more(), &QToolButton::toggled, this, &MainWindow::showSwitches);
     NotificationCenter::defaultCenter().addObserver(this, "KeyRolesNotif",
                                                     [this](const Notification&) { showKeysOfRoles(); });
     showKeysOfRoles();
@@ -310,7 +317,8 @@ void MainWindow::setUpSwitches()
 void MainWindow::showSwitches()
 {
     for (const Switch& s : mSwitches) showWhetherOn(*s.button, palette());
-    if (mExplain) showWhetherOn(*mExplain, palette());
+    if (!mExplain) return; // being made
+    for (QToolButton* button : {mExplain, mUi->switches->more()}) showWhetherOn(*button, palette());
 }
 
 void MainWindow::showKeysOfRoles()
@@ -423,10 +431,10 @@ void MainWindow::showTool()
         w->setVisible(has(options::Size));
     for (QWidget* w : {mUi->mBrushPopUp, mUi->mPressurePopUp}) w->setVisible(has(options::BrushShape));
     for (const Switch& s : mSwitches) {
-        s.button->setVisible(has(s.option));
+        mUi->switches->offer(s.button, has(s.option));
         if (!has(s.option)) s.button->setChecked(false);
     }
-    mExplain->setVisible(has(options::Explain));
+    mUi->switches->offer(mExplain, has(options::Explain));
     mExplain->setChecked(mDocument.view().explainsWand());
     mToolButtons[std::size_t(row.tool)]->setChecked(true);
     const QSignalBlocker quiet(mUi->mToolPopUp); // what follows a choice by hand has been done

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
+#include <utility>
 
 using namespace zp;
 
@@ -42,7 +43,8 @@ void SelectionChip::fill(Kind kind)
         old->widget()->deleteLater(); // its own click may have brought us here
         delete old;
     }
-    const auto button = [this](const QString& title, const char* action) {
+    QWidget* last = mBefore;
+    const auto button = [this, &last](const QString& title, const char* action) {
         auto* b = new QToolButton(this);
         b->setText(title);
         b->setAutoRaise(true);
@@ -50,6 +52,7 @@ void SelectionChip::fill(Kind kind)
         b->setObjectName(QString("mChip_%1").arg(QString(action).remove(':')));
         connect(b, &QToolButton::clicked, this, [this, action] { emit chosen(action); });
         layout()->addWidget(b);
+        setTabOrder(std::exchange(last, b), b);
     };
     if (kind == Kind::None) return;
     layout()->addWidget(new QLabel(kind == Kind::Floating ? tr("Floating") : tr("Text"), this));

@@ -18,11 +18,13 @@ public:
     explicit SelectionChip(QWidget* parent = nullptr);
     /// Shows what fits the document now, or hides.
     void show(const zp::Document& document);
+    /// What Tab leaves for the chip's buttons.
+    void setTabAfter(QWidget* before) { mBefore = before; }
 
 signals:
     void chosen(const QString& action); ///< of the menu command
-
 private:
+    QWidget* mBefore = this;
     enum class Kind { None, Floating, Text };
     void fill(Kind kind);
     Kind mKind = Kind::None;

@@ -43,7 +43,7 @@ void LibraryPreview::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (mPicture.isNull()) {
-        painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+        painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap, mText);
         return;
     }

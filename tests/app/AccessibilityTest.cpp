@@ -81,4 +81,33 @@ TEST_F(Accessibility, TabGoesFromToolToPicture)
     EXPECT_EQ(met, wanted);
 }
 
+TEST_F(Accessibility, TabGoesThroughTheOptionsAsTheyAreRead)
+{
+    makeImage(40, 30);
+    window.show();
+    auto* bar = window.findChild<QWidget*>("optionsBar");
+    for (const ToolRow& row : toolTable()) {
+        window.canvas()->setTool(int(row.tool));
+        document->perform("selectRectangle:", {{2, 2, 20, 10}, {}});
+        document->perform("floatSelection");
+        QCoreApplication::processEvents();
+        QWidget* const start = window.findChild<QWidget*>("mToolPopUp");
+        int last = -1, stops = 0, fromPicture = 0;
+        for (QWidget* widget = start;; widget = widget->nextInFocusChain()) {
+            if (widget == start && stops > 0) break;
+            fromPicture += widget == window.canvas();
+            if (!bar->isAncestorOf(widget) || !widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus)) continue;
+            if (widget->objectName().startsWith("qt_")) continue; // a number field's own
+            const int x = widget->mapTo(bar, QPoint()).x();
+            EXPECT_GT(x, last) << row.title << ": " << widget->objectName().toStdString();
+            EXPECT_EQ(fromPicture, 0) << row.title << ": after the picture " << widget->objectName().toStdString();
+            last = x;
+            ++stops;
+        }
+        EXPECT_GE(stops, 4) << row.title;
+        EXPECT_EQ(fromPicture, 1) << row.title;
+        document->perform("anchorSelection:");
+    }
+}
+
 } // namespace

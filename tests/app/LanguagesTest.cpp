@@ -5,6 +5,7 @@
 #include "app/MainMenu.h"
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
+#include "canvas/ToolTable.h"
 #include "canvas/ZPCanvas.h"
 #include "desktop/Desktop.h"
 #include "desktop/ElidedLabel.h"
@@ -247,6 +248,43 @@ TEST_P(LanguageTest, TheWindowWithWhatFloatsIsWholeOnASmallScreen)
     controller.document().perform("floatSelection");
     QCoreApplication::processEvents();
     EXPECT_GT(expectWholeTexts("what floats"), 30);
+}
+
+/// With every tool, with nothing selected, with what floats, and with what the text tool offers.
+TEST_P(LanguageTest, TheMainWindowFitsTheSmallestScreen)
+{
+    constexpr int kSmallestScreen = 1024;
+    ZPAppController controller;
+    Document& document = controller.document();
+    document.perform("newImageWithSize:", {{400, 300}, {}});
+    MainWindow& window = controller.window();
+    window.show();
+    auto* options = window.findChild<QWidget*>("optionsBar");
+    const auto expectRoom = [&](const std::string& state) {
+        QCoreApplication::processEvents();
+        EXPECT_LE(window.minimumSizeHint().width(), kSmallestScreen) << state;
+        window.resize(kSmallestScreen, 700);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window.width(), kSmallestScreen) << state;
+        for (const QWidget* widget : options->findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->window() != &window) continue;
+            EXPECT_TRUE(options->rect().contains({widget->mapTo(options, QPoint()), widget->size()}))
+                << state << ": " << qUtf8Printable(widget->objectName());
+            const QString cut = cutText(widget);
+            EXPECT_TRUE(cut.isEmpty()) << state << ": " << qUtf8Printable(cut);
+        }
+    };
+    for (const ToolRow& row : toolTable()) {
+        document.perform("selectNone");
+        window.canvas()->setTool(int(row.tool));
+        expectRoom(row.title);
+        document.perform("selectRectangle:", {{10, 10, 200, 100}, {}});
+        expectRoom(std::string(row.title) + ", selected");
+        document.perform("floatSelection");
+        expectRoom(std::string(row.title) + ", floating");
+        EXPECT_TRUE(window.findChild<QWidget*>("mSelectionChip")->isVisible());
+        document.perform("anchorSelection:");
+    }
 }
 
 TEST(RightToLeft, TheWindowIsMirroredAndThePictureIsNot)
