@@ -60,7 +60,11 @@ static_assert(std::size(kZoomTitles) == kZoomLevels.size());
 const QString kControlForOption = "controlForOption:", kControlForCommand = "controlForCommand:";
 
 /// A pop-up of words still says which they are, in pixels.
-constexpr int kNarrowPopUp = 80;
+constexpr int kNarrowPopUp = 72;
+/// A slider can still be dragged, in pixels.
+constexpr int kNarrowSlider = 32;
+/// Share of the room that a slider has before the gap behind all options: up to its own greatest width it takes all.
+constexpr int kBeforeThePush = 1000;
 
 /// A switch that is on is seen in the dark colours too.
 void showWhetherOn(QToolButton& button, const QPalette& window)
@@ -199,8 +203,13 @@ void MainWindow::setUpToolOptions()
     });
 
     // What they repeat the fields say: they go down to their least before a switch goes into the menu.
-    for (QSlider* slider : {mUi->mSizeSlider, mUi->mToleranceSlider})
+    for (QSlider* slider : {mUi->mSizeSlider, mUi->mToleranceSlider}) {
         slider->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        slider->setMinimumWidth(kNarrowSlider);
+        mUi->options->setStretchFactor(slider, kBeforeThePush);
+    }
+    for (int i = 0; i < mUi->options->count(); ++i)
+        if (mUi->options->itemAt(i)->spacerItem()) mUi->options->setStretch(i, 1); // it takes what they leave
 
     const auto setSize = [this](int size) { mDocument.setBrushSize(float(size)); };
     connect(mUi->mSizeSlider, &QSlider::valueChanged, this, setSize);

@@ -20,6 +20,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QSlider>
 #include <QTimer>
 #include <QTranslator>
 #include <QXmlStreamReader>
@@ -272,6 +273,16 @@ TEST_P(LanguageTest, TheMainWindowFitsTheSmallestScreen)
                 << state << ": " << qUtf8Printable(widget->objectName());
             const QString cut = cutText(widget);
             EXPECT_TRUE(cut.isEmpty()) << state << ": " << qUtf8Printable(cut);
+            const int least = qobject_cast<const QSlider*>(widget) ? 32 : 0; // it can still be dragged
+            EXPECT_GE(widget->width(), least) << state << ": " << qUtf8Printable(widget->objectName());
+        }
+    };
+    const auto expectWholeSliders = [&](const std::string& state) {
+        window.resize(1800, 700);
+        QCoreApplication::processEvents();
+        for (const QSlider* slider : options->findChildren<QSlider*>()) {
+            if (!slider->isVisible()) continue;
+            EXPECT_EQ(slider->width(), slider->maximumWidth()) << state;
         }
     };
     for (const ToolRow& row : toolTable()) {
@@ -282,6 +293,7 @@ TEST_P(LanguageTest, TheMainWindowFitsTheSmallestScreen)
         expectRoom(std::string(row.title) + ", selected");
         document.perform("floatSelection");
         expectRoom(std::string(row.title) + ", floating");
+        expectWholeSliders(row.title);
         EXPECT_TRUE(window.findChild<QWidget*>("mSelectionChip")->isVisible());
         document.perform("anchorSelection:");
     }
