@@ -94,10 +94,11 @@ void apply(PNGFilter filter, const std::uint8_t* row, const std::uint8_t* above,
 {
     const D8 d;
     const std::size_t n = hn::Lanes(d), whole = count / n * n;
-    const std::uint8_t *const before = row - step, *const aboveBefore = above - step;
+    const std::uint8_t* const before = row - step;
     const std::uint8_t* const other = filter == PNGFilter::Up ? above : before;
     std::size_t i = 0;
     if (filter == PNGFilter::Paeth) {
+        const std::uint8_t* const aboveBefore = above - step; // the other filters may have no row above
         for (; i < whole; i += n) {
             const V8 left = hn::LoadU(d, before + i), corner = hn::LoadU(d, aboveBefore + i);
             hn::StoreU(hn::Sub(hn::LoadU(d, row + i), nearestOf(left, hn::LoadU(d, above + i), corner)), d, out + i);
