@@ -8,7 +8,6 @@
 #include "document/Gesture.h"
 #include "document/Selection.h"
 #include "document/View.h"
-#include "operations/FloatHandles.h"
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -62,28 +61,29 @@ Point HandlesOverlay::inImage(QPointF p) const
     return {float(onCanvas.x() / z), float(onCanvas.y() / z)};
 }
 
-QPointF HandlesOverlay::centreOf(int handle) const
+QPointF HandlesOverlay::centreOf(const FloatHandlePlace& place) const
 {
-    const Document& document = mCanvas.document();
-    const QPointF centre =
-        inView(floatHandleCenter(document.selection(), document.view().effectiveZoom(), FloatHandle(handle)));
+    const QPointF centre = inView(place.center), anchor = inView(place.anchor);
     const double room = double(kHandleSide) / 2 + kInside;
     const QRectF within = QRectF(rect()).adjusted(room, room, -room, -room);
-    const QPointF anchor = inView(floatHandleAnchor(document.selection(), FloatHandle(handle)));
     if (within.contains(centre) || within.isEmpty() || !QRectF(rect()).adjusted(-1, -1, 1, 1).contains(anchor))
         return centre;
     return {std::clamp(centre.x(), within.left(), within.right()),
             std::clamp(centre.y(), within.top(), within.bottom())};
 }
 
-Point HandlesOverlay::shiftAt(QPointF viewPoint) const
+std::array<FloatHandlePlace, kFloatHandles> HandlesOverlay::places() const
 {
     const Document& document = mCanvas.document();
-    for (int i = 0; i < kFloatHandles; ++i) {
-        const QPointF centre = centreOf(i), way = viewPoint - centre;
+    return floatHandlePlaces(document.selection(), document.view().effectiveZoom());
+}
+
+Point HandlesOverlay::shiftAt(QPointF viewPoint) const
+{
+    for (const FloatHandlePlace& place : places()) {
+        const QPointF centre = centreOf(place), way = viewPoint - centre;
         if (std::max(std::abs(way.x()), std::abs(way.y())) > double(kHandleSide) / 2 + 1) continue;
-        return floatHandleCenter(document.selection(), document.view().effectiveZoom(), FloatHandle(i)) -
-               inImage(centre);
+        return place.center - inImage(centre);
     }
     return {};
 }
@@ -92,8 +92,8 @@ void HandlesOverlay::follow()
 {
     QRegion covered;
     if (isShown()) {
-        for (int i = 0; i < kFloatHandles; ++i) {
-            const QPoint at = centreOf(i).toPoint();
+        for (const FloatHandlePlace& place : places()) {
+            const QPoint at = centreOf(place).toPoint();
             // Far away is out of sight, and no matter for whole numbers.
             if (rect().adjusted(-kCover, -kCover, kCover, kCover).contains(at))
                 covered += QRect(at - QPoint(kCover, kCover), at + QPoint(kCover, kCover));
@@ -114,9 +114,10 @@ void HandlesOverlay::paintEvent(QPaintEvent*)
     painter.setPen(QPen(QColor(kEdge), 1.5));
     painter.setBrush(QColor(kFace));
     const QRectF square(-kHandleSide / 2, -kHandleSide / 2, kHandleSide, kHandleSide);
+    const auto all = places();
     for (int i = 0; i < kFloatHandles; ++i) {
         painter.save();
-        painter.translate(centreOf(i));
+        painter.translate(centreOf(all[std::size_t(i)]));
         painter.rotate(selection.record().rotate);
         if (FloatHandle(i) == FloatHandle::Turn)
             painter.drawEllipse(square);

@@ -2,6 +2,7 @@
 /// The handles of what floats, over the whole view: they may lie beside the picture.
 #pragma once
 #include "base/Geometry.h"
+#include "operations/FloatHandles.h"
 #include <QRegion>
 #include <QWidget>
 
@@ -27,7 +28,8 @@ private:
     bool handleMouse(QObject* watched, QMouseEvent* event);
     bool isShown() const;
     /// Where the handle is drawn: a handle that would lie beyond the view, whose corner is seen, comes inside.
-    QPointF centreOf(int handle) const;
+    QPointF centreOf(const zp::FloatHandlePlace& place) const;
+    std::array<zp::FloatHandlePlace, zp::kFloatHandles> places() const;
     /// How far it has come for that, in image coordinates: what the pointer does there is done that far off.
     zp::Point shiftAt(QPointF viewPoint) const;
     QPointF inView(zp::Point imagePoint) const;

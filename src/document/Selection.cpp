@@ -309,14 +309,17 @@ bool Selection::pullCorners(const std::array<Point, 4>& pulls)
 
 bool Selection::straightenCorners()
 {
-    if (!mFloating || !hasFourCorners()) return false;
-    const auto pulls = straighteningPulls(mTransformRecord, ownCorners());
+    if (!mFloating) return false;
+    const auto corners = mUnpulled ? outlineCorners(mUnpulled->record, mUnpulled->outline)
+                                   : outlineCorners(mTransformRecord, *mSelectionPath);
+    const auto pulls = corners ? straighteningPulls(mTransformRecord, *corners) : std::nullopt;
     return pulls && pullCorners(*pulls);
 }
 
-bool Selection::hasFourCorners() const
+std::optional<FloatQuad> Selection::fourCorners() const
 {
-    return mSelectionPath && fourCorners(mUnpulled ? mUnpulled->outline : *mSelectionPath);
+    if (!mSelectionPath) return std::nullopt;
+    return zp::fourCorners(mUnpulled ? mUnpulled->outline : *mSelectionPath);
 }
 
 FloatQuad Selection::ownCorners() const

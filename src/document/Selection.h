@@ -121,8 +121,8 @@ public:
     /// gives back the very outline it had before. @return false, and nothing changes, when nothing floats or the
     /// corners are not those of a convex shape that can be looked at
     bool pullCorners(const std::array<Point, 4>& pulls);
-    /// Whether the outline, as it was before corners were pulled, has four straight sides.
-    bool hasFourCorners() const;
+    /// Those of the outline as it was before corners were pulled, in image coordinates (zp::fourCorners).
+    std::optional<FloatQuad> fourCorners() const;
     /// The corners of the floating piece that its handles take, in its own coordinates, before any was pulled.
     FloatQuad ownCorners() const;
     /// The corners of the piece are pulled so that its outline, of four straight sides, becomes an upright rectangle.

@@ -2,6 +2,7 @@
 /// Scaling, turning and pulling the floating piece by hand: where its handles lie, and what dragging one does.
 #pragma once
 #include "document/Tool.h"
+#include <array>
 #include <optional>
 
 namespace zp
@@ -32,11 +33,14 @@ inline constexpr float kHandleSide = 9, kHandleGap = 3;
 /// Whether the piece can be taken by its handles: something floats, and the tool moves it.
 /// @param tool  of the tool that is chosen
 bool showsFloatHandles(const Document& document, const ToolActions& tool);
-/// The middle of a handle in image coordinates. The handles lie wholly outside the piece's outline, so that a press
-/// inside always moves it, and keep their size on screen. Something must float.
-Point floatHandleCenter(const Selection& selection, float zoom, FloatHandle handle);
-/// What the handle belongs to: the piece's corner, or the middle of its upper side.
-Point floatHandleAnchor(const Selection& selection, FloatHandle handle);
+/// Where a handle lies, in image coordinates.
+struct FloatHandlePlace {
+    Point center;
+    Point anchor; ///< what it belongs to: the piece's corner, or the middle of its upper side
+};
+/// By the handle's number. The handles lie wholly outside the piece's outline, so that a press inside always moves it,
+/// and keep their size on screen. Something must float.
+std::array<FloatHandlePlace, kFloatHandles> floatHandlePlaces(const Selection& selection, float zoom);
 /// The handle at that image point; None between them and when nothing floats.
 FloatHandle floatHandleAt(const Selection& selection, float zoom, Point point);
 /// The gesture of the handle at its press: what the Transform dialog does by number, about the piece's centre, within

@@ -62,7 +62,10 @@ void pressHandle(Edit& edit, Point point)
 std::array<Point, 4> shownCorners(const Selection& selection)
 {
     const FloatQuad own = selection.ownCorners();
-    return placedQuad(selection.record(), pulledQuad(selection.record(), own).value_or(own));
+    const FloatQuad placed = placedQuad(selection.record(), pulledQuad(selection.record(), own).value_or(own));
+    std::array<Point, 4> corners;
+    std::ranges::transform(placed, corners.begin(), [](CurvePoint p) { return Point{float(p.x), float(p.y)}; });
+    return corners;
 }
 
 /// The pulls when that corner goes on by the way from @p from to @p to, in image coordinates. Nothing where it cannot.
@@ -115,37 +118,32 @@ bool showsFloatHandles(const Document& document, const ToolActions& tool)
     return document.selection().floating() && !document.selection().isNil() && tool.moves;
 }
 
-Point floatHandleCenter(const Selection& selection, float zoom, FloatHandle handle)
+std::array<FloatHandlePlace, kFloatHandles> floatHandlePlaces(const Selection& selection, float zoom)
 {
     const std::array<Point, 4> corners = shownCorners(selection);
     const float out = (kHandleSide / 2 + kHandleGap) / zoom;
-    if (handle == FloatHandle::Turn) {
-        // Straight up from the middle of the upper side, away from the lower one.
-        const Point side = unit(corners[1] - corners[0]), middle = floatHandleAnchor(selection, handle);
-        const Point down = between(corners[2], corners[3]) - middle;
-        const Point across{-side.y, side.x};
-        const float up = across.x * down.x + across.y * down.y > 0 ? -1.0f : 1.0f;
-        return middle + scaled(across, up * (out + kTurnDistance / zoom));
-    }
+    std::array<FloatHandlePlace, kFloatHandles> places;
     // Outwards in the middle between the two sides that meet there.
-    const auto i = std::size_t(handle);
-    const Point corner = corners[i];
-    const Point away = unit(corner - corners[(i + 1) % 4]) + unit(corner - corners[(i + 3) % 4]);
-    return corner + scaled(unit(away), out * std::numbers::sqrt2_v<float>);
-}
-
-Point floatHandleAnchor(const Selection& selection, FloatHandle handle)
-{
-    const std::array<Point, 4> corners = shownCorners(selection);
-    return handle == FloatHandle::Turn ? between(corners[0], corners[1]) : corners[std::size_t(handle)];
+    for (std::size_t i = 0; i < 4; ++i) {
+        const Point away = unit(corners[i] - corners[(i + 1) % 4]) + unit(corners[i] - corners[(i + 3) % 4]);
+        places[i] = {corners[i] + scaled(unit(away), out * std::numbers::sqrt2_v<float>), corners[i]};
+    }
+    // Straight up from the middle of the upper side, away from the lower one.
+    const Point side = unit(corners[1] - corners[0]), middle = between(corners[0], corners[1]);
+    const Point down = between(corners[2], corners[3]) - middle;
+    const Point across{-side.y, side.x};
+    const float up = across.x * down.x + across.y * down.y > 0 ? -1.0f : 1.0f;
+    places[std::size_t(FloatHandle::Turn)] = {middle + scaled(across, up * (out + kTurnDistance / zoom)), middle};
+    return places;
 }
 
 FloatHandle floatHandleAt(const Selection& selection, float zoom, Point point)
 {
     if (!selection.floating() || selection.contains(point)) return FloatHandle::None;
     const float reach = (kHandleSide / 2 + kHandleReach) / zoom;
-    for (int i = 0; i < kFloatHandles; ++i)
-        if (distance(point, floatHandleCenter(selection, zoom, FloatHandle(i))) <= reach) return FloatHandle(i);
+    const auto places = floatHandlePlaces(selection, zoom);
+    for (std::size_t i = 0; i < places.size(); ++i)
+        if (distance(point, places[i].center) <= reach) return FloatHandle(i);
     return FloatHandle::None;
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The floating selection: lifted, scaled and turned, adjusted, anchored.
+#include "base/ProjectiveTransform.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Sounds.h"
 #include "document/Gesture.h"
@@ -88,15 +89,17 @@ void operations::straightenCorners(Edit& edit, const Arguments& none)
 {
     Selection& selection = edit.selection();
     if (edit.gesture().polygonIsOpen()) endPolygon(edit, none);
-    if (!selection.hasFourCorners())
+    const auto corners = selection.fourCorners();
+    if (!corners)
         return edit.refuse(
             QCoreApplication::translate("Corners", "The selection does not have four corners."),
             QCoreApplication::translate(
                 "Corners",
                 "With Polygon beside the lasso, click the corners of what is to become upright one by one."));
-    if (!selection.floating()) floatSelection(edit, none);
+    const bool canBeSeen = ProjectiveTransform::ofRect(makeRect(0, 0, 1, 1), *corners).has_value();
+    if (canBeSeen && !selection.floating()) floatSelection(edit, none);
     edit.redraw(selection.bounds().inset(-2));
-    if (!selection.straightenCorners())
+    if (!canBeSeen || !selection.straightenCorners())
         return edit.refuse(QCoreApplication::translate("Corners", "The selection could not be made upright."),
                            QCoreApplication::translate("Corners", "It is seen from too far aside."));
     edit.redraw(selection.bounds().inset(-2));

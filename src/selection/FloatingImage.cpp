@@ -37,8 +37,8 @@ bool touchedPixels(Rect box, WholePixels& pixels)
 /// A corner this near to the last one is the same, as when a polygon's last click meets its first; and one this near to
 /// the line between its neighbours is none. In pixels.
 constexpr float kSamePlace = 1, kOnSide = 0.5f;
-/// An outline of more is not searched for four corners again and again.
-constexpr int kFewElements = 12;
+/// Nobody sets the corners of a quadrangle by more clicks, and every movement of the pointer searches them again.
+constexpr int kMostClicks = 64;
 
 /// The box that was lifted or pasted, in the piece's own coordinates.
 Rect ownBox(const _ZPTransform& record)
@@ -70,6 +70,24 @@ FloatQuad fromUpperLeft(FloatQuad turn)
         if (slope(i) > slope(first)) first = i;
     std::rotate(turn.begin(), turn.begin() + std::ptrdiff_t(first), turn.end());
     return turn;
+}
+
+FloatQuad mapped(const AffineTransform& map, FloatQuad corners)
+{
+    for (CurvePoint& corner : corners) {
+        const Point p = map.apply(Point{float(corner.x), float(corner.y)});
+        corner = {double(p.x), double(p.y)};
+    }
+    return corners;
+}
+
+/// Corners of the image as ones of the piece. @return nothing when the piece is too small to have places
+std::optional<FloatQuad> inPieceOf(const _ZPTransform& record, const FloatQuad& corners)
+{
+    bool ok = false;
+    const AffineTransform toPiece = floatingPlacement(record).inverted(&ok);
+    if (!ok) return std::nullopt;
+    return mapped(toPiece, corners);
 }
 
 /// From the pixels of the image to its coordinates as a piece. In double precision: a single-precision corner could be
@@ -182,66 +200,49 @@ std::optional<std::array<Point, 4>> pullsThatBring(const _ZPTransform& record, c
     return pulls;
 }
 
-FloatQuad ownCorners(const _ZPTransform& record, const BezierPath& outline)
+std::optional<FloatQuad> outlineCorners(const _ZPTransform& record, const BezierPath& outline)
 {
-    const FloatQuad box = cornersOf(ownBox(record));
-    const auto quad = outline.elementCount() <= kFewElements ? fourCorners(outline) : std::nullopt;
-    bool ok = false;
-    const AffineTransform toPiece = floatingPlacement(record).inverted(&ok);
-    if (!quad || !ok) return box;
-    FloatQuad own;
-    for (std::size_t i = 0; i < 4; ++i) {
-        const Point p = toPiece.apply((*quad)[i]);
-        own[i] = {double(p.x), double(p.y)};
-    }
-    own = fromUpperLeft(own);
-    if (!ProjectiveTransform::ofRect(makeRect(0, 0, 1, 1), own)) return box;
+    const auto quad = fourCorners(outline);
+    const auto inPiece = quad ? inPieceOf(record, *quad) : std::nullopt;
+    if (!inPiece) return std::nullopt;
+    const FloatQuad own = fromUpperLeft(*inPiece), box = cornersOf(ownBox(record));
     bool isBox = true;
     for (std::size_t i = 0; i < 4; ++i)
         isBox = isBox && std::hypot(own[i].x - box[i].x, own[i].y - box[i].y) < double(kOnSide);
     return isBox ? box : own;
 }
 
-std::array<Point, 4> placedQuad(const _ZPTransform& record, const FloatQuad& corners)
+FloatQuad ownCorners(const _ZPTransform& record, const BezierPath& outline)
 {
-    std::array<Point, 4> placed;
-    for (std::size_t i = 0; i < 4; ++i)
-        placed[i] = floatingPlacement(record).apply(Point{float(corners[i].x), float(corners[i].y)});
-    return placed;
+    const auto own = outlineCorners(record, outline);
+    if (own && ProjectiveTransform::ofRect(makeRect(0, 0, 1, 1), *own)) return *own;
+    return cornersOf(ownBox(record));
+}
+
+FloatQuad placedQuad(const _ZPTransform& record, const FloatQuad& corners)
+{
+    return mapped(floatingPlacement(record), corners);
 }
 
 std::optional<std::array<Point, 4>> straighteningPulls(const _ZPTransform& record, const FloatQuad& own)
 {
-    FloatQuad from;
-    for (std::size_t i = 0; i < 4; ++i) {
-        const Point p = placedQuad(record, own)[i];
-        from[i] = {double(p.x), double(p.y)};
-    }
-    from = fromUpperLeft(from);
+    const FloatQuad from = fromUpperLeft(placedQuad(record, own));
     const auto side = [&from](std::size_t a, std::size_t b) {
         return std::hypot(from[b].x - from[a].x, from[b].y - from[a].y);
     };
     const double width = (side(0, 1) + side(3, 2)) / 2, height = (side(0, 3) + side(1, 2)) / 2;
     CurvePoint middle;
     for (const CurvePoint p : from) middle.x += p.x / 4, middle.y += p.y / 4;
-    const std::array<Point, 4> upright{Point{float(middle.x - width / 2), float(middle.y - height / 2)},
-                                       {float(middle.x + width / 2), float(middle.y - height / 2)},
-                                       {float(middle.x + width / 2), float(middle.y + height / 2)},
-                                       {float(middle.x - width / 2), float(middle.y + height / 2)}};
-    bool ok = false;
-    const AffineTransform toPiece = floatingPlacement(record).inverted(&ok);
-    if (!ok) return std::nullopt;
-    FloatQuad to;
-    for (std::size_t i = 0; i < 4; ++i) {
-        const Point p = toPiece.apply(upright[i]), q = toPiece.apply(Point{float(from[i].x), float(from[i].y)});
-        to[i] = {double(p.x), double(p.y)};
-        from[i] = {double(q.x), double(q.y)};
-    }
-    return pullsThatBring(record, from, to);
+    const Rect upright =
+        makeRect(float(middle.x - width / 2), float(middle.y - height / 2), float(width), float(height));
+    const auto corners = inPieceOf(record, from), straight = inPieceOf(record, cornersOf(upright));
+    if (!corners || !straight) return std::nullopt;
+    return pullsThatBring(record, *corners, *straight);
 }
 
-std::optional<std::array<Point, 4>> fourCorners(const BezierPath& outline)
+std::optional<FloatQuad> fourCorners(const BezierPath& outline)
 {
+    if (outline.elementCount() > kMostClicks) return std::nullopt;
     std::vector<Point> corners;
     bool plain = true;
     outline.forEach([&](PathElement kind, const Point* p) {
@@ -263,7 +264,14 @@ std::optional<std::array<Point, 4>> fourCorners(const BezierPath& outline)
         i = i > 0 ? i - 1 : 0;
     }
     if (corners.size() != 4) return std::nullopt;
-    return std::array{corners[0], corners[1], corners[2], corners[3]};
+    FloatQuad quad;
+    for (std::size_t i = 0; i < 4; ++i) quad[i] = {double(corners[i].x), double(corners[i].y)};
+    quad = fromUpperLeft(quad);
+    for (std::size_t i = 0; i < 4; ++i) {
+        const CurvePoint a = quad[i], b = quad[(i + 1) % 4], c = quad[(i + 2) % 4];
+        if (!((b.x - a.x) * (c.y - b.y) > (b.y - a.y) * (c.x - b.x))) return std::nullopt; // dented, or crossing itself
+    }
+    return quad;
 }
 
 std::shared_ptr<Image> liftFloatingImage(ConstBitmapView image, Rect box)

@@ -31,22 +31,26 @@ std::optional<ProjectiveTransform> pulledPlacement(const _ZPTransform& record);
 /// Four corners in a piece's own coordinates (see floatingPlacement), before any was pulled: upper left, upper right,
 /// lower right, lower left.
 using FloatQuad = std::array<CurvePoint, 4>;
-/// The corners that a person sees: those of an outline of four straight sides, else those of the piece's box.
+/// fourCorners of an outline that is in image coordinates, as it is without pulled corners.
+std::optional<FloatQuad> outlineCorners(const _ZPTransform& record, const BezierPath& outline);
+/// The corners that a person takes: outlineCorners where there are such and a flat picture can be seen like that, else
+/// those of the piece's box.
 /// @param outline  in image coordinates, as it is without pulled corners
 FloatQuad ownCorners(const _ZPTransform& record, const BezierPath& outline);
 /// Where they lie with the box's corners pulled, in the same coordinates. @return nothing for one beyond the horizon
 std::optional<FloatQuad> pulledQuad(const _ZPTransform& record, const FloatQuad& own);
 /// In image coordinates.
-std::array<Point, 4> placedQuad(const _ZPTransform& record, const FloatQuad& corners);
+FloatQuad placedQuad(const _ZPTransform& record, const FloatQuad& corners);
 /// How far the box's corners must be pulled for the corners @p own to lie at @p to. @return nothing when that cannot be
 std::optional<std::array<Point, 4>> pullsThatBring(const _ZPTransform& record, const FloatQuad& own,
                                                    const FloatQuad& to);
 /// How far they must be pulled for the corners @p own to become those of a rectangle that is upright in the image: as
 /// wide and high as the means of the opposite sides, with the same middle. @return nothing when that cannot be
 std::optional<std::array<Point, 4>> straighteningPulls(const _ZPTransform& record, const FloatQuad& own);
-/// The four corners of a closed outline of four straight sides, in turn; repeated points and those in the middle of a
-/// side do not count. @return nothing for another shape
-std::optional<std::array<Point, 4>> fourCorners(const BezierPath& outline);
+/// The four corners of a closed outline of four straight sides, in its coordinates, clockwise from the upper left one;
+/// repeated points and those in the middle of a side do not count. @return nothing for another shape, and for one that
+/// is dented: no rectangle looks like that from anywhere
+std::optional<FloatQuad> fourCorners(const BezierPath& outline);
 
 /// The floating image of the region @p box of @p image: all pixels that the box touches, those outside the image
 /// transparent. Its size is that of the box; when the box is not on whole pixels, its pixels reach a little beyond it

@@ -45,7 +45,7 @@ protected:
 
 TEST_F(HandlesByHand, ACornerBesideThePictureScales)
 {
-    const Point corner = floatHandleCenter(selection(), 1, FloatHandle::BottomRight);
+    const Point corner = floatHandlePlaces(selection(), 1)[std::size_t(FloatHandle::BottomRight)].center;
     ASSERT_GT(corner.x, 300) << "outside the picture";
     const Point c = record().position;
     drag(inView(corner), inView({c.x + (corner.x - c.x) / 2, c.y + (corner.y - c.y) / 2}));
@@ -78,7 +78,7 @@ TEST_F(HandlesByHand, APressInsideMoves)
 TEST_F(HandlesByHand, WhatAScriptPressesPassesTheHandlesBy)
 {
     performNumbers("transform_set:", {0.5, 0}); // now they lie over the picture
-    const Point corner = floatHandleCenter(selection(), 1, FloatHandle::BottomRight);
+    const Point corner = floatHandlePlaces(selection(), 1)[std::size_t(FloatHandle::BottomRight)].center;
     window.canvas()->setExactPointer(corner);
     drag(inView(corner), inView(corner));
     EXPECT_EQ(floating(), nullptr) << "the press begins a new selection, as it does at every zoom";

@@ -71,7 +71,9 @@ TEST_F(CursorsTest, ArrowsOnTheHandlesTurnWithThePiece)
                           {90, Qt::SizeBDiagCursor, Qt::SizeFDiagCursor},
                           {-45, Qt::SizeHorCursor, Qt::SizeVerCursor}}) {
         performNumbers("transform_set:", {1, double(c.rotate)});
-        const auto at = [this](FloatHandle h) { return shapeAt(floatHandleCenter(selection(), 1, h)); };
+        const auto at = [this](FloatHandle h) {
+            return shapeAt(floatHandlePlaces(selection(), 1)[std::size_t(h)].center);
+        };
         EXPECT_EQ(at(FloatHandle::TopLeft), c.topLeft) << c.rotate;
         EXPECT_EQ(at(FloatHandle::BottomRight), c.topLeft) << c.rotate;
         EXPECT_EQ(at(FloatHandle::TopRight), c.topRight) << c.rotate;

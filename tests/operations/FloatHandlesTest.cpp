@@ -25,7 +25,10 @@ protected:
         perform("floatSelection");
     }
     float zoom() const { return document->view().effectiveZoom(); }
-    Point center(FloatHandle handle) const { return floatHandleCenter(selection(), zoom(), handle); }
+    Point center(FloatHandle handle) const
+    {
+        return floatHandlePlaces(selection(), zoom())[std::size_t(handle)].center;
+    }
     /// From the handle to where it is to go.
     void pull(FloatHandle handle, Point to)
     {

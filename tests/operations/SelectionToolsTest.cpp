@@ -204,6 +204,23 @@ TEST_F(SelectionTools, ALassoOfFewerThanFourElementsDropsTheSelection)
     }
 }
 
+TEST_F(SelectionTools, WhatLiftsAPolygonClosesIt)
+{
+    for (const char* command : {"floatSelection", "transform", "adjust", "copy:", "cut:"}) {
+        SCOPED_TRACE(command);
+        choose(Tool::Lasso);
+        for (const Point corner : {Point{10, 10}, {60, 10}, {60, 60}}) {
+            hold(corner == Point{10, 10} ? kControlKey : 0);
+            press(corner.x, corner.y);
+            release(corner.x, corner.y);
+        }
+        ASSERT_TRUE(gesture().polygonIsOpen());
+        perform(command);
+        EXPECT_FALSE(gesture().polygonIsOpen()) << "a later click would be a corner of what is copied already";
+        dropSelection();
+    }
+}
+
 TEST_F(SelectionTools, PolygonLassoGrowsByClicksAndEndsWithReturn)
 {
     choose(Tool::Lasso);

@@ -105,14 +105,32 @@ TEST_F(FreeCorners, OfAPolygonThatIsStillOpenAreThoseThatWereClicked)
                 (std::hypot(100, 10) + std::hypot(80, 10)) / 2, 0.01);
 }
 
-TEST_F(FreeCorners, AreAskedForWhereThereAreNotFour)
+struct NotStraightened {
+    const char* name;
+    const char* outline;
+    const char* said;
+};
+class NoFreeCorners : public FreeCorners, public testing::WithParamInterface<NotStraightened>
 {
-    run.must("send selectOutline: \"M 60 40 L 150 55 L 140 115 Z\"");
+};
+
+TEST_P(NoFreeCorners, IsSaidAndNothingIsLifted)
+{
+    run.must(QString("send selectOutline: \"%1\"").arg(GetParam().outline));
     run.must("menu straightenCorners:");
-    EXPECT_EQ(run.must("alert")["alert"].toObject()["title"].toString(), "The selection does not have four corners.");
+    EXPECT_EQ(run.must("alert")["alert"].toObject()["title"].toString(), GetParam().said);
     run.must("answer OK");
     EXPECT_FALSE(run.state()["floating"].toBool());
     EXPECT_TRUE(run.state()["selection"].toBool());
 }
+
+constexpr const char* kNotFour = "The selection does not have four corners.";
+constexpr const char* kTooSlanted = "The selection could not be made upright.";
+INSTANTIATE_TEST_SUITE_P(Of, NoFreeCorners,
+                         testing::Values(NotStraightened{"ThreeCorners", "M 60 40 L 150 55 L 140 115 Z", kNotFour},
+                                         NotStraightened{"ADent", "M 20 20 L 150 20 L 50 50 L 20 90 Z", kNotFour},
+                                         NotStraightened{"TooSteepAView", "M 20 0 L 150 74.4 L 150 75.6 L 20 150 Z",
+                                                         kTooSlanted}),
+                         [](const auto& test) { return test.param.name; });
 
 } // namespace

@@ -424,6 +424,21 @@ BezierPath polygon(std::initializer_list<Point> corners)
     return path;
 }
 
+/// Each side by that many lines.
+BezierPath subdivided(std::array<Point, 4> corners, int lines)
+{
+    BezierPath path;
+    for (std::size_t i = 0; i < 4; ++i)
+        for (int k = 0; k < lines; ++k) {
+            const Point a = corners[i], b = corners[(i + 1) % 4];
+            const float at = float(k) / float(lines);
+            const Point p{a.x + (b.x - a.x) * at, a.y + (b.y - a.y) * at};
+            path.isEmpty() ? path.moveTo(p) : path.lineTo(p);
+        }
+    path.closePath();
+    return path;
+}
+
 struct Shape {
     const char* name;
     BezierPath path;
@@ -438,16 +453,19 @@ TEST_P(FourCorners, AreThoseOfFourStraightSides)
 }
 INSTANTIATE_TEST_SUITE_P(
     Shapes, FourCorners,
-    testing::Values(Shape{"rectangle", BezierPath::withRect(makeRect(1, 2, 30, 40)), true},
-                    Shape{"quadrangle", polygon({{10, 10}, {90, 20}, {80, 70}, {5, 60}}), true},
-                    Shape{"closed_by_a_click", polygon({{10, 10}, {90, 20}, {80, 70}, {5, 60}, {10, 10}}), true},
-                    Shape{"clicked_twice", polygon({{10, 10}, {90, 20}, {90, 20}, {80, 70}, {5, 60}}), true},
-                    Shape{"with_a_corner_on_a_side", polygon({{10, 10}, {50, 15.2f}, {90, 20}, {80, 70}, {5, 60}}),
-                          true},
-                    Shape{"triangle", polygon({{10, 10}, {90, 20}, {80, 70}}), false},
-                    Shape{"pentagon", polygon({{10, 10}, {50, 0}, {90, 20}, {80, 70}, {5, 60}}), false},
-                    Shape{"oval", BezierPath::withOvalInRect(makeRect(0, 0, 30, 30)), false},
-                    Shape{"nothing", {}, false}),
+    testing::Values(
+        Shape{"rectangle", BezierPath::withRect(makeRect(1, 2, 30, 40)), true},
+        Shape{"quadrangle", polygon({{10, 10}, {90, 20}, {80, 70}, {5, 60}}), true},
+        Shape{"closed_by_a_click", polygon({{10, 10}, {90, 20}, {80, 70}, {5, 60}, {10, 10}}), true},
+        Shape{"clicked_twice", polygon({{10, 10}, {90, 20}, {90, 20}, {80, 70}, {5, 60}}), true},
+        Shape{"with_a_corner_on_a_side", polygon({{10, 10}, {50, 15.2f}, {90, 20}, {80, 70}, {5, 60}}), true},
+        Shape{"with_many_on_its_sides", subdivided({Point{10, 10}, {90, 20}, {80, 70}, {5, 60}}, 5), true},
+        Shape{"with_more_than_a_person_clicks", subdivided({Point{10, 10}, {90, 20}, {80, 70}, {5, 60}}, 20), false},
+        Shape{"dented", polygon({{0, 0}, {100, 0}, {20, 20}, {0, 60}}), false},
+        Shape{"crossing_itself", polygon({{0, 0}, {100, 60}, {100, 0}, {0, 50}}), false},
+        Shape{"triangle", polygon({{10, 10}, {90, 20}, {80, 70}}), false},
+        Shape{"pentagon", polygon({{10, 10}, {50, 0}, {90, 20}, {80, 70}, {5, 60}}), false},
+        Shape{"oval", BezierPath::withOvalInRect(makeRect(0, 0, 30, 30)), false}, Shape{"nothing", {}, false}),
     [](const auto& test) { return std::string(test.param.name); });
 
 BezierPath outlineOf(const std::array<Point, 4>& corners)
