@@ -1374,10 +1374,6 @@
         <translation>Toleranz in Prozent</translation>
     </message>
     <message>
-        <source>Busy</source>
-        <translation>Beschäftigt</translation>
-    </message>
-    <message>
         <source>Zoom (keys + and −, Ctrl+wheel)</source>
         <translation>Zoom (Tasten + und −, Strg+Mausrad)</translation>
     </message>
@@ -3180,6 +3176,10 @@
     <message>
         <source>in perspective</source>
         <translation>in Perspektive</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Beschäftigt</translation>
     </message>
 </context>
 <context>

@@ -1374,10 +1374,6 @@
         <translation>Tolerancia en porcentaje</translation>
     </message>
     <message>
-        <source>Busy</source>
-        <translation>Ocupado</translation>
-    </message>
-    <message>
         <source>Zoom (keys + and −, Ctrl+wheel)</source>
         <translation>Ampliación (teclas + y −, Ctrl+rueda)</translation>
     </message>
@@ -3180,6 +3176,10 @@
     <message>
         <source>in perspective</source>
         <translation>en perspectiva</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Ocupado</translation>
     </message>
 </context>
 <context>

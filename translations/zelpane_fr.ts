@@ -1374,10 +1374,6 @@
         <translation>Tolérance en pour cent</translation>
     </message>
     <message>
-        <source>Busy</source>
-        <translation>Occupé</translation>
-    </message>
-    <message>
         <source>Zoom (keys + and −, Ctrl+wheel)</source>
         <translation>Zoom (touches + et −, Ctrl+molette)</translation>
     </message>
@@ -3180,6 +3176,10 @@
     <message>
         <source>in perspective</source>
         <translation>en perspective</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Occupé</translation>
     </message>
 </context>
 <context>

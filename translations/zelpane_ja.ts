@@ -1364,10 +1364,6 @@
         <translation>許容値 (パーセント)</translation>
     </message>
     <message>
-        <source>Busy</source>
-        <translation>処理中</translation>
-    </message>
-    <message>
         <source>Zoom (keys + and −, Ctrl+wheel)</source>
         <translation>ズーム (キー + と −、Ctrl+ホイール)</translation>
     </message>
@@ -3170,6 +3166,10 @@
     <message>
         <source>in perspective</source>
         <translation>遠近あり</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>処理中</translation>
     </message>
 </context>
 <context>

@@ -1374,10 +1374,6 @@
         <translation>Tolerância em porcentagem</translation>
     </message>
     <message>
-        <source>Busy</source>
-        <translation>Ocupado</translation>
-    </message>
-    <message>
         <source>Zoom (keys + and −, Ctrl+wheel)</source>
         <translation>Zoom (teclas + e −, Ctrl+roda)</translation>
     </message>
@@ -3180,6 +3176,10 @@
     <message>
         <source>in perspective</source>
         <translation>em perspectiva</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>Ocupado</translation>
     </message>
 </context>
 <context>

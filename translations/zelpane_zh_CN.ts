@@ -1364,10 +1364,6 @@
         <translation>容差 (百分比)</translation>
     </message>
     <message>
-        <source>Busy</source>
-        <translation>忙</translation>
-    </message>
-    <message>
         <source>Zoom (keys + and −, Ctrl+wheel)</source>
         <translation>缩放 (按键 + 和 −，Ctrl+滚轮)</translation>
     </message>
@@ -3170,6 +3166,10 @@
     <message>
         <source>in perspective</source>
         <translation>透视</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation>忙</translation>
     </message>
 </context>
 <context>

@@ -129,8 +129,6 @@ MainWindow::MainWindow(Document& document)
     connect(&mDocument, &Document::zoomChanged, this, &MainWindow::showZoom);
     connect(&mDocument, &Document::changed, this, &MainWindow::showStatus);
     connect(&mDocument, &Document::pointerMoved, mStatus, &StatusLine::showPointer);
-    connect(&mDocument, &Document::stepsChanged, mUi->mBusyIndicator,
-            [this] { mUi->mBusyIndicator->setVisible(mDocument.history().isBusy()); });
     showTool();
     showPaint();
     showZoom();

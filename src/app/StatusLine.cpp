@@ -9,6 +9,7 @@
 #include "desktop/QtColor.h"
 #include "document/Document.h"
 #include "document/Gesture.h"
+#include "document/History.h"
 #include "document/Picture.h"
 #include "document/Selection.h"
 #include "document/View.h"
@@ -22,6 +23,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QProgressBar>
 #include <QRegularExpression>
 #include <QStatusBar>
 #include <algorithm>
@@ -36,6 +38,7 @@ namespace
 constexpr double kUsualDpi = 72;
 /// Side of the swatch, in screen points.
 constexpr int kSwatch = 12;
+constexpr QSize kBusySize(40, 8);
 
 /// Shows the selection's words, and hands its picture to other programs when it is dragged.
 class SelectionField : public QLabel
@@ -128,6 +131,7 @@ StatusLine::StatusLine(QStatusBar& bar, Document& document) : QObject(&bar), mDo
                           "00000, 00000 · 00000 × 00000 px", 0);
     mMiddle = new ElidedLabel;
     add(mMiddle, "mMessageField", {}, "", 1);
+    addBusyIndicator(bar);
     mSwatch = add(new QLabel, "mSwatch", tr("Colour under the pointer"), "", 0);
     mSwatch->setContentsMargins(0, 0, 0, 0);
     mSwatch->setAccessibleName(mSwatch->toolTip());
@@ -135,6 +139,24 @@ StatusLine::StatusLine(QStatusBar& bar, Document& document) : QObject(&bar), mDo
         add(new QLabel, "mPointerField", tr("Position and colour under the pointer"), "00000, 00000   #000000 00 %", 0);
     mImageField = add(new QLabel, "mImageField", tr("Size of the image and zoom"), "00000 × 00000 · 100 %", 0);
     show();
+}
+
+void StatusLine::addBusyIndicator(QStatusBar& bar)
+{
+    auto* busy = new QProgressBar;
+    busy->setObjectName("mBusyIndicator");
+    busy->setAccessibleName(tr("Busy"));
+    busy->setRange(0, 0);
+    busy->setTextVisible(false);
+    busy->setFixedSize(kBusySize);
+    // Its place stays: it comes and goes with every step, and nothing may move for that.
+    QSizePolicy place = busy->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    busy->setSizePolicy(place);
+    bar.addWidget(busy);
+    busy->hide();
+    connect(&mDocument, &Document::stepsChanged, busy,
+            [this, busy] { busy->setVisible(mDocument.history().isBusy()); });
 }
 
 void StatusLine::setPassingHint(const QString& text)

@@ -43,6 +43,7 @@ public:
     QString hint() const;
 
 private:
+    void addBusyIndicator(QStatusBar& bar);
     void showMiddle();
     QString withKeys(QString hint) const;
 

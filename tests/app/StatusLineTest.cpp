@@ -55,6 +55,29 @@ TEST_F(StatusLineTest, TheSelectionIsSaidInPixelsAndItsFieldKeepsItsText)
     EXPECT_EQ(text("mSelectionField"), "");
 }
 
+TEST_F(StatusLineTest, NothingMovesWhenItIsBusy)
+{
+    makeImage(400, 300);
+    window.show();
+    QCoreApplication::processEvents();
+    auto* busy = window.findChild<QWidget*>("mBusyIndicator");
+    const auto places = [this] {
+        std::vector<QRect> all;
+        for (const QWidget* widget : window.findChildren<QWidget*>())
+            if (widget->objectName() != "mBusyIndicator" && !widget->inherits("QFocusFrame"))
+                all.emplace_back(widget->mapTo(&window, QPoint()), widget->size());
+        return all;
+    };
+    busy->hide();
+    QCoreApplication::processEvents();
+    const auto before = places();
+    const int width = window.minimumSizeHint().width();
+    busy->show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(places(), before);
+    EXPECT_EQ(window.minimumSizeHint().width(), width);
+}
+
 TEST_F(StatusLineTest, WhatFloatsTellsItsScaleAndTurn)
 {
     makeImage(400, 300);

@@ -8,6 +8,7 @@
 #include "selection/MaskOps.h"
 #include "support/Session.h"
 #include <QCryptographicHash>
+#include <iostream>
 #include <map>
 #include <random>
 #include <set>
@@ -290,6 +291,8 @@ protected:
     int runFills = 0; ///< by smart fill's own window since the last check, a step each
 };
 
+constexpr int kEventsPerLine = 5'000; ///< of a long run: it says how far it is
+
 int fromEnvironment(const char* name, int otherwise)
 {
     bool ok = false;
@@ -302,6 +305,7 @@ TEST_P(Monkey, LeavesThePictureSoundWhateverItDoes)
     const int events = fromEnvironment("ZELPANE_MONKEY_EVENTS", 600);
     for (int event = 0; event < events && !HasFailure(); ++event) {
         SCOPED_TRACE(testing::Message() << "seed " << GetParam() << ", event " << event);
+        if (event > 0 && event % kEventsPerLine == 0) std::cout << "after " << event << " events" << std::endl;
         switch (upTo(12)) {
         case 0:
             holdSomething();
