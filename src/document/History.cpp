@@ -154,7 +154,8 @@ void History::handOver(const Picture& picture, std::int32_t number, const StepNo
 
 void History::record(const Picture& picture, const char* name)
 {
-    if (mDontTakeSnapshot) return;
+    // Without a picture there is nothing to come back to, and numbers without steps would be in the way of redo.
+    if (mDontTakeSnapshot || !picture.bitmap()) return;
     // Until the writer has what it needs to tell old pixels from new ones, nobody may write any.
     mUndoThreadRunning.store(true, std::memory_order_release);
     const std::int32_t number = SnapshotNumbers(mUndoIndex, mUndoRedoIndex).advance();

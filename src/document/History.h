@@ -88,7 +88,7 @@ public:
     void noteChanged(PixelBox box);
     /// The picture is another bitmap.
     void pictureReplaced(int width, int height);
-    /// Asks for a step of the picture as it is now. Ignored while suppressed.
+    /// Asks for a step of the picture as it is now. Ignored while suppressed, and when there is none.
     void record(const Picture& picture, const char* name);
     /// The same also while suppressed, and only if pixels were changed since the last step.
     void recordOwed(const Picture& picture, const char* name);

@@ -408,4 +408,20 @@ TEST_F(History, WithoutAPictureNothingBreaks)
     EXPECT_FALSE(picture().bitmap());
 }
 
+TEST_F(History, WithoutAPictureThereAreNoStepsThatUndoAndRedoWouldStumbleOver)
+{
+    makeImage(40, 30);
+    change(255, 200);
+    change(100, 60);
+    performNumbers("newImageForMeWithSize:", {17, -16});
+    ASSERT_FALSE(picture().bitmap());
+    for (int i = 0; i < 3; ++i) perform("takeSnapshot");
+    expectNumbers(2, 2);
+    perform("undo:");
+    expectPicture(255, 200);
+    perform("redo:");
+    expectPicture(100, 60);
+    expectNumbers(2, 2);
+}
+
 } // namespace

@@ -274,8 +274,10 @@ protected:
             pictures[now.position] = now.picture;
         }
         while (now.position < now.newest) {
+            const int before = now.position;
             EXPECT_TRUE(say("menu redo:")["ok"].toBool());
             now = look();
+            ASSERT_GT(now.position, before) << "of " << now.newest << where().toStdString();
             if (pictures.contains(now.position)) {
                 EXPECT_EQ(pictures[now.position], now.picture) << "step " << now.position << where().toStdString();
             }
