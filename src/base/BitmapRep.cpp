@@ -29,4 +29,13 @@ std::shared_ptr<BitmapRep> BitmapRep::createUninitialized(int width, int height)
     return std::shared_ptr<BitmapRep>(new BitmapRep(std::move(bytes), width, height, rowBytes));
 }
 
+std::shared_ptr<BitmapRep> copyOf(const BitmapRep& picture)
+{
+    auto copy = BitmapRep::createUninitialized(picture.pixelsWide(), picture.pixelsHigh());
+    if (!copy) return nullptr;
+    copyPixels(picture.view(), copy->view());
+    copy->properties = picture.properties;
+    return copy;
+}
+
 } // namespace zp

@@ -63,4 +63,8 @@ private:
     std::ptrdiff_t mRowBytes;
 };
 
+/// The same pixels and properties in memory of their own. @return null when there is none for the pixels; throws
+/// bad_alloc when there is none for the properties
+std::shared_ptr<BitmapRep> copyOf(const BitmapRep& picture);
+
 } // namespace zp

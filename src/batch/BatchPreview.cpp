@@ -5,7 +5,6 @@
 #include "batch/BatchPicture.h"
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <numbers>
 
 namespace zp
@@ -18,15 +17,6 @@ constexpr double kSameShape = 0.01;
 
 double flatness(const PixelDimensions& size) { return std::log(double(size.width) / size.height); }
 std::int64_t area(const PixelDimensions& size) { return std::int64_t{size.width} * size.height; }
-
-std::shared_ptr<BitmapRep> copyOf(const BitmapRep& picture)
-{
-    auto copy = BitmapRep::createUninitialized(picture.pixelsWide(), picture.pixelsHigh());
-    if (copy)
-        std::memcpy(copy->bitmapData(), picture.bitmapData(),
-                    std::size_t(picture.bytesPerRow()) * std::size_t(picture.pixelsHigh()));
-    return copy;
-}
 
 } // namespace
 

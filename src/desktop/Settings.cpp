@@ -15,6 +15,7 @@ namespace
 {
 
 constexpr std::uint64_t kLargest = 4u << 20;
+constexpr const char* kReadableName = "/";              // a bracket at the beginning would be the first version's form
 constexpr const char* kReadable = " /:+@{}()[]!$&'*;?"; // beside letters and digits: what need not be encoded
 
 QByteArray encoded(const QVariant& value)
@@ -59,7 +60,8 @@ void Settings::load()
     }
     for (const QByteArray& line : QByteArray::fromStdString(*text).split('\n'))
         if (const qsizetype equals = line.indexOf('='); equals > 0)
-            mValues[QString::fromUtf8(line.first(equals))] = decoded(line.sliced(equals + 1));
+            mValues[QString::fromUtf8(QByteArray::fromPercentEncoding(line.first(equals)))] =
+                decoded(line.sliced(equals + 1));
 }
 
 QVariant Settings::value(const QString& key, const QVariant& otherwise) const
@@ -92,7 +94,8 @@ void Settings::save()
     mScheduled = false;
     if (!mUnwritten || !mWritable) return;
     QByteArray text;
-    for (const auto& [key, value] : mValues) text += key.toUtf8() + '=' + encoded(value) + '\n';
+    for (const auto& [key, value] : mValues)
+        text += key.toUtf8().toPercentEncoding(kReadableName) + '=' + encoded(value) + '\n';
     createFolder(folderOfPath(mFile));
     std::string error;
     // What could not be written is tried again with the next change, and at the end.

@@ -190,10 +190,8 @@ std::shared_ptr<const BitmapRep> copyAsShown(const Document& document)
 {
     const std::shared_ptr<const BitmapRep> picture = document.picture().bitmap();
     if (!picture) return nullptr;
-    auto shown = BitmapRep::createUninitialized(picture->pixelsWide(), picture->pixelsHigh());
+    auto shown = copyOf(*picture);
     if (!shown) throw std::bad_alloc();
-    copyPixels(picture->view(), shown->view());
-    shown->properties = picture->properties;
     drawFloatingPiece(document, shown->view(), 0, 0);
     return shown;
 }

@@ -86,6 +86,23 @@ TEST(BitmapRep, RowsHaveSpareBytes)
     }
 }
 
+TEST(BitmapRep, ACopyHasThePixelsAndTheWordsButNotTheMemory)
+{
+    const auto rep = BitmapRep::create(17, 5);
+    rep->view().pixel(16, 4)[2] = 200;
+    rep->properties.xDpi = 300;
+    rep->properties.comments = {"a word"};
+    const auto copy = copyOf(*rep);
+    rep->view().pixel(16, 4)[2] = 0;
+    ASSERT_TRUE(copy);
+    EXPECT_EQ(copy->pixelsWide(), 17);
+    EXPECT_EQ(copy->pixelsHigh(), 5);
+    EXPECT_EQ(copy->view().pixel(16, 4)[2], 200);
+    EXPECT_EQ(copy->view().pixel(0, 0)[2], 0);
+    EXPECT_EQ(copy->properties.xDpi, 300);
+    EXPECT_EQ(copy->properties.comments, rep->properties.comments);
+}
+
 TEST(BitmapRep, AbsurdSizesAreRefused)
 {
     for (const auto& [w, h] : {std::pair{0, 5}, {5, 0}, {-1, 5}, {30001, 1}, {1, 30001}, {1 << 30, 1 << 30}}) {

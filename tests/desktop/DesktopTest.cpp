@@ -88,6 +88,20 @@ TEST(SettingsFile, KeepsTextsListsAndBytes)
     EXPECT_FALSE(again.value("gone").isValid());
 }
 
+TEST(SettingsFile, KeepsNamesOfEveryKind)
+{
+    const std::string path = temporaryFolder() + "/settings/names.conf";
+    for (const char* name : {"plain", "a/b", "[heading]", "a=b", "a\nb", "50 %41", "\u00fc", "#"}) {
+        SCOPED_TRACE(name);
+        removeItem(path);
+        {
+            Settings settings(path);
+            settings.setValue(QString::fromUtf8(name), 7);
+        }
+        EXPECT_EQ(Settings(path).value(QString::fromUtf8(name)), "7");
+    }
+}
+
 TEST(SettingsFile, OfTheFirstVersionIsRead)
 {
     const std::string path = temporaryFolder() + "/old.conf";

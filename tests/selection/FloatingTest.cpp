@@ -26,13 +26,6 @@ std::shared_ptr<BitmapRep> photo(int width, int height, unsigned seed = 1)
     return rep;
 }
 
-std::shared_ptr<BitmapRep> copyOf(const BitmapRep& rep)
-{
-    auto copy = BitmapRep::create(rep.pixelsWide(), rep.pixelsHigh());
-    for (int y = 0; y < rep.pixelsHigh(); ++y) std::copy_n(rep.view().row(y), rep.pixelsWide(), copy->view().row(y));
-    return copy;
-}
-
 int greatestDifference(const BitmapRep& a, const BitmapRep& b)
 {
     int worst = 0;
