@@ -233,9 +233,10 @@ HWY_INLINE void transform(V16* d)
     d[3] = descale<shift>(add(multiply(t5, t6, -20995, 25172 - 20995), p3));
 }
 
-/// One row of @p blocks blocks from a plane's eight rows, @p stride apart.
-HWY_INLINE void transformBlocks(const std::uint8_t* plane, std::size_t stride, int blocks, const StripTables& tables,
-                                Coefficients& out)
+/// One row of @p blocks blocks from a plane's eight rows, @p stride apart. Not inlined, as fill() and code() are not:
+/// all in one function took the compiler minutes.
+HWY_NOINLINE void transformBlocks(const std::uint8_t* plane, std::size_t stride, int blocks, const StripTables& tables,
+                                  Coefficients& out)
 {
     const D16 d;
     const DU16 du;
@@ -306,7 +307,7 @@ public:
 
 private:
     /// The unit at column @p x, what lies beyond the picture's edges made up as the library does it.
-    HWY_INLINE void fill(ConstBitmapView pixels, int x, Planes& planes) const
+    HWY_NOINLINE void fill(ConstBitmapView pixels, int x, Planes& planes) const
     {
         const int columns = std::min(kUnit, mWidth - x), pairsOfRows = (pixels.height + 1) / 2;
         alignas(64) std::uint8_t edge[2][4 * kUnit];
@@ -338,7 +339,7 @@ private:
         put(mLuma.dcCode[0] >> 6, mLuma.dcCode[0] & 63);
         put(mLuma.acCode[0] >> 6, mLuma.acCode[0] & 63);
     }
-    HWY_INLINE void code(const Coefficients& coefficients, int block, const StripTables& tables, int& lastDC)
+    HWY_NOINLINE void code(const Coefficients& coefficients, int block, const StripTables& tables, int& lastDC)
     {
         const std::size_t n = lanes(), group = std::size_t(block) / groupBlocks(),
                           inside = std::size_t(block) % groupBlocks();
