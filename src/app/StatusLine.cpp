@@ -220,6 +220,7 @@ QString StatusLine::selectionInWords() const
     const Picture& picture = mDocument.picture();
     const Selection& selection = mDocument.selection();
     if (selection.isNil() || !picture.isLoaded()) return {};
+    if (selection.outline()->elementCount() == 0) return {}; // a text that is not written yet
     const auto& properties = picture.bitmap()->properties;
     // Only pixels of the picture are selected, however far the outline reaches; what floats may lie outside.
     const Rect box = integralRect(selection.bounds());

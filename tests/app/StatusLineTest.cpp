@@ -51,6 +51,8 @@ TEST_F(StatusLineTest, TheSelectionIsSaidInPixelsAndItsFieldKeepsItsText)
     EXPECT_EQ(text("mSelectionField"), "0, 20 · 400 × 280 px") << "only pixels of the picture are selected";
     perform("selectAll:");
     EXPECT_EQ(text("mSelectionField"), "0, 0 · 400 × 300 px");
+    edit([](Edit& e) { e.selection().select({}); });
+    EXPECT_EQ(text("mSelectionField"), "") << "a text without letters";
     perform("selectNone:");
     EXPECT_EQ(text("mSelectionField"), "");
 }
