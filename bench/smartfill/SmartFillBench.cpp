@@ -70,7 +70,7 @@ long peakKilobytes()
 void BM_SmartFillMemory(benchmark::State& state)
 {
     std::mt19937 random(7);
-    SmartFillPicture picture{4000, 3000, {}, {}};
+    SmartFillPicture picture{4000, 3000, {}, {}, {}};
     for (int y = 0; y < picture.height; ++y)
         for (int x = 0; x < picture.width; ++x) {
             picture.pixels.push_back(photoPixel(x, y, random));
