@@ -22,7 +22,6 @@
 #include "desktop/ScrollView.h"
 #include "document/Document.h"
 #include "document/Gesture.h"
-#include "document/History.h"
 #include "document/Paint.h"
 #include "document/Picture.h"
 #include "document/View.h"

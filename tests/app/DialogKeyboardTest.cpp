@@ -5,7 +5,6 @@
 #include "app/MainWindow.h"
 #include "app/ZPAppController.h"
 #include "document/Document.h"
-#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
