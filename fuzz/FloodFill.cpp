@@ -60,7 +60,7 @@ ZP_FUZZ(FloodFill, "", bytes)
     fuzz::require(field.words == twin.words, "the fill paints what the scan paints");
     fuzz::require(same(a, b), "and says so");
     const std::uint32_t target = field.words[bytes[5] % count];
-    const auto c = magicWand(field.pixels(), field.mask(), seed, target, tolerance, stack, sharedTileRegion());
+    const auto c = magicWand(field.pixels(), field.mask(), false, seed, target, tolerance, stack, sharedTileRegion());
     const auto d = magicWandColumns(twin.pixels(), twin.mask(), seed, target, tolerance, stackOfTwin);
     fuzz::require(field.walls == twin.walls, "the wand marks what the scan marks");
     fuzz::require(same(c, d), "and says so");

@@ -160,7 +160,7 @@ void wand(benchmark::State& state, Kind kind)
         state.PauseTiming();
         std::memset(mask.get(), 255, std::size_t(kWidth) * kHeight);
         state.ResumeTiming();
-        benchmark::DoNotOptimize(magicWand(picture->view(), view, {s.seed.x, s.seed.y}, target, s.tolerance,
+        benchmark::DoNotOptimize(magicWand(picture->view(), view, true, {s.seed.x, s.seed.y}, target, s.tolerance,
                                            sharedFillStack(), sharedTileRegion()));
     }
     state.counters["pixels"] = double(std::count(mask.get(), mask.get() + std::size_t(kWidth) * kHeight, 0));

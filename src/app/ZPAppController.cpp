@@ -118,8 +118,8 @@ ZPAppController::ZPAppController()
     for (const auto& [action, to] :
          {std::pair("compareOpened:", CompareTo::Opened), std::pair("compareSaved:", CompareTo::Saved),
           std::pair("compareStep:", CompareTo::LastStep)}) {
-        mMenu->setState(action, [this, to] { return mCompareTo == to; });
-        mShell[action] = [this, to] {
+        mMenu->setState(action, [this, to = to] { return mCompareTo == to; });
+        mShell[action] = [this, to = to] {
             mCompareTo = to;
             if (mDocument->view().compared()) startComparison(*mDocument, mCompareTo);
         };

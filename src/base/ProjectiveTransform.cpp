@@ -23,8 +23,9 @@ double doubleArea(CurvePoint a, CurvePoint b, CurvePoint c)
     return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
 }
 
-/// Convex, and wide enough at each corner to be told from a line.
-bool isSound(const std::array<CurvePoint, 4>& corners)
+} // namespace
+
+bool isConvex(const std::array<CurvePoint, 4>& corners)
 {
     int left = 0, right = 0;
     for (std::size_t i = 0; i < 4; ++i) {
@@ -34,11 +35,9 @@ bool isSound(const std::array<CurvePoint, 4>& corners)
     return left == 4 || right == 4;
 }
 
-} // namespace
-
 std::optional<ProjectiveTransform> ProjectiveTransform::ofRect(Rect from, const std::array<CurvePoint, 4>& to)
 {
-    if (from.isEmpty() || !isSound(to)) return std::nullopt;
+    if (from.isEmpty() || !isConvex(to)) return std::nullopt;
     // The unit square first: the equations of its corners, solved by hand.
     const CurvePoint &a = to[0], &b = to[1], &c = to[2], &d = to[3];
     const double bx = b.x - c.x, by = b.y - c.y, dx = d.x - c.x, dy = d.y - c.y;

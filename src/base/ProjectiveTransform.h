@@ -10,6 +10,10 @@
 namespace zp
 {
 
+/// Whether four corners, in turn either way round, are those of a convex shape with some area (a hundredth of a square
+/// pixel) at each of them.
+bool isConvex(const std::array<CurvePoint, 4>& corners);
+
 /// (x, y) goes to (m[0] x + m[1] y + m[2], m[3] x + m[4] y + m[5]) / (m[6] x + m[7] y + m[8]), in double precision.
 /// Places whose divisor is not above zero lie beyond the horizon and have no image.
 struct ProjectiveTransform {

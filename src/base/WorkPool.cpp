@@ -10,6 +10,7 @@
 #include <exception>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -139,6 +140,19 @@ struct InsideBody {
     InsideBody() { insideBody = true; }
     ~InsideBody() { insideBody = false; }
 };
+
+void runAlone(int count, const std::function<void(int)>& body)
+{
+    std::exception_ptr failure;
+    for (int i = 0; i < count; ++i) {
+        try {
+            body(i);
+        } catch (...) {
+            if (!failure) failure = std::current_exception();
+        }
+    }
+    if (failure) std::rethrow_exception(failure);
+}
 } // namespace
 
 int workerCount() { return Workers::shared().count(); }
@@ -146,22 +160,16 @@ int workerCount() { return Workers::shared().count(); }
 void parallelFor(int count, const std::function<void(int)>& body)
 {
     if (count <= 0) return;
-    if (count == 1 || insideBody || workerCount() == 1) {
-        std::exception_ptr failure;
-        for (int i = 0; i < count; ++i) {
-            try {
-                body(i);
-            } catch (...) {
-                if (!failure) failure = std::current_exception();
-            }
-        }
-        if (failure) std::rethrow_exception(failure);
-        return;
+    if (count == 1 || insideBody || workerCount() == 1) return runAlone(count, body);
+    std::shared_ptr<Pass> pass;
+    try {
+        pass = std::make_shared<Pass>();
+        pass->body = &body;
+        pass->count = count;
+        Workers::shared().submit(pass);
+    } catch (const std::bad_alloc&) {
+        return runAlone(count, body); // whatever is half done can then be done to its end
     }
-    const auto pass = std::make_shared<Pass>();
-    pass->body = &body;
-    pass->count = count;
-    Workers::shared().submit(pass);
     {
         const InsideBody mark;
         pass->work();
@@ -209,10 +217,11 @@ void parallelBands(int rows, int grain, const std::function<void(int, int)>& bod
     const int most = workerCount() == 1 ? 1 : 4 * workerCount();
     const int bands = std::clamp(rows / std::max(grain, 1), 1, most);
     if (bands == 1) return body(0, rows);
-    parallelFor(bands, [&](int band) {
+    const auto runBand = [&](int band) {
         const auto edge = [&](int b) { return int(static_cast<long long>(rows) * b / bands); };
         body(edge(band), edge(band + 1));
-    });
+    };
+    parallelFor(bands, std::ref(runBand)); // a copy might need memory
 }
 
 } // namespace zp

@@ -12,7 +12,7 @@ int workerCount();
 
 /// Calls body(i) for i in [0, count), spread over the pool and the calling thread; returns when all are done. An
 /// exception of a body is thrown again here, after the others ended. Calls from inside a body run in that thread.
-/// Any thread may call. Worth it from about half a millisecond of work.
+/// Any thread may call; without memory for a pass it does all itself. Worth it from about half a millisecond of work.
 void parallelFor(int count, const std::function<void(int)>& body);
 
 /// Calls body(i) for i in [0, count) all at once, each in a thread of its own (the caller's is one), for work that

@@ -268,19 +268,22 @@ void Selection::transform(float scale, float rotate)
     outlineChanged();
 }
 
+Selection::Resting Selection::unpulled() const
+{
+    if (mUnpulled) return {mUnpulled->outline, mUnpulled->record};
+    return {*mSelectionPath, mFloating ? mTransformRecord : floatingRecord(bounds())};
+}
+
 BezierPath Selection::outlineBeforePulling() const
 {
-    if (!mUnpulled) return *mSelectionPath;
-    BezierPath outline = mUnpulled->outline;
-    const auto isThere = [this](const _ZPTransform& r) {
-        return r.position == mTransformRecord.position && r.scale == mTransformRecord.scale &&
-               r.rotate == mTransformRecord.rotate;
-    };
-    if (isThere(mUnpulled->record)) return outline;
-    AffineTransform moved = floatingPlacement(mTransformRecord);
-    moved.prepend(floatingPlacement(mUnpulled->record).inverted());
-    outline.transform(moved);
-    return outline;
+    const auto [outline, record] = unpulled();
+    const _ZPTransform& now = mTransformRecord;
+    if (record.position == now.position && record.scale == now.scale && record.rotate == now.rotate) return outline;
+    AffineTransform moved = floatingPlacement(now);
+    moved.prepend(floatingPlacement(record).inverted());
+    BezierPath there = outline;
+    there.transform(moved);
+    return there;
 }
 
 bool Selection::pullCorners(const std::array<Point, 4>& pulls)
@@ -307,25 +310,21 @@ bool Selection::pullCorners(const std::array<Point, 4>& pulls)
     return true;
 }
 
-bool Selection::straightenCorners()
-{
-    if (!mFloating) return false;
-    const auto corners = mUnpulled ? outlineCorners(mUnpulled->record, mUnpulled->outline)
-                                   : outlineCorners(mTransformRecord, *mSelectionPath);
-    const auto pulls = corners ? straighteningPulls(mTransformRecord, *corners) : std::nullopt;
-    return pulls && pullCorners(*pulls);
-}
+bool Selection::hasFourCorners() const { return mSelectionPath && fourCorners(unpulled().outline); }
 
-std::optional<FloatQuad> Selection::fourCorners() const
+std::optional<std::array<Point, 4>> Selection::straighteningPulls() const
 {
     if (!mSelectionPath) return std::nullopt;
-    return zp::fourCorners(mUnpulled ? mUnpulled->outline : *mSelectionPath);
+    const auto [outline, record] = unpulled();
+    const auto corners = outlineCorners(record, outline);
+    if (!corners) return std::nullopt;
+    return zp::straighteningPulls(mFloating ? mTransformRecord : record, *corners);
 }
 
 FloatQuad Selection::ownCorners() const
 {
-    return mUnpulled ? zp::ownCorners(mUnpulled->record, mUnpulled->outline)
-                     : zp::ownCorners(mTransformRecord, *mSelectionPath);
+    const auto [outline, record] = unpulled();
+    return zp::ownCorners(record, outline);
 }
 
 void Selection::anchor(BitmapView pixels, float opacity)

@@ -121,13 +121,14 @@ public:
     /// gives back the very outline it had before. @return false, and nothing changes, when nothing floats or the
     /// corners are not those of a convex shape that can be looked at
     bool pullCorners(const std::array<Point, 4>& pulls);
-    /// Those of the outline as it was before corners were pulled, in image coordinates (zp::fourCorners).
-    std::optional<FloatQuad> fourCorners() const;
+    /// Whether the outline has four straight sides, as it was before corners were pulled (zp::fourCorners).
+    bool hasFourCorners() const;
     /// The corners of the floating piece that its handles take, in its own coordinates, before any was pulled.
     FloatQuad ownCorners() const;
-    /// The corners of the piece are pulled so that its outline, of four straight sides, becomes an upright rectangle.
-    /// @return false, and nothing changes, when the outline has not four corners or lies too slanted
-    bool straightenCorners();
+    /// The pulls (see pullCorners) by which the piece's outline, of four straight sides, becomes an upright rectangle;
+    /// where nothing floats yet, of the piece that would be lifted.
+    /// @return nothing when the outline has not four corners or lies too slanted
+    std::optional<std::array<Point, 4>> straighteningPulls() const;
     void setTransforming(bool on) { mTransform = on; }
     void setTransformMode(int handle) { mTransformMode = handle; } ///< the one that is dragged; -1 for none
     /// Draws the floating piece into @p pixels, clipped as the screen shows it; then nothing floats, the outline stays.
@@ -170,6 +171,13 @@ private:
         _ZPTransform record;
     };
     std::shared_ptr<const Unpulled> mUnpulled;
+    struct Resting {
+        const BezierPath& outline;
+        _ZPTransform record;
+    };
+    /// The outline without pulled corners, and where its piece lay then; of the piece that would be lifted where nothing
+    /// floats. Only with an outline, which it refers to.
+    Resting unpulled() const;
     bool mTransform = false; ///< the piece is being scaled or turned by hand
     std::int32_t mTransformMode = -1;
     float mSelectionPhase = 0;

@@ -89,17 +89,16 @@ void operations::straightenCorners(Edit& edit, const Arguments& none)
 {
     Selection& selection = edit.selection();
     if (edit.gesture().polygonIsOpen()) endPolygon(edit, none);
-    const auto corners = selection.fourCorners();
-    if (!corners)
+    if (!selection.hasFourCorners())
         return edit.refuse(
             QCoreApplication::translate("Corners", "The selection does not have four corners."),
             QCoreApplication::translate(
                 "Corners",
                 "With Polygon beside the lasso, click the corners of what is to become upright one by one."));
-    const bool canBeSeen = ProjectiveTransform::ofRect(makeRect(0, 0, 1, 1), *corners).has_value();
-    if (canBeSeen && !selection.floating()) floatSelection(edit, none);
+    const auto pulls = selection.straighteningPulls();
+    if (pulls && !selection.floating()) floatSelection(edit, none);
     edit.redraw(selection.bounds().inset(-2));
-    if (!canBeSeen || !selection.straightenCorners())
+    if (!pulls || !selection.pullCorners(*pulls))
         return edit.refuse(QCoreApplication::translate("Corners", "The selection could not be made upright."),
                            QCoreApplication::translate("Corners", "It is seen from too far aside."));
     edit.redraw(selection.bounds().inset(-2));

@@ -25,7 +25,7 @@ void markByWand(Edit& edit, Point point, bool adding)
     }
     const MaskView mask = edit.selection().maskForWand(adding);
     if (mask.isEmpty()) throw std::bad_alloc();
-    zp::magicWand(pixels, mask, *seed, wordUnder(pixels, point), edit.paint().refreshTolerance(), sharedFillStack(),
+    zp::magicWand(pixels, mask, !adding, *seed, wordUnder(pixels, point), edit.paint().refreshTolerance(), sharedFillStack(),
                   sharedTileRegion());
 }
 

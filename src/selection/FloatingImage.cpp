@@ -191,13 +191,15 @@ std::optional<std::array<Point, 4>> pullsThatBring(const _ZPTransform& record, c
     if (!back || !there) return std::nullopt;
     const ProjectiveTransform map = there->after(*back);
     std::array<Point, 4> pulls;
-    const FloatQuad corners = cornersOf(ownBox(record));
+    const Rect box = ownBox(record);
+    const FloatQuad corners = cornersOf(box);
+    FloatQuad pulled;
     for (std::size_t i = 0; i < 4; ++i) {
         if (!(map.divisor(corners[i]) > 0)) return std::nullopt; // this corner would be beyond the horizon
-        const CurvePoint pulled = map.apply(corners[i]);
-        pulls[i] = {float(pulled.x - corners[i].x), float(pulled.y - corners[i].y)};
+        pulled[i] = map.apply(corners[i]);
+        pulls[i] = {float(pulled[i].x - corners[i].x), float(pulled[i].y - corners[i].y)};
     }
-    return pulls;
+    return ProjectiveTransform::ofRect(box, pulled) ? std::optional(pulls) : std::nullopt;
 }
 
 std::optional<FloatQuad> outlineCorners(const _ZPTransform& record, const BezierPath& outline)
@@ -266,12 +268,8 @@ std::optional<FloatQuad> fourCorners(const BezierPath& outline)
     if (corners.size() != 4) return std::nullopt;
     FloatQuad quad;
     for (std::size_t i = 0; i < 4; ++i) quad[i] = {double(corners[i].x), double(corners[i].y)};
-    quad = fromUpperLeft(quad);
-    for (std::size_t i = 0; i < 4; ++i) {
-        const CurvePoint a = quad[i], b = quad[(i + 1) % 4], c = quad[(i + 2) % 4];
-        if (!((b.x - a.x) * (c.y - b.y) > (b.y - a.y) * (c.x - b.x))) return std::nullopt; // dented, or crossing itself
-    }
-    return quad;
+    if (!isConvex(quad)) return std::nullopt; // dented, or crossing itself
+    return fromUpperLeft(quad);
 }
 
 std::shared_ptr<Image> liftFloatingImage(ConstBitmapView image, Rect box)

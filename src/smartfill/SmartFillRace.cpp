@@ -35,7 +35,8 @@ struct Table {
         // A fourth of it: bits that come over from the byte above are cut off.
         const auto index = hn::And(hn::BitCast(d, hn::ShiftRight<2>(hn::BitCast(d16, difference))), hn::Set(d, 31));
         const auto first = hn::Set(d, 16);
-        const auto isHigh = hn::Eq(hn::And(index, first), first), part = hn::And(index, hn::Set(d, 15));
+        const auto isHigh = hn::Eq(hn::And(index, first), first);
+        const auto part = hn::And(index, hn::Set(d, 15));
         return hn::IfThenElse(isHigh, hn::TableLookupBytes(high, part), hn::TableLookupBytes(low, part));
     }
 };

@@ -21,9 +21,8 @@ ColumnFillResult floodFill(BitmapView pixels, ConstMaskView walls, PixelPoint se
     if (!neverFull && tiles.columnScanPushes() > std::size_t(stack.capacity()))
         return floodFillColumns(pixels, walls, seed, fill, tolerance, stack);
     const PixelBox box = tiles.box();
-    tiles.visitRows(box.y0, box.y1, [&](int x, int y, std::uint64_t bits) {
-        paintBits(pixels.row(y) + x, bits, fill, pixels.width - x);
-    });
+    tiles.visit(box,
+                [&](int x, int y, std::uint64_t bits) { paintBits(pixels.row(y) + x, bits, fill, pixels.width - x); });
     return {box, true};
 }
 

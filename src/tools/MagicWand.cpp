@@ -7,13 +7,13 @@
 namespace zp
 {
 
-ColumnFillResult magicWand(ConstBitmapView pixels, MaskView mask, PixelPoint seed, std::uint32_t target, int tolerance,
-                           FillStack& stack, TileRegion& tiles)
+ColumnFillResult magicWand(ConstBitmapView pixels, MaskView mask, bool noWalls, PixelPoint seed, std::uint32_t target,
+                           int tolerance, FillStack& stack, TileRegion& tiles)
 {
     const TileQuery query{target, tolerance, false};
     stack.clear();
     const bool neverFull = stackNeverFills(pixels.width, pixels.height, stack);
-    tiles.find(pixels, mask, seed, query, [&](PixelBox box) {
+    tiles.find(pixels, noWalls ? ConstMaskView{} : mask, seed, query, [&](PixelBox box) {
         if (!neverFull) return false;
         clearBox(mask.row(box.y0) + box.x0, mask.stride, box.width(), box.height());
         return true;
@@ -21,8 +21,7 @@ ColumnFillResult magicWand(ConstBitmapView pixels, MaskView mask, PixelPoint see
     if (!neverFull && tiles.columnScanPushes() > std::size_t(stack.capacity()))
         return magicWandColumns(pixels, mask, seed, target, tolerance, stack);
     const PixelBox box = tiles.box();
-    tiles.visitRows(box.y0, box.y1,
-                    [&](int x, int y, std::uint64_t bits) { clearBits(mask.row(y) + x, bits, mask.width - x); });
+    tiles.visit(box, [&](int x, int y, std::uint64_t bits) { clearBits(mask.row(y) + x, bits, mask.width - x); });
     return {box, true};
 }
 

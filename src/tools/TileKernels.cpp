@@ -52,7 +52,10 @@ inline void announceRow(const TileSource& tile, int y)
     constexpr std::ptrdiff_t kLine = 64;
     const std::uint8_t* const row = tile.pixels + tile.rowBytes * y;
     for (std::ptrdiff_t at = 0; at < 4 * kTileSide; at += kLine) prefetch(row + at);
-    if (tile.mask) prefetch(tile.mask + tile.maskStride * y);
+    prefetch(row + 4 * tile.width - 1); // a row need not begin with a line
+    if (!tile.mask) return;
+    const std::uint8_t* const mask = tile.mask + tile.maskStride * y;
+    prefetch(mask), prefetch(mask + tile.width - 1);
 }
 
 } // namespace

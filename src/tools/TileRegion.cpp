@@ -2,9 +2,11 @@
 /// The walk over tiles and the spreading of words inside them.
 #include "tools/TileRegion.h"
 #include "base/BitmapRep.h"
+#include "base/CpuHints.h"
 #include "tools/TileBounds.h"
 #include <algorithm>
 #include <bit>
+#include <thread>
 #include <utility>
 
 namespace zp
@@ -19,6 +21,19 @@ constexpr std::uint64_t kBothEnds = std::uint64_t{1} << 63 | 1;
 /// Tiles of the largest picture: its area, and a strip of part tiles along two sides.
 constexpr std::size_t kMostTiles =
     std::size_t(kMaxPixels) / (kTileSide * kTileSide) + 2 * (kMaxPixelsPerSide / kTileSide + 1) + 1;
+/// So many tiles wait when a second thread gets to work: a winding corridor never has them, nor has a small region.
+constexpr std::uint32_t kManyWaiting = 16;
+/// So often a thread looks for the other's next word before it lets others run.
+constexpr int kPatience = 500;
+
+/// Waits a moment. @param tries  so far, counted up
+void waitABit(int& tries)
+{
+    if (++tries < kPatience)
+        pauseSpinning();
+    else
+        std::this_thread::yield();
+}
 
 std::uint64_t reversed(std::uint64_t v)
 {
@@ -44,9 +59,9 @@ std::uint64_t spreadBoth(std::uint64_t open, std::uint64_t seeds)
 
 TileRegion::TileRegion()
     : mTileMemory(kMostTiles * sizeof(Tile)),
-      mQueueMemory((kMostTiles + 1) * 4),
+      mQueueMemory(std::bit_ceil(kMostTiles + 1) * sizeof *mQueue),
       mTiles(reinterpret_cast<Tile*>(mTileMemory.data())),
-      mQueue(reinterpret_cast<std::uint32_t*>(mQueueMemory.data()))
+      mQueue(reinterpret_cast<std::atomic<std::uint32_t>*>(mQueueMemory.data()))
 {
 }
 
@@ -57,6 +72,44 @@ void TileRegion::forget()
     mColumns = mRows = 0;
 }
 
+void TileRegion::find(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query,
+                      const std::function<bool(PixelBox)>& fullTile)
+{
+    mFullTile = &fullTile;
+    if (begin(pixels, mask, seed, query, nullptr))
+        while (Tile* tile = nextTile()) {
+            take(*tile);
+            if (waiting() >= kManyWaiting) goOnWithHelp();
+        }
+    mFullTile = nullptr;
+}
+
+void TileRegion::goOnWithHelp()
+{
+    mSearching = true;
+    parallelFor(2, [this](int part) {
+        if (part == 1) return makeBitsAhead();
+        while (Tile* tile = nextTile()) take(*tile);
+        mSearching = false;
+    });
+}
+
+void TileRegion::makeBitsAhead()
+{
+    std::uint32_t place = mHead;
+    for (int tries = 0; mSearching.load(std::memory_order_relaxed);) {
+        const std::uint32_t end = mTail.load(std::memory_order_acquire), head = mHead.load(std::memory_order_relaxed);
+        if (std::int32_t(place - head) < 0) place = head; // the other was faster
+        if (place == end) {
+            waitABit(tries);
+            continue;
+        }
+        tries = 0;
+        Tile& tile = waitingAt(place++);
+        load(tile, place == end ? nullptr : &waitingAt(place));
+    }
+}
+
 bool TileRegion::begin(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query,
                        const TileBounds* bounds)
 {
@@ -65,7 +118,7 @@ bool TileRegion::begin(ConstBitmapView pixels, ConstMaskView mask, PixelPoint se
     mHead = mTail = 0;
     mColumns = (pixels.width + kTileSide - 1) / kTileSide;
     mRows = (pixels.height + kTileSide - 1) / kTileSide;
-    mQueueSize = std::uint32_t(mColumns) * std::uint32_t(mRows) + 1;
+    mQueueMask = std::bit_ceil(std::uint32_t(mColumns) * std::uint32_t(mRows) + 1) - 1;
     if (++mGeneration == 0) {
         // After four thousand million fills the numbers begin again, and no tile may take an old one for the present.
         mTileMemory.release();
@@ -74,7 +127,7 @@ bool TileRegion::begin(ConstBitmapView pixels, ConstMaskView mask, PixelPoint se
     if (query.tolerance < 1) return false;
     Tile& first =
         touch(mTiles + (seed.y / kTileSide) * mColumns + seed.x / kTileSide, seed.x / kTileSide, seed.y / kTileSide);
-    load(first);
+    load(first, nullptr);
     const int x = seed.x % kTileSide, y = seed.y % kTileSide;
     if (!(first.open[std::size_t(y)] >> x & 1)) {
         mReached = {};
@@ -95,8 +148,9 @@ TileRegion::Tile& TileRegion::touch(Tile* tile, int column, int row)
     if (tile->generation != mGeneration) {
         tile->generation = mGeneration;
         tile->column = std::uint16_t(column), tile->row = std::uint16_t(row);
-        tile->loaded = tile->queued = tile->allOpen = tile->done = false;
+        tile->queued = tile->allOpen = tile->done = false;
         tile->fromLeft = tile->fromRight = tile->fromAbove = tile->fromBelow = 0;
+        tile->bits.store(Unknown, std::memory_order_release); // whoever sees this sees the rest
         mReached.include(column, row);
     }
     return *tile;
@@ -106,17 +160,29 @@ void TileRegion::enqueue(Tile& tile)
 {
     if (tile.queued) return;
     tile.queued = true;
-    mQueue[mTail] = std::uint32_t(&tile - mTiles);
-    if (++mTail == mQueueSize) mTail = 0;
+    const std::uint32_t end = mTail.load(std::memory_order_relaxed);
+    mQueue[end & mQueueMask].store(std::uint32_t(&tile - mTiles), std::memory_order_relaxed);
+    mTail.store(end + 1, std::memory_order_release);
 }
 
 TileRegion::Tile* TileRegion::nextTile()
 {
-    if (mHead == mTail) return nullptr;
-    Tile& tile = mTiles[mQueue[mHead]];
-    if (++mHead == mQueueSize) mHead = 0;
+    std::uint32_t place = mHead.load(std::memory_order_relaxed);
+    const std::uint32_t end = mTail.load(std::memory_order_relaxed);
+    if (place == end) return nullptr;
+    Tile& tile = waitingAt(place++);
+    mHead.store(place, std::memory_order_relaxed);
     tile.queued = false;
-    if (!tile.loaded) load(tile);
+    if (!isMade(tile)) load(tile, place == end ? nullptr : &waitingAt(place));
+    // Where the other thread is just making them, there are others to make.
+    for (int tries = 0; !isMade(tile);) {
+        if (place == end) {
+            waitABit(tries);
+            continue;
+        }
+        Tile& other = waitingAt(place++);
+        load(other, place == end ? nullptr : &waitingAt(place));
+    }
     return &tile;
 }
 
@@ -156,16 +222,20 @@ bool TileRegion::loadByBounds(Tile& tile)
     return true;
 }
 
-void TileRegion::load(Tile& tile)
+void TileRegion::load(Tile& tile, const Tile* next)
 {
+    Bits state = Unknown;
+    if (!tile.bits.compare_exchange_strong(state, BeingMade, std::memory_order_acquire)) return;
     tile.region.fill(0);
-    tile.loaded = true;
-    if (loadByBounds(tile)) return;
-    const Tile* const next = mHead == mTail ? nullptr : mTiles + mQueue[mHead];
-    TileSource ahead{};
-    if (next && !next->loaded) ahead = sourceOf(*next);
-    const TileEdges edges = loadTile(sourceOf(tile), mQuery, tile.open, next && !next->loaded ? &ahead : nullptr);
-    tile.leftOpen = edges.left, tile.rightOpen = edges.right, tile.allOpen = edges.allOpen;
+    if (!loadByBounds(tile)) {
+        TileSource ahead{};
+        const bool isNew = next && next->bits.load(std::memory_order_acquire) == Unknown;
+        if (isNew) ahead = sourceOf(*next);
+        const TileEdges edges = loadTile(sourceOf(tile), mQuery, tile.open, isNew ? &ahead : nullptr);
+        tile.leftOpen = edges.left, tile.rightOpen = edges.right, tile.allOpen = edges.allOpen;
+    }
+    if (tile.allOpen && mFullTile) tile.done = (*mFullTile)(boxOf(tile));
+    tile.bits.store(Made, std::memory_order_release);
 }
 
 void TileRegion::takeWhole(Tile& tile)
@@ -251,25 +321,25 @@ void TileRegion::wakeNeighbours(Tile& tile, std::uint64_t left, std::uint64_t ri
     const int column = tile.column, row = tile.row;
     if (left && column > 0) {
         Tile& other = touch(&tile - 1, column - 1, row);
-        if (other.loaded) left &= other.rightOpen;
+        if (isMade(other)) left &= other.rightOpen;
         other.fromRight |= left;
         if (left) enqueue(other);
     }
     if (right && column < mColumns - 1) {
         Tile& other = touch(&tile + 1, column + 1, row);
-        if (other.loaded) right &= other.leftOpen;
+        if (isMade(other)) right &= other.leftOpen;
         other.fromLeft |= right;
         if (right) enqueue(other);
     }
     if (up && row > 0) {
         Tile& other = touch(&tile - mColumns, column, row - 1);
-        if (other.loaded) up &= other.open.back();
+        if (isMade(other)) up &= other.open.back();
         other.fromBelow |= up;
         if (up) enqueue(other);
     }
     if (down && row < mRows - 1) {
         Tile& other = touch(&tile + mColumns, column, row + 1);
-        if (other.loaded) down &= other.open.front();
+        if (isMade(other)) down &= other.open.front();
         other.fromAbove |= down;
         if (down) enqueue(other);
     }
@@ -281,7 +351,7 @@ std::size_t TileRegion::count() const
     for (int row = mReached.y0; row < mReached.y1; ++row)
         for (int column = mReached.x0; column < mReached.x1; ++column) {
             const Tile& tile = mTiles[std::size_t(row) * std::size_t(mColumns) + std::size_t(column)];
-            if (tile.generation != mGeneration || !tile.loaded) continue;
+            if (!isKnown(tile)) continue;
             for (const std::uint64_t bits : tile.region) count += std::size_t(std::popcount(bits));
         }
     return count;
@@ -293,7 +363,7 @@ PixelBox TileRegion::box() const
     for (int row = mReached.y0; row < mReached.y1; ++row)
         for (int column = mReached.x0; column < mReached.x1; ++column) {
             const Tile& tile = mTiles[std::size_t(row) * std::size_t(mColumns) + std::size_t(column)];
-            if (tile.generation != mGeneration || !tile.loaded) continue;
+            if (!isKnown(tile)) continue;
             const int x = column * kTileSide, y = row * kTileSide;
             // Tiles inside what is known already cannot widen it.
             if (x >= found.x0 && y >= found.y0 && x + kTileSide <= found.x1 && y + kTileSide <= found.y1) continue;
@@ -314,7 +384,7 @@ std::size_t TileRegion::columnScanPushes() const
     const auto regionOf = [&](int column, int row) -> const TileRows* {
         if (column < 0 || row < 0 || column >= mColumns || row >= mRows) return nullptr;
         const Tile& tile = mTiles[std::size_t(row) * std::size_t(mColumns) + std::size_t(column)];
-        return tile.generation == mGeneration && tile.loaded ? &tile.region : nullptr;
+        return isKnown(tile) ? &tile.region : nullptr;
     };
     // Bit x: pixels x and x + 1 both belong to the region.
     const auto pairs = [](const TileRows* tile, const TileRows* right, std::size_t y) {

@@ -3,8 +3,12 @@
 /// demand.
 #pragma once
 #include "base/BitmapView.h"
+#include "base/WorkPool.h"
 #include "tools/PixelBits.h"
 #include "tools/TileKernels.h"
+#include <algorithm>
+#include <atomic>
+#include <functional>
 
 namespace zp
 {
@@ -28,21 +32,11 @@ public:
     /// itself is not open.
     /// @param mask      the picture's size, or empty
     /// @param fullTile  called as fullTile(box) for tiles that turn out to be open altogether, while their pixels are
-    ///                  still in the cache; when it answers true, visitRows leaves the tile out
-    /// Allocates nothing. Time: O(region and its border).
-    template <class FullTile>
-    void find(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query, FullTile&& fullTile)
-    {
-        if (!begin(pixels, mask, seed, query, nullptr)) return;
-        while (Tile* tile = nextTile()) {
-            if (tile->allOpen) {
-                takeWhole(*tile);
-                tile->done = fullTile(boxOf(*tile));
-            } else {
-                spread(*tile, 0);
-            }
-        }
-    }
+    ///                  still in the cache; when it answers true, visitRows leaves the tile out. Once the region is
+    ///                  large, another thread of the pool looks at pixels as well and calls it, each for other tiles
+    /// Time: O(region and its border).
+    void find(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query,
+              const std::function<bool(PixelBox)>& fullTile);
 
     /// The same search in steps: begins it. Pixels, mask and bounds must stay as they are until it is at its end.
     /// @param bounds  of the picture's tiles, so that only those that are partly open are read; null: all are read
@@ -56,11 +50,8 @@ public:
     template <class GoesOn>
     bool goOn(GoesOn&& goesOn)
     {
-        while (mHead != mTail && goesOn()) {
-            Tile& tile = *nextTile();
-            tile.allOpen ? takeWhole(tile) : spread(tile, 0);
-        }
-        return mHead == mTail;
+        while (waiting() > 0 && goesOn()) take(*nextTile());
+        return waiting() == 0;
     }
     /// Nothing is found.
     void forget();
@@ -72,7 +63,7 @@ public:
     {
         if (column < 0 || y < 0 || column >= mColumns || y >= mPixels.height) return 0;
         const Tile& tile = mTiles[std::size_t(y / kTileSide) * std::size_t(mColumns) + std::size_t(column)];
-        return tile.generation == mGeneration && tile.loaded ? tile.region[std::size_t(y % kTileSide)] : 0;
+        return isKnown(tile) ? tile.region[std::size_t(y % kTileSide)] : 0;
     }
     bool contains(int x, int y) const { return x >= 0 && bitsOf(x / kTileSide, y) >> (x % kTileSide) & 1; }
 
@@ -95,11 +86,27 @@ public:
         }
     }
 
+    /// The same for all rows of the region, whose box is @p found, by several threads where it is large.
+    template <class F>
+    void visit(PixelBox found, F&& f) const
+    {
+        constexpr int kWorthAThread = 1 << 18; // pixels
+        const auto visitBand = [&](int first, int last) { visitRows(found.y0 + first, found.y0 + last, f); };
+        parallelBands(found.height(), kWorthAThread / std::max(found.width(), 1), std::ref(visitBand));
+    }
+
 private:
+    /// Whose the tile's bits are: open, region, leftOpen, rightOpen, allOpen and done.
+    enum Bits : std::uint8_t {
+        Unknown,
+        BeingMade, ///< a thread's that looks at the pixels
+        Made,      ///< the searching thread's
+    };
     struct alignas(64) Tile {
         std::uint32_t generation;  ///< of which search the rest speaks; any other: nothing is known yet
         std::uint16_t column, row; ///< counted in tiles
-        bool loaded, queued, allOpen, done;
+        std::atomic<Bits> bits;
+        bool queued, allOpen, done;
         std::uint64_t fromLeft, fromRight;  ///< bit y: the region comes in at that end of row y
         std::uint64_t fromAbove, fromBelow; ///< bit x: at the top (bottom) of column x
         std::uint64_t leftOpen, rightOpen;  ///< bit y: the row's first (last) pixel is open and not reached yet
@@ -109,22 +116,36 @@ private:
 
     bool begin(ConstBitmapView pixels, ConstMaskView mask, PixelPoint seed, const TileQuery& query,
                const TileBounds* bounds);
-    Tile* nextTile();
+    /// The search goes on to its end; another thread makes bits of tiles that wait while this one spreads.
+    void goOnWithHelp();
+    void makeBitsAhead();
+    Tile* nextTile(); ///< with its bits; null when none waits
+    void take(Tile& tile) { tile.allOpen ? takeWhole(tile) : spread(tile, 0); }
     void takeWhole(Tile& tile);
     /// Takes all that can be reached inside the tile. @p dirty: rows into which something comes already, in mComing.
     void spread(Tile& tile, std::uint64_t dirty);
     void wakeNeighbours(Tile& tile, std::uint64_t left, std::uint64_t right, std::uint64_t up, std::uint64_t down);
     Tile& touch(Tile* tile, int column, int row);
     void enqueue(Tile& tile);
-    void load(Tile& tile);
+    /// Makes the tile's bits unless they are made, or being made by the other thread. @param next  the tile whose turn
+    /// is next, called from memory meanwhile; may be null
+    void load(Tile& tile, const Tile* next);
+    static bool isMade(const Tile& tile) { return tile.bits.load(std::memory_order_acquire) == Made; }
+    bool isKnown(const Tile& tile) const { return tile.generation == mGeneration && isMade(tile); }
+    Tile& waitingAt(std::uint32_t place) { return mTiles[mQueue[place & mQueueMask].load(std::memory_order_relaxed)]; }
+    std::uint32_t waiting() const { return mTail.load(std::memory_order_relaxed) - mHead; }
     bool loadByBounds(Tile& tile); ///< whether the tile's bounds said enough
     PixelBox boxOf(const Tile& tile) const;
     TileSource sourceOf(const Tile& tile) const;
 
     ReservedMemory mTileMemory, mQueueMemory;
     Tile* mTiles;
-    std::uint32_t* mQueue; ///< a ring of tile numbers; a tile is in it at most once
-    std::uint32_t mQueueSize = 0, mHead = 0, mTail = 0;
+    /// A ring of tile numbers, as long as a power of two; a tile is in it at most once. Places are counted on for ever.
+    std::atomic<std::uint32_t>* mQueue;
+    std::uint32_t mQueueMask = 0;
+    std::atomic<std::uint32_t> mHead = 0, mTail = 0;          ///< written by the searching thread
+    std::atomic<bool> mSearching = false;                     ///< within goOnWithHelp()
+    const std::function<bool(PixelBox)>* mFullTile = nullptr; ///< within find()
     std::uint32_t mGeneration = 0;
     int mColumns = 0, mRows = 0;
     PixelBox mReached; ///< in tiles

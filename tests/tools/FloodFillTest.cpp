@@ -130,10 +130,9 @@ struct RandomCase {
     int tolerance;
 };
 
-RandomCase randomCase(std::mt19937& random, int round)
+RandomCase randomCase(std::mt19937& random, int round, int width, int height)
 {
     const auto texture = Texture(round % int(Texture::Count));
-    const int width = 1 + int(random() % (round % 5 == 0 ? 300 : 150)), height = 1 + int(random() % 150);
     RandomCase c{randomPicture(random, width, height, texture), Mask(width, height), random() % 2 == 0, {}, 0};
     if (c.walled)
         for (int i = 0, n = int(random() % 8); i < n; ++i) {
@@ -149,27 +148,51 @@ RandomCase randomCase(std::mt19937& random, int round)
     return c;
 }
 
+RandomCase randomCase(std::mt19937& random, int round)
+{
+    const int width = 1 + int(random() % (round % 5 == 0 ? 300 : 150)), height = 1 + int(random() % 150);
+    return randomCase(random, round, width, height);
+}
+
+void expectWhatABreadthFirstSearchFinds(RandomCase& c, bool alike, TileRegion& tiles)
+{
+    SCOPED_TRACE(testing::Message() << c.picture.width() << " by " << c.picture.height());
+    const std::uint32_t target = c.picture.at(c.seed.x, c.seed.y), fill = alike ? target ^ 1u : 0x12345678u;
+    Mask reached = referenceRegion(c.picture, c.walled ? &c.walls : nullptr, c.seed, target, c.tolerance);
+    Picture expected = c.picture;
+    PixelBox box;
+    for (int y = 0; y < expected.height(); ++y)
+        for (int x = 0; x < expected.width(); ++x)
+            if (reached.at(x, y)) expected.at(x, y) = fill, box.include(x, y);
+    const ColumnFillResult result =
+        floodFill(c.picture.view(), c.walled ? ConstMaskView(c.walls.view()) : ConstMaskView{}, c.seed, fill,
+                  c.tolerance, sharedFillStack(), tiles);
+    ASSERT_TRUE(c.picture == expected);
+    ASSERT_EQ(result.painted, box);
+    ASSERT_TRUE(result.completed);
+}
+
 TEST(FloodFill, PaintsWhatABreadthFirstSearchFindsOnAThousandPictures)
 {
     TileRegion tiles;
     for (int round = 0; round < 1000; ++round) {
         std::mt19937 random(unsigned(round) + 7000);
         RandomCase c = randomCase(random, round);
-        SCOPED_TRACE(testing::Message() << "round " << round << ", " << c.picture.width() << " by "
-                                        << c.picture.height());
-        const std::uint32_t target = c.picture.at(c.seed.x, c.seed.y), fill = round % 3 ? 0x12345678u : target ^ 1u;
-        Mask reached = referenceRegion(c.picture, c.walled ? &c.walls : nullptr, c.seed, target, c.tolerance);
-        Picture expected = c.picture;
-        PixelBox box;
-        for (int y = 0; y < expected.height(); ++y)
-            for (int x = 0; x < expected.width(); ++x)
-                if (reached.at(x, y)) expected.at(x, y) = fill, box.include(x, y);
-        const ColumnFillResult result =
-            floodFill(c.picture.view(), c.walled ? ConstMaskView(c.walls.view()) : ConstMaskView{}, c.seed, fill,
-                      c.tolerance, sharedFillStack(), tiles);
-        ASSERT_TRUE(c.picture == expected);
-        ASSERT_EQ(result.painted, box);
-        ASSERT_TRUE(result.completed);
+        SCOPED_TRACE(round);
+        ASSERT_NO_FATAL_FAILURE(expectWhatABreadthFirstSearchFinds(c, round % 3 == 0, tiles));
+    }
+}
+
+TEST(FloodFill, PaintsTheSameOnPicturesSoLargeThatASecondThreadHelps)
+{
+    TileRegion tiles;
+    for (int round = 0; round < 3 * int(Texture::Count); ++round) {
+        std::mt19937 random(unsigned(round) + 70);
+        RandomCase c = randomCase(random, round, 1200 + int(random() % 300), 1000 + int(random() % 300));
+        // From where something is seen to spread.
+        c.picture.at(c.seed.x, c.seed.y) = 0x80808080;
+        SCOPED_TRACE(round);
+        ASSERT_NO_FATAL_FAILURE(expectWhatABreadthFirstSearchFinds(c, round % 2 == 0, tiles));
     }
 }
 

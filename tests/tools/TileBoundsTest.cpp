@@ -72,7 +72,7 @@ TEST(TileRegion, InStepsAndByBoundsFindsWhatTheWandMarks)
         for (int i = 0; walled && i < 60; ++i)
             walls.at(int(random() % unsigned(width)), int(random() % unsigned(height))) = 0;
         Mask marked = walls;
-        magicWand(picture.view(), marked.view(), seed, target, tolerance, sharedFillStack(), sharedTileRegion());
+        magicWand(picture.view(), marked.view(), false, seed, target, tolerance, sharedFillStack(), sharedTileRegion());
 
         TileBounds bounds;
         bounds.reset(width, height);
