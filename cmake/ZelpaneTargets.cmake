@@ -76,6 +76,10 @@ function(zp_add_room room)
     target_link_libraries(zp_${room} PUBLIC ${A_USES} ${A_LINK} PRIVATE zp_flags ${A_PRIVATE_LINK})
 endfunction()
 
+# What is looked at is the program: the compiler need not spend half of a run on the tests. Those without windows have loops over
+# pixels of their own.
+set(ZP_TEST_OPTIMIZATION $<IF:$<BOOL:${ZP_SANITIZE}>,-O0,-Og>)
+
 # zp_add_tests(NAME FILES... LINK libs): one GoogleTest program; each test runs alone, in a home folder of its own. A suite whose
 # name ends in "Long" is a long form: it has the label "long", and only ./test --long runs it. SECONDS: how long one may take that
 # tries more in the long run without being a form of its own.
@@ -92,9 +96,8 @@ function(zp_add_tests name)
     if(A_QT)
         target_link_libraries(test_${name} PRIVATE zp_test_main_qt)
         set_target_properties(test_${name} PROPERTIES AUTOMOC ON)
-        if(ZP_SANITIZE) # the compiler spends most of such a run on them, and what is looked at is the program; the tests
-            target_compile_options(test_${name} PRIVATE -O0) # without windows have loops over pixels of their own
-        endif()
+        target_compile_options(test_${name} PRIVATE ${ZP_TEST_OPTIMIZATION})
+        target_precompile_headers(test_${name} REUSE_FROM zp_test_main_qt)
     else()
         target_link_libraries(test_${name} PRIVATE zp_test_main)
     endif()

@@ -161,7 +161,7 @@ void History::record(const Picture& picture, const char* name)
     const std::int32_t number = SnapshotNumbers(mUndoIndex, mUndoRedoIndex).advance();
     if (mSaved >= number && number > 0) mSaved = kNeverSaved; // that step is gone
     const StepNote note{name ? name : "", now()};
-    std::erase_if(mSteps, [number](const Step& step) { return step.number >= number; });
+    while (!mSteps.empty() && mSteps.back().number >= number) mSteps.pop_back();
     mSteps.push_back({number, note.name, note.time});
     handOver(picture, number, note);
     mLoose = false;

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <new>
+#include <set>
 #include <sys/statvfs.h>
 #include <unistd.h>
 
@@ -35,8 +36,7 @@ ExactSteps::~ExactSteps()
 void ExactSteps::reset(int folder)
 {
     const std::lock_guard lock(mExactMutex);
-    mRecords.clear();
-    mRuns.clear();
+    forgetAll();
     if (mExactFolder >= 0) ::close(mExactFolder);
     mExactFolder = folder < 0 ? -1 : fcntl(folder, F_DUPFD_CLOEXEC, 0);
 }
@@ -60,12 +60,16 @@ bool ExactSteps::isThere(std::int32_t number) const
 {
     const std::lock_guard lock(mExactMutex);
     if (!mRecords.contains(number)) return false;
-    const Run* const run = runOf(number);
-    const auto end = mRecords.upper_bound(number);
-    return std::all_of(mRecords.lower_bound(run ? run->first : number), end, [this](const auto& entry) {
-        return entry.second.inMemory ||
-               faccessat(mExactFolder, ExactRecord::fileName(entry.first).c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
-    });
+    const Run& run = *runOf(number);
+    std::set<std::int32_t> seen;
+    for (int tile = 0; tile < run.grid.count(); ++tile) {
+        const ExactRecord* const record = find(run, tile, number).record;
+        if (!record) return false;
+        if (record->inMemory || !seen.insert(record->number).second) continue;
+        const std::string name = ExactRecord::fileName(record->number);
+        if (faccessat(mExactFolder, name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) != 0) return false;
+    }
+    return true;
 }
 
 std::optional<TileGrid> ExactSteps::gridOf(std::int32_t number) const
@@ -104,7 +108,8 @@ void ExactSteps::enter(ExactRecord record)
         mRuns.back().changedAt.resize(std::size_t(record.grid.count()));
     }
     for (const ExactTile& tile : record.tiles) mRuns.back().changedAt[std::size_t(tile.tile)].push_back(number);
-    mRecords[number] = std::move(record);
+    (record.inMemory ? mBytesInMemory : mBytesOnDisk) += record.bytes;
+    mRecords.emplace(number, std::move(record));
 }
 
 bool ExactSteps::write(std::int32_t number, std::optional<std::int32_t> parent, PixelCapture& capture,
@@ -138,7 +143,15 @@ void ExactSteps::forget(std::int32_t number, bool removeFile)
     const auto record = mRecords.find(number);
     if (record == mRecords.end()) return;
     if (removeFile && !record->second.inMemory) unlinkat(mExactFolder, ExactRecord::fileName(number).c_str(), 0);
+    (record->second.inMemory ? mBytesInMemory : mBytesOnDisk) -= record->second.bytes;
     mRecords.erase(record);
+}
+
+void ExactSteps::forgetAll()
+{
+    mRecords.clear();
+    mRuns.clear();
+    mBytesOnDisk = mBytesInMemory = 0;
 }
 
 void ExactSteps::dropAbove(std::int32_t number)
@@ -156,18 +169,10 @@ void ExactSteps::dropAbove(std::int32_t number)
 
 // ---- room -----------------------------------------------------------------------------------------------------------
 
-std::uint64_t ExactSteps::totalBytes(bool inMemory) const
-{
-    std::uint64_t total = 0;
-    for (const auto& [number, record] : mRecords)
-        if (record.inMemory == inMemory) total += record.bytes;
-    return total;
-}
-
 std::uint64_t ExactSteps::bytesOnDisk() const
 {
     const std::lock_guard lock(mExactMutex);
-    return totalBytes(false);
+    return mBytesOnDisk;
 }
 
 std::uint64_t ExactSteps::limit() const
@@ -176,17 +181,16 @@ std::uint64_t ExactSteps::limit() const
     struct statvfs disk {
     };
     if (mExactFolder < 0 || fstatvfs(mExactFolder, &disk) != 0) return kMostOnDisk;
-    return std::min(kMostOnDisk, std::uint64_t(disk.f_bavail) * disk.f_frsize / kShareOfFree + totalBytes(false));
+    return std::min(kMostOnDisk, std::uint64_t(disk.f_bavail) * disk.f_frsize / kShareOfFree + mBytesOnDisk);
 }
 
 void ExactSteps::makeRoom()
 {
     const std::uint64_t most = limit();
-    const auto tooMuch = [&] { return totalBytes(false) > most || totalBytes(true) > kMostInMemory; };
-    if (!tooMuch()) return;
+    if (mBytesOnDisk <= most && mBytesInMemory <= kMostInMemory) return;
     // A later step becomes one that has all its tiles, and everything before it goes. It is the earliest with which
     // half of the room is free again, so that this happens seldom.
-    std::uint64_t after = totalBytes(false) + totalBytes(true);
+    std::uint64_t after = mBytesOnDisk + mBytesInMemory;
     std::int32_t kept = mRecords.rbegin()->first;
     for (const auto& [number, record] : mRecords) {
         after -= record.bytes;
@@ -212,8 +216,7 @@ void ExactSteps::makeRoom()
     for (const auto& [number, record] : mRecords)
         if (number < kept || (number == kept && !whole)) gone.push_back(number);
     for (const std::int32_t number : gone) forget(number, true);
-    mRecords.clear();
-    mRuns.clear();
+    forgetAll();
     const bool fits = whole && whole->bytes <= most;
     if (whole && !fits) unlinkat(mExactFolder, ExactRecord::fileName(kept).c_str(), 0);
     if (fits) enter(std::move(*whole));
@@ -296,8 +299,7 @@ bool ExactSteps::shareTiles(std::int32_t a, std::int32_t b) const
 void ExactSteps::adopt(int folder, std::int32_t newest)
 {
     const std::lock_guard lock(mExactMutex);
-    mRecords.clear();
-    mRuns.clear();
+    forgetAll();
     for (std::int32_t number = 0; number <= newest; ++number) {
         std::optional<ExactRecord> record = readExactRecord(folder, number);
         if (!record) continue;

@@ -29,8 +29,8 @@ public:
     /// Steps above @p number are gone.
     void dropAbove(std::int32_t number);
     bool isExact(std::int32_t number) const;
-    /// Whether the files that it needs are still there, too. Cost: a look at the disk for each step since the last that
-    /// stands by itself.
+    /// Whether the files that it needs are still there, too. Cost: a search for each tile, and a look at the disk for
+    /// each step that has one of them.
     bool isThere(std::int32_t number) const;
     std::optional<TileGrid> gridOf(std::int32_t number) const;
     /// Brings @p pixels, which hold step @p from but for the tiles in @p touched, to step @p to. Without @p from, or
@@ -61,14 +61,15 @@ private:
     TileSet differing(const Run& run, std::int32_t a, std::int32_t b) const;
     void enter(ExactRecord record);
     void forget(std::int32_t number, bool removeFile);
+    void forgetAll();
     void makeRoom();
     std::uint64_t limit() const;
-    std::uint64_t totalBytes(bool inMemory) const;
 
     mutable std::mutex mExactMutex;
     int mExactFolder = -1;
     std::map<std::int32_t, ExactRecord> mRecords;
-    std::vector<Run> mRuns; ///< in the order of their steps
+    std::uint64_t mBytesOnDisk = 0, mBytesInMemory = 0; ///< of all records
+    std::vector<Run> mRuns;                             ///< in the order of their steps
     std::optional<std::uint64_t> mLimit;
 };
 

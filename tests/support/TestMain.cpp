@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
-#ifdef ZP_TEST_QT
+#ifdef QT_WIDGETS_LIB
 #include <QApplication>
 #endif
 
@@ -39,7 +39,7 @@ int main(int argc, char** argv)
     // Outlives every other static object of a function: the settings write when they end.
     static const TestHome home;
     testing::InitGoogleTest(&argc, argv);
-#ifdef ZP_TEST_QT
+#ifdef QT_WIDGETS_LIB
     QApplication application(argc, argv);
     QApplication::setStyle("fusion");
 #endif

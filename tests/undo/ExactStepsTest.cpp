@@ -194,6 +194,50 @@ TEST_F(Exact, SixtyStepsComeBackInAnyOrderByteForByte)
     }
 }
 
+TEST_F(Exact, TheirBytesAreThoseOfTheFilesWhateverComesAndGoes)
+{
+    const auto inFiles = [this] {
+        std::uint64_t bytes = 0;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.path())) bytes += entry.file_size();
+        return bytes;
+    };
+    history(30);
+    EXPECT_EQ(steps.bytesOnDisk(), inFiles());
+    ASSERT_TRUE(go(20, 29));
+    steps.dropAbove(20);
+    EXPECT_EQ(steps.bytesOnDisk(), inFiles());
+    steps.setLimit(inFiles() + 1000);
+    for (int i = 21; i < 30; ++i) edit(), record(i); // the oldest make room
+    EXPECT_EQ(steps.bytesOnDisk(), inFiles());
+    steps.adopt(handle, 29);
+    EXPECT_EQ(steps.bytesOnDisk(), inFiles());
+    steps.reset(-1);
+    EXPECT_EQ(steps.bytesOnDisk(), 0u);
+}
+
+TEST_F(Exact, AStepIsThereAsLongAsTheFilesAreThatHaveItsTiles)
+{
+    record(0);
+    const auto change = [this](PixelBox box) {
+        touched.add(box);
+        for (int row = box.y0; row < box.y1; ++row)
+            for (int column = box.x0; column < box.x1; ++column) ++rep->view().row(row)[column];
+    };
+    change({0, 0, 5, 5}), record(1);
+    change({0, 0, 5, 5}), record(2);
+    change({600, 420, 605, 425}), record(3);
+    for (int i = 0; i < 4; ++i) EXPECT_TRUE(steps.isThere(i)) << i;
+    std::filesystem::remove(folder.path() / ExactRecord::fileName(1));
+    EXPECT_TRUE(steps.isThere(0));
+    EXPECT_FALSE(steps.isThere(1));
+    EXPECT_TRUE(steps.isThere(2)) << "its tiles are in 0 and 2";
+    EXPECT_TRUE(steps.isThere(3));
+    ASSERT_TRUE(go(3, std::nullopt));
+    std::filesystem::remove(folder.path() / ExactRecord::fileName(2));
+    EXPECT_FALSE(steps.isThere(3)) << "2 has one of its tiles";
+    EXPECT_FALSE(steps.isThere(4)) << "never was";
+}
+
 TEST_F(Exact, ANewStepBehindAnOldOneTakesThePlaceOfWhatCouldBeRedone)
 {
     history(20);
