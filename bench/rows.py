@@ -99,6 +99,11 @@ SECTIONS = [
         Row("flip top-bottom in place", ms("BM_FlipVertically", 6000, 4000),
             [("cv::flip in place", ms("BM_FlipVerticallyOpenCVInPlace", 6000, 4000))], 0.55),
     ]),
+    Section("memory", "imageops/bench_imageops", [
+        *[Row(f"{what}, {who}", ms(name, n))
+          for what, name in (("every pixel read once", "BM_ReadPixels"), ("every pixel read and written in place", "BM_ChangePixels"))
+          for n, who in ((1, "one thread"), (2, "all threads"))],
+    ], targets=False),
     Section("selection", "selection/bench_selection", [
         Row("union of two outlines of 20,000 vertices", "BM_Union/0", [("Clipper", "BM_UnionClipperAlone/0")], 0.22),
         Row("the same, spiky", "BM_Union/1", [("Clipper", "BM_UnionClipperAlone/1")], 0.12),
