@@ -175,8 +175,8 @@ private:
         const BezierPath& outline;
         _ZPTransform record;
     };
-    /// The outline without pulled corners, and where its piece lay then; of the piece that would be lifted where nothing
-    /// floats. Only with an outline, which it refers to.
+    /// The outline without pulled corners, and where its piece lay then; of the piece that would be lifted where
+    /// nothing floats. Only with an outline, which it refers to.
     Resting unpulled() const;
     bool mTransform = false; ///< the piece is being scaled or turned by hand
     std::int32_t mTransformMode = -1;

@@ -25,8 +25,8 @@ void markByWand(Edit& edit, Point point, bool adding)
     }
     const MaskView mask = edit.selection().maskForWand(adding);
     if (mask.isEmpty()) throw std::bad_alloc();
-    zp::magicWand(pixels, mask, !adding, *seed, wordUnder(pixels, point), edit.paint().refreshTolerance(), sharedFillStack(),
-                  sharedTileRegion());
+    zp::magicWand(pixels, mask, !adding, *seed, wordUnder(pixels, point), edit.paint().refreshTolerance(),
+                  sharedFillStack(), sharedTileRegion());
 }
 
 BezierPath tracedMask(Selection& selection)
