@@ -24,8 +24,8 @@ class TileRegion;
 /// stays
 /// @param tiles      work space, normally sharedTileRegion()
 /// @return           box of the pixels painted; completed is false when the stack ran full
-/// Time: O(region and its border). Allocates nothing. One fill at a time per work space; no other thread may use the
-/// pixels.
+/// Time: O(region and its border); large regions are looked at by a second thread. What memory it needs it takes before
+/// the first pixel is painted. One fill at a time per work space; no other thread may use the pixels.
 ColumnFillResult floodFill(BitmapView pixels, ConstMaskView walls, PixelPoint seed, std::uint32_t fill, int tolerance,
                            FillStack& stack, TileRegion& tiles);
 
