@@ -22,6 +22,7 @@
 #include <QPointer>
 #include <QSessionManager>
 #include <QTimer>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -50,6 +51,19 @@ static void readForeignPicturesApart(const QString& language = {},
     std::vector<std::string> arguments{kDecodeOption};
     if (!language.isEmpty()) arguments.push_back(language.toStdString());
     codec::setForeignDecoding({.program = "/proc/self/exe", .arguments = std::move(arguments), .wait = wait});
+}
+
+/// A picture that another start hands over, or that a file manager drops, comes without a word before it. Once the
+/// window has settled a decoder waits for it; one that has read goes home after a while, and another takes its place.
+static void keepDecoderWaiting(QObject* owner)
+{
+    constexpr std::chrono::seconds kSettled{1}, kLookedAfter{300};
+    const auto ready = [] { codec::readyForeignDecoder(); };
+    QTimer::singleShot(kSettled, owner, ready);
+    auto* const timer = new QTimer(owner);
+    timer->setTimerType(Qt::VeryCoarseTimer);
+    timer->callOnTimeout(ready);
+    timer->start(kLookedAfter);
 }
 
 static int decode(int argc, char** argv)
@@ -143,6 +157,7 @@ static int run(int argc, char** argv)
             controller.imageEditor();
             for (const std::string& request : received) carryOut(controller, request);
         });
+    if (!scripted) keepDecoderWaiting(&controller);
     // The launch sequence asks its question in a loop of its own, once the window is on screen.
     QTimer::singleShot(0, &controller, [&] {
         for (const std::string& file : line.files) controller.application(file);

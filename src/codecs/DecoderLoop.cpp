@@ -24,9 +24,8 @@ namespace
 {
 
 constexpr int kJobs = STDIN_FILENO, kResults = STDOUT_FILENO;
-/// A person who looks for a picture in a panel finds the decoder still there that was started when the panel came up.
-/// Idle, it has 2.5 MB to itself.
-constexpr int kIdleMilliseconds = 5 * 60'000;
+/// How long one that has read waits for the next picture. One that has not is small and waits as long as the program.
+constexpr int kIdleMilliseconds = 5 * 60'000, kNoEnd = -1;
 /// What one process reads in all: leaks of the library end with it.
 constexpr int kMostJobs = 200;
 constexpr long kMostSeconds = 30;
@@ -125,14 +124,14 @@ private:
     const std::uint8_t* mStart = nullptr;
 };
 
-/// Waits for a job. @return false when there will be none
-bool receive(DecoderJob& job, int& file)
+/// Waits for a job, so many @p milliseconds at most. @return false when there will be none
+bool receive(DecoderJob& job, int& file, int milliseconds)
 {
     ssize_t got = 0;
     JobMessage message(job);
     do { // answers to the last job's rows come before the next job
         pollfd there{kJobs, POLLIN, 0};
-        if (poll(&there, 1, kIdleMilliseconds) <= 0) return false;
+        if (poll(&there, 1, milliseconds) <= 0) return false;
         message.head.msg_controllen = message.room.size();
         got = recvmsg(kJobs, &message.head, MSG_CMSG_CLOEXEC);
     } while (got == 1);
@@ -177,7 +176,7 @@ int runDecoder()
     for (int jobs = 0; jobs < kMostJobs && !isTired(); ++jobs) {
         DecoderJob job;
         int file = -1;
-        if (!receive(job, file)) break;
+        if (!receive(job, file, jobs == 0 ? kNoEnd : kIdleMilliseconds)) break;
         const Input input(file, job.bytes);
         if (!sendBlock(BlockKind::Accepted)) break;
         const DecodedRest rest = decode(job, input, rows);

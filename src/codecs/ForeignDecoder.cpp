@@ -75,7 +75,21 @@ struct Decoder {
           isUsed(other.isUsed)
     {
     }
-    Decoder& operator=(Decoder&&) = delete;
+    Decoder& operator=(Decoder&& other) noexcept
+    {
+        std::swap(jobs, other.jobs);
+        std::swap(results, other.results);
+        std::swap(rows, other.rows);
+        std::swap(process, other.process);
+        std::swap(isUsed, other.isUsed);
+        return *this;
+    }
+    /// Whether it went home, or died. Cheap.
+    bool isGone() const
+    {
+        pollfd there{results, 0, 0};
+        return ::poll(&there, 1, 0) != 0;
+    }
     ~Decoder()
     {
         if (process <= 0) return;
@@ -355,6 +369,7 @@ bool readyForeignDecoder()
     {
         const std::lock_guard lock(all.mutex);
         if (all.how.program.empty()) return false;
+        std::erase_if(all.idle, [](const Decoder& one) { return one.isGone(); });
         if (!all.idle.empty()) return true;
         how = all.how;
     }

@@ -33,8 +33,8 @@ struct ForeignDecoding {
 void setForeignDecoding(ForeignDecoding how);
 
 /// Starts a decoder where none is waiting, so that the next picture does not wait for its beginnings: when a panel for
-/// files comes up, or a file is about to be read. Comes back at once. Any thread. @return whether pictures are read by
-/// another process at all
+/// files comes up, a file is about to be read, and now and then while the program has a window, since pictures also
+/// come unannounced. Comes back at once. Any thread. @return whether pictures are read by another process at all
 bool readyForeignDecoder();
 /// The same if the file at @p path begins as one that a decoder reads.
 void readyForeignDecoder(const std::string& path);
@@ -45,8 +45,8 @@ void readyForeignDecoder(const std::string& path);
 Decoded decodeForeign(Bytes bytes, Format format, const ImportOptions& options, int sealed = -1);
 
 /// What the decoder's program does: takes jobs from standard input, a local socket, and writes what becomes of them
-/// to standard output, behind walls (DecoderWalls.h), until the other side is gone or for some seconds has nothing to
-/// do. @return the exit status
+/// to standard output, behind walls (DecoderWalls.h), until the other side is gone or, after the first one, has had
+/// nothing to do for some minutes. @return the exit status
 int runDecoder();
 
 } // namespace zp::codec

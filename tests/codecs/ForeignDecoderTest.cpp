@@ -166,6 +166,23 @@ TEST_F(ForeignDecoder, IsReadyBeforeThePictureWhereOneIsExpected)
     EXPECT_FALSE(appears(10)) << "one is enough";
 }
 
+TEST_F(ForeignDecoder, ThatWentHomeIsFollowedByAnother)
+{
+    const test::TemporaryFolder folder;
+    const std::string starts = folder.path() / "starts";
+    byShell("echo >> " + starts);
+    const auto isStarted = [&starts](std::uintmax_t times) {
+        for (int i = 0; i < 1000; ++i) {
+            std::error_code missing;
+            codec::readyForeignDecoder();
+            if (const auto size = fs::file_size(starts, missing); !missing && size >= times) return true;
+            usleep(20'000);
+        }
+        return false;
+    };
+    EXPECT_TRUE(isStarted(3));
+}
+
 struct Failure {
     const char *name, *commands, *sentence;
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The program while the process that reads a picture for it dies or hangs.
+#include "support/ProcessLook.h"
 #include "support/Samples.h"
 #include "support/Session.h"
 #include <csignal>
@@ -11,21 +12,7 @@ using zp::test::Session;
 namespace
 {
 
-/// The decoders that the program has started.
-QList<pid_t> decoders(Session& s)
-{
-    QList<pid_t> all;
-    for (const QString& process : QDir("/proc").entryList(QDir::Dirs)) {
-        QFile status("/proc/" + process + "/stat"), words("/proc/" + process + "/cmdline");
-        if (!process[0].isDigit() || !status.open(QFile::ReadOnly) || !words.open(QFile::ReadOnly)) continue;
-        const QByteArray fields = status.readAll();
-        const QList<QByteArray> behindName = fields.mid(fields.lastIndexOf(')') + 2).split(' ');
-        if (behindName.size() > 1 && behindName[1].toLongLong() == s.process().processId() &&
-            words.readAll().split('\0').contains("--decode"))
-            all << process.toInt();
-    }
-    return all;
-}
+QList<pid_t> decoders(Session& s) { return zp::test::decodersOf(s.process().processId()); }
 
 QString openBase(const char* name) { return QString("open ") + QString::fromStdString(sample("made/valid/")) + name; }
 

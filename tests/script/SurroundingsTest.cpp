@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// What the system around the program may do: signals, several starts at once, things in place of its files.
+#include "support/ProcessLook.h"
 #include "support/Samples.h"
 #include "support/Session.h"
 #include <algorithm>
@@ -43,6 +44,7 @@ public:
         return (!isRunning() || mProcess.waitForFinished(milliseconds)) &&
                mProcess.exitStatus() == QProcess::NormalExit && mProcess.exitCode() == 0;
     }
+    qint64 process() const { return mProcess.processId(); }
     void signal(int number) { ::kill(pid_t(mProcess.processId()), number); }
 
 private:
@@ -121,6 +123,18 @@ TEST(Surroundings, EightStartsAtOnceGiveOneProgram)
             EXPECT_TRUE(start->endedWell());
         }
     EXPECT_EQ(sockets(home).size(), 1);
+}
+
+TEST(Surroundings, ADecoderWaitsForAPictureThatComesUnannounced)
+{
+    QTemporaryDir folder;
+    Started program(makeHome(folder));
+    QList<pid_t> decoders;
+    ASSERT_TRUE(eventually([&] { return !(decoders = zp::test::decodersOf(program.process())).isEmpty(); }));
+    EXPECT_EQ(decoders.size(), 1);
+    program.signal(SIGTERM);
+    EXPECT_TRUE(program.endedWell());
+    EXPECT_TRUE(eventually([&] { return ::kill(decoders[0], 0) != 0; })) << "it outlives the program";
 }
 
 TEST(Surroundings, ThingsInPlaceOfItsFilesHangNeitherStartNorEnd)

@@ -30,4 +30,20 @@ inline qsizetype openFiles(qint64 process)
         .size();
 }
 
+/// The decoders that @p program has started and that run.
+inline QList<pid_t> decodersOf(qint64 program)
+{
+    QList<pid_t> all;
+    for (const QString& process : QDir("/proc").entryList(QDir::Dirs)) {
+        QFile status("/proc/" + process + "/stat"), words("/proc/" + process + "/cmdline");
+        if (!process[0].isDigit() || !status.open(QFile::ReadOnly) || !words.open(QFile::ReadOnly)) continue;
+        const QByteArray fields = status.readAll();
+        const QList<QByteArray> behindName = fields.mid(fields.lastIndexOf(')') + 2).split(' ');
+        if (behindName.size() > 1 && behindName[1].toLongLong() == program &&
+            words.readAll().split('\0').contains("--decode"))
+            all << process.toInt();
+    }
+    return all;
+}
+
 } // namespace zp::test
