@@ -2,6 +2,7 @@
 /// What the canvas's drawing remembers from one redraw to the next.
 #pragma once
 #include "base/BitmapRep.h"
+#include "canvas/StillPicture.h"
 #include "canvas/ZPCanvas.h"
 #include "codecs/ScreenColours.h"
 #include "selection/OutlineSimplifier.h"
@@ -13,6 +14,7 @@
 struct ZPCanvas::DrawingState {
     QImage buffer;                          ///< screen words of the part being redrawn; grows, never shrinks
     std::shared_ptr<zp::BitmapRep> scratch; ///< the picture under overlays, with them
+    zp::StillPicture still;                 ///< the picture under what floats, while it is shown reduced
     /// What turns the colours of the picture into the screen's, null when that is nothing; and what it was made of.
     std::shared_ptr<const zp::ScreenColours> colours;
     std::vector<std::uint8_t> pictureProfile, screenProfile;

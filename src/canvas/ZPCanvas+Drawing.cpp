@@ -86,6 +86,15 @@ Rect ZPCanvas::visibleRect() const
                                                float(shown.height() / z)));
 }
 
+PixelBox ZPCanvas::visibleDeviceBox() const
+{
+    const QRect shown = visibleRegion().boundingRect();
+    if (shown.isEmpty()) return {};
+    const double ratio = devicePixelRatioF();
+    return {int(std::floor(shown.left() * ratio)), int(std::floor(shown.top() * ratio)),
+            int(std::ceil((shown.right() + 1) * ratio)), int(std::ceil((shown.bottom() + 1) * ratio))};
+}
+
 void ZPCanvas::ringNeedsDisplay()
 {
     const float zoom = mDocument.view().effectiveZoom(), line = 3 / zoom;
@@ -103,12 +112,10 @@ void ZPCanvas::antsNeedDisplay()
 {
     const Selection& selection = mDocument.selection();
     if (selection.isNil()) return;
-    const QRect shown = visibleRegion().boundingRect();
-    if (shown.isEmpty()) return;
+    const PixelBox visible = visibleDeviceBox();
+    if (visible.isEmpty()) return;
     // The outline's own area, not its box.
     const double ratio = devicePixelRatioF(), deviceScale = double(mDocument.view().effectiveZoom()) * ratio;
-    const PixelBox visible{int(std::floor(shown.left() * ratio)), int(std::floor(shown.top() * ratio)),
-                           int(std::ceil((shown.right() + 1) * ratio)), int(std::ceil((shown.bottom() + 1) * ratio))};
     QRegion dirty;
     const auto mark = [&](OutlineDrawing& outline, const BezierPath& path) {
         outline.setPath(path, toDevicePixels(deviceScale));
@@ -277,7 +284,14 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
         // While the brush writes pixels elsewhere in the picture, each redraw waits for the stamp in progress.
         std::unique_lock lock(picture.pixelLock(), std::defer_lock);
         if (strokeOpen) lock.lock();
-        renderToScreen(picture.pixels(), words, stride, box, deviceScale, outside);
+        // What floats is redrawn with each move of the hand; reading a whole view of the picture anew, many pixels of
+        // it for one of the screen, would take as long as all the rest.
+        if (!strokeOpen && deviceScale <= kReduced && showsPieceAlone()) {
+            mDrawing->still.draw(target, picture, {visibleDeviceBox(), deviceScale, outside});
+        } else {
+            mDrawing->still.forget();
+            renderToScreen(picture.pixels(), words, stride, box, deviceScale, outside);
+        }
         drawOverlays(target, deviceScale);
     }
     showThroughProfile(target, deviceScale);

@@ -121,6 +121,7 @@ private:
     void moveKeyboardPointer(double dx, double dy, bool goesOn);
     void pressKeyboardPointer();
 
+    zp::PixelBox visibleDeviceBox() const; ///< of the device pixels on screen, counted from the canvas's corner
     zp::PixelBox overlayBox() const; ///< image pixels that the stroke being drawn and the floating image may cover
     bool composeOverlays(zp::PixelBox box); ///< the picture's part with those drawn over it, into the scratch bitmap
     bool makeScratch(zp::PixelBox box);     ///< at least that large
