@@ -157,10 +157,12 @@ void runAlone(int count, const std::function<void(int)>& body)
 
 int workerCount() { return Workers::shared().count(); }
 
+int workersHere() { return insideBody ? 1 : workerCount(); }
+
 void parallelFor(int count, const std::function<void(int)>& body)
 {
     if (count <= 0) return;
-    if (count == 1 || insideBody || workerCount() == 1) return runAlone(count, body);
+    if (count == 1 || workersHere() == 1) return runAlone(count, body);
     std::shared_ptr<Pass> pass;
     try {
         pass = std::make_shared<Pass>();

@@ -10,6 +10,9 @@ namespace zp
 /// How many parts run at once, the caller included (at least 1). ZELPANE_JOBS overrides the machine's count.
 int workerCount();
 
+/// The same for a pass that is started here: 1 inside a body.
+int workersHere();
+
 /// Calls body(i) for i in [0, count), spread over the pool and the calling thread; returns when all are done. An
 /// exception of a body is thrown again here, after the others ended. Calls from inside a body run in that thread.
 /// Any thread may call; without memory for a pass it does all itself. Worth it from about half a millisecond of work.

@@ -14,6 +14,12 @@ enum class BitOrder {
     HighFirstStuffed ///< JPEG: behind every byte 0xFF stands a zero, so that no code looks like a marker
 };
 
+/// Whether one of the eight bytes is 0xFF.
+constexpr bool hasFullByte(std::uint64_t word)
+{
+    return ((~word - 0x0101010101010101u) & word & 0x8080808080808080u) != 0;
+}
+
 /// Collects bits and stores whole bytes. Every call of drain() may write eight bytes behind the last one that counts
 /// (16 where zeros are stuffed), so the memory must reach that much further than the data.
 template <BitOrder Order>
@@ -75,10 +81,6 @@ public:
 
 private:
     static_assert(std::endian::native == std::endian::little);
-    static bool hasFullByte(std::uint64_t word)
-    {
-        return ((~word - 0x0101010101010101u) & word & 0x8080808080808080u) != 0;
-    }
 
     std::uint8_t* mTo;
     std::uint64_t mBits = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// Finds the strips of a file and decodes bands of them. Colour is interpolated between the rows of two bands, so each
-/// takes its neighbours' next strips along, and every pixel comes out as in one go.
+/// Finds the strips of a file, which are its rows of blocks where it has no markers, and decodes bands of them. Colour
+/// is interpolated between the rows of two bands, so each takes its neighbours' next strips along, and every pixel
+/// comes out as in one go.
 #include "codecs/JPEGBands.h"
 #include "base/WorkPool.h"
 #include "codecs/JPEGPlanes.h"
@@ -80,63 +81,81 @@ std::vector<std::size_t> findStrips(std::span<const std::uint8_t> file, std::siz
 
 std::optional<BandPlan> BandPlan::make(std::span<const std::uint8_t> file, const jpeg_decompress_struct& info)
 {
-    if (info.restart_interval == 0 || info.progressive_mode || info.arith_code) return std::nullopt;
-    if (info.comps_in_scan != info.num_components) return std::nullopt;
+    if (info.progressive_mode || info.arith_code || info.comps_in_scan != info.num_components) return std::nullopt;
     // A grey picture's blocks are coded one by one, whatever its sampling says.
     const bool grey = info.num_components == 1;
+    if (grey && info.max_v_samp_factor > 1) return std::nullopt;
     const int unitWidth = DCTSIZE * (grey ? 1 : info.max_h_samp_factor),
               unitHeight = DCTSIZE * (grey ? 1 : info.max_v_samp_factor);
     const int unitsAcross = dividedUp(int(info.image_width), unitWidth);
-    if (info.restart_interval % unsigned(unitsAcross) != 0 || (grey && info.max_v_samp_factor > 1)) return std::nullopt;
+    const bool marked = info.restart_interval > 0;
+    if (marked && info.restart_interval % unsigned(unitsAcross) != 0) return std::nullopt;
 
     BandPlan plan;
     plan.mFile = file;
     plan.mUnitHeight = unitHeight;
-    plan.mStripHeight = int(info.restart_interval) / unitsAcross * unitHeight;
+    plan.mStripHeight = marked ? int(info.restart_interval) / unitsAcross * unitHeight : unitHeight;
     plan.mHeightOfPicture = int(info.image_height);
     plan.mScale = int(info.scale_denom);
     plan.mColours = info.out_color_space;
-    const int strips = dividedUp(plan.mHeightOfPicture, plan.mStripHeight);
-    if (bandsFor(strips) < 2) return std::nullopt;
+    plan.mStrips = dividedUp(plan.mHeightOfPicture, plan.mStripHeight);
+    if (workersHere() < 2 || bandsFor(plan.mStrips) < 2) return std::nullopt;
     SegmentWalk walk(file);
+    Segment last;
     while (const auto segment = walk.next()) {
         if (isFrame(segment->marker)) plan.mHeight = segment->begin + kFrameHeightOffset;
-        plan.mHead = segment->end;
+        last = *segment;
     }
     if (plan.mHeight == 0 || read16(file.data() + plan.mHeight) != plan.mHeightOfPicture) return std::nullopt;
-    if (file.data() + plan.mHead != info.src->next_input_byte) return std::nullopt; // bytes that are no segments
-    plan.mStarts = findStrips(file, plan.mHead, strips);
-    if (plan.mStarts.empty()) return std::nullopt;
+    if (file.data() + last.end != info.src->next_input_byte) return std::nullopt; // bytes that are no segments
+    plan.mHead.assign(file.begin(), file.begin() + std::ptrdiff_t(last.end));
+    if (marked) {
+        plan.mStarts = findStrips(file, last.end, plan.mStrips);
+        if (plan.mStarts.empty()) return std::nullopt;
+        return plan;
+    }
+    plan.mIndex = RowIndex::make(file.subspan(last.end), info, plan.mStrips, unitsAcross);
+    if (!plan.mIndex) return std::nullopt;
+    const auto tables = plan.mIndex->tables();
+    plan.mHead.insert(plan.mHead.begin() + std::ptrdiff_t(last.begin), tables.begin(), tables.end());
     return plan;
 }
 
 bool BandPlan::decode(BitmapView out) const
 {
-    const int strips = int(mStarts.size()) - 1, bands = bandsFor(strips);
+    const int bands = bandsFor(mStrips), before = mIndex ? 1 : 0;
     std::atomic<bool> sound{true};
-    parallelFor(bands, [&](int band) {
-        const auto edge = [&](int b) { return int(std::int64_t{strips} * b / bands); };
-        if (sound && !decodeBand(edge(band), edge(band + 1), out)) sound = false;
+    parallelFor(before + bands, [&](int part) {
+        // The part that finds the rows is the first to begin, wherever it runs: the others wait for it alone.
+        const auto edge = [&](int b) { return int(std::int64_t{mStrips} * b / bands); };
+        const bool done =
+            part < before ? mIndex->findRows() : sound && decodeBand(edge(part - before), edge(part - before + 1), out);
+        if (!done) sound = false;
     });
     return sound;
 }
 
 bool BandPlan::decodeBand(int firstStrip, int lastStrip, BitmapView out) const
 {
-    const int strips = int(mStarts.size()) - 1;
-    const int from = std::max(0, firstStrip - 1), to = std::min(lastStrip + 1, strips);
+    const int from = std::max(0, firstStrip - 1), to = std::min(lastStrip + 1, mStrips);
     // Of the strip behind only its first block row is needed.
     const int top = from * mStripHeight, bottom = std::min(lastStrip * mStripHeight + mUnitHeight, mHeightOfPicture);
-    std::vector<std::uint8_t> head(mFile.begin(), mFile.begin() + std::ptrdiff_t(mHead));
+    std::vector<std::uint8_t> head = mHead;
     write16(head.data() + mHeight, bottom - top);
-    const std::size_t begin = mStarts[std::size_t(from)], end = mStarts[std::size_t(to)] - 2;
-    Input input(head, mFile.subspan(begin, end - begin), kEnd);
+    if (mIndex && !mIndex->awaitRows(to)) return false;
+    const CodedRows rows = mIndex ? mIndex->coded(from, to) : CodedRows{};
+    const auto strips = [&]() -> std::span<const std::uint8_t> {
+        if (mIndex) return {rows.memory.get(), rows.count};
+        const std::size_t begin = mStarts[std::size_t(from)], end = mStarts[std::size_t(to)] - 2;
+        return mFile.subspan(begin, end - begin);
+    };
+    Input input(head, strips(), kEnd);
     Decompressor decompressor;
     if (!start(&decompressor.info, decompressor.errors, input, mScale, mColours)) return false;
 
     const auto scaled = [this](int y) { return y / mScale; };
     const int y0 = scaled(firstStrip * mStripHeight),
-              y1 = lastStrip == strips ? out.height : scaled(lastStrip * mStripHeight);
+              y1 = lastStrip == mStrips ? out.height : scaled(lastStrip * mStripHeight);
     PlaneDecoder planes(decompressor.info, out.part({0, y0, out.width, y1}), y0 - scaled(top));
     return planes.decode() == y1 - y0 && decompressor.errors.num_warnings == 0;
 }

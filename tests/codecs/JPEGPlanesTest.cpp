@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Decoding by planes gives the very bytes of the JPEG library's own way: all samplings, sizes, kinds and damages.
 #include "codecs/ImageImporter.h"
+#include "codecs/JPEGRows.h"
+#include "codecs/JPEGSegments.h"
 #include "codecs/LibJPEG.h"
 #include "codecs/TestPictures.h"
 #include "support/EveryTarget.h"
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 #include <random>
+#include <span>
 
 namespace zp
 {
@@ -22,6 +27,7 @@ struct Kind {
     J_COLOR_SPACE space = JCS_YCbCr;
     bool progressive = false;
     int restart = 0, restartRows = 0;
+    bool optimal = false; ///< only codes that are used
 };
 void PrintTo(const Kind& kind, std::ostream* out) { *out << kind.name; }
 
@@ -52,6 +58,8 @@ const Kind kKinds[] = {
     {"stripsOfFourRows", {{2, 2}, {1, 1}, {1, 1}}, JCS_YCbCr, false, 0, 4},
     {"stripsGrey", {{1, 1}}, JCS_GRAYSCALE, false, 0, 2},
     {"stripsGreyTwo", {{2, 2}}, JCS_GRAYSCALE, false, 0, 2},
+    {"optimal420", {{2, 2}, {1, 1}, {1, 1}}, JCS_YCbCr, false, 0, 0, true},
+    {"optimalGrey", {{1, 1}}, JCS_GRAYSCALE, false, 0, 0, true},
     {"stripsProgressive", {{2, 2}, {1, 1}, {1, 1}}, JCS_YCbCr, true, 0, 1},
 };
 
@@ -77,6 +85,7 @@ File write(int width, int height, const Kind& kind)
     if (kind.progressive) jpeg_simple_progression(&info);
     info.restart_interval = unsigned(kind.restart);
     info.restart_in_rows = kind.restartRows;
+    info.optimize_coding = kind.optimal;
     jpeg_start_compress(&info, TRUE);
     File row(std::size_t(3 * width));
     std::mt19937 random(unsigned(width + 100 * height));
@@ -178,6 +187,60 @@ TEST_P(JPEGKinds, ADamagedFileShowsWhatTheLibraryShows)
         const ImportedImage image = importImage(bad);
         ASSERT_TRUE(image.bitmap) << image.error;
         ASSERT_TRUE(test::samePixels(image.bitmap->view(), expected->view())) << "round " << round;
+    }
+}
+
+TEST_P(JPEGKinds, AnyRowsCanBeCutOutWithoutMarkers)
+{
+    const Kind& kind = GetParam();
+    const File file = write(150, 330, kind);
+    test::JPEGRows rows(file);
+    if (kind.progressive || kind.restart > 0 || kind.restartRows > 0) {
+        EXPECT_EQ(rows.index, nullptr);
+        return;
+    }
+    ASSERT_NE(rows.index, nullptr);
+    ASSERT_TRUE(rows.index->findRows());
+    ASSERT_TRUE(rows.index->awaitRows(rows.count));
+    const auto whole = byLibrary(file, 1);
+    for (int first = 0; first < rows.count; first += 3)
+        for (const int last : {first + 1, (first + rows.count + 1) / 2, rows.count}) {
+            if (last <= first) continue;
+            SCOPED_TRACE(testing::Message() << first << " to " << last << " of " << rows.count);
+            const auto part = byLibrary(rows.part(file, first, last), 1);
+            // Colours of half the height are mixed with those of the row that is cut off.
+            const int top = first * rows.unit, skip = first > 0 ? 1 : 0, leave = last < rows.count ? 1 : 0;
+            ASSERT_EQ(part->pixelsHigh(), std::min(last * rows.unit, 330) - top);
+            EXPECT_TRUE(test::samePixels(part->view().part({0, skip, 150, part->pixelsHigh() - leave}),
+                                         whole->view().part({0, top + skip, 150, top + part->pixelsHigh() - leave})));
+        }
+}
+
+TEST(JPEGRows, AreNotFoundInUnsoundData)
+{
+    const File file = write(100, 300, kKinds[2]);
+    struct Case {
+        const char* name;
+        std::function<void(File&)> spoil;
+    };
+    const Case cases[] = {
+        {"cut off", [](File& f) { f.resize(f.size() / 2); }},
+        {"without end marker", [](File& f) { f.resize(f.size() - 2); }},
+        {"another byte before the end", [](File& f) { f.insert(f.end() - 2, 0x12); }},
+        {"a byte fewer", [](File& f) { f.erase(f.end() - 3); }},
+        {"a marker within", [](File& f) { f[f.size() / 2] = 0xFF, f[f.size() / 2 + 1] = 0xD3; }},
+        {"only ones", [](File& f) { std::fill(f.end() - 1000, f.end() - 2, 0xFE); }},
+    };
+    for (const Case& one : cases) {
+        File bad = file;
+        one.spoil(bad);
+        test::JPEGRows rows(bad);
+        ASSERT_NE(rows.index, nullptr) << one.name;
+        EXPECT_FALSE(rows.index->findRows()) << one.name;
+        EXPECT_FALSE(rows.index->awaitRows(rows.count)) << one.name;
+        const ImportedImage image = importImage(bad);
+        ASSERT_TRUE(image.bitmap) << one.name;
+        EXPECT_TRUE(test::samePixels(image.bitmap->view(), byLibrary(bad, 1)->view())) << one.name;
     }
 }
 
