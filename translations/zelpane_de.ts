@@ -3036,6 +3036,14 @@
         <translation>Kanten, die auf einer Seite in die Auswahl hinein- und auf einer anderen hinausführen, werden zuerst durchgezogen</translation>
     </message>
     <message>
+        <source>&amp;Even out patches</source>
+        <translation>Flec&amp;ken ausgleichen</translation>
+    </message>
+    <message>
+        <source>Takes away steps in brightness and colour where patches from different places meet</source>
+        <translation>Gleicht Stufen in Helligkeit und Farbe aus, wo Flecken von verschiedenen Stellen aneinanderstoßen</translation>
+    </message>
+    <message>
         <source>&amp;Take From…</source>
         <translation>Füllen a&amp;us …</translation>
     </message>

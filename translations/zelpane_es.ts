@@ -3036,6 +3036,14 @@
         <translation>Los bordes que entran en la selección por un lado y salen por otro se trazan primero a través de ella</translation>
     </message>
     <message>
+        <source>&amp;Even out patches</source>
+        <translation>I&amp;gualar los parches</translation>
+    </message>
+    <message>
+        <source>Takes away steps in brightness and colour where patches from different places meet</source>
+        <translation>Quita los saltos de brillo y color donde se tocan parches tomados de lugares distintos</translation>
+    </message>
+    <message>
         <source>&amp;Take From…</source>
         <translation>&amp;Tomar de…</translation>
     </message>

@@ -3036,6 +3036,14 @@
         <translation>Les contours qui entrent dans la sélection d’un côté et en sortent d’un autre y sont d’abord prolongés</translation>
     </message>
     <message>
+        <source>&amp;Even out patches</source>
+        <translation>Égaliser les racc&amp;ords</translation>
+    </message>
+    <message>
+        <source>Takes away steps in brightness and colour where patches from different places meet</source>
+        <translation>Supprime les écarts de luminosité et de couleur là où se touchent des morceaux pris à des endroits différents</translation>
+    </message>
+    <message>
         <source>&amp;Take From…</source>
         <translation>Prendre &amp;dans…</translation>
     </message>

@@ -3026,6 +3026,14 @@
         <translation>選択範囲の一方から入り他方へ抜ける輪郭を、先に通して描きます</translation>
     </message>
     <message>
+        <source>&amp;Even out patches</source>
+        <translation>継ぎ目をならす(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Takes away steps in brightness and colour where patches from different places meet</source>
+        <translation>別々の場所から取った部分の境目にできる明るさと色の段差をなくします</translation>
+    </message>
+    <message>
         <source>&amp;Take From…</source>
         <translation>取り込み元(&amp;T)…</translation>
     </message>

@@ -3036,6 +3036,14 @@
         <translation>As bordas que entram na seleção por um lado e saem por outro são traçadas primeiro através dela</translation>
     </message>
     <message>
+        <source>&amp;Even out patches</source>
+        <translation>&amp;Igualar os retalhos</translation>
+    </message>
+    <message>
+        <source>Takes away steps in brightness and colour where patches from different places meet</source>
+        <translation>Remove os degraus de brilho e cor onde se encontram retalhos tirados de lugares diferentes</translation>
+    </message>
+    <message>
         <source>&amp;Take From…</source>
         <translation>&amp;Usar de…</translation>
     </message>

@@ -3026,6 +3026,14 @@
         <translation>先将从一侧进入选区并从另一侧穿出的边缘贯穿绘出</translation>
     </message>
     <message>
+        <source>&amp;Even out patches</source>
+        <translation>均匀拼接处(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Takes away steps in brightness and colour where patches from different places meet</source>
+        <translation>消除取自不同位置的色块相接处的亮度和颜色突变</translation>
+    </message>
+    <message>
         <source>&amp;Take From…</source>
         <translation>取自(&amp;T)…</translation>
     </message>

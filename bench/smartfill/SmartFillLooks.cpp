@@ -3,11 +3,11 @@
 ///
 ///     smartfill_looks PICTURE.ppm MASK.pgm RADIUS [faster|normal] OUTPUT-PREFIX [NAME=RESULT.ppm…]
 ///
-/// The mask is white where the hole is. Writes PREFIX-smart.ppm, PREFIX-telea.ppm, PREFIX-ns.ppm and, where OpenCV's
-/// xphoto is installed, PREFIX-shiftmap.ppm, and prints seconds, PSNR and SSIM over the hole's pixels, for which the
-/// picture itself is the truth. What others made of the same hole is judged by the same measures.
+/// The mask is white where the hole is. Writes PREFIX-smart.ppm, PREFIX-even.ppm, PREFIX-telea.ppm, PREFIX-ns.ppm and,
+/// where OpenCV's xphoto is installed, PREFIX-shiftmap.ppm, and prints seconds, PSNR and SSIM over the hole's pixels,
+/// for which the picture itself is the truth. What others made of the same hole is judged by the same measures.
 #include "Pnm.h"
-#include "smartfill/SmartFill.h"
+#include "smartfill/SmartFillEvening.h"
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -97,13 +97,23 @@ try {
     const zp::SmartFillArea area =
         zp::smartFillArea(zp::makeRect(float(box.x), float(box.y), float(box.width), float(box.height)), truth.cols,
                           truth.rows, std::atoi(argv[3]), faster);
-    const double smartSeconds = seconds([&] {
-        zp::runSmartFill({argb.data, argb.cols, argb.rows, std::ptrdiff_t(argb.step)},
-                         {hole.data, hole.cols, hole.rows, std::ptrdiff_t(hole.step)}, area, {}, 1);
-    });
-    cv::Mat smart(truth.size(), CV_8UC3);
-    const int back[] = {1, 0, 2, 1, 3, 2};
-    cv::mixChannels(&argb, 1, &smart, 1, back, 3);
+    // Both ways, from the same random numbers.
+    const auto filledBy = [&](cv::Mat& result, auto fill) {
+        cv::Mat filled = argb.clone();
+        const zp::BitmapView view{filled.data, filled.cols, filled.rows, std::ptrdiff_t(filled.step)};
+        const double took = seconds([&] {
+            zp::SmartFillPicture picture =
+                zp::fetchSmartFillPicture(view, {hole.data, hole.cols, hole.rows, std::ptrdiff_t(hole.step)}, area);
+            if (fill(picture) == zp::SmartFillStatus::Filled) zp::writeBackSmartFill(view, picture, area);
+        });
+        result.create(truth.size(), CV_8UC3);
+        const int back[] = {1, 0, 2, 1, 3, 2};
+        cv::mixChannels(&filled, 1, &result, 1, back, 3);
+        return took;
+    };
+    cv::Mat smart, even;
+    const double smartSeconds = filledBy(smart, [](auto& picture) { return zp::fillSmartFillPicture(picture, 1, {}); });
+    const double evenSeconds = filledBy(even, [](auto& picture) { return zp::fillEvenly(picture, 1, {}); });
 
     cv::Mat telea, ns;
     const double teleaSeconds = seconds([&] { cv::inpaint(truth, hole, telea, 5, cv::INPAINT_TELEA); });
@@ -115,6 +125,7 @@ try {
     };
     std::printf("%dx%d at %d,%d: ", box.width, box.height, box.x, box.y);
     report("smart", smart, smartSeconds);
+    report("even", even, evenSeconds);
     report("telea", telea, teleaSeconds);
     report("ns", ns, nsSeconds);
 #ifdef ZP_XPHOTO

@@ -12,6 +12,7 @@
 #include <ctime>
 #include <memory>
 #include <new>
+#include <numeric>
 #include <span>
 #include <utility>
 
@@ -33,6 +34,8 @@ public:
     /// @return false when it was cancelled
     bool run(const SmartFillHooks& hooks);
     void copyTarget(SmartFillPicture& picture) const;
+    /// Of each pixel, the one it was taken from.
+    std::vector<std::int32_t> takenFrom() const;
 
 private:
     void readPicture(const SmartFillPicture& picture);
@@ -195,6 +198,18 @@ void SmartFillRun::copyTarget(SmartFillPicture& picture) const
             mTarget[std::size_t(mLayout.index(p.x, p.y))].value;
 }
 
+std::vector<std::int32_t> SmartFillRun::takenFrom() const
+{
+    std::vector<std::int32_t> all(std::size_t(mLayout.width) * std::size_t(mLayout.height));
+    std::iota(all.begin(), all.end(), 0);
+    for (const PixelPoint p : mFillList) {
+        const std::int32_t source = mTarget[std::size_t(mLayout.index(p.x, p.y))].filledFrom;
+        all[std::size_t(p.y) * std::size_t(mLayout.width) + std::size_t(p.x)] =
+            mLayout.y(source) * mLayout.width + mLayout.x(source);
+    }
+    return all;
+}
+
 void logStart(const SmartFillHooks& hooks)
 {
     logLine("update progress: 0.0");
@@ -202,7 +217,7 @@ void logStart(const SmartFillHooks& hooks)
 }
 
 SmartFillStatus fillAfterStart(SmartFillPicture& picture, std::uint64_t seed, const SmartFillHooks& hooks,
-                               MatchStep step)
+                               MatchStep step, std::vector<std::int32_t>* takenFrom)
 {
     SmartFillRun run(picture, seed, step);
     logLine("image and mask fetched");
@@ -210,17 +225,18 @@ SmartFillStatus fillAfterStart(SmartFillPicture& picture, std::uint64_t seed, co
     if (!run.hasSource()) return SmartFillStatus::NoSource;
     if (!run.run(hooks)) return SmartFillStatus::Cancelled;
     run.copyTarget(picture);
+    if (takenFrom) *takenFrom = run.takenFrom();
     return SmartFillStatus::Filled;
 }
 
 } // namespace
 
 SmartFillStatus fillSmartFillPicture(SmartFillPicture& picture, std::uint64_t seed, const SmartFillHooks& hooks,
-                                     SmartFillSpeed speed)
+                                     SmartFillSpeed speed, std::vector<std::int32_t>* takenFrom)
 {
     logStart(hooks);
     return fillAfterStart(picture, seed, hooks,
-                          speed == SmartFillSpeed::Best ? bestMatchStep() : MatchStep{matchPortable});
+                          speed == SmartFillSpeed::Best ? bestMatchStep() : MatchStep{matchPortable}, takenFrom);
 }
 
 SmartFillStatus runSmartFill(BitmapView bitmap, ConstMaskView mask, const SmartFillArea& area,
@@ -229,7 +245,7 @@ SmartFillStatus runSmartFill(BitmapView bitmap, ConstMaskView mask, const SmartF
     logStart(hooks);
     SmartFillPicture picture = fetchSmartFillPicture(bitmap, mask, area);
     const SmartFillStatus status =
-        fillAfterStart(picture, seed ? seed : std::uint64_t(std::time(nullptr)), hooks, bestMatchStep());
+        fillAfterStart(picture, seed ? seed : std::uint64_t(std::time(nullptr)), hooks, bestMatchStep(), nullptr);
     if (status == SmartFillStatus::Filled) writeBackSmartFill(bitmap, picture, area);
     return status;
 }

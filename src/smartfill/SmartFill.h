@@ -67,11 +67,13 @@ enum class SmartFillSpeed {
 
 /// Fills the hole (mask not 0) of @p picture from its source pixels (isSource) in place; a partly selected pixel is
 /// both. Logs "update progress: %f" lines and "image and mask fetched".
-/// @param seed  the same seed gives the same picture, whatever the processor
+/// @param seed       the same seed gives the same picture, whatever the processor
+/// @param takenFrom  if not null, gets for each pixel the one its colour was taken from; outside the hole that itself
 /// Time: about 4 steps a hole pixel, each some 230 comparisons of up to 29 pixels. Memory: about 20 bytes a pixel.
 /// Any thread; when cancelled, picture.pixels is left as it was.
 SmartFillStatus fillSmartFillPicture(SmartFillPicture& picture, std::uint64_t seed, const SmartFillHooks& hooks,
-                                     SmartFillSpeed speed = SmartFillSpeed::Best);
+                                     SmartFillSpeed speed = SmartFillSpeed::Best,
+                                     std::vector<std::int32_t>* takenFrom = nullptr);
 
 /// A whole run on a picture nobody else touches: fetch, fill, and write back unless it was cancelled or had no source.
 /// Takes the time as its seed when @p seed is 0.

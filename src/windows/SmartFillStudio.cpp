@@ -91,6 +91,7 @@ SmartFillStudio::SmartFillStudio(Ui::SmartFill& ui)
     connect(ui.mRadiusSlider, &QSlider::valueChanged, this, &SmartFillStudio::settingsChanged);
     connect(ui.mFasterCheckbox, &QCheckBox::toggled, this, &SmartFillStudio::settingsChanged);
     connect(ui.mLinesCheckbox, &QCheckBox::toggled, this, &SmartFillStudio::settingsChanged);
+    connect(ui.mEvenCheckbox, &QCheckBox::toggled, this, &SmartFillStudio::settingsChanged);
     connect(ui.mFromButton, &QAbstractButton::clicked, this,
             [this] { mark(*mUi.mFromButton, *mUi.mFromField, mSources.from, tr("anywhere")); });
     connect(ui.mNeverButton, &QAbstractButton::clicked, this,

@@ -13,6 +13,7 @@
 #include "document/Preview.h"
 #include "operations/Files.h"
 #include "operations/SmartFillHook.h"
+#include "smartfill/SmartFillEvening.h"
 #include "smartfill/SmartFillLines.h"
 #include "ui_SmartFill.h"
 #include "windows/FineProgressBar.h"
@@ -91,7 +92,7 @@ struct ZPSmartFill::Run {
     SmartFillArea area;
     SmartFillPicture picture;
     std::uint64_t seed = 0;
-    bool keepsLines = false;
+    bool keepsLines = false, evens = false;
     QStringList lines; ///< of a script that does the same with the window as it stands open
     SmartFillStatus status = SmartFillStatus::Cancelled;
     bool outOfMemory = false;
@@ -224,9 +225,11 @@ void ZPSmartFill::startForWindow(Purpose purpose, std::uint64_t seed)
     run->generation = mGeneration;
     run->seed = seed;
     run->keepsLines = mUi->mLinesCheckbox->isChecked();
+    run->evens = mUi->mEvenCheckbox->isChecked();
     run->lines = {QString("set mRadiusSlider %1").arg(mUi->mRadiusSlider->value()),
                   QString("set mFasterCheckbox %1").arg(int(mUi->mFasterCheckbox->isChecked())),
                   QString("set mLinesCheckbox %1").arg(int(run->keepsLines)),
+                  QString("set mEvenCheckbox %1").arg(int(run->evens)),
                   seedLine(seed),
                   "click mRunButton",
                   "wait"};
@@ -298,15 +301,12 @@ void ZPSmartFill::calcThread(Run& run)
     };
     hooks.cancelled = [this] { return mCancel.load(std::memory_order_acquire); };
     try {
-        if (run.keepsLines) {
-            // What is drawn is no hole to the fill, but to whoever writes the result back.
-            const std::vector<std::uint8_t> hole = run.picture.mask;
-            keepLines(run.picture);
-            run.status = fillSmartFillPicture(run.picture, run.seed, hooks);
-            run.picture.mask = hole;
-        } else {
-            run.status = fillSmartFillPicture(run.picture, run.seed, hooks);
-        }
+        // What is drawn is no hole to the fill, but to whoever writes the result back.
+        const std::vector<std::uint8_t> hole = run.picture.mask;
+        if (run.keepsLines) keepLines(run.picture);
+        run.status =
+            run.evens ? fillEvenly(run.picture, run.seed, hooks) : fillSmartFillPicture(run.picture, run.seed, hooks);
+        run.picture.mask = hole;
     } catch (const std::exception& error) {
         logLine("smart fill: %s", error.what());
         run.outOfMemory = true;

@@ -31,6 +31,7 @@ protected:
         outlet<QSlider>("mRadiusSlider")->setValue(50);
         outlet<QCheckBox>("mFasterCheckbox")->setChecked(false);
         outlet<QCheckBox>("mLinesCheckbox")->setChecked(false);
+        outlet<QCheckBox>("mEvenCheckbox")->setChecked(false);
         takeSounds();
     }
     void TearDown() override
@@ -256,6 +257,29 @@ TEST_F(SmartFillStudioWindow, LinesAreKeptWhenAskedFor)
     };
     darkInHole(false);
     EXPECT_EQ(darkInHole(true), 60) << "the line goes through unbroken";
+}
+
+TEST_F(SmartFillStudioWindow, PatchesAreEvenedOutWhenAskedFor)
+{
+    const auto farthestFromTruth = [this](bool evened) {
+        const auto truth = [](int x, int y) { return test::word(255, 40 + x, 60 + y, 90 + (x + y) / 4); };
+        makeImage(200, 150);
+        paintImage(truth);
+        fillBox({70, 50, 130, 100}, test::kRedWord);
+        select(makeRect(70, 50, 60, 50));
+        outlet<QCheckBox>("mEvenCheckbox")->setChecked(evened);
+        perform("smartFill:");
+        click("mRunButton");
+        int farthest = 0;
+        for (int y = 50; y < 100; ++y)
+            for (int x = 70; x < 130; ++x)
+                for (int c = 1; c < 4; ++c)
+                    farthest =
+                        std::max(farthest, std::abs(test::channelOf(pixel(x, y), c) - test::channelOf(truth(x, y), c)));
+        return farthest;
+    };
+    const int plain = farthestFromTruth(false), evened = farthestFromTruth(true);
+    EXPECT_LT(2 * evened, plain) << evened << " and " << plain;
 }
 
 TEST_F(SmartFillStudioWindow, AnotherPictureForgetsTheResults)
