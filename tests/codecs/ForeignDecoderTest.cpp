@@ -30,9 +30,21 @@ namespace
 namespace fs = std::filesystem;
 using codec::setForeignDecoding;
 
+/// An emulator follows into no other program, and has no filter of system calls.
+#ifdef ZP_EMULATED
+constexpr bool kEmulated = true;
+#else
+constexpr bool kEmulated = false;
+#endif
+constexpr const char* kNotEmulated = "needs this machine's own kernel";
+
 class ForeignDecoder : public testing::Test
 {
 protected:
+    void SetUp() override
+    {
+        if (kEmulated) GTEST_SKIP() << kNotEmulated;
+    }
     ~ForeignDecoder() override { setForeignDecoding({}); }
     static void byProgram() { setForeignDecoding({.program = ZP_PROGRAM, .arguments = {"--decode"}}); }
     static void byShell(const std::string& commands, int milliseconds = 20'000)
@@ -250,6 +262,7 @@ int behindWalls(const std::function<bool()>& attempt)
 
 TEST(DecoderWalls, StandBeforeFilesNetworkAndPrograms)
 {
+    if (kEmulated) GTEST_SKIP() << kNotEmulated;
     const test::TemporaryFolder folder;
     const std::string there = folder.path() / "there", other = folder.path() / "other";
     std::ofstream(there) << "there";
@@ -271,6 +284,7 @@ TEST(DecoderWalls, StandBeforeFilesNetworkAndPrograms)
 
 TEST(DecoderWalls, BoundMemory)
 {
+    if (kEmulated) GTEST_SKIP() << kNotEmulated;
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     GTEST_SKIP() << "sanitizers need terabytes of addresses";
 #endif
