@@ -224,8 +224,8 @@ TEST(JPEGRows, AreNotFoundInUnsoundData)
         std::function<void(File&)> spoil;
     };
     const Case cases[] = {
-        {"cut off", [](File& f) { f.resize(f.size() / 2); }},
-        {"without end marker", [](File& f) { f.resize(f.size() - 2); }},
+        {"cut off", [](File& f) { f.erase(f.begin() + std::ptrdiff_t(f.size() / 2), f.end()); }},
+        {"without end marker", [](File& f) { f.erase(f.end() - 2, f.end()); }},
         {"another byte before the end", [](File& f) { f.insert(f.end() - 2, 0x12); }},
         {"a byte fewer", [](File& f) { f.erase(f.end() - 3); }},
         {"a marker within", [](File& f) { f[f.size() / 2] = 0xFF, f[f.size() / 2 + 1] = 0xD3; }},
