@@ -9,6 +9,7 @@
 #include "document/Shelf.h"
 #include "operations/Commands.h"
 #include "operations/Recovery.h"
+#include "undo/ExactSteps.h"
 #include <QCoreApplication>
 #include <new>
 
@@ -38,13 +39,13 @@ try {
         edit.replacePicture(std::move(rep), kOpenedPicture);
     };
     edit.replacePicture(nullptr, kInternalPicture);
+    edit.document().dropNoticesOfFile(); // before there is something to be said of this one
     if (first)
         put(std::move(first));
     else if (!hasSteps || !edit.history().goTo(shelved.steps.position, edit.picture(), put))
         return false;
     edit.picture().setPath(shelved.path);
     edit.picture().setFiles(shelved.files);
-    edit.document().dropNoticesOfFile();
     edit.gesture().openPolygon(false);
     edit.history().notePosition(edit.picture());
     edit.redraw();
@@ -93,8 +94,9 @@ void shelvePicture(Edit& edit)
     edit.history().waitForWriter();
     const History::Kept kept = edit.history().kept(edit.history().position());
     shelved.steps = edit.history().putAside();
-    const bool inFolder = shelved.steps.folder || kept == History::Kept::Exact;
-    if (kept == History::Kept::Nowhere || !inFolder) shelved.pixels = edit.picture().writableBitmap();
+    // Files that could not be moved went with the old picture's place; what was kept in memory is still there.
+    const bool isThere = shelved.steps.folder || shelved.steps.exact->isThere(shelved.steps.position);
+    if (kept == History::Kept::Nowhere || !isThere) shelved.pixels = edit.picture().writableBitmap();
     edit.shelf().put(std::move(shelved));
 }
 

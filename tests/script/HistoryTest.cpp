@@ -199,6 +199,22 @@ TEST(PicturesBefore, KeepWhatFloatedOverThem)
     EXPECT_EQ(s.pixel(20, 10), (std::vector<int>{255, 255, 0, 0}));
 }
 
+TEST(PicturesBefore, ComeBackWhenTheirFilesCouldNotBeMoved)
+{
+    Session s;
+    makeRed(s, 30);
+    s.must("wait");
+    // Something in the way of the note of a move that every move begins with.
+    const QString inTheWay = s.file("Zelpane Undo Support/.moving");
+    ASSERT_TRUE(QDir().mkpath(inTheWay + "/full"));
+    makeRed(s, 40);
+    s.must("wait");
+    ASSERT_TRUE(QDir(inTheWay).removeRecursively() || !QDir(inTheWay).exists());
+    s.must("menu previousPicture:");
+    EXPECT_EQ(s.must("image")["width"], 30);
+    EXPECT_EQ(s.pixel(3, 3), (std::vector<int>{255, 255, 0, 0}));
+}
+
 TEST(PicturesBefore, AreTenAtMost)
 {
     Session s;
