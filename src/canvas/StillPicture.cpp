@@ -39,7 +39,6 @@ void StillPicture::fill(const Picture& picture, int row, int left, int right)
     while (left < right && there[left]) ++left;
     while (left < right && there[right - 1]) --right;
     if (left == right) return;
-    std::fill(there + left, there + right, true);
     const PixelBox& all = mScene.visible;
     const PixelBox box =
         PixelBox{all.x0 + left * kTile, all.y0 + row * kTile, all.x0 + right * kTile, all.y0 + (row + 1) * kTile}
@@ -47,6 +46,7 @@ void StillPicture::fill(const Picture& picture, int row, int left, int right)
     const std::ptrdiff_t stride = all.width();
     renderToScreen(picture.pixels(), mWords.data() + stride * (box.y0 - all.y0) + (box.x0 - all.x0), stride, box,
                    mScene.scale, mScene.outside);
+    std::fill(there + left, there + right, true); // now, since there may have been no memory for rendering
 }
 
 void StillPicture::draw(const ScreenTarget& target, const Picture& picture, const Scene& scene)
