@@ -53,8 +53,8 @@ static void readForeignPicturesApart(const QString& language = {},
     codec::setForeignDecoding({.program = "/proc/self/exe", .arguments = std::move(arguments), .wait = wait});
 }
 
-/// A picture that another start hands over, or that a file manager drops, comes without a word before it. Once the
-/// window has settled a decoder waits for it; one that has read goes home after a while, and another takes its place.
+/// A picture that another start hands over, as a file manager's does, comes without a word before it. Once the window
+/// has settled a decoder waits for it; one that has read goes home after a while, and another takes its place.
 static void keepDecoderWaiting(QObject* owner)
 {
     constexpr std::chrono::seconds kSettled{1}, kLookedAfter{300};

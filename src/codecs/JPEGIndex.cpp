@@ -43,22 +43,20 @@ void copyUntil(CodeReader& from, std::int64_t position, Writer& to)
 
 // ---- bits and codes -------------------------------------------------------------------------------------------------
 
-CodeReader CodeReader::refilledSlowly(CodeReader reader)
+void CodeReader::refillSlowly()
 {
-    while (reader.mCount < 56) {
-        const std::uint8_t* const next = reader.mNext;
+    while (mCount < 56) {
         std::uint64_t byte = 0;
-        if (next == reader.mEnd || (*next == kMark && (reader.mEnd - next < 2 || next[1] != 0))) {
-            reader.mZeros += 8;
+        if (mNext == mEnd || (*mNext == kMark && (mEnd - mNext < 2 || mNext[1] != 0))) {
+            mZeros += 8;
         } else {
-            byte = *next;
-            reader.mNext += byte == kMark ? 2 : 1;
+            byte = *mNext;
+            mNext += byte == kMark ? 2 : 1;
         }
-        reader.mBits |= byte << (56 - reader.mCount);
-        reader.mCount += 8;
-        reader.mTaken += 8;
+        mBits |= byte << (56 - mCount);
+        mCount += 8;
+        mTaken += 8;
     }
-    return reader;
 }
 
 bool CodeReader::isAtEndMarker()
@@ -242,7 +240,6 @@ int RowIndex::stepOverCode(CodeReader& reader, const Component& component, int n
 
 bool RowIndex::walkRow(Place& place) const
 {
-    // No processor foresees where a block ends: what follows from that is reckoned, not branched to.
     struct Block {
         const Stride* strides[2]; ///< at its beginning, within it
         std::size_t component, following;
@@ -271,22 +268,19 @@ bool RowIndex::walkRow(Place& place) const
             const Stride stride = block->strides[next != 0][reader.peek(CodeTable::kLookBits)];
             unsigned behind = next + stride.advance;
             if (behind > kLastEnd || (behind > kCoefficients && behind < kFirstEnd)) {
-                // Copies, so that the reader itself stays in registers.
-                CodeReader alone = reader;
-                int mean = means[block->component];
-                behind = unsigned(stepOverCode(alone, mComponents[block->component], int(next), mean));
-                reader = alone;
-                means[block->component] = mean;
+                behind =
+                    unsigned(stepOverCode(reader, mComponents[block->component], int(next), means[block->component]));
                 if (behind > kCoefficients) return false;
                 i = kStridesOfRefill; // there may be too few bits for another one
             } else {
                 reader.skip(stride.bits);
                 means[block->component] += stride.difference;
             }
-            const bool ends = behind >= kCoefficients;
-            next = ends ? 0 : behind;
-            block = blocks.data() + (ends ? block->following : std::size_t(block - blocks.data()));
-            if ((left -= ends) == 0) break;
+            next = behind;
+            if (behind < kCoefficients) continue;
+            next = 0;
+            block = &blocks[block->following];
+            if (--left == 0) break;
         }
     }
     place = {reader, means};

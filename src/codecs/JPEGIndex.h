@@ -30,11 +30,7 @@ public:
     {
         std::uint64_t word = ~std::uint64_t{0};
         if (mEnd - mNext >= 8) std::memcpy(&word, mNext, 8);
-        if (codec::hasFullByte(word)) {
-            // By value: whoever steps over codes keeps the reader in registers.
-            *this = refilledSlowly(*this);
-            return;
-        }
+        if (codec::hasFullByte(word)) return refillSlowly();
         // Also a part of the byte that comes next, which the next time puts the same bits there.
         mBits |= __builtin_bswap64(word) >> mCount;
         const int bytes = (63 - mCount) / 8;
@@ -56,7 +52,7 @@ public:
     bool isAtEndMarker();
 
 private:
-    static CodeReader refilledSlowly(CodeReader reader);
+    void refillSlowly();
 
     std::uint64_t mBits = 0;    ///< the next one is the highest
     int mCount = 0, mZeros = 0; ///< bits that are there, and how many of all were taken from behind the data
