@@ -107,8 +107,8 @@ SECTIONS = [
     Section("selection", "selection/bench_selection", [
         Row("union of two outlines of 20,000 vertices", "BM_Union/0", [("Clipper", "BM_UnionClipperAlone/0")], 0.22),
         Row("the same, spiky", "BM_Union/1", [("Clipper", "BM_UnionClipperAlone/1")], 0.12),
-        Row("outline traced, photo", "BM_Trace/0", [("cv::findContours", "BM_TraceOpenCV/0")], 0.20),
-        Row("outline traced, fine structure", "BM_Trace/1", [("cv::findContours", "BM_TraceOpenCV/1")], 0.43),
+        Row("outline traced, fine structure", "BM_Trace/0", [("cv::findContours", "BM_TraceOpenCV/0")], 0.43),
+        Row("outline traced, a wand in a photo", "BM_Trace/1", [("cv::findContours", "BM_TraceOpenCV/1")], 0.13),
         Row("6 megapixels anchored, rectangle", ms("BM_Anchor", 0), [("cv::Mat::copyTo", ms("BM_AnchorOpenCvCopy", 0))], 1.2),
         Row("6 megapixels anchored, oval", ms("BM_Anchor", 1), [("cv::Mat::copyTo", ms("BM_AnchorOpenCvCopy", 1))], 0.7),
         Row("6 megapixels anchored, turned", ms("BM_AnchorTurned"), [("cv::warpAffine", ms("BM_AnchorTurnedOpenCv"))], 0.5),

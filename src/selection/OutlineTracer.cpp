@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The border as corners linked across and down: found between neighbouring rows, walked without a search.
 #include "selection/OutlineTracer.h"
+#include "base/CpuHints.h"
 #include "base/Simd.h"
+#include "base/WorkPool.h"
 #include "selection/OutlineCorners.h"
+#include <algorithm>
 #include <cstring>
 #include <new>
 
@@ -18,7 +21,10 @@ namespace
 // the first (odd) also has the vertical piece above it, the second the one below.
 constexpr std::uint32_t kWalked = 0x80000000; ///< flag of an even corner's link: its horizontal piece is used up
 constexpr std::uint32_t kIndex = 0x7fffffff;  ///< the link proper
-constexpr std::uint32_t kNone = kIndex;       ///< crossings only: the vertical piece is used up
+constexpr std::uint32_t kNone = kIndex;       ///< no vertical piece, or, of a crossing, one that is used up
+constexpr std::uint32_t kMostCorners = 1 << 30;
+constexpr std::uint32_t kAhead = 65536; ///< corners that a loop may be expected to reach below where it starts
+constexpr std::size_t kCacheLine = 64;  ///< bytes, and in corners more than that: no line is written by two bands
 
 /// Column in the low half, row in the high half, the crossing's flag on top: for pictures of up to 32,767 a side.
 struct SmallPlace {
@@ -62,18 +68,31 @@ private:
     std::vector<std::uint64_t> mEmpty;
 };
 
-/// @param counts  corners on each line
-/// @param corners room for all of them and one more
+/// The corners of some lines, and beyond those of the whole picture an area of the band's own.
+struct Band {
+    int firstRow, endRow;
+    std::uint32_t next; ///< the band's first corner
+    /// Takes the links of corners that end no piece: which these are cannot be foreseen. From the one behind it on, a
+    /// corner for each column stands for the piece that comes from the bands above, and is linked to its end.
+    std::uint32_t spare;
+    std::vector<std::uint32_t> open; ///< per column, the corner whose vertical piece is open downwards
+
+    std::uint32_t fromAbove(std::size_t column) const { return spare + 1 + std::uint32_t(column); }
+};
+
 template <class Place>
-void collectCorners(const BitRows& bits, const std::vector<std::uint32_t>& counts, Corner<Place>* corners,
-                    std::uint32_t total)
+void collectBand(const BitRows& bits, const std::vector<std::uint32_t>& counts, Corner<Place>* corners, Band& band)
 {
     const RowPairs rows(bits);
     std::vector<FoundCorner> found(2 * (std::size_t(bits.width()) + 1) + 16);
-    // Per column, the corner whose vertical piece is open downwards.
-    std::vector<std::uint32_t> open(std::size_t(bits.width()) + 1);
-    std::uint32_t next = 0;
-    for (int y = 0; y <= bits.height(); ++y) {
+    band.open.resize(std::size_t(bits.width()) + 1);
+    for (std::size_t x = 0; x < band.open.size(); ++x) {
+        band.open[x] = band.fromAbove(x);
+        corners[band.open[x]].link = kNone;
+    }
+    std::uint32_t* const open = band.open.data();
+    std::uint32_t next = band.next;
+    for (int y = band.firstRow; y < band.endRow; ++y) {
         const std::uint32_t count = counts[std::size_t(y)];
         if (count == 0) continue;
         findCorners(rows.above(y), rows.below(y), bits.wordsPerRow(), found.data());
@@ -85,11 +104,51 @@ void collectCorners(const BitRows& bits, const std::vector<std::uint32_t>& count
             opened = next;
             corners[next].place = row | Place::column(f);
             corners[next].link = old;
-            // A corner that ends no piece links the spare one at the end instead: which it is cannot be foreseen.
             const std::uint32_t ends = std::uint32_t(0) - (f.x >> 31);
-            corners[(old & ends) | (total & ~ends)].link = next;
+            corners[(old & ends) | (band.spare & ~ends)].link = next;
         }
     }
+}
+
+/// Links the pieces that go on from one band into another. Goes through the columns once a band.
+template <class Place>
+void joinBands(std::span<Band> bands, Corner<Place>* corners)
+{
+    std::vector<std::uint32_t>& open = bands.front().open;
+    for (const Band& band : bands.subspan(1))
+        for (std::size_t x = 0; x < open.size(); ++x) {
+            const std::uint32_t end = corners[band.fromAbove(x)].link;
+            if (end != kNone) {
+                corners[end].link = open[x];
+                corners[open[x]].link = end;
+            }
+            if (band.open[x] != band.fromAbove(x)) open[x] = band.open[x];
+        }
+}
+
+/// All corners of the picture, linked across and down; @p total of them, counted line by line.
+template <class Place>
+PixelMemory collectCorners(const BitRows& bits, const std::vector<std::uint32_t>& counts, std::uint32_t total)
+{
+    constexpr std::size_t kWorthIt = 50'000; // corners a band: some quarter of a millisecond
+    const std::size_t area = std::size_t(bits.width()) + 2 + kCacheLine;
+    const std::size_t count = std::clamp<std::size_t>(total / std::max(kWorthIt, area), 1, std::size_t(workersHere()));
+    PixelMemory memory = allocatePixelsUninitialized((total + count * area) * sizeof(Corner<Place>));
+    if (!memory) throw std::bad_alloc();
+    auto* const corners = reinterpret_cast<Corner<Place>*>(memory.get());
+
+    std::vector<Band> bands(count);
+    std::uint32_t before = 0;
+    int y = 0;
+    for (std::size_t b = 0; b < count; ++b) {
+        bands[b] = {y, y, before, std::uint32_t(total + b * area), {}};
+        const std::size_t until = std::size_t(total) * (b + 1) / count;
+        for (; y <= bits.height() && (before < until || b + 1 == count); ++y) before += counts[std::size_t(y)];
+        bands[b].endRow = y;
+    }
+    parallelFor(int(count), [&](int b) { collectBand(bits, counts, corners, bands[std::size_t(b)]); });
+    joinBands(std::span(bands), corners);
+    return memory;
 }
 
 template <class Place>
@@ -174,13 +233,13 @@ template <class Place>
 void trace(const BitRows& bits, Point offset, const std::vector<std::uint32_t>& counts, std::uint32_t total,
            const std::function<void(std::span<const Point>)>& loop)
 {
-    const PixelMemory memory = allocatePixelsUninitialized((std::size_t(total) + 1) * sizeof(Corner<Place>));
-    if (!memory) throw std::bad_alloc();
-    auto* corners = reinterpret_cast<Corner<Place>*>(memory.get());
-    collectCorners(bits, counts, corners, total);
+    const PixelMemory memory = collectCorners<Place>(bits, counts, total);
+    auto* const corners = reinterpret_cast<Corner<Place>*>(memory.get());
     Walk<Place> walk(bits, corners);
     std::vector<Point> points;
     for (std::uint32_t i = 0; i < total; i += 2) {
+        // Loops go down through lines not read yet, corner after corner, and would wait for the memory at each.
+        prefetchForWriting(corners + i + kAhead);
         if (!walk.unused(i)) continue;
         const auto places = walk.loopFrom(i);
         if (points.size() < places.size()) points.resize(places.size() * 2);
@@ -203,7 +262,7 @@ void traceOutline(const BitRows& bits, Point offset, const std::function<void(st
         total += counts[std::size_t(y)];
     }
     if (total == 0) return;
-    if (total >= kIndex || bits.width() > LargePlace::kLargest || bits.height() > LargePlace::kLargest)
+    if (total >= kMostCorners || bits.width() > LargePlace::kLargest || bits.height() > LargePlace::kLargest)
         throw std::bad_alloc();
     if (expect) expect(total);
     if (bits.width() <= SmallPlace::kLargest && bits.height() <= SmallPlace::kLargest)

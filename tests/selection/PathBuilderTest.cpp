@@ -5,6 +5,7 @@
 #include "selection/OutlineTracer.h"
 #include "selection/ReferenceTracer.h"
 #include "selection/ZPPathBuilder.h"
+#include <cstdlib>
 #include <gmock/gmock.h>
 
 using namespace zp;
@@ -131,6 +132,21 @@ TEST(PathBuilder, EqualsThePlainWayOnRandomMasks)
         const BezierPath path = traced(mask);
         ASSERT_EQ(text(path), text(reference::MaskTracer(mask.view()).path())) << "round " << i << ": " << mask.text();
         ASSERT_EQ(covered(path, width, height).text(), hardened(mask).text()) << "round " << i;
+    }
+}
+
+TEST(PathBuilder, EqualsThePlainWayWhereManyThreadsFindTheCorners)
+{
+    // Pieces of border that run down through all bands, some with bands where no corner lies on their column. The pool
+    // asks for the number of threads when it is first used, which is here where each test has a process of its own.
+    setenv("ZELPANE_JOBS", "5", 1);
+    std::mt19937 random(17);
+    for (const double density : {0.5, 0.35}) {
+        TestMask mask = randomMask(random, 1000, 700, density, 0);
+        for (int y = 0; y < 700; ++y)
+            for (int x = 300; x < 600; ++x)
+                if (y > 2 && y < 690 && x % 50 < 40) mask.bytes[std::size_t(y * 1000 + x)] = x % 7 < 4 ? 0 : 255;
+        ASSERT_EQ(text(traced(mask)), text(reference::MaskTracer(mask.view()).path())) << density;
     }
 }
 
