@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <malloc.h>
 #include <mutex>
 #include <new>
 #include <sys/mman.h>
@@ -146,6 +147,10 @@ PixelMemory allocatePixels(std::size_t bytes) { return allocate(bytes, true); }
 
 PixelMemory allocatePixelsUninitialized(std::size_t bytes) { return allocate(bytes, false); }
 
-void trimPixelPool() { Pool::shared().trim(); }
+void trimPixelPool()
+{
+    Pool::shared().trim();
+    malloc_trim(0); // what decoders and encoders had for a while lies in the allocator's own pools, one a thread
+}
 
 } // namespace zp

@@ -20,7 +20,7 @@ using PixelMemory = std::unique_ptr<std::uint8_t[], PixelMemoryRelease>;
 PixelMemory allocatePixels(std::size_t bytes);
 /// Same, contents undefined: for buffers that are overwritten whole.
 PixelMemory allocatePixelsUninitialized(std::size_t bytes);
-/// Gives the pooled blocks back to the system.
+/// Gives the pooled blocks back to the system, and all other memory that was released. Takes about a millisecond.
 void trimPixelPool();
 
 } // namespace zp

@@ -146,7 +146,12 @@ HWY_INLINE void writeBits(T* row, std::uint64_t bits, T value, int room)
     for (std::size_t x = 0; x < kTileSide; x += hn::Lanes(d), bits >>= hn::Lanes(d) % 64) {
         std::uint8_t bytes[8];
         std::memcpy(bytes, &bits, sizeof bytes);
-        hn::BlendedStore(v, hn::LoadMaskBits(d, bytes), d, row + x);
+        const auto set = hn::LoadMaskBits(d, bytes);
+        // Only with masks of its own can the processor store without having waited for what is there.
+        if constexpr (HWY_TARGET <= HWY_AVX3)
+            hn::BlendedStore(v, set, d, row + x);
+        else
+            hn::StoreU(hn::IfThenElse(set, v, hn::LoadU(d, row + x)), d, row + x);
     }
 }
 
