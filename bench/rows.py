@@ -132,6 +132,23 @@ SECTIONS = [
           for z, k in (("12.5", 125), ("25", 250), ("100", 1000))],
         Row("a JPEG opened until it can be drawn", ms("BM_OpenJPEG"), [("libjpeg-turbo, into warm memory", ms("BM_OpenJPEG_TurboIntoWarmMemory"))], 0.9),
     ], targets=False),
+    Section("large", "canvas/bench_large", [
+        *[Row(f"JPEG of {n} megapixels opened and drawn, resident", ms("BM_OpenLarge", n, "iterations:3"),
+              [("libjpeg-turbo, its pixels", ms("BM_OpenLargeTurbo", n, "iterations:3"))], 1) for n in (100, 400, 900)],
+        *[Row(f"900 megapixels at {z} %, a step of panning", ms("BM_PanLarge", k, "iterations:40"), remark="goal 16.7 ms")
+          for z, k in (("6.25", 625), ("25", 2500), ("100", 10000))],
+        *[Row(f"900 megapixels zoomed to {z} %", ms("BM_ZoomLarge", k, "iterations:20"), remark="goal 16.7 ms")
+          for z, k in (("6.25", 625), ("12.5", 1250), ("25", 2500), ("100", 10000))],
+    ], targets=False),
+    Section("programs", "programs/bench_programs", [
+        *[Row(f"started until the window is there, {what}; resident", f"window/Zelpane/{key}/iterations:3/manual_time",
+              [(who, f"window/{who}/{key}/iterations:3/manual_time") for who in ("mtPaint", "KolourPaint")], remark=goals)
+          for what, key, goals in (("empty", "empty", "goal 35 ms"),
+                                   ("with the 24 megapixels", "picture", "goal 40 ms, 142 MB"))],
+        *[Row(f"15 photographs to 1024 x 768, {what}", f"batch/Zelpane/{kind}/iterations:5/manual_time",
+              [("GraphicsMagick told the size, a process a core", f"batch/GraphicsMagick/{kind}/iterations:5/manual_time")], 0.4)
+          for what, kind in (("as cameras write them", "camera"), ("as for the web, progressive", "web"))],
+    ], targets=False),
     Section("batch", "batch/bench_batch", [
         Row("12 photos of 12 megapixels fitted and stamped", ms("BatchToJPEG", "tiff:0"),
             [("libjpeg-turbo at half scale, cv area, no stamp", ms("BatchToJPEGPeerTurboAndOpenCV"))], 0.8),
