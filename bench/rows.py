@@ -139,6 +139,7 @@ SECTIONS = [
           for z, k in (("6.25", 625), ("25", 2500), ("100", 10000))],
         *[Row(f"900 megapixels zoomed to {z} %", ms("BM_ZoomLarge", k, "iterations:20"), remark="goal 16.7 ms")
           for z, k in (("6.25", 625), ("12.5", 1250), ("25", 2500), ("100", 10000))],
+        Row("900 megapixels zoomed to 6.25 %, changed just before", ms("BM_ZoomLargeChanged", "iterations:20")),
     ], targets=False),
     Section("programs", "programs/bench_programs", [
         *[Row(f"started until the window is there, {what}; resident", f"window/Zelpane/{key}/iterations:3/manual_time",

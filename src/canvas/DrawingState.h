@@ -15,6 +15,7 @@ struct ZPCanvas::DrawingState {
     QImage buffer;                          ///< screen words of the part being redrawn; grows, never shrinks
     std::shared_ptr<zp::BitmapRep> scratch; ///< the picture under overlays, with them
     zp::StillPicture still;                 ///< the picture under what floats, while it is shown reduced
+    zp::StillPicture small;                 ///< all of a very large picture, at the lowest zoom
     /// What turns the colours of the picture into the screen's, null when that is nothing; and what it was made of.
     std::shared_ptr<const zp::ScreenColours> colours;
     std::vector<std::uint8_t> pictureProfile, screenProfile;

@@ -49,6 +49,15 @@ void StillPicture::fill(const Picture& picture, int row, int left, int right)
     std::fill(there + left, there + right, true); // now, since there may have been no memory for rendering
 }
 
+bool StillPicture::prepare(const Picture& picture, const Scene& scene)
+{
+    if (!begin(picture, scene)) return false;
+    const auto missing = std::find(mThere.begin(), mThere.end(), false);
+    if (missing == mThere.end()) return false;
+    fill(picture, int((missing - mThere.begin()) / mAcross), 0, mAcross);
+    return true;
+}
+
 void StillPicture::draw(const ScreenTarget& target, const Picture& picture, const Scene& scene)
 {
     const PixelBox &box = target.box, &all = scene.visible;

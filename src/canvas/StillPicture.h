@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/// The picture as it is on screen, kept while only what lies over it moves.
+/// The picture as it is on screen, kept while it stays the same: many of its pixels are read for one of the screen.
 #pragma once
 #include "base/Geometry.h"
 #include "drawing/AntsPainter.h"
@@ -28,6 +28,9 @@ public:
     /// asked for. Nobody may be writing the picture. Main thread. Cost: a copy of the words that were asked for before,
     /// the rendering of whole tiles of those that were not.
     void draw(const ScreenTarget& target, const Picture& picture, const Scene& scene);
+    /// Renders some of what is missing of the scene. Nobody may be writing the picture. Main thread. Cost: 64 rows of
+    /// the screen. @return false when nothing is missing any more, or there is no memory for it
+    bool prepare(const Picture& picture, const Scene& scene);
     /// Releases the memory: as many words as can be seen. Cheap when there are none.
     void forget();
 

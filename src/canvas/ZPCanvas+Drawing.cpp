@@ -37,6 +37,10 @@ constexpr int kOutlineMargin = 3;
 constexpr double kFloatingAnts = 2;
 /// Device pixels an image pixel, from which on down what floats is drawn for the screen alone.
 constexpr double kReduced = 0.5;
+/// Pixels from which on a view at the lowest zoom takes longer to read than a frame lasts: it is made beforehand, when
+/// the picture has not changed for so many milliseconds.
+constexpr std::int64_t kVeryLarge = 100'000'000;
+constexpr int kSmallPatience = 400;
 
 /// Image coordinates to the canvas's device pixels.
 AffineTransform toDevicePixels(double deviceScale)
@@ -255,7 +259,50 @@ void ZPCanvas::drawOverlays(const ScreenTarget& target, double deviceScale)
     if (!composeOverlays(pixels)) return;
     renderToScreen(windowOnto(*mDrawing->scratch, pixels, width, height),
                    target.pixels + target.stride * (part.y0 - box.y0) + (part.x0 - box.x0), target.stride, part,
-                   deviceScale, palette().color(QPalette::Mid).rgb() | 0xFF000000);
+                   deviceScale, outside());
+}
+
+std::uint32_t ZPCanvas::outside() const { return palette().color(QPalette::Mid).rgb() | 0xFF000000; }
+
+void ZPCanvas::drawPicture(const ScreenTarget& target, double deviceScale, bool strokeOpen)
+{
+    const Picture& picture = mDocument.picture();
+    const bool underPiece = !strokeOpen && deviceScale <= kReduced && showsPieceAlone();
+    if (!underPiece) mDrawing->still.forget();
+    const PixelBox small = deviceScale == smallestDeviceScale() && !strokeOpen ? smallBox() : PixelBox{};
+    if (!small.isEmpty())
+        mDrawing->small.draw(target, picture, {small, deviceScale, outside()});
+    else if (underPiece)
+        // What floats is redrawn with each move of the hand; reading a whole view of the picture anew, many pixels of
+        // it for one of the screen, would take as long as all the rest.
+        mDrawing->still.draw(target, picture, {visibleDeviceBox(), deviceScale, outside()});
+    else
+        renderToScreen(picture.pixels(), target.pixels, target.stride, target.box, deviceScale, outside());
+}
+
+double ZPCanvas::smallestDeviceScale() const
+{
+    return double(mDocument.view().smallestEffectiveZoom()) * devicePixelRatioF();
+}
+
+PixelBox ZPCanvas::smallBox() const
+{
+    const PixelBox all = mDocument.picture().box();
+    if (std::int64_t{all.width()} * all.height() < kVeryLarge) return {};
+    const double scale = smallestDeviceScale();
+    // The canvas may be a pixel larger: its own size is rounded too.
+    return {0, 0, int(std::ceil(all.width() * scale)) + 2, int(std::ceil(all.height() * scale)) + 2};
+}
+
+void ZPCanvas::smallIsOld() { mSmallTimer.start(kSmallPatience); }
+
+void ZPCanvas::prepareSmall()
+{
+    const PixelBox small = smallBox();
+    if (small.isEmpty()) return mDrawing->small.forget();
+    if (!mDocument.gesture().stroke().isDrawn()) return smallIsOld();
+    if (mDrawing->small.prepare(mDocument.picture(), {small, smallestDeviceScale(), outside()}))
+        mSmallTimer.start(0); // what came meanwhile goes before the next part
 }
 
 void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origin, double deviceScale)
@@ -275,7 +322,6 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
     if (buffer.isNull()) return; // no memory: what is on screen stays
     auto* words = reinterpret_cast<std::uint32_t*>(buffer.bits());
     const std::ptrdiff_t stride = buffer.bytesPerLine() / 4;
-    const std::uint32_t outside = palette().color(QPalette::Mid).rgb() | 0xFF000000;
     const ScreenTarget target{words, stride, box};
 
     const Tool tool = mDocument.gesture().tool();
@@ -284,14 +330,7 @@ void ZPCanvas::drawRect(QPainter& painter, const QRect& deviceRect, QPoint origi
         // While the brush writes pixels elsewhere in the picture, each redraw waits for the stamp in progress.
         std::unique_lock lock(picture.pixelLock(), std::defer_lock);
         if (strokeOpen) lock.lock();
-        // What floats is redrawn with each move of the hand; reading a whole view of the picture anew, many pixels of
-        // it for one of the screen, would take as long as all the rest.
-        if (!strokeOpen && deviceScale <= kReduced && showsPieceAlone()) {
-            mDrawing->still.draw(target, picture, {visibleDeviceBox(), deviceScale, outside});
-        } else {
-            mDrawing->still.forget();
-            renderToScreen(picture.pixels(), words, stride, box, deviceScale, outside);
-        }
+        drawPicture(target, deviceScale, strokeOpen);
         drawOverlays(target, deviceScale);
     }
     showThroughProfile(target, deviceScale);

@@ -59,6 +59,10 @@ ZPCanvas::ZPCanvas(Document& document, QWidget* parent)
         setNeedsDisplay();
     });
     connect(mWandExplainer.get(), &WandExplainer::needsDisplay, this, &ZPCanvas::setNeedsDisplayInRect);
+    mSmallTimer.setSingleShot(true);
+    connect(&mSmallTimer, &QTimer::timeout, this, &ZPCanvas::prepareSmall);
+    connect(&mDocument, &Document::touched, this, &ZPCanvas::smallIsOld);
+    connect(&mDocument, &Document::pictureReplaced, this, &ZPCanvas::smallIsOld);
     connect(&mRestTimer, &QTimer::timeout, this, &ZPCanvas::repeatDrag);
     NotificationCenter::defaultCenter().addObserver(this, "TextEditorNotif",
                                                     [this](const Notification&) { textEditorNotif(mDocument); });

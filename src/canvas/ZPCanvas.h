@@ -128,6 +128,12 @@ private:
     bool showsPieceAlone() const;           ///< of all that changes pixels
     void logPiece() const;
     bool drawPieceReduced(const zp::ScreenTarget& target, zp::PixelBox part, double deviceScale);
+    std::uint32_t outside() const; ///< the screen word beside the picture
+    void drawPicture(const zp::ScreenTarget& target, double deviceScale, bool strokeOpen);
+    double smallestDeviceScale() const;
+    zp::PixelBox smallBox() const; ///< the device pixels of the whole picture at the lowest zoom, if they are kept
+    void smallIsOld();
+    void prepareSmall();                ///< a part of them at a time, when nothing else is to be done
     const zp::ScreenColours* colours(); ///< null where the picture's are the screen's
     void showThroughProfile(const zp::ScreenTarget& target, double deviceScale);
     void drawOverlays(const zp::ScreenTarget& target, double deviceScale);
@@ -143,6 +149,7 @@ private:
     bool mKeyboardPointer = false;
     bool mButtonDown = false; ///< the platform said the button is down, whatever the document made of it
     QTimer mCursorTimer;      ///< gathers what may change the cursor until the events are through
+    QTimer mSmallTimer;       ///< runs until a very large picture has been quiet for a while
     QTimer mRestTimer;        ///< runs while a drag that scrolls the view rests beyond its edge
     QPointF mRestingPointer;  ///< where on the screen that is
 };

@@ -33,7 +33,9 @@ public:
     float zoom() const { return mZoom; }
     bool isRetina() const { return m2xRetina; }
     /// The zoom, halved in 2x retina mode.
-    float effectiveZoom() const { return m2xRetina ? mZoom * 0.5f : mZoom; }
+    float effectiveZoom() const { return effective(mZoom); }
+    /// What it is at the lowest level.
+    float smallestEffectiveZoom() const { return effective(kZoomLevels.front()); }
     /// A picture that opened at its own pixels and has the room for them counts as not fitted.
     Fit fit() const { return mFit == Fit::Shrink && mZoom >= 1 ? Fit::No : mFit; }
     Size room() const { return mRoom; } ///< of the window for the picture, in screen points; zero when there is none
@@ -91,6 +93,8 @@ private:
     float mZoom = 1;
     Fit mFit = Fit::No;
     Size mRoom;
+    float effective(float zoom) const { return m2xRetina ? zoom * 0.5f : zoom; }
+
     bool m2xRetina = false;
     Point mPointer;
     bool mPointerInside = false, mOnScreen = false, mChequered = false, mGrid = false, mExplainsWand = false;

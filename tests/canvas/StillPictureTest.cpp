@@ -3,6 +3,7 @@
 #include "canvas/StillPicture.h"
 #include "drawing/ScreenRenderer.h"
 #include "support/ToolFixture.h"
+#include <QElapsedTimer>
 #include <QImage>
 #include <algorithm>
 #include <random>
@@ -87,6 +88,55 @@ TEST_F(StillPictureDrawing, ADraggedPieceLeavesNoTraces)
     canvas = std::make_unique<ZPCanvas>(*document);
     ASSERT_TRUE(canvas->visibleRegion().isEmpty());
     EXPECT_EQ(dragged, seen());
+}
+
+TEST_F(StillPictureDrawing, IsPreparedPartByPart)
+{
+    const StillPicture::Scene scene{{0, 0, 227, 177}, 0.25, 0xFF000000};
+    const auto parts = [&] {
+        int count = 0;
+        while (still.prepare(picture(), scene)) ++count;
+        return count;
+    };
+    EXPECT_EQ(parts(), 3); // of 64 rows
+    EXPECT_EQ(parts(), 0);
+    expectAsRendered(scene.visible, scene);
+    fillBox({100, 100, 300, 200}, kRedWord);
+    expectAsRendered({0, 0, 227, 64}, scene); // makes the first part anew
+    EXPECT_EQ(parts(), 2);
+    expectAsRendered(scene.visible, scene);
+}
+
+TEST_F(StillPictureDrawing, AVeryLargePictureIsShownAsItIsHoweverLongItWasQuiet)
+{
+    makeImage(12500, 8100);
+    canvas->setZoom(0.0625f);
+    canvas->show();
+    const auto quiet = [](int milliseconds) {
+        for (QElapsedTimer clock; !clock.isValid() || clock.elapsed() < milliseconds;) {
+            if (!clock.isValid()) clock.start();
+            QApplication::processEvents(QEventLoop::AllEvents, 10);
+        }
+    };
+    const auto expectAsRendered = [&](const char* when) {
+        const QImage seen = canvas->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        QImage rendered(seen.size(), QImage::Format_RGB32);
+        renderToScreen(picture().pixels(), reinterpret_cast<std::uint32_t*>(rendered.bits()),
+                       rendered.bytesPerLine() / 4, {0, 0, rendered.width(), rendered.height()}, 0.0625,
+                       canvas->palette().color(QPalette::Mid).rgb() | 0xFF000000);
+        EXPECT_EQ(seen, rendered) << when;
+    };
+    for (const int milliseconds : {0, 430, 1500}) { // at once, while it is being prepared, when it is
+        quiet(milliseconds);
+        expectAsRendered("quiet");
+        fillBox({1000 + milliseconds, 700, 9000, 1500 + milliseconds}, milliseconds ? kRedWord : kBlackWord);
+        expectAsRendered("changed");
+    }
+    quiet(600);
+    canvas->setZoom(1);
+    document->setRetina(true);
+    canvas->setZoom(0.0625f);
+    EXPECT_EQ(canvas->width(), 391); // half of the smallest
 }
 
 } // namespace
