@@ -31,10 +31,23 @@ const std::int32_t* robustDistanceTable()
 namespace
 {
 
+/// The same for differences from -255 to 255: half the instructions of a comparison would take the sign off.
+const std::int32_t* signedDistanceTable()
+{
+    static const auto table = [] {
+        std::array<std::int32_t, 511> values{};
+        for (int d = -255; d < 256; ++d) values[std::size_t(d + 255)] = robustDistanceTable()[std::abs(d)];
+        return values;
+    }();
+    return table.data() + 255;
+}
+
+/// @tparam kFirst the first byte that may differ
+template <int kFirst>
 std::int32_t pixelDistance(const std::int32_t* table, std::uint32_t a, std::uint32_t b)
 {
     std::int32_t sum = 0;
-    for (int shift = 0; shift < 32; shift += 8) sum += table[std::abs(int(a >> shift & 255) - int(b >> shift & 255))];
+    for (int shift = 8 * kFirst; shift < 32; shift += 8) sum += table[int(a >> shift & 255) - int(b >> shift & 255)];
     return sum;
 }
 
@@ -46,18 +59,29 @@ class PlainStep
 public:
     PlainStep(const MatchState& state, const Neighbourhood& near) : mState(state), mNear(near)
     {
-        for (int k = 0; k < near.count; ++k) mValue[k] = state.target[near.index[k]].value;
+        const bool oneAlpha = state.channelCount > 0 && state.channels[0] != 0;
+        const std::uint32_t alpha = state.source[state.drawn->place[0]] & 255;
+        std::uint32_t otherAlphas = 0;
+        for (int k = 0; k < near.count; ++k) {
+            const TargetPixel pixel = state.target[near.index[k]];
+            mValue[k] = pixel.value;
+            mFrom[k] = pixel.filledFrom;
+            if (k > 0) otherAlphas |= (pixel.value ^ alpha) & 255;
+        }
+        mSkipsAlpha = oneAlpha && otherAlphas == 0;
     }
 
     void coherent()
     {
         std::int32_t tried[kNeighbours];
+        std::int32_t latest = -1; // mostly the same again
         int count = 0;
         for (int k = 0; k < mNear.count && mBest.error; ++k) {
             const std::int32_t candidate = continued(k);
-            if (candidate < 0 || !mState.clear[candidate] ||
+            if (candidate == latest || candidate < 0 || !mState.clear[candidate] ||
                 std::find(tried, tried + count, candidate) != tried + count)
                 continue;
+            latest = candidate;
             tried[count++] = candidate;
             compare(candidate);
         }
@@ -83,8 +107,7 @@ public:
             std::copy_n(place, kRandomTries, contenders.place);
             std::fill_n(contenders.error, kRandomTries, 0);
         }
-        for (; k < mNear.count && contenders.count > kFewContenders; ++k)
-            raceOn(mState.source + mNear.delta[k], mValue[k], distance, contenders);
+        raceOn({mState.source, mNear.delta, mValue, k, mNear.count}, distance, contenders);
         compareAll(contenders.place, contenders.count);
     }
 
@@ -94,7 +117,7 @@ private:
     /// Where the source goes on that neighbour @p k was filled from; -1: nowhere.
     std::int32_t continued(int k) const
     {
-        const std::int32_t from = mState.target[mNear.index[k]].filledFrom;
+        const std::int32_t from = mFrom[k];
         if (from < 0) return -1;
         if (!mNear.far) return from - mNear.delta[k];
         const MatchLayout& layout = mState.layout;
@@ -148,17 +171,24 @@ private:
     template <class IsSource>
     std::int32_t errorOf(std::int32_t candidate, IsSource isSource) const
     {
+        return mSkipsAlpha ? errorFrom<1>(candidate, isSource) : errorFrom<0>(candidate, isSource);
+    }
+    template <int kFirst, class IsSource>
+    std::int32_t errorFrom(std::int32_t candidate, IsSource isSource) const
+    {
         std::int32_t error = 0;
         for (int k = 1; k < mNear.count && error < mBest.error; ++k)
-            error += isSource(k) ? pixelDistance(mTable, mValue[k], mState.source[candidate + mNear.delta[k]])
+            error += isSource(k) ? pixelDistance<kFirst>(mTable, mValue[k], mState.source[candidate + mNear.delta[k]])
                                  : kMissingPenalty;
         return error;
     }
 
     const MatchState& mState;
     const Neighbourhood& mNear;
-    const std::int32_t* const mTable = robustDistanceTable();
+    const std::int32_t* const mTable = signedDistanceTable();
+    bool mSkipsAlpha = false; ///< that of all pixels compared is the same
     std::uint32_t mValue[kNeighbours];
+    std::int32_t mFrom[kNeighbours]; ///< which source pixel it was filled from; -1: it was not
     BestMatch mBest;
 };
 

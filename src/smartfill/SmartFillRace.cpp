@@ -11,12 +11,13 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#include "base/PixelVectors-inl.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace zp::HWY_NAMESPACE
 {
 namespace
 {
-namespace hn = hwy::HWY_NAMESPACE;
 
 /// The table as two registers, each repeated in every block of sixteen bytes.
 template <class D8>
@@ -85,30 +86,59 @@ int raceStreams(const NeighbourStreams& streams, const CoarseDistance& distance,
     return depth;
 }
 
-void raceOn(const std::uint32_t* pixels, std::uint32_t value, const CoarseDistance& distance, Contenders& contenders)
+void raceOn(const RacedNeighbours& neighbours, const CoarseDistance& distance, Contenders& contenders)
 {
     const hn::CappedTag<std::int32_t, 16> d;
     const hn::RebindToUnsigned<decltype(d)> du;
     const hn::Repartition<std::uint8_t, decltype(d)> d8;
     const Table<decltype(d8)> table(distance);
-    const auto wanted = hn::BitCast(d8, hn::Set(du, value));
     const auto limit = hn::Set(d, distance.limit);
     const auto everyOther = hn::Set(du, 0x00FF00FFu), low = hn::Set(du, 0xFFFFu);
-    const int count = contenders.count, lanes = int(hn::Lanes(d));
-    contenders.count = 0;
-    for (int i = 0; i < count; i += lanes) {
-        // Lanes beyond the count hold what was dropped or nothing: they must not be followed into memory.
-        const auto used = hn::FirstN(d, std::size_t(std::min(lanes, count - i)));
-        const auto places = hn::IfThenElse(used, hn::LoadU(d, contenders.place + i), hn::Set(d, contenders.place[i]));
-        const auto there = hn::BitCast(d8, hn::GatherIndex(du, pixels, places));
-        const auto four = hn::BitCast(du, table(there, wanted));
-        const auto two = hn::Add(hn::And(four, everyOther), hn::And(hn::ShiftRight<8>(four), everyOther));
-        const auto one = hn::And(hn::Add(two, hn::ShiftRight<16>(two)), low);
-        const auto error = hn::Add(hn::LoadU(d, contenders.error + i), hn::BitCast(d, one));
-        const auto alive = hn::And(used, hn::Lt(error, limit));
-        hn::CompressStore(places, alive, d, contenders.place + contenders.count);
-        contenders.count += int(hn::CompressStore(error, alive, d, contenders.error + contenders.count));
+    const int lanes = int(hn::Lanes(d));
+    // Lanes beyond the count hold what was dropped or nothing: they must not be followed into memory.
+    const auto placesFrom = [&](int i, auto used) ZP_LANES {
+        return hn::IfThenElse(used, hn::LoadU(d, contenders.place + i), hn::Set(d, contenders.place[i]));
+    };
+    // What neighbours k and k + 1 add for the candidates at some places.
+    const auto ofTwo = [&](int k, auto places) ZP_LANES {
+        const auto of = [&](int j) ZP_LANES {
+            const auto there = hn::GatherIndex(du, neighbours.source + neighbours.delta[j], places);
+            return hn::BitCast(du, table(hn::BitCast(d8, there), hn::BitCast(d8, hn::Set(du, neighbours.value[j]))));
+        };
+        const auto a = of(k), b = of(k + 1);
+        const auto two = hn::Add(hn::Add(hn::And(a, everyOther), hn::And(hn::ShiftRight<8>(a), everyOther)),
+                                 hn::Add(hn::And(b, everyOther), hn::And(hn::ShiftRight<8>(b), everyOther)));
+        return hn::BitCast(d, hn::And(hn::Add(two, hn::ShiftRight<16>(two)), low));
+    };
+    // Whole vectors are kept, which reach no lane that is still to be read: some processors are slow to store a part.
+    const auto keep = [&](auto alive, auto places, auto error) ZP_LANES {
+        hn::StoreU(hn::Compress(places, alive), d, contenders.place + contenders.count);
+        hn::StoreU(hn::Compress(error, alive), d, contenders.error + contenders.count);
+        contenders.count += int(hn::CountTrue(d, alive));
+    };
+
+    int k = neighbours.first;
+    for (; k + 1 < neighbours.end && contenders.count > lanes; k += 2) {
+        const int count = contenders.count;
+        contenders.count = 0;
+        for (int i = 0; i < count; i += lanes) {
+            const auto used = hn::FirstN(d, std::size_t(std::min(lanes, count - i)));
+            const auto places = placesFrom(i, used);
+            const auto error = hn::Add(hn::LoadU(d, contenders.error + i), ofTwo(k, places));
+            keep(hn::And(used, hn::Lt(error, limit)), places, error);
+        }
     }
+    if (contenders.count <= kFewContenders || contenders.count > lanes) return;
+    // The last ones need not leave the registers.
+    auto alive = hn::FirstN(d, std::size_t(contenders.count));
+    const auto places = placesFrom(0, alive);
+    auto error = hn::LoadU(d, contenders.error);
+    for (; k + 1 < neighbours.end && int(hn::CountTrue(d, alive)) > kFewContenders; k += 2) {
+        error = hn::Add(error, ofTwo(k, places));
+        alive = hn::And(alive, hn::Lt(error, limit));
+    }
+    contenders.count = 0;
+    keep(alive, places, error);
 }
 
 } // namespace
@@ -145,9 +175,9 @@ int raceStreams(const NeighbourStreams& streams, const CoarseDistance& distance,
     return HWY_DYNAMIC_DISPATCH(raceStreams)(streams, distance, place, contenders);
 }
 
-void raceOn(const std::uint32_t* pixels, std::uint32_t value, const CoarseDistance& distance, Contenders& contenders)
+void raceOn(const RacedNeighbours& neighbours, const CoarseDistance& distance, Contenders& contenders)
 {
-    HWY_DYNAMIC_DISPATCH(raceOn)(pixels, value, distance, contenders);
+    HWY_DYNAMIC_DISPATCH(raceOn)(neighbours, distance, contenders);
 }
 
 } // namespace zp

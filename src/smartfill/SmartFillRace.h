@@ -33,13 +33,20 @@ struct Contenders {
 };
 
 /// So few candidates are better compared than raced on.
-inline constexpr int kFewContenders = 8;
+inline constexpr int kFewContenders = 2;
 
 /// All tries, by as many of the neighbours as it takes to drop most. @param place  of each try @return how many
 /// neighbours that were
 int raceStreams(const NeighbourStreams& streams, const CoarseDistance& distance, const std::int32_t* place,
                 Contenders& contenders);
-/// One more neighbour for all contenders. @param pixels  its counterparts, indexed by place
-void raceOn(const std::uint32_t* pixels, std::uint32_t value, const CoarseDistance& distance, Contenders& contenders);
+/// Neighbours first to end - 1, whose counterparts lie in the source at each place plus their delta.
+struct RacedNeighbours {
+    const std::uint32_t* source;
+    const std::int32_t* delta;
+    const std::uint32_t* value;
+    int first, end;
+};
+/// All contenders by one pair of neighbours after the other, until few are left.
+void raceOn(const RacedNeighbours& neighbours, const CoarseDistance& distance, Contenders& contenders);
 
 } // namespace zp

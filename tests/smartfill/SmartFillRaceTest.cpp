@@ -87,33 +87,48 @@ TEST(SmartFillRace, StreamsKeepWhatIsBelowTheLimit)
     });
 }
 
-TEST(SmartFillRace, OneMoreNeighbourDropsThoseAtTheLimit)
+TEST(SmartFillRace, PairsOfNeighboursDropThoseAtTheLimitUntilFewAreLeft)
 {
     test::onEveryTarget([] {
         std::mt19937 random(53);
-        const auto pixels = test::extremePixels(random, 500);
+        constexpr int kMost = 7;
+        const auto pixels = test::extremePixels(random, 500 + kMost);
+        std::vector<std::uint32_t> value;
+        for (int k = 0; k < kMost; ++k) value.push_back(pixels[random() % 500]);
+        const std::vector<std::int32_t> delta{3, 0, 5, 1, 6, 2, 4};
         for (const std::int32_t error : kErrors)
-            for (const int count : {1, 7, 16, 33, kRandomTries}) {
-                const CoarseDistance distance(error);
-                const std::uint32_t value = pixels[random() % 500];
-                Contenders contenders;
-                contenders.count = count;
-                std::vector<std::int32_t> wantPlace, wantError;
-                for (int i = 0; i < count; ++i) {
-                    contenders.place[i] = std::int32_t(random() % 500);
-                    contenders.error[i] = std::int32_t(random() % unsigned(distance.limit));
-                    int sum = contenders.error[i];
-                    for (int shift = 0; shift < 32; shift += 8)
-                        sum += coarse(distance, pixels[std::size_t(contenders.place[i])] >> shift & 255,
-                                      value >> shift & 255);
-                    if (sum >= distance.limit) continue;
-                    wantPlace.push_back(contenders.place[i]);
-                    wantError.push_back(sum);
+            for (const int count : {1, 3, 7, 16, 33, kRandomTries})
+                for (const auto& [first, end] : {std::pair{0, 1}, {0, 2}, {1, 4}, {0, kMost}}) {
+                    const CoarseDistance distance(error);
+                    Contenders contenders;
+                    contenders.count = count;
+                    std::vector<std::int32_t> wantPlace, wantError;
+                    for (int i = 0; i < count; ++i) {
+                        wantPlace.push_back(std::int32_t(random() % 500));
+                        wantError.push_back(std::int32_t(random() % unsigned(distance.limit)));
+                    }
+                    std::copy(wantPlace.begin(), wantPlace.end(), contenders.place);
+                    std::copy(wantError.begin(), wantError.end(), contenders.error);
+                    for (int k = first; k + 1 < end && wantPlace.size() > kFewContenders; k += 2) {
+                        std::vector<std::int32_t> places, errors;
+                        for (std::size_t i = 0; i < wantPlace.size(); ++i) {
+                            int sum = wantError[i];
+                            for (const int j : {k, k + 1})
+                                for (int shift = 0; shift < 32; shift += 8)
+                                    sum +=
+                                        coarse(distance,
+                                               pixels[std::size_t(wantPlace[i] + delta[std::size_t(j)])] >> shift & 255,
+                                               value[std::size_t(j)] >> shift & 255);
+                            if (sum >= distance.limit) continue;
+                            places.push_back(wantPlace[i]);
+                            errors.push_back(sum);
+                        }
+                        wantPlace = places, wantError = errors;
+                    }
+                    raceOn({pixels.data(), delta.data(), value.data(), first, end}, distance, contenders);
+                    ASSERT_EQ(std::vector(contenders.place, contenders.place + contenders.count), wantPlace);
+                    ASSERT_EQ(std::vector(contenders.error, contenders.error + contenders.count), wantError);
                 }
-                raceOn(pixels.data(), value, distance, contenders);
-                ASSERT_EQ(std::vector(contenders.place, contenders.place + contenders.count), wantPlace);
-                ASSERT_EQ(std::vector(contenders.error, contenders.error + contenders.count), wantError);
-            }
     });
 }
 
