@@ -107,6 +107,8 @@ SECTIONS = [
     Section("selection", "selection/bench_selection", [
         Row("union of two outlines of 20,000 vertices", "BM_Union/0", [("Clipper", "BM_UnionClipperAlone/0")], 0.22),
         Row("the same, spiky", "BM_Union/1", [("Clipper", "BM_UnionClipperAlone/1")], 0.12),
+        Row("2,000 strokes right across joined with a rectangle", ms("BM_UnionOfStrokes", 2000, "iterations:1"), remark="goal 300 ms"),
+        Row("20,000 strokes of 600 pixels joined with a rectangle", ms("BM_UnionOfStrokes", 20000, "iterations:1"), remark="goal 5,000 ms"),
         Row("outline traced, fine structure", "BM_Trace/0", [("cv::findContours", "BM_TraceOpenCV/0")], 0.43),
         Row("outline traced, a wand in a photo", "BM_Trace/1", [("cv::findContours", "BM_TraceOpenCV/1")], 0.13),
         Row("6 megapixels anchored, rectangle", ms("BM_Anchor", 0), [("cv::Mat::copyTo", ms("BM_AnchorOpenCvCopy", 0))], 1.2),
@@ -126,6 +128,8 @@ SECTIONS = [
     ], targets=False),
     Section("canvas", "canvas/bench_canvas", [
         *[Row(f"redraw of 1600 x 1000 at {z} %", ms("BM_RedrawView", z)) for z in (25, 100, 400)],
+        *[Row(f"redraw of 1600 x 1000 at {z} %, on a screen with a profile", ms("BM_RedrawViewThroughProfile", z), remark="goal 6 ms")
+          for z in (25, 100, 400)],
         Row("a tick of the marching ants", ms("BM_AntsTick")),
         *[Row(f"a step of dragging 6 megapixels at {z} %", ms("BM_DragFloatingSixMegapixels", z, "iterations:40")) for z in (25, 100)],
         *[Row(f"a step of pulling a corner of 24 megapixels at {z} %", ms("BM_PullCorner", k, "iterations:40"))

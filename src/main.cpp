@@ -15,9 +15,10 @@
 #include "desktop/Languages.h"
 #include "desktop/Panels.h"
 #include "desktop/Portal.h"
-#include "desktop/ReadingWait.h"
 #include "desktop/SingleInstance.h"
+#include "desktop/WaitWindow.h"
 #include "script/ScriptDriver.h"
+#include "selection/PlanarClip.h"
 #include <QApplication>
 #include <QPointer>
 #include <QSessionManager>
@@ -45,8 +46,7 @@ static void carryOut(ZPAppController& controller, const std::string& request)
 }
 
 /// Pictures of foreign kinds are read by another process of this very program, even if its file was replaced meanwhile.
-static void readForeignPicturesApart(const QString& language = {},
-                                     std::unique_ptr<codec::DecodingWait> (*wait)() = nullptr)
+static void readForeignPicturesApart(const QString& language = {}, std::unique_ptr<LongWait> (*wait)() = nullptr)
 {
     std::vector<std::string> arguments{kDecodeOption};
     if (!language.isEmpty()) arguments.push_back(language.toStdString());
@@ -112,6 +112,7 @@ static int run(int argc, char** argv)
     Application application(argc, argv);
     scripted ? speakAsScripts() : speakAsDesktop();
     readForeignPicturesApart(spokenLanguage(), readingWait);
+    setClipWait(combiningWait);
     QApplication::setStyle("fusion"); // the same on every desktop and platform plug-in
     applyColorScheme();
     if (!scripted) followDesktopAppearance(applyColorScheme);

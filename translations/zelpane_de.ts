@@ -851,6 +851,10 @@
         <source>Reading the image…</source>
         <translation>Bild wird gelesen …</translation>
     </message>
+    <message>
+        <source>Combining the outlines…</source>
+        <translation>Umrisse werden vereint …</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -4108,6 +4112,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>It was stopped.</source>
+        <translation>Der Vorgang wurde abgebrochen.</translation>
     </message>
 </context>
 <context>

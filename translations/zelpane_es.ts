@@ -851,6 +851,10 @@
         <source>Reading the image…</source>
         <translation>Leyendo la imagen…</translation>
     </message>
+    <message>
+        <source>Combining the outlines…</source>
+        <translation>Combinando los contornos…</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -4108,6 +4112,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>It was stopped.</source>
+        <translation>Se detuvo la operación.</translation>
     </message>
 </context>
 <context>

@@ -851,6 +851,10 @@
         <source>Reading the image…</source>
         <translation>Lecture de l’image…</translation>
     </message>
+    <message>
+        <source>Combining the outlines…</source>
+        <translation>Combinaison des contours…</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -4108,6 +4112,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>It was stopped.</source>
+        <translation>L’opération a été interrompue.</translation>
     </message>
 </context>
 <context>

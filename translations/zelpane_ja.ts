@@ -841,6 +841,10 @@
         <source>Reading the image…</source>
         <translation>画像を読み込んでいます…</translation>
     </message>
+    <message>
+        <source>Combining the outlines…</source>
+        <translation>輪郭を合成しています…</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -4093,6 +4097,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>It was stopped.</source>
+        <translation>処理を中止しました。</translation>
     </message>
 </context>
 <context>

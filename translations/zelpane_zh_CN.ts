@@ -841,6 +841,10 @@
         <source>Reading the image…</source>
         <translation>正在读取图片…</translation>
     </message>
+    <message>
+        <source>Combining the outlines…</source>
+        <translation>正在合并轮廓…</translation>
+    </message>
 </context>
 <context>
     <name>Folders</name>
@@ -4093,6 +4097,10 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>It was stopped.</source>
+        <translation>操作已停止。</translation>
     </message>
 </context>
 <context>

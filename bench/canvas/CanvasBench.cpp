@@ -94,7 +94,7 @@ void BM_RedrawViewThroughProfile(benchmark::State& state)
     BM_RedrawView(state);
     canvas.setScreenProfile({});
 }
-BENCHMARK(BM_RedrawViewThroughProfile)->Arg(100)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_RedrawViewThroughProfile)->Arg(25)->Arg(100)->Arg(400)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void BM_AntsTick(benchmark::State& state)
 {

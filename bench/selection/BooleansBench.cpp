@@ -69,6 +69,35 @@ void BM_UnionClipperAlone(benchmark::State& state)
     state.counters["points"] = double(points);
 }
 
+/// A scribble of long straight strokes that cross most of the others, joined with a rectangle: 2,000 right across the
+/// picture, or 20,000 of 600 pixels.
+void BM_UnionOfStrokes(benchmark::State& state)
+{
+    const int count = int(state.range(0));
+    std::srand(5);
+    const auto share = [] { return std::rand() / double(RAND_MAX); };
+    zp::BezierPath scribble;
+    double x = 3000, y = 2000;
+    for (int i = 0; i < count; ++i) {
+        if (count <= 2000) {
+            x = share() * 6000, y = share() * 4000;
+        } else {
+            const double angle = share() * 2 * M_PI;
+            x += 600 * std::cos(angle), y += 600 * std::sin(angle);
+            if (x < 0 || x > 6000) x = 3000;
+            if (y < 0 || y > 4000) y = 2000;
+        }
+        const zp::Point p{float(x), float(y)};
+        i ? scribble.lineTo(p) : scribble.moveTo(p);
+    }
+    scribble.closePath();
+    scribble.setWindingRule(zp::WindingRule::EvenOdd);
+    zp::BezierPath box = zp::BezierPath::withRect(zp::makeRect(1000, 1000, 3000, 2000));
+    int elements = 0;
+    for (auto _ : state) elements = zp::pathFromUnionWithPath(scribble, box).elementCount();
+    state.counters["elements"] = elements;
+}
+
 /// Two wand selections of a blurred noise: about @p side squared / 100 corners each.
 zp::BezierPath wandOutline(int side, unsigned seed)
 {
@@ -114,5 +143,6 @@ void BM_UnionOfTracedClipperAlone(benchmark::State& state)
 
 BENCHMARK(BM_Union)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_UnionClipperAlone)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_UnionOfStrokes)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1);
 BENCHMARK(BM_UnionOfTraced)->Arg(512)->Arg(4096)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_UnionOfTracedClipperAlone)->Arg(512)->Unit(benchmark::kMillisecond);

@@ -306,7 +306,7 @@ private:
     Decoder* mDecoder = nullptr;
     std::chrono::milliseconds mPatience{};
     std::uint64_t mFileBytes = 0;
-    DecodingWait* mWait = nullptr;
+    LongWait* mWait = nullptr;
     bool mAccepted = false;
     std::size_t mMissing = 0; ///< bytes of rows
     End mEnd = End::Died;

@@ -2,6 +2,7 @@
 /// Pictures of kinds that a foreign library reads, in a process of their own: whatever the library does there, the
 /// program goes on.
 #pragma once
+#include "base/LongWait.h"
 #include "codecs/Codec.h"
 #include <chrono>
 #include <memory>
@@ -11,15 +12,6 @@
 namespace zp::codec
 {
 
-/// Lives while a picture is waited for, in the thread that waits.
-class DecodingWait
-{
-public:
-    virtual ~DecodingWait() = default;
-    /// Asked some twenty times a second. @return false when the person does not want to wait any longer
-    virtual bool goOn() = 0;
-};
-
 struct ForeignDecoding {
     /// A program that runs runDecoder() when it is started with these words. Empty: pictures are read in this very
     /// process (tests, fuzzers, measurements).
@@ -27,7 +19,7 @@ struct ForeignDecoding {
     std::vector<std::string> arguments{};
     /// How long the decoder may give no sign of life.
     std::chrono::milliseconds patience{20'000};
-    std::unique_ptr<DecodingWait> (*wait)() = nullptr; ///< null: nobody interrupts
+    std::unique_ptr<LongWait> (*wait)() = nullptr; ///< null: nobody interrupts
 };
 /// Before the first picture is read, and again when something of it becomes known. Main thread.
 void setForeignDecoding(ForeignDecoding how);

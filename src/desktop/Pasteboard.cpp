@@ -5,7 +5,7 @@
 #include "codecs/ImageEncoder.h"
 #include "codecs/ImageImporter.h"
 #include "desktop/Desktop.h"
-#include "desktop/ReadingWait.h"
+#include "desktop/WaitWindow.h"
 #include "desktop/X11Clipboard.h"
 #include <QBuffer>
 #include <QClipboard>

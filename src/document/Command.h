@@ -81,7 +81,7 @@ struct Outcome {
     enum Kind {
         Done,
         Refused, ///< it could not act; nothing has changed
-        Failed,  ///< memory, threads or the disk ran out; nothing has changed
+        Failed,  ///< memory, threads or the disk ran out, or the person's patience; nothing has changed
     } kind = Done;
     QString why; ///< one sentence for the person; empty when a beep says enough
     explicit operator bool() const { return kind == Done; }

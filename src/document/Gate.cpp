@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The gate for commands: what happens before and after each of them, written once.
 #include "base/Log.h"
+#include "base/LongWait.h"
 #include "desktop/Panels.h"
 #include "desktop/Pasteboard.h"
 #include "desktop/Sounds.h"
@@ -91,11 +92,16 @@ Outcome Document::passGate(const Command& command, const Arguments* arguments, c
     if (command.effect >= Effect::Paint || settles) mHistory.recordPending();
     Edit edit(*this);
     Outcome outcome;
+    bool stopped = false; // by the person, who need not be told
     mGateOpen = true;
     try {
         if (settles) edit.settleFloat();
         body(edit);
         if (edit.mRefused) outcome = {Outcome::Refused, edit.mWhy};
+    } catch (const Stopped&) {
+        outcome = {Outcome::Failed, tr("It was stopped.")};
+        stopped = true;
+        edit.redraw(); // the outline may be an older one
     } catch (const std::bad_alloc&) {
         outcome = {Outcome::Failed, tr("There is not enough memory.")};
     } catch (const std::system_error& error) {
@@ -106,7 +112,7 @@ Outcome Document::passGate(const Command& command, const Arguments* arguments, c
     if (command.effect >= Effect::Select) mView.setInfoWithoutSelection("");
     if (outcome.kind == Outcome::Failed) {
         if (edit.mWrote) rollBack(edit);
-        edit.alert(outcome.why, {});
+        if (!stopped) edit.alert(outcome.why, {});
         edit.wantStep(false);
     }
     closeEdit(edit, command.name, command.step);

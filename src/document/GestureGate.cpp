@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The gate for gestures: what all tools share at press, drag and release.
 #include "base/Log.h"
+#include "base/LongWait.h"
 #include "desktop/KeyModifiers.h"
 #include "desktop/Panels.h"
 #include "desktop/Sounds.h"
@@ -35,10 +36,12 @@ void Document::handle(const char* stepName, const std::function<void(Edit&)>& bo
 {
     Edit edit(*this);
     mGateOpen = true;
-    bool failed = true;
+    bool failed = true, stopped = false;
     try {
         body(edit);
         failed = false;
+    } catch (const Stopped&) {
+        stopped = true;
     } catch (const std::bad_alloc&) {
     } catch (const std::system_error& error) {
         logLine("a gesture: %s", error.what());
@@ -46,7 +49,7 @@ void Document::handle(const char* stepName, const std::function<void(Edit&)>& bo
     mGateOpen = false;
     if (failed) {
         cancelGesture(); // as before the press
-        runAlert(tr("There is not enough memory."), {}, {tr("OK")});
+        if (!stopped) runAlert(tr("There is not enough memory."), {}, {tr("OK")});
         return;
     }
     mOwesStep |= edit.mWrote;

@@ -151,12 +151,18 @@ void Selection::combine(SetOperation operation)
     // A selection is filled even-odd everywhere; a loop of the lasso that leaves its middle out does so here too.
     previous.setWindingRule(WindingRule::EvenOdd);
     drawn.setWindingRule(WindingRule::EvenOdd);
-    if (operation == SetOperation::Union)
-        mSelectionPath = pathFromUnionWithPath(drawn, previous);
-    else if (operation == SetOperation::Difference)
-        mSelectionPath = pathFromDifferenceWithPath(previous, drawn);
-    else
-        mDroppedPath = std::move(previous);
+    try {
+        if (operation == SetOperation::Union)
+            mSelectionPath = pathFromUnionWithPath(drawn, previous);
+        else if (operation == SetOperation::Difference)
+            mSelectionPath = pathFromDifferenceWithPath(previous, drawn);
+        else
+            mDroppedPath = std::move(previous);
+    } catch (...) {
+        mSelectionPath = std::move(previous);
+        outlineChanged();
+        throw;
+    }
     outlineChanged();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// From edges that no longer cross to the loops round the outcome: winding numbers spread over the edges' net.
 #include "selection/PlanarClip.h"
+#include "base/CpuHints.h"
 #include "selection/PlanarEdges.h"
 #include <algorithm>
 #include <bit>
@@ -36,6 +37,8 @@ public:
             if (keys[mSlots[slot]] == key) return mSlots[slot];
         }
     }
+    /// The key will be asked for soon.
+    void expect(Key key) const { prefetch(&mSlots[Hash{}(key)&mMask]); }
     std::vector<Key> keys;
 
 private:
@@ -61,9 +64,10 @@ class Net
 {
 public:
     Net(const std::vector<GridEdge>& edges, const EdgeGrid& grid, gpc_op operation, WindingRule subjectRule,
-        WindingRule clipRule)
+        WindingRule clipRule, Asking& asking)
         : mEdges(edges),
           mGrid(grid),
+          mAsking(asking),
           mOperation(operation),
           mSubjectRule(subjectRule),
           mClipRule(clipRule),
@@ -84,6 +88,7 @@ public:
             GridLoop loop;
             std::uint32_t h = start;
             do {
+                mAsking.step();
                 used[h / 2] = 1;
                 loop.push_back(point(from(h)));
                 h = nextOfBoundary(h);
@@ -95,6 +100,7 @@ public:
 
 private:
     static constexpr std::uint32_t kNothing = 0xffffffff;
+    static constexpr std::size_t kAhead = 16;
 
     GridPoint point(std::uint32_t vertex) const { return mPoints.keys[vertex]; }
     std::uint32_t from(std::uint32_t h) const
@@ -110,6 +116,8 @@ private:
         mGains.reserve(mEdges.size());
         mNumberOf.resize(mEdges.size());
         for (std::size_t i = 0; i < mEdges.size(); ++i) {
+            mAsking.step();
+            if (i + kAhead < mEdges.size()) mPoints.expect(mEdges[i + kAhead].b); // the other is one of before mostly
             const GridEdge& e = mEdges[i];
             const std::uint32_t a = mPoints(e.a), b = mPoints(e.b);
             const bool along = a < b;
@@ -132,6 +140,7 @@ private:
         mPlace.resize(mGains.size() * 2);
         for (std::uint32_t h = 0; h < mFan.size(); ++h) mFan[mFanStart[from(h) + 1]++] = h;
         for (std::uint32_t v = 0; v < mPoints.keys.size(); ++v) {
+            mAsking.step();
             const auto first = mFan.begin() + mFanStart[v], last = mFan.begin() + mFanStart[v + 1];
             if (last - first > 2) {
                 const GridPoint centre = point(v);
@@ -197,6 +206,7 @@ private:
             while (!todo.empty()) {
                 const std::uint32_t at = todo.back();
                 todo.pop_back();
+                mAsking.step();
                 for (std::uint32_t i = mFanStart[at]; i < mFanStart[at + 1]; ++i) {
                     const std::uint32_t h = mFan[i], other = to(h);
                     if (seen[other]) continue;
@@ -328,6 +338,7 @@ private:
 
     const std::vector<GridEdge>& mEdges;
     const EdgeGrid& mGrid;
+    Asking& mAsking;
     const gpc_op mOperation;
     const WindingRule mSubjectRule, mClipRule;
     Numbering<GridPoint, PointHash> mPoints;
@@ -338,6 +349,8 @@ private:
     std::vector<std::uint32_t> mFanStart, mFan, mPlace;
     std::vector<Winding> mLeft; ///< of each half-edge
 };
+
+std::unique_ptr<LongWait> (*clipWait)() = nullptr;
 
 void addEdges(const std::vector<GridLoop>& loops, bool ofClip, std::vector<GridEdge>& edges)
 {
@@ -364,9 +377,12 @@ void clipPlanar(gpc_op operation, const std::vector<GridLoop>& subject, WindingR
     edges.reserve(count + count / 2);
     addEdges(subject, false, edges);
     addEdges(clip, true, edges);
+    Asking asking(clipWait ? clipWait() : nullptr);
     EdgeGrid grid;
-    cutAtCrossings(edges, grid);
-    if (!edges.empty()) Net(edges, grid, operation, subjectRule, clipRule).collectLoops(result);
+    cutAtCrossings(edges, grid, asking);
+    if (!edges.empty()) Net(edges, grid, operation, subjectRule, clipRule, asking).collectLoops(result);
 }
+
+void setClipWait(std::unique_ptr<LongWait> (*wait)()) { clipWait = wait; }
 
 } // namespace zp

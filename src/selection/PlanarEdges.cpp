@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Finding crossings by a grid of cells, cutting edges there, and again until nothing crosses.
 #include "selection/PlanarEdges.h"
+#include "base/WorkPool.h"
 #include <algorithm>
+#include <atomic>
 #include <cmath>
+#include <new>
+#include <thread>
 
 namespace zp
 {
@@ -26,7 +30,11 @@ bool inBox(GridPoint a, GridPoint b, GridPoint p)
 
 int signOf(WideInteger v) { return v > 0 ? 1 : v < 0 ? -1 : 0; }
 
-void cutPair(const std::vector<GridEdge>& edges, std::uint32_t i, std::uint32_t j, std::vector<Cut>& cuts)
+/// @param isHere  whether a crossing lies in the cell that is looked at. Two edges may share many cells, and do share
+/// that one: rounding moves a crossing by half a step, and cells list what comes a whole one near.
+template <class IsHere>
+void cutPair(const std::vector<GridEdge>& edges, std::uint32_t i, std::uint32_t j, const IsHere& isHere,
+             std::vector<Cut>& cuts)
 {
     const GridEdge &e = edges[i], &f = edges[j];
     if (std::max(e.a.x, e.b.x) < std::min(f.a.x, f.b.x) || std::max(f.a.x, f.b.x) < std::min(e.a.x, e.b.x) ||
@@ -45,8 +53,7 @@ void cutPair(const std::vector<GridEdge>& edges, std::uint32_t i, std::uint32_t 
         const double t = double(fa) / (double(fa) - double(fb));
         const GridPoint p{f.a.x + std::llround(t * double(f.b.x - f.a.x)),
                           f.a.y + std::llround(t * double(f.b.y - f.a.y))};
-        touch(i, p);
-        touch(j, p);
+        if (isHere(p)) touch(i, p), touch(j, p);
         return;
     }
     if (fromA == 0 && inBox(e.a, e.b, f.a)) touch(i, f.a);
@@ -55,34 +62,54 @@ void cutPair(const std::vector<GridEdge>& edges, std::uint32_t i, std::uint32_t 
     if (eb == 0 && inBox(f.a, f.b, e.b)) touch(j, e.b);
 }
 
+using FoundCuts = std::vector<std::vector<Cut>>; ///< of some rows of cells each
+
+/// In the order in which they come from a point far back along (dx, dy).
+template <class Integer, class Iterator>
+void sortAlong(Iterator first, Iterator last, Integer dx, Integer dy)
+{
+    std::sort(first, last, [&](GridPoint p, GridPoint q) {
+        const Integer along = dx * (p.x - q.x) + dy * (p.y - q.y);
+        if (along != 0) return along < 0;
+        return p.x != q.x ? p.x < q.x : p.y < q.y;
+    });
+}
+
 /// Replaces each edge that has cuts by its pieces, which go to the end. @return the first of the new ones
-std::size_t apply(std::vector<Cut>& cuts, std::vector<GridEdge>& edges)
+std::size_t apply(const FoundCuts& cuts, std::vector<GridEdge>& edges, Asking& asking)
 {
     std::vector<std::uint32_t> starts(edges.size() + 1);
-    for (const Cut& cut : cuts) ++starts[cut.edge + 1];
+    std::size_t count = 0;
+    for (const auto& band : cuts) {
+        count += band.size();
+        for (const Cut& cut : band) ++starts[cut.edge + 1];
+    }
     for (std::size_t i = 0; i < edges.size(); ++i) starts[i + 1] += starts[i];
-    std::vector<GridPoint> sorted(cuts.size());
+    std::vector<GridPoint> sorted(count);
     {
         std::vector<std::uint32_t> next(starts.begin(), starts.end() - 1);
-        for (const Cut& cut : cuts) sorted[next[cut.edge]++] = cut.at;
+        for (const auto& band : cuts)
+            for (const Cut& cut : band) sorted[next[cut.edge]++] = cut.at;
     }
     std::vector<GridEdge> pieces;
-    pieces.reserve(cuts.size() * 2);
+    pieces.reserve(count * 2);
     std::size_t kept = 0;
     for (std::size_t i = 0; i < edges.size(); ++i) {
         const GridEdge edge = edges[i];
+        asking.step();
         if (starts[i] == starts[i + 1]) {
             edges[kept++] = edge;
             continue;
         }
         const auto first = sorted.begin() + starts[i], last = sorted.begin() + starts[i + 1];
-        const WideInteger dx = edge.b.x - edge.a.x, dy = edge.b.y - edge.a.y;
-        if (last - first > 1)
-            std::sort(first, last, [&](GridPoint p, GridPoint q) {
-                const WideInteger along = dx * (p.x - q.x) + dy * (p.y - q.y);
-                if (along != 0) return along < 0;
-                return p.x != q.x ? p.x < q.x : p.y < q.y;
-            });
+        if (last - first > 1) {
+            const std::int64_t dx = edge.b.x - edge.a.x, dy = edge.b.y - edge.a.y;
+            // All points lie in the edge's box, and mostly that is small enough for plain products.
+            if (std::max(std::abs(dx), std::abs(dy)) < std::int64_t{1} << 31)
+                sortAlong<std::int64_t>(first, last, dx, dy);
+            else
+                sortAlong<WideInteger>(first, last, dx, dy);
+        }
         GridPoint from = edge.a;
         for (auto p = first; p != last; ++p) {
             if (*p == from) continue;
@@ -97,6 +124,15 @@ std::size_t apply(std::vector<Cut>& cuts, std::vector<GridEdge>& edges)
 }
 
 } // namespace
+
+void Asking::ask()
+{
+    constexpr std::chrono::milliseconds kUnasked{50};
+    const auto now = std::chrono::steady_clock::now();
+    if (!mWait || now - mAsked < kUnasked) return;
+    if (!mWait->goOn()) throw Stopped();
+    mAsked = std::chrono::steady_clock::now();
+}
 
 template <class F>
 void EdgeGrid::forEachCell(const GridEdge& edge, F&& f) const
@@ -148,22 +184,54 @@ void EdgeGrid::build(const std::vector<GridEdge>& edges)
         forEachCell(edges[i], [&](std::size_t c) { mEntries[mStarts[c + 1]++] = i; });
 }
 
-void cutAtCrossings(std::vector<GridEdge>& edges, EdgeGrid& grid)
+namespace
 {
-    std::vector<Cut> cuts;
+
+/// The cuts that pairs of edges ask for of which one at least is not before @p firstNew.
+FoundCuts findCuts(const std::vector<GridEdge>& edges, std::size_t firstNew, const EdgeGrid& grid, Asking& asking)
+{
+    constexpr std::size_t kWorthIt = 2000; // edges: some hundred microseconds
+    const int bands = edges.size() - firstNew < kWorthIt ? 1 : std::min(grid.rows(), 16 * workersHere());
+    FoundCuts found(static_cast<std::size_t>(bands));
+    std::atomic<std::size_t> room = kMostCutEdges - std::min(kMostCutEdges, edges.size());
+    std::atomic<bool> over = false; // somebody has thrown: the others need not go on
+    const auto asker = std::this_thread::get_id();
+    parallelFor(bands, [&](int band) {
+        std::vector<Cut>& cuts = found[std::size_t(band)];
+        const auto inRow = [&](int r) {
+            for (int c = 0; c < grid.columns() && !over; ++c) {
+                const EdgeGrid::Range range = grid.at(c, r);
+                const auto isHere = [&](GridPoint p) { return grid.columnOf(p.x) == c && grid.rowOf(p.y) == r; };
+                // Entries of a cell stand in the edges' order: the new ones last.
+                for (const std::uint32_t* j = range.last; j != range.first && j[-1] >= firstNew; --j) {
+                    for (const std::uint32_t* i = range.first; i != j - 1; ++i) cutPair(edges, *i, j[-1], isHere, cuts);
+                    if (std::this_thread::get_id() == asker) asking.step();
+                }
+            }
+            if (cuts.size() > room) throw std::bad_alloc();
+        };
+        try {
+            const auto edgeOf = [&](int b) { return int(std::int64_t{grid.rows()} * b / bands); };
+            for (int r = edgeOf(band); r < edgeOf(band + 1); ++r) inRow(r);
+            if (room.fetch_sub(cuts.size()) < cuts.size()) throw std::bad_alloc();
+        } catch (...) {
+            over = true;
+            throw;
+        }
+    });
+    return found;
+}
+
+} // namespace
+
+void cutAtCrossings(std::vector<GridEdge>& edges, EdgeGrid& grid, Asking& asking)
+{
     std::size_t firstNew = 0; // pairs of edges from before have been looked at
     for (;;) {
         grid.build(edges);
-        cuts.clear();
-        for (int r = 0; r < grid.rows(); ++r)
-            for (int c = 0; c < grid.columns(); ++c) {
-                const EdgeGrid::Range range = grid.at(c, r);
-                // Entries of a cell stand in the edges' order: the new ones last.
-                for (const std::uint32_t* j = range.last; j != range.first && j[-1] >= firstNew; --j)
-                    for (const std::uint32_t* i = range.first; i != j - 1; ++i) cutPair(edges, *i, j[-1], cuts);
-            }
-        if (cuts.empty()) return;
-        firstNew = apply(cuts, edges);
+        const FoundCuts cuts = findCuts(edges, firstNew, grid, asking);
+        if (std::all_of(cuts.begin(), cuts.end(), [](const auto& band) { return band.empty(); })) return;
+        firstNew = apply(cuts, edges, asking);
     }
 }
 

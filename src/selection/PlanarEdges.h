@@ -2,7 +2,9 @@
 /// Edges that meet in end points only: the crossings of any set of edges found and cut, on a whole-number grid.
 #pragma once
 #include "selection/PlanarClip.h"
+#include <chrono>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace zp
@@ -59,10 +61,30 @@ private:
     std::vector<std::uint32_t> mStarts, mEntries;
 };
 
+/// Asks now and then whether the work shall go on.
+class Asking
+{
+public:
+    explicit Asking(std::unique_ptr<LongWait> wait) : mWait(std::move(wait)) {}
+    /// To be called after each piece of work of some microseconds at most. @throw Stopped
+    void step()
+    {
+        if (++mSteps % kStepsUnasked == 0) ask();
+    }
+
+private:
+    static constexpr unsigned kStepsUnasked = 1024;
+    void ask();
+    std::unique_ptr<LongWait> mWait;
+    unsigned mSteps = 0;
+    std::chrono::steady_clock::time_point mAsked = std::chrono::steady_clock::now();
+};
+
 /// Cuts the edges until none crosses or touches another but at common ends; @p grid is left standing over the outcome.
 /// A crossing moves to the nearest grid point, and its edges with it, so that all is looked at again until nothing is
 /// left to cut: two or three times. It always comes to an end: a cut lies in the box of its edge, so the pieces are
 /// together as wide and as high as the edge was, and none is shorter than a step of the grid.
-void cutAtCrossings(std::vector<GridEdge>& edges, EdgeGrid& grid);
+/// @throw std::bad_alloc also for more than kMostCutEdges edges, Stopped
+void cutAtCrossings(std::vector<GridEdge>& edges, EdgeGrid& grid, Asking& asking);
 
 } // namespace zp

@@ -237,11 +237,11 @@ TEST_F(ForeignDecoder, ThatCannotBeStartedIsSaid)
 
 TEST_F(ForeignDecoder, IsEndedWhenNobodyWantsToWait)
 {
-    struct Impatient : codec::DecodingWait {
+    struct Impatient : LongWait {
         bool goOn() override { return false; }
     };
     setForeignDecoding({.program = "/bin/sh", .arguments = {"-c", "exec sleep 100"}, .wait = [] {
-                            return std::unique_ptr<codec::DecodingWait>(new Impatient);
+                            return std::unique_ptr<LongWait>(new Impatient);
                         }});
     EXPECT_EQ(readGIF().error, "Reading was stopped.");
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// The tools that select under the mouse: rectangle, lasso, wand, and moving what is selected.
+#include "selection/PlanarClip.h"
+#include "support/AlertWatch.h"
 #include "support/ToolFixture.h"
 #include <array>
 
@@ -316,6 +318,44 @@ TEST_F(SelectionTools, APolygonWithAddWaitsForReturnToBeCombined)
         EXPECT_EQ(selection().contains({70, 50}), key == kShiftKey);
         dropSelection();
     }
+}
+
+TEST_F(SelectionTools, CombiningThatWasStoppedLeavesTheOldOutline)
+{
+    struct Impatient : LongWait {
+        bool goOn() override { return false; }
+    };
+    setClipWait([]() -> std::unique_ptr<LongWait> { return std::make_unique<Impatient>(); });
+    AlertWatch watch;
+    std::mt19937 random(29);
+    for (const bool polygon : {false, true}) {
+        SCOPED_TRACE(polygon);
+        select(makeRect(10, 10, 40, 40));
+        choose(Tool::Lasso);
+        hold(polygon ? kControlKey | kShiftKey : kShiftKey);
+        press(60, 30);
+        hold(polygon ? 0 : kShiftKey);
+        for (int i = 0; i < 4000; ++i) {
+            const Point p{float(random() % 12000) / 100, float(random() % 8000) / 100};
+            if (polygon)
+                release(p.x, p.y), press(p.x, p.y);
+            else
+                drag(p.x, p.y);
+        }
+        release(60, 30);
+        if (polygon) {
+            ASSERT_TRUE(selection().parked());
+            const Outcome outcome = document->perform("endPolygon");
+            EXPECT_EQ(outcome.kind, Outcome::Failed);
+            EXPECT_EQ(outcome.why, "It was stopped.");
+        }
+        EXPECT_FALSE(selection().parked());
+        EXPECT_EQ(outlineBounds(), makeRect(10, 10, 40, 40));
+        EXPECT_TRUE(watch.seen.empty()) << "who stopped it need not be told";
+        EXPECT_FALSE(document->anyWorkerRunning());
+        dropSelection();
+    }
+    setClipWait(nullptr);
 }
 
 TEST_F(SelectionTools, TheWandWithShiftAddsToWhereTheSelectionIsNow)

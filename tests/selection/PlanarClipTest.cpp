@@ -151,7 +151,8 @@ TEST(PlanarClip, CutEdgesMeetInEndsOnlyAndCloseAtEveryPoint)
             last = p;
         }
         EdgeGrid grid;
-        cutAtCrossings(edges, grid);
+        Asking asking(nullptr);
+        cutAtCrossings(edges, grid, asking);
         std::map<std::pair<std::int64_t, std::int64_t>, int> balance;
         for (std::size_t i = 0; i < edges.size(); ++i) {
             const GridEdge& e = edges[i];
@@ -185,4 +186,35 @@ TEST(PlanarClip, CoordinatesOfEverySizeAreExact)
         EXPECT_EQ(area(clipped(GPC_INT, a, b)) / unit, 16);
         EXPECT_EQ(area(clipped(GPC_UNION, a, b)) / unit, 32);
     }
+}
+
+/// One loop of @p count corners anywhere, so that most of its edges cross.
+GridLoop scribble(int count)
+{
+    std::mt19937 random(23);
+    GridLoop loop;
+    for (int i = 0; i < count; ++i)
+        loop.push_back({std::int64_t(random() % 6000) << 16, std::int64_t(random() % 4000) << 16});
+    return loop;
+}
+
+TEST(PlanarClip, EndsWhenNobodyWantsToWaitForIt)
+{
+    struct Impatient : LongWait {
+        bool goOn() override { return false; }
+    };
+    setClipWait([]() -> std::unique_ptr<LongWait> { return std::make_unique<Impatient>(); });
+    std::vector<GridLoop> result;
+    EXPECT_THROW(clipPlanar(GPC_UNION, {scribble(4000)}, WindingRule::EvenOdd, {}, WindingRule::EvenOdd, result),
+                 Stopped);
+    setClipWait(nullptr);
+    EXPECT_TRUE(result.empty());
+}
+
+TEST(PlanarClip, AllWhoCrossAllAreRefusedBeforeTheyTakeAllMemory)
+{
+    std::vector<GridLoop> result;
+    EXPECT_THROW(clipPlanar(GPC_UNION, {scribble(12000)}, WindingRule::EvenOdd, {}, WindingRule::EvenOdd, result),
+                 std::bad_alloc);
+    EXPECT_TRUE(result.empty());
 }

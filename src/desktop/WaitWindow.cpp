@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// A modal window with a bar that only says that something goes on.
-#include "desktop/ReadingWait.h"
+#include "desktop/WaitWindow.h"
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QProgressDialog>
@@ -15,17 +15,18 @@ namespace
 constexpr int kUnnoticedMilliseconds = 1000;
 constexpr int kEventMilliseconds = 20;
 
-class ReadingWait : public codec::DecodingWait
+class WaitWindow : public LongWait
 {
 public:
-    ReadingWait() { mClock.start(); }
+    /// @param text  of the context Files, to be translated when the window comes up
+    explicit WaitWindow(const char* text) : mText(text) { mClock.start(); }
 
     bool goOn() override
     {
         if (!qApp || QThread::currentThread() != qApp->thread()) return true;
         if (!mDialog && mClock.elapsed() < kUnnoticedMilliseconds) return true;
         if (!mDialog) {
-            mDialog = std::make_unique<QProgressDialog>(QCoreApplication::translate("Files", "Reading the image…"),
+            mDialog = std::make_unique<QProgressDialog>(QCoreApplication::translate("Files", mText),
                                                         QCoreApplication::translate("Files", "Cancel"), 0, 0,
                                                         QApplication::activeWindow());
             mDialog->setWindowModality(Qt::ApplicationModal);
@@ -36,12 +37,21 @@ public:
     }
 
 private:
+    const char* mText;
     QElapsedTimer mClock;
     std::unique_ptr<QProgressDialog> mDialog;
 };
 
 } // namespace
 
-std::unique_ptr<codec::DecodingWait> readingWait() { return std::make_unique<ReadingWait>(); }
+std::unique_ptr<LongWait> readingWait()
+{
+    return std::make_unique<WaitWindow>(QT_TRANSLATE_NOOP("Files", "Reading the image…"));
+}
+
+std::unique_ptr<LongWait> combiningWait()
+{
+    return std::make_unique<WaitWindow>(QT_TRANSLATE_NOOP("Files", "Combining the outlines…"));
+}
 
 } // namespace zp
